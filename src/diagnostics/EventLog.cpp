@@ -1,0 +1,61 @@
+#include "diagnostics/EventLog.h"
+
+#include "common/RuntimeError.h"
+#include "common/TextHelpers.h"
+#include "shell/AppContext.h"
+
+#include <QLoggingCategory>
+
+Q_LOGGING_CATEGORY(lcEventLog, "nightreel.eventlog")
+
+EventLog::EventLog(AppContext& ctx)
+    : m_ctx(ctx)
+{
+}
+
+void EventLog::LogEvent(qint16 type, const QString& message, const QString& details)
+{
+    if (type == EventInformation)
+        qCInfo(lcEventLog).noquote() << message << '|' << details;
+    else
+        qCWarning(lcEventLog).noquote() << message << '|' << details;
+    try {
+        Recordset& rs = m_ctx.database.ElogRecordset();
+        const int count = CountEventLogRows();
+        // Counted before the insert: the row that makes 951 does not yet fill the log.
+        m_ctx.error.SetElogFull(count >= FullAt);
+        if (count >= LimitRows)
+            return;
+        rs.AddNew();
+        rs.SetValue(QStringLiteral("Type"), type);
+        rs.SetValue(QStringLiteral("DateAndTime"), m_ctx.Now());
+        rs.SetValue(QStringLiteral("Message"), message);
+        rs.SetValue(QStringLiteral("Details"), details);
+        rs.Update();
+        if (type != EventInformation)
+            m_ctx.error.NewElogMsgAdded();
+    } catch (const std::exception&) {
+        // A failure to log can't be logged; the caller goes on.
+    }
+}
+
+int EventLog::CountEventLogRows()
+{
+    Recordset clone = m_ctx.database.ElogRecordset().Clone();
+    if (clone.IsEOF())
+        return 0;
+    clone.MoveLast();
+    return clone.RecordCount();
+}
+
+QString EventLog::RuntimeErrorDetails(const QString& procedureName, const RuntimeError& error)
+{
+    return QStringLiteral("Module: ") + procedureName + QStringLiteral("\r\nError: ") +
+           Text::Str(error.Number()) + QStringLiteral(", ") + error.Text();
+}
+
+void EventLog::LogRuntimeError(const QString& procedureName, const RuntimeError& error)
+{
+    LogEvent(EventError, QStringLiteral("Nightreel 2000 Runtime Error"),
+             RuntimeErrorDetails(procedureName, error));
+}

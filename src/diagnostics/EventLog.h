@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+class AppContext;
+class RuntimeError;
+
+enum EventType : qint16 { EventInformation = 0, EventWarning = 1, EventError = 2 };
+
+// The one way to write the event log. Every entry is also written to the program's
+// diagnostic output, so that what happens while the database is unusable is not lost.
+class EventLog {
+public:
+    explicit EventLog(AppContext& ctx);
+
+    static constexpr int FullAt = 951;
+    static constexpr int LimitRows = 1000;
+
+    // Never fails to the caller.
+    void LogEvent(qint16 type, const QString& message, const QString& details);
+    // The standard end of a routine's trap: an error entry naming the routine.
+    void LogRuntimeError(const QString& procedureName, const RuntimeError& error);
+    static QString RuntimeErrorDetails(const QString& procedureName, const RuntimeError& error);
+
+private:
+    int CountEventLogRows();
+
+    AppContext& m_ctx;
+};

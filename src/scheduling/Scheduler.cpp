@@ -1,0 +1,298 @@
+#include "scheduling/Scheduler.h"
+
+#include "common/AutomationDate.h"
+#include "common/MessageBox.h"
+#include "common/TextHelpers.h"
+#include "diagnostics/Trap.h"
+#include "scheduling/ModuleUtility.h"
+#include "shell/AppContext.h"
+
+#include <array>
+
+namespace {
+
+const QString kDoNotClose = QStringLiteral("DO_NOT_CLOSE");
+
+// A value the system reads without a NULL test: a NULL there fails as the run time did.
+QVariant NotNull(const QVariant& value)
+{
+    if (value.isNull())
+        throw RuntimeError(94, QStringLiteral("Invalid use of Null"));
+    return value;
+}
+
+double Date(const QVariant& value)
+{
+    return NotNull(value).toDouble();
+}
+
+bool Bool(const QVariant& value)
+{
+    return Field::ToBool(NotNull(value));
+}
+
+QString TrimmedOr(const QVariant& value, const QString& ifNull)
+{
+    return value.isNull() ? ifNull : Text::Trim(value.toString());
+}
+
+// Delays are read through their text form and held in 16 bits.
+qint16 Delay(const QVariant& value)
+{
+    if (value.isNull())
+        return 0;
+    const qint64 number = Text::RoundHalfEven(Text::Val(Text::Trim(value.toString())));
+    if (number < -32768 || number > 32767)
+        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));
+    return qint16(number);
+}
+
+// The column positions of Programs, looked up once per scan.
+struct ProgramColumns {
+    explicit ProgramColumns(const Recordset& rs)
+    {
+        const auto at = [&rs](const char* name) {
+            const int index = rs.FieldIndex(QString::fromLatin1(name));
+            if (index < 0)
+                throw RuntimeError(ErrorNumber::ItemNotFound,
+                                   QStringLiteral("Item not found in this collection. (%1)")
+                                       .arg(QString::fromLatin1(name)));
+            return index;
+        };
+        id = at("ID");
+        enabled = at("Enabled");
+        description = at("Description");
+        startTime = at("StartTime");
+        endTime = at("EndTime");
+        frequency = at("Frequency");
+        oneTimeDay = at("OneTimeDay");
+        const char* dayNames[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+        for (int d = 0; d < 7; ++d)
+            days[d] = at(dayNames[d]);
+        avgBytesPerSec = at("wfx_nAvgBytesPerSec");
+        recordingCancelled = at("RecordingCancelled");
+        cancelledEnd = at("RecordingCancelledEndDateAndTime");
+        internetLink = at("InternetLink");
+        internetLinkDelay = at("InternetLinkDelay");
+        launchAppPrior = at("LaunchAppPrior");
+        launchAppDelay = at("LaunchAppDelay");
+        mixerProfileBefore = at("MixerProfileBefore");
+        mixerProfileAfter = at("MixerProfileAfter");
+        streamingPlayerClose = at("StreamingPlayerClose");
+        hangup = at("HangupInternetConnection");
+    }
+
+    int id, enabled, description, startTime, endTime, frequency, oneTimeDay;
+    std::array<int, 7> days;
+    int avgBytesPerSec, recordingCancelled, cancelledEnd, internetLink, internetLinkDelay;
+    int launchAppPrior, launchAppDelay, mixerProfileBefore, mixerProfileAfter;
+    int streamingPlayerClose, hangup;
+};
+
+// Only 0 means one time; every reader takes any other value for weekly.
+bool IsOneTime(const QVariant& frequency)
+{
+    return !frequency.isNull() && frequency.toInt() == 0;
+}
+
+// The end of a one-time program's occurrence.
+double OneTimeEnd(const Recordset& rs, const ProgramColumns& c)
+{
+    const double startTime = Date(rs.Value(c.startTime));
+    const double endTime = Date(rs.Value(c.endTime));
+    double end =
+        AutomationDate::DatePart(Date(rs.Value(c.oneTimeDay))) + AutomationDate::TimePart(endTime);
+    if (startTime > endTime)
+        end += 1.0;
+    return end;
+}
+
+} // namespace
+
+NextProgram::NextProgram()
+    : NextLinkLaunchTime(AutomationDate::Never())
+    , NextAppLaunchTime(AutomationDate::Never())
+{
+}
+
+Scheduler::Scheduler(AppContext& ctx)
+    : m_ctx(ctx)
+{
+}
+
+bool Scheduler::DetermineNextProgramToSchedule(
+    bool readOnly, double referenceDate, qint32& programId, QString& description,
+    double& startDateTime, double& endDateTime, qint32& avgBytesPerSec, QString& internetLink,
+    qint16& internetLinkDelay, QString& launchAppPrior, qint16& launchAppDelay,
+    QString& mixerProfileBefore, QString& mixerProfileAfter, QString& streamingPlayerClose,
+    bool& hangupInternetConnection)
+{
+    bool found = false;
+    Trap(m_ctx.log, "DetermineNextProgramToSchedule", [&] {
+        double bestStart = AutomationDate::Never();
+        const double longAgo = AutomationDate::LongAgo();
+        // The clone keeps the order of the programs grid: its sort is the tie-break.
+        Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
+        if (rs.IsEOF() || RecordsetCount(rs) < 1)
+            return;
+        const ProgramColumns c(rs);
+        for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
+            double start = longAgo;
+            double end = longAgo;
+            if (!IsOneTime(rs.Value(c.frequency))) {
+                bool cancelled = false;
+                double cancelledEnd = 0.0;
+                if (Field::ToBool(rs.Value(c.recordingCancelled))) {
+                    cancelledEnd = Date(rs.Value(c.cancelledEnd));
+                    cancelled = true;
+                    if (referenceDate > cancelledEnd) {
+                        cancelled = false;
+                        if (!readOnly) {
+                            rs.Edit();
+                            rs.SetValue(QStringLiteral("RecordingCancelled"),
+                                        Field::FromBool(false));
+                            rs.Update();
+                        }
+                    }
+                }
+                if (Field::ToBool(rs.Value(c.enabled))) {
+                    std::array<bool, 7> days;
+                    for (int d = 0; d < 7; ++d)
+                        days[d] = Bool(rs.Value(c.days[d]));
+                    const double startTime = Date(rs.Value(c.startTime));
+                    const double endTime = Date(rs.Value(c.endTime));
+                    // From yesterday, so that a program that crossed midnight is found
+                    // while it still runs; nine days always hold the next occurrence.
+                    const double base = referenceDate - 1.0;
+                    for (int i = 0; i <= 8; ++i) {
+                        const double day = base + i;
+                        if (!days[AutomationDate::Weekday(day) - 1])
+                            continue;
+                        const double date = AutomationDate::DatePart(day);
+                        if (cancelled && !(date + startTime > cancelledEnd))
+                            continue;
+                        start = date + startTime;
+                        end = date + endTime;
+                        if (startTime > endTime)
+                            end += 1.0;
+                        if (end > referenceDate)
+                            break;
+                    }
+                }
+            } else if (!rs.Value(c.recordingCancelled).isNull() &&
+                       !Field::ToBool(rs.Value(c.recordingCancelled)) &&
+                       Field::ToBool(rs.Value(c.enabled))) {
+                start = AutomationDate::DatePart(Date(rs.Value(c.oneTimeDay))) +
+                        AutomationDate::TimePart(Date(rs.Value(c.startTime)));
+                end = OneTimeEnd(rs, c);
+            }
+            if (end > referenceDate && start < bestStart) {
+                found = true;
+                bestStart = start;
+                startDateTime = start;
+                endDateTime = end;
+                programId = rs.Value(c.id).toInt();
+                description = rs.Value(c.description).toString();
+                avgBytesPerSec = rs.Value(c.avgBytesPerSec).toInt();
+                internetLink = rs.Value(c.internetLink).toString();
+                internetLinkDelay = Delay(rs.Value(c.internetLinkDelay));
+                launchAppPrior = TrimmedOr(rs.Value(c.launchAppPrior), QString());
+                launchAppDelay = Delay(rs.Value(c.launchAppDelay));
+                mixerProfileBefore = TrimmedOr(rs.Value(c.mixerProfileBefore), QString());
+                mixerProfileAfter = TrimmedOr(rs.Value(c.mixerProfileAfter), QString());
+                streamingPlayerClose = TrimmedOr(rs.Value(c.streamingPlayerClose), kDoNotClose);
+                hangupInternetConnection = Field::ToBool(rs.Value(c.hangup));
+            }
+        }
+    });
+    return found;
+}
+
+void Scheduler::ScheduleNextRecording()
+{
+    Trap(m_ctx.log, "ScheduleNextRecording", [&] {
+        qint32 avgBytesPerSec = 0;
+        NextProgram& n = next;
+        if (!DetermineNextProgramToSchedule(
+                false, m_ctx.Now(), n.NextProgramId, n.NextProgramDescription, n.NextProgramStart,
+                n.NextProgramEnd, avgBytesPerSec, n.NextInternetLink, n.NextInternetLinkDelay,
+                n.NextLaunchAppPrior, n.NextLaunchAppDelay, n.NextMixerProfileBefore,
+                n.NextMixerProfileAfter, n.NextStreamingPlayerClose,
+                n.NextHangupInternetConnection)) {
+            n.NextProgramFound = false;
+            n.NextLinkLaunchTime = AutomationDate::Never();
+            n.NextAppLaunchTime = AutomationDate::Never();
+            return;
+        }
+        n.NextProgramFound = true;
+        if (n.NextInternetLink.isEmpty()) {
+            n.NextLinkLaunchTime = AutomationDate::Never();
+        } else {
+            // Finding the player's window by itself needs a picture of the windows taken
+            // well before the link opens.
+            int lead = n.NextInternetLinkDelay;
+            if (lead < 5 && n.NextStreamingPlayerClose.isEmpty())
+                lead = 5;
+            n.NextLinkLaunchTime = AutomationDate::AddSeconds(n.NextProgramStart, -lead);
+        }
+        n.NextAppLaunchTime =
+            n.NextLaunchAppPrior.isEmpty()
+                ? AutomationDate::Never()
+                : AutomationDate::AddSeconds(n.NextProgramStart, -n.NextLaunchAppDelay);
+    });
+}
+
+void Scheduler::OfferRemovalOfExpiredPrograms()
+{
+    Trap(m_ctx.log, "OfferRemovalOfExpiredPrograms", [&] {
+        if (!m_ctx.options.RemoveExpiredPrograms)
+            return;
+        Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
+        if (rs.IsEOF())
+            return;
+        const ProgramColumns c(rs);
+        const auto expired = [&] {
+            return IsOneTime(rs.Value(c.frequency)) && m_ctx.Now() > OneTimeEnd(rs, c);
+        };
+        bool any = false;
+        for (rs.MoveFirst(); !rs.IsEOF() && !any; rs.MoveNext())
+            any = expired();
+        if (!any)
+            return;
+        const MsgResult answer = m_ctx.messageBox.Show(
+            QStringLiteral("Missed recordings"),
+            QStringLiteral("Nightreel 2000 has determined that some of the one-time recordings "
+                           "were not performed since the scheduled recording time is prior to "
+                           "the current date/time. Removed all expired scheduled programs?"),
+            MsgIcon::Exclamation, MsgButtons::YesNo);
+        if (answer != MsgResult::Yes)
+            return;
+        for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
+            if (expired())
+                rs.Delete();
+        }
+        m_ctx.database.DataPrograms.Requery();
+    });
+}
+
+void Scheduler::CancelRecording(qint32 programId)
+{
+    Trap(m_ctx.log, "CancelRecording", [&] {
+        Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
+        rs.FindFirst(QStringLiteral("Id = ") + QString::number(programId));
+        if (rs.NoMatch())
+            return;
+        if (IsOneTime(rs.Value(QStringLiteral("Frequency"))) &&
+            m_ctx.options.RemoveExpiredPrograms) {
+            rs.Delete();
+            m_ctx.database.DataPrograms.Requery();
+            emit ProgramListChanged();
+            return;
+        }
+        rs.Edit();
+        rs.SetValue(QStringLiteral("RecordingCancelled"), Field::FromBool(true));
+        rs.SetValue(QStringLiteral("RecordingCancelledEndDateAndTime"),
+                    m_ctx.recordingStatus.EndTime);
+        rs.Update();
+    });
+}

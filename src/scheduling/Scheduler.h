@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class AppContext;
+
+// The one occurrence due next, as the last search left it. The heartbeat only compares the
+// clock with these.
+struct NextProgram {
+    bool NextProgramFound = false;
+    qint32 NextProgramId = 0;
+    QString NextProgramDescription;
+    double NextProgramStart = 0.0;
+    double NextProgramEnd = 0.0;
+    QString NextInternetLink;
+    qint16 NextInternetLinkDelay = 0;
+    QString NextLaunchAppPrior;
+    qint16 NextLaunchAppDelay = 0;
+    QString NextMixerProfileBefore;
+    QString NextMixerProfileAfter;
+    QString NextStreamingPlayerClose;
+    bool NextHangupInternetConnection = false;
+    double NextLinkLaunchTime;
+    double NextAppLaunchTime;
+
+    NextProgram();
+};
+
+// Works out which occurrence of which program is due next. There is no table of future
+// occurrences: every change of the program list, every recording and every jump of the
+// clock asks anew.
+class Scheduler : public QObject {
+    Q_OBJECT
+public:
+    explicit Scheduler(AppContext& ctx);
+
+    // Scans every row of the program list, in the order of the programs grid, for the
+    // occurrence with the earliest start whose end lies after the reference date. An
+    // occurrence already running beats every later one; of equal starts the earlier row
+    // wins. With readOnly false, lapsed cancellations of weekly programs are cleared.
+    // The outputs are left untouched when nothing is found.
+    bool DetermineNextProgramToSchedule(bool readOnly, double referenceDate, qint32& programId,
+                                        QString& description, double& startDateTime,
+                                        double& endDateTime, qint32& avgBytesPerSec,
+                                        QString& internetLink, qint16& internetLinkDelay,
+                                        QString& launchAppPrior, qint16& launchAppDelay,
+                                        QString& mixerProfileBefore, QString& mixerProfileAfter,
+                                        QString& streamingPlayerClose,
+                                        bool& hangupInternetConnection);
+    void ScheduleNextRecording();
+    void OfferRemovalOfExpiredPrograms();
+    // Marks the program's occurrence that ends at the recording's scheduled end as dealt
+    // with, or removes a one-time program when expired programs are to be removed.
+    void CancelRecording(qint32 programId);
+
+    NextProgram next;
+
+signals:
+    // Rows were removed from the program list: its buttons and menus follow.
+    void ProgramListChanged();
+
+private:
+    AppContext& m_ctx;
+};

@@ -1,0 +1,20 @@
+#include "shell/AppContext.h"
+
+#include "common/Clock.h"
+
+AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
+    : clock(seams.clock)
+    , messageBox(seams.messageBox)
+    , launcher(seams.launcher)
+    , folders(appFolders)
+    , log(*this)
+    , registry(*this)
+    , database(*this)
+    , scheduler(*this)
+{
+}
+
+double AppContext::Now() const
+{
+    return clock.Now();
+}

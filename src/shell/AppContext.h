@@ -1,0 +1,49 @@
+#pragma once
+
+#include "diagnostics/EventLog.h"
+#include "diagnostics/clsError.h"
+#include "scheduling/Scheduler.h"
+#include "shell/clsAppStatus.h"
+#include "shell/clsRecordingStatus.h"
+#include "store/AppDatabase.h"
+#include "store/AppFolders.h"
+#include "store/Options.h"
+#include "store/RegKeys.h"
+
+class Clock;
+class MessageBoxPresenter;
+class ProcessLauncher;
+
+// The seams that tests replace; everything else in the context is real.
+struct Seams {
+    Clock& clock;
+    MessageBoxPresenter& messageBox;
+    ProcessLauncher& launcher;
+};
+
+// What the system holds for the whole run, owned in one place and handed to whoever needs
+// it. Tests build a fresh one over temporary folders.
+class AppContext {
+public:
+    AppContext(const Seams& seams, const AppFolders& folders);
+    AppContext(const AppContext&) = delete;
+    AppContext& operator=(const AppContext&) = delete;
+
+    double Now() const;
+
+    Clock& clock;
+    MessageBoxPresenter& messageBox;
+    ProcessLauncher& launcher;
+    const AppFolders folders;
+
+    clsError error;
+    EventLog log;
+    RegKeys registry;
+    Options options;
+    clsAppStatus appStatus;
+    clsRecordingStatus recordingStatus;
+    AppDatabase database;
+    Scheduler scheduler;
+    // False until the end of the first activation: the timers idle until then.
+    bool appReady = false;
+};

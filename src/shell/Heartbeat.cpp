@@ -1,0 +1,128 @@
+#include "shell/Heartbeat.h"
+
+#include "common/AutomationDate.h"
+#include "common/ProcessLauncher.h"
+#include "diagnostics/Trap.h"
+#include "shell/AppContext.h"
+
+#include <limits>
+
+namespace {
+
+constexpr int kClockJumpSeconds = 2500;
+constexpr int kLaunchWindowSeconds = 30;
+constexpr int kRelaunchSeconds = 120;
+constexpr int kStopLeadSeconds = 90;
+constexpr int kPurgeEveryHours = 22;
+constexpr double kPurgeSpan = 5.0 / 1440.0;
+
+// A launch is due from its time until 30 seconds later, and not again within 120 seconds.
+bool LaunchDue(double now, double launchTime, double lastLaunch)
+{
+    return now >= launchTime &&
+           now < AutomationDate::AddSeconds(launchTime, kLaunchWindowSeconds) &&
+           now > AutomationDate::AddSeconds(lastLaunch, kRelaunchSeconds);
+}
+
+} // namespace
+
+Heartbeat::Heartbeat(AppContext& ctx, QObject* parent)
+    : QObject(parent)
+    , m_ctx(ctx)
+    , m_lastLinkLaunch(AutomationDate::LongAgo())
+    , m_lastAppLaunch(AutomationDate::LongAgo())
+    , m_lastPurge(AutomationDate::LongAgo())
+{
+    connect(&Timer1, &IntervalTimer::timeout, this, &Heartbeat::Timer1_Timer);
+}
+
+void Heartbeat::Timer1_Timer()
+{
+    if (!m_ctx.appReady)
+        return;
+    // No tick may arrive while this one waits or lets events run.
+    Timer1.SetInterval(0);
+    if (Trap(m_ctx.log, "Timer1_Timer", [this] { Tick(); }))
+        Timer1.SetInterval(TickInterval);
+}
+
+void Heartbeat::Tick()
+{
+    const double now = m_ctx.Now();
+    qint64 secondsSinceLastTick = AutomationDate::SecondsBetween(m_lastTickTime, now);
+    if (secondsSinceLastTick < std::numeric_limits<qint32>::min() ||
+        secondsSinceLastTick > std::numeric_limits<qint32>::max())
+        secondsSinceLastTick = 0;
+    m_lastTickTime = now;
+
+    Scheduler& scheduler = m_ctx.scheduler;
+    const NextProgram& next = scheduler.next;
+    const bool recording = m_ctx.appStatus.Recording();
+    // A clock that was set or a machine that slept; while recording the end just comes later.
+    if (std::abs(secondsSinceLastTick) > kClockJumpSeconds && !recording)
+        scheduler.ScheduleNextRecording();
+
+    if (!next.NextInternetLink.isEmpty() &&
+        LaunchDue(now, next.NextLinkLaunchTime, m_lastLinkLaunch)) {
+        if (next.NextStreamingPlayerClose.isEmpty())
+            emit SnapshotWindowsBeforeLink();
+        m_lastLinkLaunch = now;
+        emit OpenInternetLink(next.NextInternetLink);
+        scheduler.next.NextLinkLaunchTime = AutomationDate::Never();
+    }
+
+    if (!next.NextLaunchAppPrior.isEmpty() &&
+        LaunchDue(now, next.NextAppLaunchTime, m_lastAppLaunch))
+        LaunchAppPrior(now);
+
+    if (m_ctx.appStatus.Recording()) {
+        clsRecordingStatus& status = m_ctx.recordingStatus;
+        if (!status.NextProgramScheduled &&
+            now > AutomationDate::AddSeconds(status.EndTime, -kStopLeadSeconds)) {
+            scheduler.ScheduleNextRecording();
+            status.NextProgramScheduled = true;
+        }
+        if (now > status.EndTime && !status.StopRequested) {
+            emit StopRecordingDue();
+            status.StopRequested = true;
+        }
+    }
+    if (!m_ctx.appStatus.Recording() && next.NextProgramFound) {
+        if (now > next.NextProgramEnd)
+            scheduler.ScheduleNextRecording();
+        if (next.NextProgramFound && now >= next.NextProgramStart && now < next.NextProgramEnd)
+            emit StartRecordingDue(next.NextProgramId, now, next.NextProgramEnd,
+                                   next.NextProgramDescription);
+    }
+
+    if (m_ctx.options.PurgeRecordings &&
+        AutomationDate::HoursBetween(m_lastPurge, now) > kPurgeEveryHours)
+        Purge(now);
+
+    emit UpdateStatusBarPlus();
+}
+
+void Heartbeat::LaunchAppPrior(double now)
+{
+    m_lastAppLaunch = now;
+    const QString command = m_ctx.scheduler.next.NextLaunchAppPrior;
+    // The command runs as it stands: no file name is put into it ahead of a recording.
+    if (!m_ctx.launcher.StartDetached(command))
+        m_ctx.log.LogEvent(
+            EventWarning, QStringLiteral("Invalid Launch Application command"),
+            QStringLiteral("The command to launch an application is invalid.  Check the file "
+                           "paths and that the applications exists.\r\nCommand= ") +
+                command);
+    m_ctx.scheduler.next.NextAppLaunchTime = AutomationDate::Never();
+}
+
+void Heartbeat::Purge(double now)
+{
+    // Within five minutes from the purge time; the span does not wrap over midnight.
+    const double timeOfDay = AutomationDate::TimePart(now);
+    const double purgeTime = m_ctx.options.PurgeTime;
+    if (timeOfDay < purgeTime || timeOfDay > purgeTime + kPurgeSpan)
+        return;
+    emit PurgeDue();
+    m_lastPurge = m_ctx.Now();
+}

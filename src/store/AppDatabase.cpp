@@ -1,0 +1,195 @@
+#include "store/AppDatabase.h"
+
+#include "common/MessageBox.h"
+#include "diagnostics/Trap.h"
+#include "shell/AppContext.h"
+#include "store/GridColumns.h"
+
+#include <QFile>
+
+namespace {
+
+const char kInitializeControls[] = "InitializeControls";
+
+struct AddedColumn {
+    const char* name;
+    const char* type;
+};
+
+// Columns that newer versions added to Programs; older files get them at start-up.
+constexpr AddedColumn kAddedProgramColumns[] = {
+    {"Flags", "INTEGER"},
+    {"FilenamePrefix", "TEXT"},
+    {"FilenameSuffix", "TEXT"},
+    {"FilenameUser", "TEXT"},
+    {"InternetLink", "TEXT"},
+    {"InternetLinkDelay", "INTEGER"},
+    {"LaunchAppPrior", "TEXT"},
+    {"LaunchAppDelay", "INTEGER"},
+    {"LaunchAppAfter", "TEXT"},
+    {"MixerProfileBefore", "TEXT"},
+    {"MixerProfileAfter", "TEXT"},
+    {"StreamingPlayerClose", "TEXT"},
+    {"HangupInternetConnection", "INTEGER"},
+    {"LaunchAfterOnlyIfOk", "INTEGER"},
+};
+
+// Runs each step in turn; a failing one is reported and the next still runs.
+template <typename... Steps>
+void EachStepReported(EventLog& log, const char* name, Steps&&... steps)
+{
+    (Trap(log, name, steps), ...);
+}
+
+template <typename... Steps> void EachStepSilently(Steps&&... steps)
+{
+    auto silently = [](auto&& step) {
+        try {
+            step();
+        } catch (const std::exception&) {
+        }
+    };
+    (silently(steps), ...);
+}
+
+} // namespace
+
+AppDatabase::AppDatabase(AppContext& ctx)
+    : DataPrograms(db)
+    , DataRecordings(db)
+    , DataInfo(db)
+    , DataElog(db)
+    , m_ctx(ctx)
+{
+}
+
+QString AppDatabase::DatabaseFile() const
+{
+    return m_ctx.folders.DatabaseFile();
+}
+
+void AppDatabase::InitializeControls()
+{
+    EachStepReported(
+        m_ctx.log, kInitializeControls, [&] { db.Open(DatabaseFile()); },
+        [&] { UpgradeProgramsTable(); }, [&] { OpenRecordsets(); },
+        [&] { DataPrograms.SetRecordset(rsPrograms); },
+        [&] { DataRecordings.SetRecordset(rsRecordings); }, [&] { DataInfo.SetRecordset(rsInfo); },
+        [&] { DataPrograms.Refresh(); }, [&] { DataRecordings.Refresh(); },
+        [&] { DataInfo.Refresh(); }, [&] { SortDbgrids(); });
+}
+
+void AppDatabase::UpgradeProgramsTable()
+{
+    for (const AddedColumn& column : kAddedProgramColumns) {
+        const QString name = QString::fromLatin1(column.name);
+        if (!db.TableHasColumn(QStringLiteral("Programs"), name))
+            db.Execute(QStringLiteral("ALTER TABLE [Programs] ADD COLUMN [%1] %2")
+                           .arg(name, QString::fromLatin1(column.type)));
+    }
+}
+
+void AppDatabase::OpenRecordsets()
+{
+    rsPrograms = Recordset::Open(db, QStringLiteral("Programs"));
+    rsRecordings = Recordset::Open(db, QStringLiteral("Recordings"));
+    rsInfo = Recordset::Open(db, QStringLiteral("Info"));
+    rsEventLog = Recordset::Open(db, QStringLiteral("EventLog"));
+}
+
+void AppDatabase::SortDbgrids()
+{
+    DataPrograms.SetRecordSource(GridColumns::SortStatement(
+        QStringLiteral("Programs"),
+        GridColumns::DataFieldOf(GridColumns::Programs(), QStringLiteral("Description")), true));
+    DataPrograms.Refresh();
+    DataRecordings.SetRecordSource(GridColumns::SortStatement(
+        QStringLiteral("Recordings"),
+        GridColumns::DataFieldOf(GridColumns::Recordings(), QStringLiteral("Date/Time")), false));
+    DataRecordings.Refresh();
+}
+
+void AppDatabase::CloseRecordsetsAndDatabase()
+{
+    rsPrograms.Close();
+    rsRecordings.Close();
+    rsInfo.Close();
+    rsEventLog.Close();
+    db.Close();
+}
+
+void AppDatabase::UnloadElog()
+{
+    DataElog.Unbind();
+    m_elogBound = false;
+}
+
+void AppDatabase::CloseAll()
+{
+    UnloadElog();
+    CloseRecordsetsAndDatabase();
+}
+
+Recordset& AppDatabase::ElogRecordset()
+{
+    if (!m_elogBound) {
+        m_ctx.error.ElogViewed();
+        DataElog.SetRecordset(rsEventLog);
+        DataElog.SetRecordSource(GridColumns::SortStatement(
+            QStringLiteral("EventLog"),
+            GridColumns::DataFieldOf(GridColumns::EventLog(), QStringLiteral("Date/Time")), false));
+        DataElog.Refresh();
+        m_elogBound = true;
+    }
+    return DataElog.recordset();
+}
+
+void AppDatabase::CompactDatabase()
+{
+    try {
+        CloseRecordsetsAndDatabase();
+        UnloadElog();
+        const QString target = m_ctx.folders.TempDatabaseFile();
+        if (QFile::exists(target) && !QFile::remove(target))
+            throw RuntimeError(ErrorNumber::PathFileAccess,
+                               QStringLiteral("Path/File access error"));
+        {
+            Database source;
+            source.Open(DatabaseFile());
+            source.CompactInto(target);
+        }
+        if (!QFile::remove(DatabaseFile()) || !QFile::rename(target, DatabaseFile()))
+            throw RuntimeError(ErrorNumber::PathFileAccess,
+                               QStringLiteral("Path/File access error"));
+        db.Open(DatabaseFile());
+        OpenRecordsets();
+        DataPrograms.SetRecordset(rsPrograms);
+        DataInfo.SetRecordset(rsInfo);
+        DataRecordings.SetRecordset(rsRecordings);
+    } catch (const RuntimeError& error) {
+        m_ctx.messageBox.Show(
+            QStringLiteral("Nightreel 2000 Error"),
+            QStringLiteral("Compact Database failed.  The following error occured: ") +
+                error.Text(),
+            MsgIcon::Exclamation, MsgButtons::Ok);
+    }
+}
+
+void AppDatabase::RestoreOriginalDatabase()
+{
+    EachStepSilently(
+        [&] { m_ctx.error.ElogViewed(); },
+        [&] {
+            CloseRecordsetsAndDatabase();
+            UnloadElog();
+        },
+        [&] { QFile::remove(DatabaseFile()); },
+        [&] {
+            QFile::copy(QStringLiteral(":/original.db"), DatabaseFile());
+            // A copy out of the program's resources comes read-only.
+            QFile::setPermissions(DatabaseFile(), QFile::ReadOwner | QFile::WriteOwner);
+        },
+        [&] { db.Open(DatabaseFile()); }, [&] { OpenRecordsets(); },
+        [&] { DataPrograms.SetRecordset(rsPrograms); }, [&] { DataInfo.SetRecordset(rsInfo); },
+        [&] { DataRecordings.SetRecordset(rsRecordings); });
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "store/DataControl.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
+
+class AppContext;
+
+// The open database of the run: the file, one recordset per table, and the data controls
+// that the grids show. Holds the start-up steps, the sort of the grids, compaction and the
+// restore of the empty original.
+class AppDatabase {
+public:
+    explicit AppDatabase(AppContext& ctx);
+
+    // The database steps of the first activation: open, upgrade, bind, sort. Each step
+    // that fails is logged and the next one runs, so a missing or damaged file does not
+    // stop the start.
+    void InitializeControls();
+    // The default order of both main grids.
+    void SortDbgrids();
+    // Compacts the file through the temp file. A failure is shown and leaves the lists
+    // closed; the file itself stays as it was.
+    void CompactDatabase();
+    // Replaces the file by the empty original; failing steps are skipped silently.
+    void RestoreOriginalDatabase();
+    // Closes the recordsets and then the file, at the end of the run.
+    void CloseAll();
+
+    // The log's recordset, bound the first time it is needed after start-up or after the
+    // file was replaced (binding it counts as the log having been viewed).
+    Recordset& ElogRecordset();
+
+    QString DatabaseFile() const;
+
+    Database db;
+    Recordset rsPrograms;
+    Recordset rsRecordings;
+    Recordset rsInfo;
+    Recordset rsEventLog;
+    DataControl DataPrograms;
+    DataControl DataRecordings;
+    DataControl DataInfo;
+    DataControl DataElog;
+
+private:
+    void UpgradeProgramsTable();
+    void OpenRecordsets();
+    void CloseRecordsetsAndDatabase();
+    void UnloadElog();
+
+    AppContext& m_ctx;
+    bool m_elogBound = false;
+};

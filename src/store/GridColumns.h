@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+// The columns of the main grids and of the log grid, caption and bound field. Statements
+// that sort a grid look the field up by the caption, so a changed grid needs no changed SQL.
+struct GridColumn {
+    QString caption;
+    QString dataField;
+};
+
+namespace GridColumns {
+
+const QList<GridColumn>& Programs();
+const QList<GridColumn>& Recordings();
+const QList<GridColumn>& EventLog();
+QString DataFieldOf(const QList<GridColumn>& columns, const QString& caption);
+// "SELECT * FROM [table] ORDER BY [field] ASC" or " DESC".
+QString SortStatement(const QString& table, const QString& field, bool ascending);
+
+} // namespace GridColumns

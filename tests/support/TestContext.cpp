@@ -1,0 +1,45 @@
+#include "TestContext.h"
+
+#include <QSettings>
+#include <QSqlQuery>
+
+TestContext::TestContext()
+{
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.path() + "/config");
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
+    const AppFolders folders = AppFolders::Under(m_dir.path());
+    folders.InstallDatabaseOnFirstRun();
+    ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher}, folders);
+}
+
+TestContext::~TestContext()
+{
+    ctx.reset();
+}
+
+QString TestContext::SettingsFile() const
+{
+    return m_dir.path() + "/config/Larkmoor Systems/Nightreel.conf";
+}
+
+void TestContext::OpenDatabase()
+{
+    ctx->database.InitializeControls();
+}
+
+qint64 TestContext::AddProgram(const QVariantHash& columns)
+{
+    Recordset rs = ctx->database.DataPrograms.recordset();
+    rs.AddNew();
+    for (auto it = columns.cbegin(); it != columns.cend(); ++it)
+        rs.SetValue(it.key(), it.value());
+    rs.Update();
+    return rs.LastModified();
+}
+
+int TestContext::CountRows(const QString& table) const
+{
+    QSqlQuery q(ctx->database.db.Connection());
+    q.exec("SELECT count(*) FROM [" + table + "]");
+    return q.next() ? q.value(0).toInt() : -1;
+}

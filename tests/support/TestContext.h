@@ -1,0 +1,33 @@
+#pragma once
+
+#include "RecordingLauncher.h"
+#include "ScriptedMessageBox.h"
+#include "TestClock.h"
+#include "common/RuntimeError.h"
+#include "shell/AppContext.h"
+
+#include <QTemporaryDir>
+#include <memory>
+
+// A fresh application context over a temporary folder: its own data and runtime folders,
+// its own settings file, the empty database in place, and the test seams.
+class TestContext {
+public:
+    TestContext();
+    ~TestContext();
+
+    // Opens the database as the first activation does.
+    void OpenDatabase();
+    // Adds a row to Programs with the given columns; returns its ID.
+    qint64 AddProgram(const QVariantHash& columns);
+    // Rows of a table, counted in the file itself.
+    int CountRows(const QString& table) const;
+    QString Root() const { return m_dir.path(); }
+    QString SettingsFile() const;
+
+    QTemporaryDir m_dir;
+    TestClock clock;
+    ScriptedMessageBox messageBox;
+    RecordingLauncher launcher;
+    std::unique_ptr<AppContext> ctx;
+};

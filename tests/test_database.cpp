@@ -1,0 +1,306 @@
+#include "LogCapture.h"
+#include "TestContext.h"
+#include "common/TextHelpers.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTest>
+
+namespace {
+
+// Runs statements on a database file through a connection of the test's own.
+void RunSql(const QString& path, const QStringList& statements)
+{
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "test-setup");
+        db.setDatabaseName(path);
+        QVERIFY(db.open());
+        for (const QString& sql : statements) {
+            QSqlQuery q(db);
+            QVERIFY2(q.exec(sql), qPrintable(sql));
+        }
+    }
+    QSqlDatabase::removeDatabase("test-setup");
+}
+
+} // namespace
+
+class TestDatabase : public QObject {
+    Q_OBJECT
+
+private slots:
+    void anOlderFileGetsTheNewColumnsOnce()
+    {
+        TestContext tc;
+        const QString file = tc.ctx->database.DatabaseFile();
+        QFile::remove(file);
+        RunSql(file, {"CREATE TABLE Programs (ID INTEGER PRIMARY KEY, Enabled INTEGER, "
+                      "Description TEXT, DescriptionText TEXT, StartTime REAL, EndTime REAL, "
+                      "Frequency INTEGER, OneTimeDay REAL, Sun INTEGER, Mon INTEGER, "
+                      "Tue INTEGER, Wed INTEGER, Thu INTEGER, Fri INTEGER, Sat INTEGER, "
+                      "wfx_nAvgBytesPerSec INTEGER, RecordingCancelled INTEGER, "
+                      "RecordingCancelledEndDateAndTime REAL)",
+                      "INSERT INTO Programs (Description, DescriptionText, Enabled) "
+                      "VALUES ('Old show', 'Old show', -1)",
+                      "CREATE TABLE Recordings (ID INTEGER PRIMARY KEY, Title TEXT, File TEXT, "
+                      "StartTime REAL, EndTime REAL, CompressionMethod TEXT, Size REAL)",
+                      "CREATE TABLE EventLog (ID INTEGER PRIMARY KEY, Type INTEGER, "
+                      "DateAndTime REAL, Message TEXT, Details TEXT)",
+                      "CREATE TABLE Info (VersionMajor INTEGER)"});
+        tc.OpenDatabase();
+        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        QCOMPARE(rs.FieldNames().size(), 18 + 14);
+        for (const char* column : {"Flags", "LaunchAfterOnlyIfOk", "StreamingPlayerClose"}) {
+            QVERIFY(rs.FieldIndex(column) >= 0);
+            QVERIFY(rs.IsNull(column));
+        }
+        QCOMPARE(rs.Value("Description").toString(), QStringLiteral("Old show"));
+        QCOMPARE(tc.CountRows("EventLog"), 0);
+
+        // The next start finds everything in place and adds nothing.
+        tc.ctx->database.CloseAll();
+        tc.OpenDatabase();
+        QCOMPARE(tc.ctx->database.DataPrograms.recordset().FieldNames().size(), 18 + 14);
+        QCOMPARE(tc.CountRows("EventLog"), 0);
+    }
+
+    void anEmptyFileHasItsTablesAndOneInfoRow()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        AppDatabase& db = tc.ctx->database;
+        QCOMPARE(db.DataInfo.recordset().RecordCount(), 1);
+        QCOMPARE(db.DataInfo.recordset().Value("wfxdflt_nSamplesPerSec").toInt(), 11025);
+        QCOMPARE(db.DataInfo.recordset().GetChunk("wfxdfltExtra", 0, 1), QByteArray(1, '\0'));
+        QCOMPARE(db.DataPrograms.recordset().RecordCount(), 0);
+        QVERIFY(db.DataPrograms.recordset().IsEOF());
+        QCOMPARE(db.DataPrograms.recordset().AbsolutePosition(), -1);
+    }
+
+    void recordsetOperations()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+        rs.AddNew();
+        rs.SetValue("Title", "First");
+        rs.SetValue("File", "/rec/a.wav");
+        rs.SetValue("StartTime", 46000.5);
+        rs.Update();
+        const qint64 first = rs.LastModified();
+        rs.AddNew();
+        rs.SetValue("Title", "Second");
+        rs.Update();
+        const qint64 second = rs.LastModified();
+        QVERIFY(first != second);
+
+        // A clone sees the rows and the changes of its original, with a position of its own.
+        Recordset clone = rs.Clone();
+        QCOMPARE(clone.RecordCount(), 2);
+        clone.SetBookmark(first);
+        QCOMPARE(clone.Value("title").toString(), QStringLiteral("First"));
+        clone.Edit();
+        clone.SetValue("Title", "Renamed");
+        clone.Update();
+        rs.SetBookmark(first);
+        QCOMPARE(rs.Value("Title").toString(), QStringLiteral("Renamed"));
+        QVERIFY(rs.IsNull("Size"));
+
+        clone.Delete();
+        QCOMPARE(rs.RecordCount(), 1);
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, rs.Value("Title"));
+        rs.MoveFirst();
+        QCOMPARE(rs.Bookmark(), second);
+
+        // Changes were written through to the file.
+        tc.ctx->database.DataRecordings.Requery();
+        QCOMPARE(tc.ctx->database.DataRecordings.recordset().RecordCount(), 1);
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, rs.SetValue("Title", "no edit"));
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, rs.Value("NoSuchColumn"));
+    }
+
+    void chunksOfABinaryColumn()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        rs.AddNew();
+        rs.AppendChunk("wfxExtra", QByteArray::fromHex("0102"));
+        rs.AppendChunk("wfxExtra", QByteArray::fromHex("0304"));
+        rs.Update();
+        rs.SetBookmark(rs.LastModified());
+        QCOMPARE(rs.GetChunk("wfxExtra", 1, 2), QByteArray::fromHex("0203"));
+        QCOMPARE(rs.GetChunk("wfxExtra", 0, 12), QByteArray::fromHex("01020304"));
+    }
+
+    void anApostropheIsFoundAgain_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("apostrophe") << "/home/me/Tom's show.wav";
+        QTest::newRow("two") << "/rec/''quoted''.mp3";
+        QTest::newRow("accented") << "/rec/émission.wav";
+    }
+    void anApostropheIsFoundAgain()
+    {
+        QFETCH(QString, file);
+        TestContext tc;
+        tc.OpenDatabase();
+        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+        for (const QString& f : {QStringLiteral("/rec/other.wav"), file}) {
+            rs.AddNew();
+            rs.SetValue("File", f);
+            rs.SetValue("Title", f);
+            rs.Update();
+        }
+        Recordset clone = rs.Clone();
+        clone.FindFirst("File = " + Text::SqlQuoted(file));
+        QVERIFY(!clone.NoMatch());
+        QCOMPARE(clone.Value("Title").toString(), file);
+        clone.FindFirst("Title = " + Text::SqlQuoted(file + "x"));
+        QVERIFY(clone.NoMatch());
+
+        // The test whether a file is listed compares upper-cased, trimmed paths.
+        const Recordset listed = Recordset::Open(
+            tc.ctx->database.db, "SELECT * FROM [Recordings] WHERE TRIM(UCASE([File])) = " +
+                                     Text::SqlQuoted(Text::Trim(file).toUpper()));
+        QCOMPARE(listed.RecordCount(), 1);
+    }
+
+    void clonesFollowTheGridsSort()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        for (const char* name : {"Bravo", "Alpha", "Charlie"})
+            tc.AddProgram({{"Description", name}, {"DescriptionText", name}});
+        AppDatabase& db = tc.ctx->database;
+        db.SortDbgrids();
+        QCOMPARE(db.DataPrograms.RecordSource(),
+                 QStringLiteral("SELECT * FROM [Programs] ORDER BY [DescriptionText] ASC"));
+        QCOMPARE(db.DataRecordings.RecordSource(),
+                 QStringLiteral("SELECT * FROM [Recordings] ORDER BY [StartTime] DESC"));
+        const auto order = [&db] {
+            QStringList names;
+            Recordset clone = db.DataPrograms.recordset().Clone();
+            for (clone.MoveFirst(); !clone.IsEOF(); clone.MoveNext())
+                names << clone.Value("Description").toString();
+            return names;
+        };
+        QCOMPARE(order(), QStringList({"Alpha", "Bravo", "Charlie"}));
+        db.DataPrograms.SetRecordSource("SELECT * FROM [Programs] ORDER BY [DescriptionText] DESC");
+        db.DataPrograms.Refresh();
+        QCOMPARE(order(), QStringList({"Charlie", "Bravo", "Alpha"}));
+    }
+
+    void compactionReplacesAStaleTempFile()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram({{"Description", "Kept"}});
+        QFile stale(tc.ctx->folders.TempDatabaseFile());
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.write("left over from a crash");
+        stale.close();
+
+        tc.ctx->database.CompactDatabase();
+        QVERIFY(tc.messageBox.asked.isEmpty());
+        QVERIFY(!QFile::exists(tc.ctx->folders.TempDatabaseFile()));
+        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        QCOMPARE(rs.RecordCount(), 1);
+        QCOMPARE(rs.Value("Description").toString(), QStringLiteral("Kept"));
+        QVERIFY(tc.ctx->database.rsEventLog.IsOpen());
+    }
+
+    void aFailedCompactionLeavesTheFileAndShowsWhy()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram({{"Description", "Kept"}});
+        const QByteArray before = [&] {
+            QFile f(tc.ctx->database.DatabaseFile());
+            f.open(QIODevice::ReadOnly);
+            return f.readAll();
+        }();
+        // A folder where the temp file goes can't be removed as a file.
+        QVERIFY(QDir().mkpath(tc.ctx->folders.TempDatabaseFile() + "/busy"));
+
+        tc.ctx->database.CompactDatabase();
+        QCOMPARE(tc.messageBox.asked.size(), 1);
+        QCOMPARE(tc.messageBox.asked[0].title, QStringLiteral("Nightreel 2000 Error"));
+        QVERIFY(tc.messageBox.asked[0].text.startsWith(
+            "Compact Database failed.  The following error occured: "));
+        QVERIFY(!tc.ctx->database.rsPrograms.IsOpen());
+        QFile f(tc.ctx->database.DatabaseFile());
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QCOMPARE(f.readAll(), before);
+    }
+
+    void restoreGivesTheEmptyOriginal_data()
+    {
+        QTest::addColumn<bool>("liveFile");
+        QTest::newRow("over a live file") << true;
+        QTest::newRow("without a file") << false;
+    }
+    void restoreGivesTheEmptyOriginal()
+    {
+        QFETCH(bool, liveFile);
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram({{"Description", "Gone after the restore"}});
+        tc.ctx->log.LogEvent(EventError, "An error", "details");
+        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 1);
+        if (!liveFile) {
+            tc.ctx->database.CloseAll();
+            QVERIFY(QFile::remove(tc.ctx->database.DatabaseFile()));
+        }
+
+        tc.ctx->database.RestoreOriginalDatabase();
+        QVERIFY(QFile::exists(tc.ctx->database.DatabaseFile()));
+        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
+        QCOMPARE(tc.ctx->database.DataPrograms.recordset().RecordCount(), 0);
+        QCOMPARE(tc.ctx->database.DataInfo.recordset().RecordCount(), 1);
+        QCOMPARE(tc.CountRows("EventLog"), 0);
+        // The restored file is writable.
+        tc.AddProgram({{"Description", "New"}});
+        QCOMPARE(tc.ctx->database.DataPrograms.recordset().RecordCount(), 1);
+    }
+
+    void aBadFileDoesNotStopTheStart_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("present");
+        QTest::newRow("not a database")
+            << QByteArray("This is a text file, not a database.\n") << true;
+        QTest::newRow("missing") << QByteArray() << false;
+    }
+    void aBadFileDoesNotStopTheStart()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, present);
+        TestContext tc;
+        const QString file = tc.ctx->database.DatabaseFile();
+        QFile::remove(file);
+        if (present) {
+            QFile f(file);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(content.repeated(200));
+        }
+        LogCapture capture;
+        tc.OpenDatabase();
+        QVERIFY(capture.Contains("Module: InitializeControls"));
+        QVERIFY(!tc.ctx->database.DataPrograms.recordset().IsOpen());
+        QCOMPARE(QFile::exists(file), present);
+        if (present) {
+            QFile f(file);
+            QVERIFY(f.open(QIODevice::ReadOnly));
+            QCOMPARE(f.readAll(), content.repeated(200));
+        }
+        // The rest of the system goes on with empty lists.
+        tc.ctx->scheduler.ScheduleNextRecording();
+        QVERIFY(!tc.ctx->scheduler.next.NextProgramFound);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDatabase)
+#include "test_database.moc"

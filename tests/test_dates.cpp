@@ -1,0 +1,137 @@
+#include "common/AutomationDate.h"
+#include "common/FileHelpers.h"
+#include "common/TextHelpers.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace AutomationDate;
+
+class TestDates : public QObject {
+    Q_OBJECT
+
+private slots:
+    void sentinelsAreTheirDays()
+    {
+        QCOMPARE(LongAgo(), 29221.0);
+        QCOMPARE(Never(), 73051.0);
+        QCOMPARE(ToDateTime(Never()), QDateTime(QDate(2100, 1, 1), QTime(0, 0)));
+    }
+
+    void roundTripsLocalTimes_data()
+    {
+        QTest::addColumn<QDateTime>("local");
+        QTest::addColumn<double>("date");
+        QTest::newRow("epoch") << QDateTime(QDate(1899, 12, 30), QTime(0, 0)) << 0.0;
+        QTest::newRow("noon") << QDateTime(QDate(2026, 1, 1), QTime(12, 0)) << 46023.5;
+        QTest::newRow("quarter past six") << QDateTime(QDate(2026, 1, 1), QTime(6, 0)) << 46023.25;
+        QTest::newRow("before the epoch") << QDateTime(QDate(1899, 12, 29), QTime(6, 0)) << -1.25;
+    }
+    void roundTripsLocalTimes()
+    {
+        QFETCH(QDateTime, local);
+        QFETCH(double, date);
+        QCOMPARE(FromDateTime(local), date);
+        QCOMPARE(ToDateTime(date), local);
+    }
+
+    void partsOfADate()
+    {
+        const double d = FromDateTime(QDateTime(QDate(2026, 11, 21), QTime(23, 59, 58)));
+        QCOMPARE(Weekday(d), 7); // a Saturday
+        QCOMPARE(Weekday(d + 1), 1);
+        QCOMPARE(Hour(d), 23);
+        QCOMPARE(Minute(d), 59);
+        QCOMPARE(Second(d), 58);
+        QCOMPARE(DatePart(d) + TimePart(d), d);
+    }
+
+    // Differences count the unit boundaries passed, not the elapsed whole units.
+    void differencesCountBoundaries_data()
+    {
+        QTest::addColumn<QDateTime>("a");
+        QTest::addColumn<QDateTime>("b");
+        QTest::addColumn<qint64>("seconds");
+        QTest::addColumn<qint64>("minutes");
+        QTest::addColumn<qint64>("hours");
+        const QDate day(2026, 3, 1);
+        QTest::newRow("across an hour")
+            << QDateTime(day, QTime(10, 59, 59)) << QDateTime(day, QTime(11, 0, 1)) << qint64(2)
+            << qint64(1) << qint64(1);
+        QTest::newRow("within an hour")
+            << QDateTime(day, QTime(10, 0)) << QDateTime(day, QTime(10, 59, 59)) << qint64(3599)
+            << qint64(59) << qint64(0);
+        QTest::newRow("backwards") << QDateTime(day, QTime(11, 0)) << QDateTime(day, QTime(10, 0))
+                                   << qint64(-3600) << qint64(-60) << qint64(-1);
+        QTest::newRow("22 hours and a bit")
+            << QDateTime(day, QTime(0, 30)) << QDateTime(day, QTime(22, 59)) << qint64(80940)
+            << qint64(1349) << qint64(22);
+    }
+    void differencesCountBoundaries()
+    {
+        QFETCH(QDateTime, a);
+        QFETCH(QDateTime, b);
+        QFETCH(qint64, seconds);
+        QCOMPARE(SecondsBetween(FromDateTime(a), FromDateTime(b)), seconds);
+        QFETCH(qint64, minutes);
+        QCOMPARE(MinutesBetween(FromDateTime(a), FromDateTime(b)), minutes);
+        QFETCH(qint64, hours);
+        QCOMPARE(HoursBetween(FromDateTime(a), FromDateTime(b)), hours);
+    }
+
+    void addingSecondsLandsOnTheSecond()
+    {
+        const double d = FromDateTime(QDateTime(QDate(2026, 3, 1), QTime(23, 59, 50)));
+        QCOMPARE(ToDateTime(AddSeconds(d, 30)), QDateTime(QDate(2026, 3, 2), QTime(0, 0, 20)));
+    }
+
+    void textRules_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("value");
+        QTest::newRow("plain") << "500" << 500.0;
+        QTest::newRow("letters") << "abc" << 0.0;
+        QTest::newRow("trailing letters") << "12abc" << 12.0;
+        QTest::newRow("negative") << "-5" << -5.0;
+        QTest::newRow("fraction") << " 7.6 " << 7.6;
+        QTest::newRow("inner blanks") << "1 2" << 12.0;
+    }
+    void textRules()
+    {
+        QFETCH(QString, text);
+        QFETCH(double, value);
+        QCOMPARE(Text::Val(text), value);
+    }
+
+    void numbersWithASignPlace()
+    {
+        QCOMPARE(Text::Str(3021), QStringLiteral(" 3021"));
+        QCOMPARE(Text::Str(-5), QStringLiteral("-5"));
+        QCOMPARE(Text::RoundHalfEven(2.5), qint64(2));
+        QCOMPARE(Text::RoundHalfEven(3.5), qint64(4));
+        QCOMPARE(Text::Trim(QStringLiteral("  a\tb  ")), QStringLiteral("a\tb"));
+        QCOMPARE(Text::SqlQuoted(QStringLiteral("Tom's")), QStringLiteral("'Tom''s'"));
+    }
+
+    void emptyFilesCountAsAbsentAndGo()
+    {
+        QTemporaryDir dir;
+        const QString empty = dir.filePath("empty.wav");
+        const QString full = dir.filePath("full.wav");
+        QFile(empty).open(QIODevice::WriteOnly);
+        QFile f(full);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("RIFF");
+        f.close();
+        QVERIFY(!FileExistsOrClear(empty));
+        QVERIFY(!QFile::exists(empty));
+        QVERIFY(FileExistsOrClear(full));
+        QVERIFY(!FileExistsOrClear(dir.filePath("missing.wav")));
+        QVERIFY(!QFile::exists(dir.filePath("missing.wav")));
+        QVERIFY(!FileExistsOrClear(dir.path()));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestDates)
+#include "test_dates.moc"

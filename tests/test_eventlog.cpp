@@ -1,0 +1,147 @@
+#include "TestContext.h"
+
+#include <QSignalSpy>
+#include <QSqlQuery>
+#include <QTest>
+
+namespace {
+
+void FillLog(AppContext& ctx, int rows)
+{
+    QSqlDatabase db = ctx.database.db.Connection();
+    db.transaction();
+    QSqlQuery q(db);
+    q.prepare(
+        "INSERT INTO EventLog (Type, DateAndTime, Message, Details) VALUES (2, 46000, ?, '')");
+    for (int i = 0; i < rows; ++i) {
+        q.addBindValue(QString("old %1").arg(i));
+        q.exec();
+    }
+    db.commit();
+}
+
+} // namespace
+
+class TestEventLog : public QObject {
+    Q_OBJECT
+
+private slots:
+    // The count is taken before the insert: the row that makes 951 does not fill the log.
+    void theLogFillsAt951AndStopsAt1000_data()
+    {
+        QTest::addColumn<int>("before");
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("after");
+        QTest::addColumn<bool>("full");
+        QTest::addColumn<int>("unviewed");
+        QTest::newRow("950th row") << 949 << 2 << 950 << false << 1;
+        QTest::newRow("951st row") << 950 << 1 << 951 << false << 1;
+        QTest::newRow("952nd row") << 951 << 2 << 952 << true << 1;
+        QTest::newRow("1000th row") << 999 << 2 << 1000 << true << 1;
+        QTest::newRow("dropped") << 1000 << 2 << 1000 << true << 0;
+        QTest::newRow("information") << 10 << 0 << 11 << false << 0;
+    }
+    void theLogFillsAt951AndStopsAt1000()
+    {
+        QFETCH(int, before);
+        QFETCH(int, type);
+        TestContext tc;
+        tc.OpenDatabase();
+        FillLog(*tc.ctx, before);
+        tc.ctx->log.LogEvent(qint16(type), "Something happened", "while nobody watched");
+        QFETCH(int, after);
+        QCOMPARE(tc.CountRows("EventLog"), after);
+        QFETCH(bool, full);
+        QCOMPARE(tc.ctx->error.ElogFull(), full);
+        QFETCH(int, unviewed);
+        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), unviewed);
+    }
+
+    void anEntryHoldsWhatWasLogged()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.ctx->log.LogRuntimeError("Timer1_Timer", RuntimeError(3021, "No current record."));
+        Recordset& rs = tc.ctx->database.ElogRecordset();
+        rs.MoveLast();
+        QCOMPARE(rs.Value("Type").toInt(), 2);
+        QCOMPARE(rs.Value("DateAndTime").toDouble(), tc.clock.Now());
+        QCOMPARE(rs.Value("Message").toString(), QStringLiteral("Nightreel 2000 Runtime Error"));
+        QCOMPARE(rs.Value("Details").toString(),
+                 QStringLiteral("Module: Timer1_Timer\r\nError:  3021, No current record."));
+    }
+
+    void nothingCountsWhileTheLogIsOnScreen()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.ctx->error.SetElogVisible(true);
+        tc.ctx->log.LogEvent(EventError, "Seen at once", "");
+        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
+        tc.ctx->error.SetElogVisible(false);
+        tc.ctx->log.LogEvent(EventWarning, "Not seen", "");
+        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 1);
+        tc.ctx->error.ElogViewed();
+        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
+    }
+
+    void loggingWithoutADatabaseDoesNotFail()
+    {
+        TestContext tc;
+        tc.ctx->log.LogEvent(EventError, "No database open", "");
+        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
+        // Once the file is open the log works.
+        tc.OpenDatabase();
+        tc.ctx->log.LogEvent(EventError, "Now it is", "");
+        QCOMPARE(tc.CountRows("EventLog"), 1);
+    }
+
+    void theIndicationFollowsTheState_data()
+    {
+        QTest::addColumn<int>("unviewed");
+        QTest::addColumn<bool>("diskLow");
+        QTest::addColumn<bool>("visible");
+        QTest::addColumn<QString>("tip");
+        QTest::addColumn<bool>("menu");
+        QTest::newRow("nothing") << 0 << false << false << " " << false;
+        QTest::newRow("one unviewed")
+            << 1 << false << true << "Error occured - click to view" << false;
+        QTest::newRow("two unviewed")
+            << 2 << false << true << "Errors occured - click to view" << false;
+        QTest::newRow("a condition")
+            << 2 << true << true << "Errors or warnings are present - Click to view" << true;
+    }
+    void theIndicationFollowsTheState()
+    {
+        QFETCH(int, unviewed);
+        clsError error;
+        for (int i = 0; i < unviewed; ++i)
+            error.NewElogMsgAdded();
+        QFETCH(bool, diskLow);
+        error.SetDiskLowWarn(diskLow);
+        QFETCH(bool, visible);
+        QCOMPARE(error.Indication().buttonVisible, visible);
+        QFETCH(QString, tip);
+        QCOMPARE(error.Indication().toolTip, tip);
+        QFETCH(bool, menu);
+        QCOMPARE(error.Indication().errorsMenuEnabled, menu);
+    }
+
+    void onlyAChangeUpdatesTheIndication()
+    {
+        clsError error;
+        QSignalSpy updates(&error, &clsError::IndicationUpdated);
+        error.SetDatabaseMissing(false); // the first update is forced
+        error.SetDatabaseMissing(false);
+        QCOMPARE(updates.size(), 1);
+        error.SetDatabaseMissing(true);
+        QCOMPARE(updates.size(), 2);
+        QVERIFY(error.AnyCurrentErrors());
+        QVERIFY(!error.AnyCurrentWarnings());
+        error.SetElogFull(true);
+        QVERIFY(error.AnyCurrentWarnings());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEventLog)
+#include "test_eventlog.moc"

@@ -1,0 +1,367 @@
+#include "LogCapture.h"
+#include "Programs.h"
+#include "TestContext.h"
+
+#include <QTest>
+
+using Programs::At;
+
+namespace {
+
+struct Found {
+    bool found = false;
+    qint32 id = -7;
+    QString description;
+    double start = -1, end = -1;
+    QString link = "untouched", launch, before, after, close;
+    qint16 linkDelay = -1, launchDelay = -1;
+    bool hangup = true;
+};
+
+Found Search(AppContext& ctx, double reference, bool readOnly = false)
+{
+    Found f;
+    qint32 avg = 0;
+    f.found = ctx.scheduler.DetermineNextProgramToSchedule(
+        readOnly, reference, f.id, f.description, f.start, f.end, avg, f.link, f.linkDelay,
+        f.launch, f.launchDelay, f.before, f.after, f.close, f.hangup);
+    return f;
+}
+
+QVariant Column(AppContext& ctx, qint64 id, const QString& column)
+{
+    Recordset rs = ctx.database.DataPrograms.recordset().Clone();
+    rs.SetBookmark(id);
+    return rs.Value(column);
+}
+
+} // namespace
+
+class TestSchedule : public QObject {
+    Q_OBJECT
+
+private slots:
+    // Monday 1 June 2026 is the reference week's Monday.
+    void aProgramAcrossMidnight_data()
+    {
+        QTest::addColumn<double>("reference");
+        QTest::addColumn<double>("start");
+        QTest::addColumn<double>("end");
+        QTest::newRow("before it") << At(2026, 6, 1, "22:00:00") << At(2026, 6, 1, "23:00:00")
+                                   << At(2026, 6, 2, "01:00:00");
+        QTest::newRow("while it runs") << At(2026, 6, 2, "00:30:00") << At(2026, 6, 1, "23:00:00")
+                                       << At(2026, 6, 2, "01:00:00");
+        QTest::newRow("at its end") << At(2026, 6, 2, "01:00:00") << At(2026, 6, 8, "23:00:00")
+                                    << At(2026, 6, 9, "01:00:00");
+    }
+    void aProgramAcrossMidnight()
+    {
+        QFETCH(double, reference);
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram(Programs::Weekly("Late show", "23:00:00", "01:00:00", "0100000"));
+        const Found f = Search(*tc.ctx, reference);
+        QVERIFY(f.found);
+        QCOMPARE(f.description, QStringLiteral("Late show"));
+        QFETCH(double, start);
+        QCOMPARE(f.start, start);
+        QFETCH(double, end);
+        QCOMPARE(f.end, end);
+    }
+
+    // Stopped at 10:20 on Wednesday: the cancellation holds until after 11:00.
+    void aWeeklyCancellationLapsesStrictly_data()
+    {
+        QTest::addColumn<double>("reference");
+        QTest::addColumn<bool>("readOnly");
+        QTest::addColumn<double>("start");
+        QTest::addColumn<bool>("stillCancelled");
+        QTest::newRow("during the stopped one")
+            << At(2026, 6, 3, "10:20:00") << false << At(2026, 6, 4, "10:00:00") << true;
+        QTest::newRow("at its very end")
+            << At(2026, 6, 3, "11:00:00") << false << At(2026, 6, 4, "10:00:00") << true;
+        QTest::newRow("after its end")
+            << At(2026, 6, 3, "11:00:01") << false << At(2026, 6, 4, "10:00:00") << false;
+        QTest::newRow("after its end, read only")
+            << At(2026, 6, 3, "11:00:01") << true << At(2026, 6, 4, "10:00:00") << true;
+    }
+    void aWeeklyCancellationLapsesStrictly()
+    {
+        QFETCH(double, reference);
+        TestContext tc;
+        tc.OpenDatabase();
+        QVariantHash row = Programs::Weekly("Daily", "10:00:00", "11:00:00", "1111111");
+        row["RecordingCancelled"] = -1;
+        row["RecordingCancelledEndDateAndTime"] = At(2026, 6, 3, "11:00:00");
+        const qint64 id = tc.AddProgram(row);
+        QFETCH(bool, readOnly);
+        const Found f = Search(*tc.ctx, reference, readOnly);
+        QFETCH(double, start);
+        QCOMPARE(f.start, start);
+        QFETCH(bool, stillCancelled);
+        QCOMPARE(Field::ToBool(Column(*tc.ctx, id, "RecordingCancelled")), stillCancelled);
+    }
+
+    void anOccurrenceStartingAtTheCancelledEndIsSkipped()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        QVariantHash row = Programs::Weekly("Wednesdays", "10:00:00", "11:00:00", "0001000");
+        row["RecordingCancelled"] = -1;
+        row["RecordingCancelledEndDateAndTime"] = At(2026, 6, 3, "10:00:00");
+        tc.AddProgram(row);
+        QCOMPARE(Search(*tc.ctx, At(2026, 6, 3, "09:00:00")).start, At(2026, 6, 10, "10:00:00"));
+    }
+
+    void equalStartsGoByTheGridsOrder_data()
+    {
+        QTest::addColumn<QString>("order");
+        QTest::addColumn<QString>("winner");
+        QTest::newRow("ascending") << "ASC"
+                                   << "Alpha";
+        QTest::newRow("descending") << "DESC"
+                                    << "Bravo";
+    }
+    void equalStartsGoByTheGridsOrder()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram(Programs::Weekly("Bravo", "20:00:00", "21:00:00", "0100000"));
+        tc.AddProgram(Programs::Weekly("Alpha", "20:00:00", "20:30:00", "0100000"));
+        AppDatabase& db = tc.ctx->database;
+        QFETCH(QString, order);
+        QFETCH(QString, winner);
+        db.DataPrograms.SetRecordSource("SELECT * FROM [Programs] ORDER BY [DescriptionText] " +
+                                        order);
+        db.DataPrograms.Refresh();
+        QCOMPARE(Search(*tc.ctx, At(2026, 6, 1, "12:00:00")).description, winner);
+    }
+
+    void aRunningOccurrenceBeatsAnEarlierStartingOneLater()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram(Programs::Weekly("Running", "09:00:00", "12:00:00", "0100000"));
+        tc.AddProgram(Programs::Weekly("Soon", "11:00:00", "11:30:00", "0100000"));
+        tc.ctx->database.SortDbgrids();
+        QCOMPARE(Search(*tc.ctx, At(2026, 6, 1, "10:00:00")).description,
+                 QStringLiteral("Running"));
+    }
+
+    void oneTimePrograms_data()
+    {
+        QTest::addColumn<QVariant>("cancelled");
+        QTest::addColumn<double>("reference");
+        QTest::addColumn<bool>("found");
+        const double newYearsEve = At(2026, 12, 31, "00:00:00");
+        QTest::newRow("into the new year") << QVariant(0) << At(2027, 1, 1, "00:30:00") << true;
+        QTest::newRow("over at 01:00") << QVariant(0) << At(2027, 1, 1, "01:00:00") << false;
+        QTest::newRow("cancelled") << QVariant(-1) << newYearsEve << false;
+        QTest::newRow("NULL cancellation") << QVariant() << newYearsEve << false;
+    }
+    void oneTimePrograms()
+    {
+        QFETCH(QVariant, cancelled);
+        TestContext tc;
+        tc.OpenDatabase();
+        QVariantHash row =
+            Programs::OneTime("Party", At(2026, 12, 31, "00:00:00"), "23:00:00", "01:00:00");
+        row["RecordingCancelled"] = cancelled;
+        tc.AddProgram(row);
+        QFETCH(double, reference);
+        const Found f = Search(*tc.ctx, reference);
+        QFETCH(bool, found);
+        QCOMPARE(f.found, found);
+        if (f.found)
+            QCOMPARE(f.end, At(2027, 1, 1, "01:00:00"));
+    }
+
+    void nothingToScheduleLeavesTheOutputsAlone_data()
+    {
+        QTest::addColumn<bool>("disabledRow");
+        QTest::newRow("empty table") << false;
+        QTest::newRow("all disabled") << true;
+    }
+    void nothingToScheduleLeavesTheOutputsAlone()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        qint64 id = 0;
+        QFETCH(bool, disabledRow);
+        if (disabledRow) {
+            QVariantHash row = Programs::Weekly("Off", "10:00:00", "11:00:00", "1111111");
+            row["Enabled"] = 0;
+            row["RecordingCancelled"] = -1;
+            row["RecordingCancelledEndDateAndTime"] = At(2026, 5, 1, "11:00:00");
+            id = tc.AddProgram(row);
+        }
+        const Found f = Search(*tc.ctx, At(2026, 6, 1, "12:00:00"));
+        QVERIFY(!f.found);
+        QCOMPARE(f.id, -7);
+        QCOMPARE(f.link, QStringLiteral("untouched"));
+        // The cancellation test comes before the enabled test.
+        if (id)
+            QVERIFY(!Field::ToBool(Column(*tc.ctx, id, "RecordingCancelled")));
+
+        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
+        tc.ctx->scheduler.next.NextProgramFound = true;
+        tc.ctx->scheduler.next.NextLinkLaunchTime = 0;
+        tc.ctx->scheduler.ScheduleNextRecording();
+        QVERIFY(!tc.ctx->scheduler.next.NextProgramFound);
+        QCOMPARE(tc.ctx->scheduler.next.NextLinkLaunchTime, AutomationDate::Never());
+        QCOMPARE(tc.ctx->scheduler.next.NextAppLaunchTime, AutomationDate::Never());
+    }
+
+    // Rows of an older file: NULL in the added columns reads as the documented value,
+    // a row of NULLs is left out, and a damaged row ends the search with what it found.
+    void rowsWithNulls()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram({{"Description", "all null"}});
+        QVariantHash old = Programs::Weekly("Old", "20:00:00", "21:00:00", "0100000");
+        for (const char* added : {"StreamingPlayerClose", "InternetLinkDelay", "LaunchAppDelay"})
+            old.remove(added);
+        old["HangupInternetConnection"] = QVariant();
+        tc.AddProgram(old);
+        Found f = Search(*tc.ctx, At(2026, 6, 1, "12:00:00"));
+        QVERIFY(f.found);
+        QCOMPARE(f.description, QStringLiteral("Old"));
+        QCOMPARE(f.close, QStringLiteral("DO_NOT_CLOSE"));
+        QCOMPARE(f.link, QString());
+        QCOMPARE(f.linkDelay, qint16(0));
+        QCOMPARE(f.launchDelay, qint16(0));
+        QVERIFY(!f.hangup);
+
+        QVariantHash damaged = Programs::Weekly("Damaged", "10:00:00", "11:00:00", "0100000");
+        damaged["Mon"] = QVariant();
+        tc.AddProgram(damaged);
+        LogCapture capture;
+        f = Search(*tc.ctx, At(2026, 6, 1, "12:00:00"));
+        QVERIFY(f.found);
+        QCOMPARE(f.description, QStringLiteral("Old"));
+        QVERIFY(capture.Contains("Module: DetermineNextProgramToSchedule"));
+    }
+
+    void launchTimesAheadOfTheStart_data()
+    {
+        QTest::addColumn<QString>("link");
+        QTest::addColumn<int>("linkDelay");
+        QTest::addColumn<QString>("close");
+        QTest::addColumn<QString>("launch");
+        QTest::addColumn<int>("launchDelay");
+        QTest::addColumn<int>("linkLead");
+        QTest::addColumn<int>("appLead");
+        QTest::newRow("automatic player: at least 5 s") << "http://radio" << 0 << ""
+                                                        << "" << 0 << 5 << -1;
+        QTest::newRow("do not close: at the start") << "http://radio" << 0 << "DO_NOT_CLOSE"
+                                                    << "player" << 0 << 0 << 0;
+        QTest::newRow("a longer lead stays") << "http://radio" << 60 << ""
+                                             << "player" << 3 << 60 << 3;
+        QTest::newRow("no link") << "" << 30 << ""
+                                 << "player" << 120 << -1 << 120;
+    }
+    void launchTimesAheadOfTheStart()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        QVariantHash row = Programs::Weekly("Stream", "20:00:00", "21:00:00", "0100000");
+        QFETCH(QString, link);
+        row["InternetLink"] = link;
+        QFETCH(int, linkDelay);
+        row["InternetLinkDelay"] = linkDelay;
+        QFETCH(QString, close);
+        row["StreamingPlayerClose"] = close;
+        QFETCH(QString, launch);
+        row["LaunchAppPrior"] = launch;
+        QFETCH(int, launchDelay);
+        row["LaunchAppDelay"] = launchDelay;
+        tc.AddProgram(row);
+        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
+        tc.ctx->scheduler.ScheduleNextRecording();
+        const NextProgram& n = tc.ctx->scheduler.next;
+        QVERIFY(n.NextProgramFound);
+        const double start = At(2026, 6, 1, "20:00:00");
+        QFETCH(int, linkLead);
+        QFETCH(int, appLead);
+        QCOMPARE(n.NextLinkLaunchTime, linkLead < 0 ? AutomationDate::Never()
+                                                    : AutomationDate::AddSeconds(start, -linkLead));
+        QCOMPARE(n.NextAppLaunchTime, appLead < 0 ? AutomationDate::Never()
+                                                  : AutomationDate::AddSeconds(start, -appLead));
+        QCOMPARE(n.NextInternetLinkDelay, qint16(linkDelay));
+    }
+
+    void expiredOneTimeProgramsAreOfferedForRemoval_data()
+    {
+        QTest::addColumn<bool>("removeExpired");
+        QTest::addColumn<MsgResult>("answer");
+        QTest::addColumn<int>("asked");
+        QTest::addColumn<int>("left");
+        QTest::newRow("yes") << true << MsgResult::Yes << 1 << 2;
+        QTest::newRow("no") << true << MsgResult::No << 1 << 3;
+        QTest::newRow("setting off") << false << MsgResult::Yes << 0 << 3;
+    }
+    void expiredOneTimeProgramsAreOfferedForRemoval()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        QFETCH(bool, removeExpired);
+        tc.ctx->options.RemoveExpiredPrograms = removeExpired;
+        QFETCH(MsgResult, answer);
+        tc.messageBox.answers << answer;
+        tc.AddProgram(
+            Programs::OneTime("Missed", At(2026, 5, 31, "00:00:00"), "10:00:00", "11:00:00"));
+        tc.AddProgram(
+            Programs::OneTime("Tonight", At(2026, 5, 31, "00:00:00"), "23:00:00", "13:00:00"));
+        tc.AddProgram(Programs::Weekly("Weekly", "10:00:00", "11:00:00", "1000000"));
+        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
+        tc.ctx->scheduler.OfferRemovalOfExpiredPrograms();
+        QFETCH(int, asked);
+        QCOMPARE(tc.messageBox.asked.size(), asked);
+        if (!tc.messageBox.asked.isEmpty())
+            QCOMPARE(tc.messageBox.asked[0].title, QStringLiteral("Missed recordings"));
+        QFETCH(int, left);
+        QCOMPARE(tc.ctx->database.DataPrograms.recordset().RecordCount(), left);
+    }
+
+    void cancellingARecording_data()
+    {
+        QTest::addColumn<int>("frequency");
+        QTest::addColumn<bool>("removeExpired");
+        QTest::addColumn<bool>("deleted");
+        QTest::newRow("weekly") << 1 << true << false;
+        QTest::newRow("one time, removed") << 0 << true << true;
+        QTest::newRow("one time, kept") << 0 << false << false;
+    }
+    void cancellingARecording()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        QFETCH(bool, removeExpired);
+        tc.ctx->options.RemoveExpiredPrograms = removeExpired;
+        QVariantHash row =
+            Programs::OneTime("Show", At(2026, 6, 1, "00:00:00"), "10:00:00", "11:00:00");
+        QFETCH(int, frequency);
+        row["Frequency"] = frequency;
+        row["Mon"] = -1; // 1 June 2026 is a Monday
+        const qint64 id = tc.AddProgram(row);
+        tc.ctx->recordingStatus.EndTime = At(2026, 6, 1, "11:00:00");
+        tc.ctx->scheduler.CancelRecording(qint32(id));
+        tc.ctx->scheduler.CancelRecording(qint32(id + 100)); // no such row: nothing happens
+        Recordset rs = tc.ctx->database.DataPrograms.recordset().Clone();
+        QFETCH(bool, deleted);
+        QCOMPARE(rs.RecordCount(), deleted ? 0 : 1);
+        if (rs.RecordCount()) {
+            rs.MoveFirst();
+            QVERIFY(Field::ToBool(rs.Value("RecordingCancelled")));
+            QCOMPARE(rs.Value("RecordingCancelledEndDateAndTime").toDouble(),
+                     At(2026, 6, 1, "11:00:00"));
+        }
+        // The occurrence dealt with is not found again; a weekly one's next week is.
+        const Found f = Search(*tc.ctx, At(2026, 6, 1, "10:30:00"));
+        QVERIFY(!f.found || f.start == At(2026, 6, 8, "10:00:00"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSchedule)
+#include "test_schedule.moc"
