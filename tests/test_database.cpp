@@ -255,8 +255,11 @@ private slots:
             QVERIFY(QFile::remove(tc.ctx->database.DatabaseFile()));
         }
 
+        tc.ctx->database.CheckDatabaseMissing();
+        QCOMPARE(tc.ctx->error.DatabaseMissing(), !liveFile);
         tc.ctx->database.RestoreOriginalDatabase();
-        QVERIFY(QFile::exists(tc.ctx->database.DatabaseFile()));
+        tc.ctx->database.CheckDatabaseMissing();
+        QVERIFY(!tc.ctx->error.DatabaseMissing());
         QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
         QCOMPARE(tc.ctx->database.DataPrograms.recordset().RecordCount(), 0);
         QCOMPARE(tc.ctx->database.DataInfo.recordset().RecordCount(), 1);

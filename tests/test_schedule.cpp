@@ -233,6 +233,17 @@ private slots:
         QCOMPARE(f.launchDelay, qint16(0));
         QVERIFY(!f.hangup);
 
+        // What the start does with a one-time row of NULLs: the trap names the routine.
+        tc.AddProgram({{"Frequency", 0}});
+        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
+        {
+            LogCapture capture;
+            tc.ctx->scheduler.ScheduleNextRecording();
+            tc.ctx->scheduler.OfferRemovalOfExpiredPrograms();
+            QVERIFY(tc.ctx->scheduler.next.NextProgramFound);
+            QVERIFY(capture.Contains("Module: OfferRemovalOfExpiredPrograms"));
+        }
+
         QVariantHash damaged = Programs::Weekly("Damaged", "10:00:00", "11:00:00", "0100000");
         damaged["Mon"] = QVariant();
         tc.AddProgram(damaged);

@@ -1,5 +1,6 @@
 #include "store/AppDatabase.h"
 
+#include "common/FileHelpers.h"
 #include "common/MessageBox.h"
 #include "diagnostics/Trap.h"
 #include "shell/AppContext.h"
@@ -122,6 +123,11 @@ void AppDatabase::UnloadElog()
 {
     DataElog.Unbind();
     m_elogBound = false;
+}
+
+void AppDatabase::CheckDatabaseMissing()
+{
+    m_ctx.error.SetDatabaseMissing(!FileExistsOrClear(DatabaseFile()));
 }
 
 void AppDatabase::CloseAll()

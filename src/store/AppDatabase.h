@@ -24,6 +24,8 @@ public:
     void CompactDatabase();
     // Replaces the file by the empty original; failing steps are skipped silently.
     void RestoreOriginalDatabase();
+    // After a compaction or restore: the database counts as missing unless the file is there.
+    void CheckDatabaseMissing();
     // Closes the recordsets and then the file, at the end of the run.
     void CloseAll();
 
