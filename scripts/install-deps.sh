@@ -5,6 +5,8 @@ packages=(
     cmake ninja-build g++ clang-format
     qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl1-mesa-dev
     libsqlite3-dev sqlite3
+    libpulse-dev pulseaudio pulseaudio-utils libmp3lame-dev lame sox
+    clang libclang-rt-14-dev xvfb xauth
 )
 missing=()
 for p in "${packages[@]}"; do
