@@ -6,10 +6,10 @@ const QList<GridColumn>& Programs()
 {
     static const QList<GridColumn> columns{
         {QStringLiteral("Description"), QStringLiteral("DescriptionText")},
-        {QStringLiteral("Start Time"), QStringLiteral("StartTime")},
-        {QStringLiteral("End Time"), QStringLiteral("EndTime")},
+        {QStringLiteral("Start Time"), QStringLiteral("StartTime"), GridColumn::Display::LongTime},
+        {QStringLiteral("End Time"), QStringLiteral("EndTime"), GridColumn::Display::LongTime},
         {QStringLiteral("Frequency"), QStringLiteral("FrequencyText")},
-        {QStringLiteral("Enabled"), QStringLiteral("Enabled")},
+        {QStringLiteral("Enabled"), QStringLiteral("Enabled"), GridColumn::Display::Boolean},
     };
     return columns;
 }
@@ -18,10 +18,11 @@ const QList<GridColumn>& Recordings()
 {
     static const QList<GridColumn> columns{
         {QStringLiteral("Description"), QStringLiteral("Title")},
-        {QStringLiteral("Date/Time"), QStringLiteral("StartTime")},
-        {QStringLiteral("EndTime"), QStringLiteral("EndTime")},
+        {QStringLiteral("Date/Time"), QStringLiteral("StartTime"),
+         GridColumn::Display::GeneralDate},
+        {QStringLiteral("EndTime"), QStringLiteral("EndTime"), GridColumn::Display::GeneralDate},
         {QStringLiteral("CompressionMethod"), QStringLiteral("CompressionMethod")},
-        {QStringLiteral("Size (Mbytes)"), QStringLiteral("Size")},
+        {QStringLiteral("Size (Mbytes)"), QStringLiteral("Size"), GridColumn::Display::Number},
         {QStringLiteral("File"), QStringLiteral("File")},
     };
     return columns;
@@ -31,7 +32,8 @@ const QList<GridColumn>& EventLog()
 {
     static const QList<GridColumn> columns{
         {QString(), QStringLiteral("Type")},
-        {QStringLiteral("Date/Time"), QStringLiteral("DateAndTime")},
+        {QStringLiteral("Date/Time"), QStringLiteral("DateAndTime"),
+         GridColumn::Display::GeneralDate},
         {QStringLiteral("Message"), QStringLiteral("Message")},
         {QStringLiteral("Details"), QStringLiteral("Details")},
     };

@@ -111,10 +111,15 @@ Recordset Recordset::Clone() const
 void Recordset::Requery()
 {
     RequireOpen();
-    m_data = Load(m_data->connectionName, m_data->source);
+    // The rows are read anew in place, so clones and views stay with this recordset.
+    std::shared_ptr<Data> fresh = Load(m_data->connectionName, m_data->source);
+    m_data->fields = std::move(fresh->fields);
+    m_data->indexOfLowerName = std::move(fresh->indexOfLowerName);
+    m_data->rows = std::move(fresh->rows);
+    m_data->deletedCount = 0;
     m_editMode = EditMode::None;
     m_pos = m_data->rows.empty() ? -1 : 0;
-    SkipDeletedForward();
+    NotifyChanged();
 }
 
 const QString& Recordset::Table() const
@@ -329,6 +334,9 @@ void Recordset::CancelUpdate()
 void Recordset::Update()
 {
     RequireOpen();
+    if (m_editMode == EditMode::None)
+        throw RuntimeError(ErrorNumber::UpdateWithoutEdit,
+                           QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
     QStringList columns;
     QVariantList values;
     for (int i = 0; i < int(m_changed.size()); ++i) {
@@ -353,7 +361,7 @@ void Recordset::Update()
         row.values = ReadRow(row.rowid);
         m_data->rows.push_back(std::move(row));
         m_lastModified = m_data->rows.back().rowid;
-    } else if (m_editMode == EditMode::Edit) {
+    } else {
         Row& row = m_data->rows[m_pos];
         if (!columns.isEmpty()) {
             QSqlQuery query =
@@ -367,11 +375,9 @@ void Recordset::Update()
             row.values = m_buffer;
         }
         m_lastModified = row.rowid;
-    } else {
-        throw RuntimeError(ErrorNumber::UpdateWithoutEdit,
-                           QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
     }
     m_editMode = EditMode::None;
+    NotifyChanged();
 }
 
 std::vector<QVariant> Recordset::ReadRow(qint64 rowid) const
@@ -400,6 +406,51 @@ void Recordset::Delete()
     ExecQuery(query);
     m_data->rows[m_pos].deleted = true;
     ++m_data->deletedCount;
+    NotifyChanged();
+}
+
+int Recordset::SlotCount() const
+{
+    return m_data ? int(m_data->rows.size()) : 0;
+}
+
+bool Recordset::IsDeletedAt(int slot) const
+{
+    return m_data->rows.at(slot).deleted;
+}
+
+QVariant Recordset::ValueAt(int slot, int field) const
+{
+    return m_data->rows.at(slot).values.at(field);
+}
+
+qint64 Recordset::BookmarkAt(int slot) const
+{
+    return m_data->rows.at(slot).rowid;
+}
+
+int Recordset::Subscribe(std::function<void()> callback) const
+{
+    RequireOpen();
+    const int id = m_data->nextSubscription++;
+    m_data->observers.emplace_back(id, std::move(callback));
+    return id;
+}
+
+void Recordset::Unsubscribe(int subscription) const
+{
+    if (!m_data)
+        return;
+    std::erase_if(m_data->observers,
+                  [subscription](const auto& entry) { return entry.first == subscription; });
+}
+
+void Recordset::NotifyChanged() const
+{
+    // A copy: a callback may subscribe or unsubscribe.
+    const auto observers = m_data->observers;
+    for (const auto& entry : observers)
+        entry.second();
 }
 
 namespace Field {

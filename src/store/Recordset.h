@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -60,6 +61,15 @@ public:
 
     const QString& Table() const;
 
+    // For views: every row slot in order, deleted ones included, read without moving.
+    int SlotCount() const;
+    bool IsDeletedAt(int slot) const;
+    QVariant ValueAt(int slot, int field) const;
+    qint64 BookmarkAt(int slot) const;
+    // Calls back after every change of a row, through this recordset or any clone of it.
+    int Subscribe(std::function<void()> callback) const;
+    void Unsubscribe(int subscription) const;
+
 private:
     struct Row {
         qint64 rowid = 0;
@@ -74,6 +84,8 @@ private:
         QHash<QString, int> indexOfLowerName;
         std::vector<Row> rows;
         int deletedCount = 0;
+        std::vector<std::pair<int, std::function<void()>>> observers;
+        int nextSubscription = 1;
     };
     enum class EditMode { None, Edit, AddNew };
 
@@ -84,6 +96,7 @@ private:
     void RequireOpen() const;
     void SkipDeletedForward();
     void SkipDeletedBackward();
+    void NotifyChanged() const;
 
     std::shared_ptr<Data> m_data;
     int m_pos = -1;
