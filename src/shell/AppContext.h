@@ -10,6 +10,7 @@
 #include "store/Options.h"
 #include "store/RegKeys.h"
 
+class AudioDevices;
 class Clock;
 class MessageBoxPresenter;
 class ProcessLauncher;
@@ -19,6 +20,7 @@ struct Seams {
     Clock& clock;
     MessageBoxPresenter& messageBox;
     ProcessLauncher& launcher;
+    AudioDevices& audioDevices;
 };
 
 // What the system holds for the whole run, owned in one place and handed to whoever needs
@@ -34,6 +36,7 @@ public:
     Clock& clock;
     MessageBoxPresenter& messageBox;
     ProcessLauncher& launcher;
+    AudioDevices& audioDevices;
     const AppFolders folders;
 
     clsError error;
@@ -46,4 +49,6 @@ public:
     Scheduler scheduler;
     // False until the end of the first activation: the timers idle until then.
     bool appReady = false;
+    // Asks the running MP3 conversion to stop at its next step.
+    bool StopMp3Conversion = false;
 };

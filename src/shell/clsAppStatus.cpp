@@ -1,5 +1,7 @@
 #include "shell/clsAppStatus.h"
 
+#include "common/MessageBox.h"
+
 clsAppStatus::clsAppStatus(QObject* parent)
     : QObject(parent)
 {
@@ -11,4 +13,28 @@ void clsAppStatus::Set(bool& flag, bool value)
         return;
     flag = value;
     emit Update();
+}
+
+void clsAppStatus::HandleSuspendMenuClickEvent(MessageBoxPresenter& messageBox)
+{
+    if (m_suspended) {
+        Set(m_suspended, false);
+        return;
+    }
+    const QString invalid = QStringLiteral("Invalid request");
+    if (m_recording) {
+        messageBox.Show(invalid,
+                        QStringLiteral("Please stop the recording in process prior to suspending."),
+                        MsgIcon::Exclamation, MsgButtons::Ok);
+    } else if (m_converting) {
+        messageBox.Show(
+            invalid,
+            QStringLiteral("Please stop the MP3 conversion in process prior to suspending."),
+            MsgIcon::Exclamation, MsgButtons::Ok);
+    } else if (messageBox.Show(QStringLiteral("Suspend Nightreel 2000"),
+                               QStringLiteral("This will suspend Nightreel 2000. No recording will "
+                                              "take place while suspended. Proceed?"),
+                               MsgIcon::None, MsgButtons::YesNo) == MsgResult::Yes) {
+        Set(m_suspended, true);
+    }
 }

@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+class MessageBoxPresenter;
+
 // The mode flags of the program. A setter repaints only when the value changes.
 class clsAppStatus : public QObject {
     Q_OBJECT
@@ -19,6 +21,10 @@ public:
     bool Suspended() const { return m_suspended; }
     bool Maintenance() const { return m_maintenance; }
     void SetMaintenance(bool value) { Set(m_maintenance, value); }
+
+    // The Suspend command: ends a suspension, or starts one once the user agrees; refused
+    // while recording or converting.
+    void HandleSuspendMenuClickEvent(MessageBoxPresenter& messageBox);
 
 signals:
     // A flag changed: the mode display is brought up to date.

@@ -4,10 +4,18 @@
 #include "ScriptedMessageBox.h"
 #include "TestClock.h"
 #include "common/RuntimeError.h"
+#include "platform/AudioDevices.h"
 #include "shell/AppContext.h"
 
 #include <QTemporaryDir>
 #include <memory>
+
+// A sound system with as many capture sources as the test says.
+class FakeAudioDevices : public AudioDevices {
+public:
+    int CountCaptureSources() override { return sources; }
+    int sources = 1;
+};
 
 // A fresh application context over a temporary folder: its own data and runtime folders,
 // its own settings file, the empty database in place, and the test seams.
@@ -29,5 +37,6 @@ public:
     TestClock clock;
     ScriptedMessageBox messageBox;
     RecordingLauncher launcher;
+    FakeAudioDevices audioDevices;
     std::unique_ptr<AppContext> ctx;
 };

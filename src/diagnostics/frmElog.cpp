@@ -1,0 +1,405 @@
+#include "diagnostics/frmElog.h"
+
+#include "common/MessageBox.h"
+#include "common/Twips.h"
+#include "diagnostics/frmElogDetails.h"
+#include "shell/AppContext.h"
+#include "shell/FormPlacement.h"
+#include "store/GridColumns.h"
+#include "store/RecordsetModel.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QTimer>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kTypeColumn = 0;
+constexpr int kDateColumn = 1;
+constexpr int kMessageColumn = 2;
+constexpr int kDetailsColumn = 3;
+// Tool bar and cool bar height, 22 pixels as on the main form.
+constexpr int kBarHeight = 22;
+
+// Column 0 shows a picture for the entry's type instead of its number.
+class TypePictureDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text.clear();
+        const QVariant type = index.data(Qt::EditRole);
+        if (type.isNull())
+            return;
+        QStyle::StandardPixmap picture;
+        switch (type.toInt()) {
+        case 0:
+            picture = QStyle::SP_MessageBoxInformation;
+            break;
+        case 1:
+            picture = QStyle::SP_MessageBoxWarning;
+            break;
+        case 2:
+            picture = QStyle::SP_MessageBoxCritical;
+            break;
+        default:
+            return;
+        }
+        const QStyle* style = option->widget ? option->widget->style() : QApplication::style();
+        option->icon = style->standardIcon(picture);
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->decorationSize = QSize(16, 16);
+        option->decorationAlignment = Qt::AlignCenter;
+        option->decorationPosition = QStyleOptionViewItem::Top;
+    }
+};
+
+} // namespace
+
+frmElog::frmElog(AppContext& ctx, QWidget* owner)
+    : QDialog(owner)
+    , m_ctx(ctx)
+{
+    setObjectName(QStringLiteral("frmElog"));
+    setWindowTitle(QStringLiteral("Error Log"));
+    setSizeGripEnabled(true);
+
+    m_coolBar = new QWidget(this);
+    m_coolBar->setObjectName(QStringLiteral("CoolBarLog"));
+    m_toolbar = new QToolBar(m_coolBar);
+    m_toolbar->setObjectName(QStringLiteral("ToolbarElog"));
+    m_toolbar->setIconSize(QSize(16, 16));
+    m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_details = m_toolbar->addAction(style()->standardIcon(QStyle::SP_FileDialogInfoView),
+                                     QStringLiteral("Details"));
+    m_details->setObjectName(QStringLiteral("Details"));
+    m_details->setToolTip(QStringLiteral("Show the details of the selected entry"));
+    m_remove =
+        m_toolbar->addAction(style()->standardIcon(QStyle::SP_TrashIcon), QStringLiteral("Remove"));
+    m_remove->setObjectName(QStringLiteral("Remove"));
+    m_remove->setToolTip(QStringLiteral("Remove all entries"));
+    auto* coolBarLayout = new QVBoxLayout(m_coolBar);
+    coolBarLayout->setContentsMargins(0, 0, 0, 0);
+    coolBarLayout->addWidget(m_toolbar);
+
+    m_grid = new QTableView(this);
+    m_grid->setObjectName(QStringLiteral("DBGridLog"));
+    m_model = new RecordsetModel(m_ctx.database.DataElog, GridColumns::EventLog(), this);
+    m_grid->setModel(m_model);
+    m_grid->setItemDelegateForColumn(kTypeColumn, new TypePictureDelegate(m_grid));
+    m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_grid->setWordWrap(false);
+    m_grid->setSortingEnabled(false);
+    m_grid->horizontalHeader()->setSectionsClickable(false);
+    m_grid->horizontalHeader()->setHighlightSections(false);
+    m_grid->verticalHeader()->setDefaultSectionSize(20);
+    m_grid->verticalHeader()->setFixedWidth(14);
+    m_grid->viewport()->installEventFilter(this);
+    m_grid->installEventFilter(this);
+    // The corner toggles the selection of all rows instead of selecting all.
+    if (auto* corner = m_grid->findChild<QAbstractButton*>()) {
+        disconnect(corner, nullptr, m_grid, nullptr);
+        connect(corner, &QAbstractButton::clicked, this, &frmElog::ToggleSelectAll);
+    }
+
+    m_mnuLog = new QMenu(this);
+    m_mnuLog->setObjectName(QStringLiteral("mnuLog"));
+    m_mnuDetails = m_mnuLog->addAction(QStringLiteral("&Details"));
+    m_mnuDetails->setObjectName(QStringLiteral("mnuDetails"));
+    m_mnuRemove = m_mnuLog->addAction(QStringLiteral("&Remove All"));
+    m_mnuRemove->setObjectName(QStringLiteral("mnuRemove"));
+    m_mnuLog->addSeparator();
+    m_mnuExit = m_mnuLog->addAction(QStringLiteral("E&xit"));
+    m_mnuExit->setObjectName(QStringLiteral("mnuExit"));
+
+    m_tmrRefresh = new QTimer(this);
+    m_tmrRefresh->setObjectName(QStringLiteral("tmrRefresh"));
+    m_tmrRefresh->setSingleShot(true);
+
+    connect(m_details, &QAction::triggered, this, &frmElog::ShowElogDetails);
+    connect(m_mnuDetails, &QAction::triggered, this, &frmElog::ShowElogDetails);
+    connect(m_remove, &QAction::triggered, this, &frmElog::RemoveElogItems);
+    connect(m_mnuRemove, &QAction::triggered, this, &frmElog::RemoveElogItems);
+    connect(m_mnuExit, &QAction::triggered, this, &QDialog::reject);
+    connect(m_tmrRefresh, &QTimer::timeout, this, &frmElog::tmrRefresh_Timer);
+    connect(m_model, &RecordsetModel::RowsChanged, this, &frmElog::OnRowsChanged);
+    connect(m_grid->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int section) {
+        if (section == kTypeColumn || section == kDateColumn)
+            FitMessageColumn();
+    });
+
+    // Load: the geometry first, then the children may follow the size. The settings keep
+    // the layout in twips, as the program has always stored it.
+    RestoreGeometry(owner);
+    m_resizeActive = true;
+    m_coolBar->setFixedHeight(kBarHeight);
+    m_toolbar->setFixedHeight(kBarHeight);
+    m_grid->setColumnWidth(kTypeColumn, Twips::ToPixels(ReadSetting("ElogFormCol0Width", 500)));
+    m_grid->setColumnWidth(kDateColumn, Twips::ToPixels(ReadSetting("ElogFormCol1Width", 1800)));
+    // Details lie beyond the message, reached by scrolling; the details form shows them whole.
+    m_grid->setColumnWidth(kDetailsColumn, Twips::ToPixels(3000));
+    m_details->setEnabled(false);
+    m_remove->setEnabled(false);
+    m_mnuDetails->setEnabled(false);
+    m_mnuRemove->setEnabled(false);
+    m_ctx.error.ElogViewed();
+    try {
+        m_ctx.database.ElogRecordset();
+        m_ctx.database.DataElog.SetRecordSource(GridColumns::SortStatement(
+            QStringLiteral("EventLog"),
+            GridColumns::DataFieldOf(GridColumns::EventLog(), QStringLiteral("Date/Time")), false));
+        RefreshDataElog();
+    } catch (const std::exception&) {
+        // Without a usable database the log is shown empty; there is nowhere to report it.
+    }
+    UpdateElogButtons();
+    FormResize();
+    m_grid->setFocus();
+}
+
+frmElog::~frmElog()
+{
+    m_ctx.error.SetElogVisible(false);
+}
+
+int frmElog::ReadSetting(const char* name, int defaultValue) const
+{
+    bool ok = false;
+    const int value =
+        m_ctx.registry.GetSetting(QStringLiteral("Settings"), QLatin1String(name), QString())
+            .trimmed()
+            .toInt(&ok);
+    return ok ? value : defaultValue;
+}
+
+void frmElog::RestoreGeometry(QWidget* owner)
+{
+    const QPoint corner = FormPlacement::OffsetFromMainForm(owner, 100);
+    const int top = ReadSetting("ElogFormTop", Twips::FromPixels(corner.y()));
+    const int left = ReadSetting("ElogFormLeft", Twips::FromPixels(corner.x()));
+    const int width = ReadSetting("ElogFormWidth", 7500);
+    const int height = ReadSetting("ElogFormHeight", 5000);
+    move(Twips::ToPixels(left), Twips::ToPixels(top));
+    resize(Twips::ToPixels(width), Twips::ToPixels(height));
+}
+
+void frmElog::SaveSettings()
+{
+    if (windowState() & (Qt::WindowMinimized | Qt::WindowMaximized))
+        return;
+    // The window's outer corner and its inner size: what is stored comes back unchanged.
+    auto save = [this](const char* name, int pixels) {
+        m_ctx.registry.SaveSetting(QStringLiteral("Settings"), QLatin1String(name),
+                                   QString::number(Twips::FromPixels(pixels)));
+    };
+    save("ElogFormTop", y());
+    save("ElogFormLeft", x());
+    save("ElogFormWidth", width());
+    save("ElogFormHeight", height());
+    save("ElogFormCol0Width", m_grid->columnWidth(kTypeColumn));
+    save("ElogFormCol1Width", m_grid->columnWidth(kDateColumn));
+}
+
+void frmElog::done(int result)
+{
+    SaveSettings();
+    m_ctx.error.SetElogVisible(false);
+    QDialog::done(result);
+}
+
+void frmElog::showEvent(QShowEvent* event)
+{
+    m_ctx.error.SetElogVisible(true);
+    QDialog::showEvent(event);
+}
+
+void frmElog::hideEvent(QHideEvent* event)
+{
+    // A minimised log still counts as on screen; only a real hide ends that.
+    if (!event->spontaneous())
+        m_ctx.error.SetElogVisible(false);
+    QDialog::hideEvent(event);
+}
+
+void frmElog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        FormActivate();
+}
+
+void frmElog::FormActivate()
+{
+    if (m_firstActivation) {
+        m_firstActivation = false;
+        UpdateElogButtons();
+        FormResize();
+    }
+    // Coming back from the details keeps the grid as it was, so the selected row stays.
+    if (!m_returnFromDetails) {
+        RefreshDataElog();
+        m_ctx.error.ElogViewed();
+    }
+    m_returnFromDetails = false;
+}
+
+void frmElog::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    FormResize();
+}
+
+void frmElog::FormResize()
+{
+    if (!m_resizeActive)
+        return;
+    const int margin = Twips::ToPixels(300) / 2;
+    const int gridWidth = qMax(0, width() - Twips::ToPixels(300));
+    const int gridHeight = qMax(0, height() - Twips::ToPixels(528));
+    m_coolBar->setGeometry(margin, 2, gridWidth, kBarHeight);
+    m_grid->setGeometry(margin, kBarHeight + 5, gridWidth, gridHeight);
+    FitMessageColumn();
+}
+
+void frmElog::FitMessageColumn()
+{
+    // The message stays readable: it gets the width that the picture and the date leave.
+    const int rest = m_grid->viewport()->width() - m_grid->columnWidth(kTypeColumn) -
+                     m_grid->columnWidth(kDateColumn);
+    m_grid->setColumnWidth(kMessageColumn, qMax(rest, 60));
+}
+
+void frmElog::RefreshDataElog()
+{
+    m_refreshing = true;
+    try {
+        m_ctx.database.DataElog.Refresh();
+    } catch (const std::exception&) {
+        // The log can't report a failure to read itself; the grid keeps what it shows.
+    }
+    m_refreshing = false;
+}
+
+void frmElog::UpdateElogButtons()
+{
+    m_grid->viewport()->update();
+    const bool any = m_model->rowCount() > 0;
+    m_details->setEnabled(any);
+    m_remove->setEnabled(any);
+    m_mnuDetails->setEnabled(any);
+    m_mnuRemove->setEnabled(any);
+}
+
+void frmElog::OnRowsChanged()
+{
+    UpdateElogButtons();
+    // Our own refresh must not arm the timer again, or the grid would refresh forever.
+    if (!m_refreshing)
+        m_tmrRefresh->start(10);
+}
+
+void frmElog::tmrRefresh_Timer()
+{
+    m_tmrRefresh->stop();
+    if (isVisible())
+        RefreshDataElog();
+}
+
+void frmElog::ToggleSelectAll()
+{
+    const int rows = m_model->rowCount();
+    if (m_grid->selectionModel()->selectedRows().size() < rows)
+        m_grid->selectAll();
+    else
+        m_grid->clearSelection();
+}
+
+bool frmElog::GridMousePress(QMouseEvent* event)
+{
+    m_mouseY = event->position().toPoint().y();
+    if (event->button() != Qt::RightButton)
+        return false;
+    const QModelIndex index = m_grid->indexAt(event->position().toPoint());
+    if (!index.isValid())
+        return false;
+    m_grid->setCurrentIndex(index);
+    m_mnuLog->popup(m_grid->viewport()->mapToGlobal(event->position().toPoint()));
+    return true;
+}
+
+bool frmElog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_grid->viewport()) {
+        if (event->type() == QEvent::MouseButtonPress)
+            return GridMousePress(static_cast<QMouseEvent*>(event));
+        if (event->type() == QEvent::MouseButtonDblClick) {
+            if (m_grid->rowAt(m_mouseY) >= 0)
+                ShowElogDetails();
+            return true;
+        }
+    } else if (watched == m_grid && event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        const auto modifiers = key->modifiers() & ~Qt::KeypadModifier;
+        if (modifiers == Qt::NoModifier) {
+            if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+                ShowElogDetails();
+                return true;
+            }
+            if (key->key() == Qt::Key_Delete) {
+                RemoveElogItems();
+                return true;
+            }
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmElog::ShowElogDetails()
+{
+    if (m_model->rowCount() == 0)
+        return;
+    // A fresh grid stands on its first row, as the recordset does after a refresh.
+    const int row = m_grid->currentIndex().isValid() ? m_grid->currentIndex().row() : 0;
+    auto value = [&](int column) {
+        return m_model->index(row, column).data(Qt::EditRole);
+    };
+    frmElogDetails details(this);
+    details.Fill(value(kTypeColumn), value(kDateColumn), value(kMessageColumn).toString(),
+                 value(kDetailsColumn).toString());
+    m_returnFromDetails = true;
+    details.exec();
+}
+
+void frmElog::RemoveElogItems()
+{
+    const MsgResult answer =
+        m_ctx.messageBox.Show(QStringLiteral("Remove All Error Log Entries"),
+                              QStringLiteral("This will clear the error log. Proceed?"),
+                              MsgIcon::None, MsgButtons::YesNo);
+    if (answer == MsgResult::Yes) {
+        try {
+            RefreshDataElog();
+            m_ctx.database.db.Execute(QStringLiteral("DELETE FROM [EventLog]"));
+            RefreshDataElog();
+        } catch (const std::exception&) {
+            // A log that can't be cleared stays as it is; there is nowhere to report it.
+        }
+    }
+    // Also on No: the full condition stays hidden until the next entry recounts the rows.
+    m_ctx.error.SetElogFull(false);
+    UpdateElogButtons();
+}

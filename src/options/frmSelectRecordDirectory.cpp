@@ -1,0 +1,158 @@
+#include "options/frmSelectRecordDirectory.h"
+
+#include "common/MessageBox.h"
+#include "diagnostics/Trap.h"
+#include "options/FolderBrowser.h"
+#include "options/FolderPaths.h"
+#include "shell/AppContext.h"
+#include "shell/FormPlacement.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace {
+
+// The hourglass for the length of a scope.
+class WaitCursor {
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+QLabel* Caption(const QString& text, QWidget* buddy)
+{
+    auto* label = new QLabel(text);
+    label->setBuddy(buddy);
+    return label;
+}
+
+} // namespace
+
+frmSelectRecordDirectory::frmSelectRecordDirectory(AppContext& ctx, QWidget* owner,
+                                                   const QString& proposed)
+    : QDialog(owner)
+    , m_ctx(ctx)
+    , m_browser(new FolderBrowser(this))
+    , m_txtPath(new QLineEdit)
+{
+    setObjectName(QStringLiteral("frmSelectRecordDirectory"));
+    setWindowTitle(QStringLiteral("Select Recording Folder"));
+    m_txtPath->setObjectName(QStringLiteral("txtPath"));
+
+    auto* lblPrompt = new QLabel(QStringLiteral("Enter or select recording directory."));
+    lblPrompt->setObjectName(QStringLiteral("lblPrompt"));
+    auto* btnOK = new QPushButton(QStringLiteral("&OK"));
+    btnOK->setObjectName(QStringLiteral("btnOK"));
+    btnOK->setDefault(true);
+    auto* btnCancel = new QPushButton(QStringLiteral("&Cancel"));
+    btnCancel->setObjectName(QStringLiteral("btnCancel"));
+
+    auto* fields = new QGridLayout;
+    fields->addWidget(lblPrompt, 0, 0, 1, 2);
+    fields->addWidget(Caption(QStringLiteral("Path"), m_txtPath), 1, 0);
+    fields->addWidget(m_txtPath, 1, 1);
+    fields->addWidget(Caption(QStringLiteral("Drives"), m_browser->drvDrives()), 2, 0);
+    fields->addWidget(m_browser->drvDrives(), 2, 1);
+    fields->addWidget(Caption(QStringLiteral("Directories"), m_browser->dirDirs()), 3, 0,
+                      Qt::AlignTop);
+    fields->addWidget(m_browser->dirDirs(), 3, 1);
+    fields->setRowStretch(3, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(btnOK);
+    buttons->addWidget(btnCancel);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(fields, 1);
+    layout->addLayout(buttons);
+    resize(420, 360);
+
+    connect(btnOK, &QPushButton::clicked, this, &frmSelectRecordDirectory::btnOK_Click);
+    connect(btnCancel, &QPushButton::clicked, this, &frmSelectRecordDirectory::btnCancel_Click);
+    connect(m_browser, &FolderBrowser::PathChanged, this,
+            &frmSelectRecordDirectory::dirDirs_Change);
+
+    // Load
+    FormPlacement::PlaceAtMainForm(this, owner, 300);
+    m_selectedRecordingFolder.clear();
+    {
+        WaitCursor wait;
+        // A proposed folder that does not exist leaves the list on the root.
+        m_browser->SetPath(QDir::rootPath());
+        m_browser->SetPath(proposed);
+    }
+    m_txtPath->setText(proposed);
+    m_txtPath->selectAll();
+    m_txtPath->setFocus();
+}
+
+QString frmSelectRecordDirectory::Choose(AppContext& ctx, QWidget* owner, const QString& proposed)
+{
+    frmSelectRecordDirectory form(ctx, owner, proposed);
+    form.exec();
+    return form.SelectedRecordingFolder();
+}
+
+void frmSelectRecordDirectory::dirDirs_Change(const QString& folder)
+{
+    if (m_inDirChange)
+        return;
+    m_inDirChange = true;
+    m_txtPath->setText(folder);
+    m_inDirChange = false;
+}
+
+void frmSelectRecordDirectory::btnOK_Click()
+{
+    WaitCursor wait;
+    Trap(m_ctx.log, "Select Recording Folder btnOk_Click", [this] { OkClicked(); });
+}
+
+void frmSelectRecordDirectory::OkClicked()
+{
+    m_selectedRecordingFolder.clear();
+    QString path;
+    if (!FolderPaths::FullPathName(m_txtPath->text(), path)) {
+        m_ctx.messageBox.Show(QStringLiteral("Invalid Recording Directory"),
+                              QStringLiteral("A valid Recording folder is required.") +
+                                  QStringLiteral(" Reselect directory or cancel."),
+                              MsgIcon::Exclamation, MsgButtons::Ok);
+        return;
+    }
+    if (FolderPaths::FolderListingFinds(path)) {
+        m_selectedRecordingFolder = path;
+        accept();
+        return;
+    }
+    const MsgResult answer = m_ctx.messageBox.Show(
+        QStringLiteral("Create Folder"),
+        QStringLiteral("Folder ") + path + QStringLiteral(" does not exist.  Create it?"),
+        MsgIcon::None, MsgButtons::YesNo);
+    if (answer != MsgResult::Yes)
+        return;
+    path = FolderPaths::WithClosingSeparator(path.trimmed());
+    if (FolderPaths::CreateFolderPath(path)) {
+        m_selectedRecordingFolder = path;
+        accept();
+        return;
+    }
+    m_ctx.messageBox.Show(QStringLiteral("Can not create folder"),
+                          QStringLiteral("Media may be full or read-only.") +
+                              QStringLiteral(" Reselect drive and directory."),
+                          MsgIcon::Exclamation, MsgButtons::Ok);
+}
+
+void frmSelectRecordDirectory::btnCancel_Click()
+{
+    m_selectedRecordingFolder.clear();
+    reject();
+}

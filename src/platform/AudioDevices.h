@@ -1,0 +1,16 @@
+#pragma once
+
+// The sound system's capture devices, as far as the scheduler needs to know them.
+class AudioDevices {
+public:
+    virtual ~AudioDevices() = default;
+    // How many sources can be recorded from (monitors of outputs count too); 0 without a
+    // sound server.
+    virtual int CountCaptureSources() = 0;
+};
+
+// The PulseAudio server of the session (PipeWire's pulse server serves as well).
+class PulseAudioDevices : public AudioDevices {
+public:
+    int CountCaptureSources() override;
+};

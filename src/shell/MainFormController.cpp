@@ -1,0 +1,165 @@
+#include "shell/MainFormController.h"
+
+#include "common/FileHelpers.h"
+#include "common/MessageBox.h"
+#include "common/TextHelpers.h"
+#include "diagnostics/Trap.h"
+#include "platform/AudioDevices.h"
+#include "scheduling/ModuleUtility.h"
+#include "shell/AppContext.h"
+
+#include <QDir>
+#include <QFile>
+
+MainFormController::MainFormController(AppContext& ctx, QObject* parent)
+    : QObject(parent)
+    , heartbeat(ctx)
+    , m_ctx(ctx)
+{
+}
+
+QString MainFormController::ParameterFile() const
+{
+    return m_ctx.folders.runtimeFolder + QStringLiteral("/RECPARMS.TMP");
+}
+
+void MainFormController::Form_Load()
+{
+    Trap(m_ctx.log, "Main Form Load", [&] {
+        m_ctx.appReady = false;
+        InitializeVariables();
+        m_ctx.options.GetOptions(m_ctx.registry);
+        // A crashed run may have left its parameter file.
+        QFile::remove(ParameterFile());
+    });
+}
+
+void MainFormController::InitializeVariables()
+{
+    m_ctx.scheduler.next = NextProgram();
+    if (m_ctx.audioDevices.CountCaptureSources() < 1)
+        m_ctx.error.SetNoAudioRecordDevice(true);
+    m_ctx.StopMp3Conversion = false;
+}
+
+void MainFormController::InitializeForFirstActivation(const FolderChooser& chooser)
+{
+    Trap(m_ctx.log, "Main Form Load", [&] {
+        m_ctx.database.InitializeControls();
+        CheckDefaultRecordingDirectory(chooser);
+        m_ctx.scheduler.ScheduleNextRecording();
+        heartbeat.Start();
+    });
+}
+
+void MainFormController::FinishFirstActivation()
+{
+    Trap(m_ctx.log, "Main Form Load", [&] {
+        m_ctx.scheduler.OfferRemovalOfExpiredPrograms();
+        m_ctx.appReady = true;
+    });
+}
+
+void MainFormController::CheckDefaultRecordingDirectory(const FolderChooser& chooser)
+{
+    QString folder = Text::Trim(m_ctx.registry.GetSetting(
+        QStringLiteral("Settings"), QStringLiteral("DefaultRecordingDirectory"), QString()));
+    if (folder.isEmpty() || !QDir(folder).exists()) {
+        const MsgResult answer = m_ctx.messageBox.Show(
+            QStringLiteral("Recording Folder Needed"),
+            QStringLiteral("Nightreel 2000 requires a valid recording folder for recording to "
+                           "occur.  Select Recording folder?"),
+            MsgIcon::None, MsgButtons::YesNo);
+        folder.clear();
+        if (answer == MsgResult::Yes) {
+            folder = chooser(QDir::homePath() + QStringLiteral("/recordings"));
+            if (!folder.isEmpty())
+                m_ctx.registry.SaveSetting(QStringLiteral("Settings"),
+                                           QStringLiteral("DefaultRecordingDirectory"), folder);
+        }
+    }
+    const bool invalid = folder.isEmpty() || !QDir(folder).exists();
+    m_ctx.error.SetInvalidRecordingDirectory(invalid);
+    if (invalid)
+        folder.clear();
+    m_ctx.options.DefaultRecordingDirectory = folder;
+    if (!invalid)
+        RemoveTemporaryRecordings(folder);
+}
+
+void MainFormController::RemoveTemporaryRecordings(const QString& folder)
+{
+    // What an earlier run left behind when it ended during a recording or conversion.
+    if (folder.size() <= 1)
+        return;
+    QDir dir(folder);
+    const QStringList leftovers = dir.entryList(
+        {QStringLiteral("*.WAV.TMP"), QStringLiteral("*.MP3.TMP")}, QDir::Files | QDir::Hidden);
+    for (const QString& name : leftovers)
+        QFile::remove(dir.filePath(name));
+}
+
+bool MainFormController::QueryUnload(bool closedBySystem)
+{
+    if (m_ctx.appStatus.Recording()) {
+        m_ctx.messageBox.Show(QStringLiteral("Recording in progress"),
+                              QStringLiteral("Can not exit while recording. Please stop the "
+                                             "recording or wait for it complete."),
+                              MsgIcon::Exclamation, MsgButtons::Ok);
+        return false;
+    }
+    if (m_ctx.appStatus.Converting()) {
+        m_ctx.messageBox.Show(QStringLiteral("Converting to MP3"),
+                              QStringLiteral("Can not exit while converting to MP3. Please stop "
+                                             "the conversion or wait for it complete."),
+                              MsgIcon::Exclamation, MsgButtons::Ok);
+        return false;
+    }
+    if (closedBySystem)
+        return true;
+    int programs = 0;
+    Trap(m_ctx.log, "QueryUnload",
+         [&] { programs = RecordsetCount(m_ctx.database.DataPrograms.recordset()); });
+    const QString text =
+        programs >= 1 ? QStringLiteral("You have scheduled recordings. No recording will occur "
+                                       "if you exit. Are you sure you want to exit?")
+                      : QStringLiteral("Are you sure you want to exit?");
+    return m_ctx.messageBox.Show(QStringLiteral("Exit"), text, MsgIcon::Question,
+                                 MsgButtons::YesNo) == MsgResult::Yes;
+}
+
+void MainFormController::Form_Unload()
+{
+    heartbeat.Timer1.SetInterval(0);
+    m_ctx.database.CloseAll();
+    QFile::remove(ParameterFile());
+}
+
+void MainFormController::mnuCompactDb_Click()
+{
+    m_ctx.appStatus.SetMaintenance(true);
+    m_ctx.database.CompactDatabase();
+    m_ctx.database.CheckDatabaseMissing();
+    m_ctx.scheduler.ScheduleNextRecording();
+    m_ctx.appStatus.SetMaintenance(false);
+    emit ListsReplaced();
+}
+
+void MainFormController::mnuRestoreOriginalDb_Click()
+{
+    const bool proceed =
+        !FileExistsOrClear(m_ctx.database.DatabaseFile()) ||
+        m_ctx.messageBox.Show(QStringLiteral("Restore Original Database"),
+                              QStringLiteral("All scheduled programs, recording list, and error "
+                                             "log will be cleared. Proceed?"),
+                              MsgIcon::None, MsgButtons::YesNo) == MsgResult::Yes;
+    if (proceed) {
+        m_ctx.appStatus.SetMaintenance(true);
+        m_ctx.database.RestoreOriginalDatabase();
+    }
+    // These run after a refused question too.
+    m_ctx.database.CheckDatabaseMissing();
+    emit ListsReplaced();
+    m_ctx.scheduler.ScheduleNextRecording();
+    m_ctx.appStatus.SetMaintenance(false);
+}

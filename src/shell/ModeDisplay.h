@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+class AppContext;
+
+// What the main window shows of the mode flags: which commands are open, the title and
+// the mode panel. Worked out from the state in one place; the window only applies it.
+struct ModeDisplay {
+    bool playEnabled = false;
+    bool recordEnabled = false;
+    bool pauseEnabled = false;
+    bool pausePressed = false;
+    QString pauseToolTip;
+    QString pauseImage;
+    QString pauseMenuCaption;
+    QString trayPauseCaption;
+    bool diskStatusEnabled = false;
+    bool stopEnabled = false;
+    QString stopCaption;
+
+    QString title;
+    QString panelText;
+    QString panelToolTip;
+
+    // Inputs that are not flags of the context.
+    struct Extra {
+        bool recentRecordingExists = false;
+        // The blink state of the tray while paused: the panel text alternates with it.
+        bool blinkOn = true;
+        // The running conversion's status text.
+        QString convertingText;
+        QString elapsedRemainingText;
+    };
+    static ModeDisplay Compute(const AppContext& ctx, const Extra& extra);
+};

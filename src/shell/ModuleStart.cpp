@@ -1,0 +1,75 @@
+#include "shell/ModuleStart.h"
+
+#include "common/Clock.h"
+#include "common/ProcessLauncher.h"
+#include "common/TextHelpers.h"
+#include "platform/AudioDevices.h"
+#include "shell/AppContext.h"
+#include "shell/WidgetMessageBox.h"
+#include "shell/frmMain.h"
+#include "shell/frmSplash.h"
+
+#include <QApplication>
+#include <QLockFile>
+
+namespace ModuleStart {
+namespace {
+
+void ShowAlreadyRunning(MessageBoxPresenter& messageBox)
+{
+    messageBox.Show(QStringLiteral("Nightreel 2000 already running"),
+                    QStringLiteral("Nightreel 2000 is already loaded. To restore window, "
+                                   "double-click on system tray Nightreel 2000 icon. "
+                                   "If the icon is not present, unload the application via the "
+                                   "Windows task manager or by restarting Windows."),
+                    MsgIcon::Exclamation, MsgButtons::Ok);
+}
+
+} // namespace
+
+int Main(int argc, char* argv[])
+{
+    QApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Larkmoor Systems"));
+    QCoreApplication::setApplicationName(QStringLiteral("Nightreel"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("%1.%2.%3")
+                                                .arg(NIGHTREEL_VERSION_MAJOR)
+                                                .arg(NIGHTREEL_VERSION_MINOR)
+                                                .arg(NIGHTREEL_VERSION_REV));
+    QApplication::setQuitOnLastWindowClosed(false);
+    // One optional word: "1" starts hidden in the tray, "2" allows a second instance.
+    const QString word = argc > 1 ? Text::Trim(QString::fromLocal8Bit(argv[1])) : QString();
+
+    SystemClock clock;
+    WidgetMessageBox messageBox;
+    DetachedProcessLauncher launcher;
+    PulseAudioDevices audioDevices;
+    const AppFolders folders = AppFolders::ForCurrentUser();
+
+    QLockFile instanceLock(folders.runtimeFolder + QStringLiteral("/nightreel.lock"));
+    instanceLock.setStaleLockTime(0);
+    if (!instanceLock.tryLock(0) && word != QStringLiteral("2")) {
+        ShowAlreadyRunning(messageBox);
+        return 0;
+    }
+
+    folders.InstallDatabaseOnFirstRun();
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices}, folders);
+    bool showSplash = true;
+    Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),
+                          ctx.options.HiddenWindowStatupMode, false);
+    Options::GetBlnOption(ctx.registry, QStringLiteral("ShowSplashScreen"), showSplash, true);
+    std::unique_ptr<frmSplash> splash;
+    if (showSplash) {
+        splash = std::make_unique<frmSplash>();
+        splash->show();
+        splash->repaint();
+        QCoreApplication::processEvents();
+    }
+    frmMain main(ctx, word == QStringLiteral("1"));
+    splash.reset();
+    main.show();
+    return app.exec();
+}
+
+} // namespace ModuleStart

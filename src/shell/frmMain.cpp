@@ -1,0 +1,443 @@
+#include "shell/frmMain.h"
+
+#include "common/AutomationDate.h"
+#include "common/Twips.h"
+#include "diagnostics/Trap.h"
+#include "diagnostics/frmElog.h"
+#include "diagnostics/frmErrors.h"
+#include "options/frmSelectRecordDirectory.h"
+#include "shell/AppContext.h"
+#include "shell/Icons.h"
+#include "shell/ModeDisplay.h"
+#include "shell/StatusBarPlus.h"
+#include "shell/frmAbout.h"
+#include "shell/frmRecordingStatus.h"
+#include "store/GridColumns.h"
+#include "store/RecordsetModel.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QScreen>
+#include <QSessionManager>
+#include <QSystemTrayIcon>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+
+namespace {
+
+const QString kSettings = QStringLiteral("Settings");
+
+void SetIfChanged(QLabel* label, const QString& text)
+{
+    if (label->text() != text)
+        label->setText(text);
+}
+
+} // namespace
+
+frmMain::frmMain(AppContext& ctx, bool startHidden, QWidget* parent)
+    : QMainWindow(parent)
+    , m_ctx(ctx)
+    , m_controller(ctx)
+    , m_startHidden(startHidden)
+{
+    ui.Setup(this);
+    m_controller.Form_Load();
+    GetFormRegSettings();
+    for (const char* key : {"Edit", "Remove", "Clone", "Enable"})
+        ui.Action(QStringLiteral("ToolbarPrograms.") + key)->setEnabled(false);
+    BindGrids();
+    CreateTray();
+    ConnectCommands();
+    connect(qApp, &QGuiApplication::commitDataRequest, this,
+            [this](QSessionManager&) { m_closingBySystem = true; });
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::BindGrids()
+{
+    m_programsModel =
+        new RecordsetModel(m_ctx.database.DataPrograms, GridColumns::Programs(), this);
+    m_recordingsModel =
+        new RecordsetModel(m_ctx.database.DataRecordings, GridColumns::Recordings(), this);
+    ui.DBGridPrograms->setModel(m_programsModel);
+    ui.DBGridRecordings->setModel(m_recordingsModel);
+    const auto width = [this](QTableView* grid, int column, const char* name, int twips) {
+        grid->setColumnWidth(column, Twips::ToPixels(SettingTwips(name, twips)));
+    };
+    width(ui.DBGridPrograms, 0, "ProgColDescr_Width", 3000);
+    width(ui.DBGridPrograms, 1, "ProgColStartTime_Width", 1000);
+    width(ui.DBGridPrograms, 2, "ProgColEndTime_Width", 1000);
+    width(ui.DBGridRecordings, 0, "RecColDescr_Width", 3400);
+    width(ui.DBGridRecordings, 1, "RecColDateTime_Width", 1800);
+    connect(m_programsModel, &RecordsetModel::RowsChanged, this,
+            &frmMain::UpdateProgramsButtonsAndMenus);
+    connect(m_recordingsModel, &RecordsetModel::RowsChanged, this,
+            &frmMain::UpdateRecordingsButtonsAndMenus);
+    connect(ui.DBGridPrograms->horizontalHeader(), &QHeaderView::sectionClicked, this,
+            &frmMain::DBGridPrograms_HeadClick);
+    connect(ui.DBGridRecordings->horizontalHeader(), &QHeaderView::sectionClicked, this,
+            &frmMain::DBGridRecordings_HeadClick);
+}
+
+void frmMain::CreateTray()
+{
+    m_trayMenu = new QMenu(this);
+    mnuRestore = m_trayMenu->addAction(QStringLiteral("&Restore"));
+    mnuRestore->setObjectName(QStringLiteral("mnuRestore"));
+    mnuRestore->setEnabled(false);
+    connect(mnuRestore, &QAction::triggered, this, &frmMain::RestoreFromTray);
+    QAction* exit = m_trayMenu->addAction(QStringLiteral("E&xit"));
+    exit->setObjectName(QStringLiteral("mnuSystrayExit"));
+    connect(exit, &QAction::triggered, this, &QWidget::close);
+    m_tray = new QSystemTrayIcon(Icons::Named("record"), this);
+    m_tray->setToolTip(QStringLiteral("Nightreel 2000"));
+    m_tray->setContextMenu(m_trayMenu);
+    connect(m_tray, &QSystemTrayIcon::activated, this,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                if (reason == QSystemTrayIcon::DoubleClick || reason == QSystemTrayIcon::Trigger)
+                    RestoreFromTray();
+            });
+}
+
+void frmMain::ConnectCommands()
+{
+    const auto on = [this](const QString& name, auto slot) {
+        connect(ui.Action(name), &QAction::triggered, this, slot);
+    };
+    on(QStringLiteral("mnuFileHide"), [this] { HideToTray(); });
+    on(QStringLiteral("mnuFileSuspend"), [this] {
+        m_ctx.appStatus.HandleSuspendMenuClickEvent(m_ctx.messageBox);
+        UpdateModeDisplay();
+    });
+    on(QStringLiteral("mnuFileExit"), [this] { close(); });
+    on(QStringLiteral("mnuViewPrograms"), [this] { ui.SSTab1->setCurrentIndex(0); });
+    on(QStringLiteral("mnuViewRecordings"), [this] { ui.SSTab1->setCurrentIndex(1); });
+    on(QStringLiteral("mnuCompactDb"), [this] { m_controller.mnuCompactDb_Click(); });
+    on(QStringLiteral("mnuRestoreOriginalDb"),
+       [this] { m_controller.mnuRestoreOriginalDb_Click(); });
+    on(QStringLiteral("mnuHelpContents"), [this] { ShowHelp(QString()); });
+    on(QStringLiteral("mnuHelpSearch"), [this] { ShowHelp(QStringLiteral("index")); });
+    on(QStringLiteral("mnuHelpHomePage"), [this] { ShowHelp(QStringLiteral("contact")); });
+    on(QStringLiteral("ToolbarMain.Help"), [this] { ShowHelp(QString()); });
+    on(QStringLiteral("ToolbarMain.Error"), [this] { ToolbarError_Click(); });
+    on(QStringLiteral("mnuErrors"), [this] { frmErrors(m_ctx, this).exec(); });
+    on(QStringLiteral("mnuViewErrorLog"), [this] { frmElog(m_ctx, this).exec(); });
+    on(QStringLiteral("mnuHelpAbout"), [this] { frmAbout(m_ctx, this).exec(); });
+    connect(ui.SSTab1, &QTabWidget::currentChanged, this, &frmMain::SSTab1_Click);
+    connect(&m_ctx.appStatus, &clsAppStatus::Update, this, &frmMain::UpdateModeDisplay);
+    connect(&m_ctx.error, &clsError::IndicationUpdated, this, &frmMain::ApplyErrorIndication);
+    connect(&m_controller, &MainFormController::ListsReplaced, this, [this] {
+        UpdateProgramsButtonsAndMenus();
+        UpdateRecordingsButtonsAndMenus();
+    });
+    Heartbeat& heartbeat = m_controller.heartbeat;
+    connect(&heartbeat, &Heartbeat::UpdateStatusBarPlus, this, &frmMain::UpdateStatusBarPlus);
+    connect(&heartbeat, &Heartbeat::StopRecordingDue, this, &frmMain::StopRecordingRequested);
+}
+
+void frmMain::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (m_firstActivation)
+        QTimer::singleShot(0, this, &frmMain::FirstActivate);
+}
+
+void frmMain::FirstActivate()
+{
+    if (!m_firstActivation)
+        return;
+    m_firstActivation = false;
+    m_controller.InitializeForFirstActivation([this](const QString& proposed) {
+        return frmSelectRecordDirectory::Choose(m_ctx, this, proposed);
+    });
+    SSTab1_Click(ui.SSTab1->currentIndex());
+    UpdateStatusBarPlus();
+    m_controller.FinishFirstActivation();
+    UpdateModeDisplay();
+    ApplyErrorIndication(m_ctx.error.Indication());
+    UpdateProgramsButtonsAndMenus();
+    UpdateRecordingsButtonsAndMenus();
+    if (m_startHidden || m_ctx.options.HiddenWindowStatupMode)
+        HideToTray();
+}
+
+void frmMain::SSTab1_Click(int tab)
+{
+    ui.Action(QStringLiteral("mnuViewPrograms"))->setChecked(tab == 0);
+    ui.Action(QStringLiteral("mnuViewRecordings"))->setChecked(tab == 1);
+    // The menu bar holds the commands of the page on view, and only those.
+    ui.mnuPrograms->menuAction()->setVisible(tab == 0);
+    ui.mnuRecordings->menuAction()->setVisible(tab == 1);
+}
+
+void frmMain::UpdateModeDisplay()
+{
+    ModeDisplay::Extra extra;
+    extra.recentRecordingExists = !m_ctx.options.RecentRecordingFilename.isEmpty() &&
+                                  QFileInfo(m_ctx.options.RecentRecordingFilename).isFile();
+    extra.elapsedRemainingText = StatusBarPlus::ElapsedRemainingText(m_ctx);
+    const ModeDisplay d = ModeDisplay::Compute(m_ctx, extra);
+    const auto action = [this](const QString& name) {
+        return ui.Action(name);
+    };
+
+    action(QStringLiteral("ToolbarMain.Play"))->setEnabled(d.playEnabled);
+    action(QStringLiteral("mnuPlayRecent"))->setEnabled(d.playEnabled);
+    action(QStringLiteral("ToolbarMain.Record"))->setEnabled(d.recordEnabled);
+    action(QStringLiteral("mnuManualRecording"))->setEnabled(d.recordEnabled);
+    QAction* pause = action(QStringLiteral("ToolbarMain.Pause"));
+    pause->setEnabled(d.pauseEnabled);
+    pause->setChecked(d.pausePressed);
+    pause->setIcon(Icons::Named(d.pauseImage));
+    if (d.pauseEnabled)
+        pause->setToolTip(d.pauseToolTip);
+    QAction* pauseMenu = action(QStringLiteral("mnuPauseRecording"));
+    pauseMenu->setEnabled(d.pauseEnabled);
+    pauseMenu->setText(d.pauseMenuCaption);
+    action(QStringLiteral("ToolbarMain.DiskStatus"))->setEnabled(d.diskStatusEnabled);
+    action(QStringLiteral("mnuViewDiskStatus"))->setEnabled(d.diskStatusEnabled);
+    for (const QString& name :
+         {QStringLiteral("mnuStopCurrentRecording"), QStringLiteral("ToolbarMain.Stop")}) {
+        QAction* stop = action(name);
+        stop->setEnabled(d.stopEnabled);
+        if (stop->toolTip() != d.stopCaption)
+            stop->setToolTip(d.stopCaption);
+    }
+    action(QStringLiteral("mnuFileSuspend"))->setChecked(m_ctx.appStatus.Suspended());
+
+    if (windowTitle() != d.title)
+        setWindowTitle(d.title);
+    if (ui.ModeStatus->text() != d.panelText) {
+        ui.ModeStatus->setText(d.panelText);
+        ui.ModeStatusPicture->setPixmap(d.panelText == QStringLiteral("RECORDING")
+                                            ? Icons::Named("recording").pixmap(16, 16)
+                                            : QPixmap());
+    }
+    ui.ModeStatus->setToolTip(d.panelToolTip);
+}
+
+void frmMain::UpdateStatusBarPlus()
+{
+    const StatusBarPlus::Update u = StatusBarPlus::Run(m_ctx, QString());
+    if (!u.modeToolTip.isEmpty())
+        ui.ModeStatus->setToolTip(u.modeToolTip);
+    if (m_ctx.appStatus.Converting())
+        SetIfChanged(ui.ModeStatus, u.modeText);
+    if (m_ctx.appStatus.Recording() && m_recordingStatusForm) {
+        if (m_ctx.options.ShowRecordingTimeInTaskBar)
+            m_recordingStatusForm->setWindowTitle(StatusBarPlus::ElapsedText(m_ctx));
+        else
+            m_recordingStatusForm.reset();
+    }
+    SetIfChanged(ui.DiskStatus, u.diskText);
+    ui.DiskStatus->setToolTip(u.diskToolTip);
+    const double now = m_ctx.Now();
+    SetIfChanged(ui.DateStatus,
+                 QLocale().toString(AutomationDate::ToDateTime(now).date(), QLocale::ShortFormat));
+    SetIfChanged(ui.TimeStatus, Options::TimeText(AutomationDate::TimePart(now)));
+    if (u.postStop)
+        emit StopRecordingRequested();
+}
+
+void frmMain::ShowRecordingStatusForm()
+{
+    if (!m_ctx.options.ShowRecordingTimeInTaskBar)
+        return;
+    m_recordingStatusForm = std::make_unique<frmRecordingStatus>();
+    m_recordingStatusForm->setWindowTitle(StatusBarPlus::ElapsedText(m_ctx));
+    m_recordingStatusForm->showMinimized();
+}
+
+void frmMain::UpdateProgramsButtonsAndMenus()
+{
+    if (!m_ctx.appReady)
+        return;
+    const bool rows = m_programsModel->rowCount() > 0;
+    for (const char* name :
+         {"ToolbarPrograms.Edit", "ToolbarPrograms.Remove", "ToolbarPrograms.Clone",
+          "ToolbarPrograms.Enable", "mnuEdit", "mnuRemovePrograms", "mnuCloneProgram",
+          "mnuProgramEnable", "mnuProgramsSelectAll"})
+        ui.Action(QString::fromLatin1(name))->setEnabled(rows);
+}
+
+void frmMain::UpdateRecordingsButtonsAndMenus()
+{
+    if (!m_ctx.appReady)
+        return;
+    const bool rows = m_recordingsModel->rowCount() > 0;
+    for (const char* name :
+         {"ToolbarRecordings.Play", "ToolbarRecordings.Delete", "ToolbarRecordings.Details",
+          "ToolbarRecordings.remove_from_list", "ToolbarRecordings.clear_list",
+          "ToolbarRecordings.save_list", "mnuRecordingsPlay", "mnuRecordingsRemove", "mnuDetails",
+          "mnuRecordingsExplore", "mnuRecordingsCopyFilename", "mnuRecordingsRemoveFromList",
+          "mnuClearList", "mnuSaveList", "mnuRecordingsSelectAll"})
+        ui.Action(QString::fromLatin1(name))->setEnabled(rows);
+}
+
+void frmMain::DBGridPrograms_HeadClick(int column)
+{
+    Trap(m_ctx.log, "DBGridPrograms_HeadClick", [&] {
+        // Only the description sorts; its order is also the search's order between programs
+        // that start at the same moment.
+        const QString field = m_programsModel->Columns().value(column).dataField;
+        if (field != QStringLiteral("DescriptionText"))
+            return;
+        const bool ascending = !m_programsSortAscending;
+        m_programsSortAscending = ascending;
+        m_ctx.database.DataPrograms.SetRecordSource(
+            GridColumns::SortStatement(QStringLiteral("Programs"), field, ascending));
+        m_ctx.database.DataPrograms.Refresh();
+    });
+}
+
+void frmMain::DBGridRecordings_HeadClick(int column)
+{
+    Trap(m_ctx.log, "DBGridRecordings_HeadClick", [&] {
+        const bool ascending = !m_recordingsSortAscending;
+        m_recordingsSortAscending = ascending;
+        m_ctx.database.DataRecordings.SetRecordSource(GridColumns::SortStatement(
+            QStringLiteral("Recordings"), m_recordingsModel->Columns().value(column).dataField,
+            ascending));
+        m_ctx.database.DataRecordings.Refresh();
+    });
+}
+
+void frmMain::ApplyErrorIndication(const ErrorIndication& indication)
+{
+    QAction* button = ui.Action(QStringLiteral("ToolbarMain.Error"));
+    button->setToolTip(indication.toolTip);
+    button->setVisible(indication.buttonVisible);
+    ui.Action(QStringLiteral("mnuErrors"))->setEnabled(indication.errorsMenuEnabled);
+    UpdateModeDisplay();
+}
+
+void frmMain::ToolbarError_Click()
+{
+    if (m_ctx.error.AnyCurrentErrorsOrWarnings())
+        frmErrors(m_ctx, this).exec();
+    else
+        frmElog(m_ctx, this).exec();
+}
+
+void frmMain::ShowHelp(const QString& anchor)
+{
+    // The manual ships beside the program, or in the source tree's docs when run from a build.
+    const QString dir = QCoreApplication::applicationDirPath();
+    QString manual;
+    for (const QString& candidate : {dir + QStringLiteral("/docs/manual.html"),
+                                     dir + QStringLiteral("/../share/doc/Nightreel/manual.html")}) {
+        if (QFileInfo::exists(candidate)) {
+            manual = candidate;
+            break;
+        }
+    }
+    QUrl url = QUrl::fromLocalFile(manual);
+    if (!anchor.isEmpty())
+        url.setFragment(anchor);
+    QDesktopServices::openUrl(url);
+}
+
+void frmMain::HideToTray()
+{
+    hide();
+    mnuRestore->setEnabled(true);
+    if (QSystemTrayIcon::isSystemTrayAvailable())
+        m_tray->show();
+}
+
+void frmMain::RestoreFromTray()
+{
+    mnuRestore->setEnabled(false);
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmMain::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    // The form never stays minimised: minimising means hiding to the tray.
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+        QTimer::singleShot(0, this, &frmMain::HideToTray);
+    }
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    if (!m_controller.QueryUnload(m_closingBySystem)) {
+        m_closingBySystem = false;
+        event->ignore();
+        return;
+    }
+    if (!isMinimized() && !isMaximized())
+        SaveFormRegSettings();
+    m_controller.Form_Unload();
+    m_tray->hide();
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget != this)
+            widget->close();
+    }
+    event->accept();
+    QCoreApplication::quit();
+}
+
+int frmMain::SettingTwips(const char* name, int defaultTwips) const
+{
+    bool ok = false;
+    const int value =
+        m_ctx.registry
+            .GetSetting(kSettings, QString::fromLatin1(name), QString::number(defaultTwips))
+            .trimmed()
+            .toInt(&ok);
+    return ok && value > 0 ? value : defaultTwips;
+}
+
+void frmMain::GetFormRegSettings()
+{
+    const int width = Twips::ToPixels(SettingTwips("MainWidth", 7370));
+    const int height = Twips::ToPixels(SettingTwips("MainHeight", 5170));
+    resize(width, height);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    bool leftOk = false, topOk = false;
+    const int left = m_ctx.registry.GetSetting(kSettings, QStringLiteral("MainLeft"), QString())
+                         .trimmed()
+                         .toInt(&leftOk);
+    const int top = m_ctx.registry.GetSetting(kSettings, QStringLiteral("MainTop"), QString())
+                        .trimmed()
+                        .toInt(&topOk);
+    if (leftOk && topOk)
+        move(Twips::ToPixels(left), Twips::ToPixels(top));
+    else
+        move(screen.center() - QPoint(width / 2, height / 2));
+}
+
+void frmMain::SaveFormRegSettings()
+{
+    const auto save = [this](const char* name, int pixels) {
+        m_ctx.registry.SaveSetting(kSettings, QString::fromLatin1(name),
+                                   QString::number(Twips::FromPixels(pixels)));
+    };
+    save("MainLeft", x());
+    save("MainTop", y());
+    save("MainWidth", width());
+    save("MainHeight", height());
+    save("ProgColDescr_Width", ui.DBGridPrograms->columnWidth(0));
+    save("ProgColStartTime_Width", ui.DBGridPrograms->columnWidth(1));
+    save("ProgColEndTime_Width", ui.DBGridPrograms->columnWidth(2));
+    save("RecColDescr_Width", ui.DBGridRecordings->columnWidth(0));
+    save("RecColDateTime_Width", ui.DBGridRecordings->columnWidth(1));
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "diagnostics/clsError.h"
+#include "shell/MainFormController.h"
+#include "shell/frmMainUi.h"
+
+#include <QMainWindow>
+#include <memory>
+
+class AppContext;
+class QMenu;
+class QSystemTrayIcon;
+class RecordsetModel;
+class frmRecordingStatus;
+
+// The main window: the two lists, the commands, the mode display and the status bar. It
+// lives for the whole run; hiding it to the tray does not end the program, closing it does.
+class frmMain : public QMainWindow {
+    Q_OBJECT
+public:
+    frmMain(AppContext& ctx, bool startHidden, QWidget* parent = nullptr);
+    ~frmMain() override;
+
+    // The first activation: database, schedule, heartbeat, and the application made ready.
+    void FirstActivate();
+    void UpdateModeDisplay();
+    void UpdateStatusBarPlus();
+    void UpdateProgramsButtonsAndMenus();
+    void UpdateRecordingsButtonsAndMenus();
+    void HideToTray();
+    void RestoreFromTray();
+    // The small window that puts the elapsed time of a recording on the task bar.
+    void ShowRecordingStatusForm();
+
+    MainFormController& Controller() { return m_controller; }
+    frmMainUi ui;
+
+signals:
+    // The recording is to stop: by the clock or by the disk guard.
+    void StopRecordingRequested();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void ConnectCommands();
+    void CreateTray();
+    void BindGrids();
+    void GetFormRegSettings();
+    void SaveFormRegSettings();
+    void SSTab1_Click(int tab);
+    void DBGridPrograms_HeadClick(int column);
+    void DBGridRecordings_HeadClick(int column);
+    void ToolbarError_Click();
+    void ApplyErrorIndication(const ErrorIndication& indication);
+    void ShowHelp(const QString& anchor);
+    int SettingTwips(const char* name, int defaultTwips) const;
+
+    AppContext& m_ctx;
+    MainFormController m_controller;
+    RecordsetModel* m_programsModel = nullptr;
+    RecordsetModel* m_recordingsModel = nullptr;
+    QSystemTrayIcon* m_tray = nullptr;
+    QMenu* m_trayMenu = nullptr;
+    QAction* mnuRestore = nullptr;
+    std::unique_ptr<frmRecordingStatus> m_recordingStatusForm;
+    bool m_firstActivation = true;
+    bool m_startHidden = false;
+    bool m_closingBySystem = false;
+    bool m_programsSortAscending = false;
+    bool m_recordingsSortAscending = false;
+};

@@ -1,0 +1,136 @@
+#include "ModalDialogs.h"
+#include "TestContext.h"
+#include "diagnostics/frmErrors.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+const QString kNoDevice = "No wave audio recording device found.  Verify that a sound card is "
+                          "correctly installed.\n";
+const QString kInvalidFolder =
+    "Invalid Recording Folder.  Go to View/Options and select a recording folder.\n";
+const QString kDiskStop = "Disk Low - no further recording allowed.  Delete recordings from disk "
+                          "or change recording folder. You can also change the limit to stop "
+                          "recording in View/Options.\n";
+const QString kDiskWarn = "Disk Low Warning.  Delete recordings from disk or change recording "
+                          "folder. You can also change the disk warning limit in View/Options.\n";
+const QString kLogFull = "The Error Log is Full. Go to View/Error Log (or press the View Error "
+                         "Log button below) and remove all event log items. \n";
+const QString kDbMissing = "Database is missing. Go to Tools/Advanced/Restore Original Database "
+                           "to create new database.\n";
+
+enum Condition {
+    NoDevice = 1,
+    InvalidFolder = 2,
+    DiskStop = 4,
+    DiskWarn = 8,
+    LogFull = 16,
+    DbMissing = 32
+};
+
+void SetConditions(clsError& error, int conditions)
+{
+    error.SetNoAudioRecordDevice(conditions & NoDevice);
+    error.SetInvalidRecordingDirectory(conditions & InvalidFolder);
+    error.SetDiskLowStopRecording(conditions & DiskStop);
+    error.SetDiskLowWarn(conditions & DiskWarn);
+    error.SetElogFull(conditions & LogFull);
+    error.SetDatabaseMissing(conditions & DbMissing);
+}
+
+QString ShownConditions(frmErrors& form)
+{
+    // The blocks end in CR LF; the text box shows each as one line end.
+    return form.findChild<QPlainTextEdit*>("txtbxErrors")->toPlainText().replace("\r\n", "\n");
+}
+
+} // namespace
+
+class TestFrmErrors : public QObject {
+    Q_OBJECT
+
+private slots:
+    void eachConditionShowsItsBlockInOrder_data()
+    {
+        QTest::addColumn<int>("conditions");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("nothing wrong") << 0 << QString("none");
+        QTest::newRow("no device") << int(NoDevice) << kNoDevice;
+        QTest::newRow("invalid folder") << int(InvalidFolder) << kInvalidFolder;
+        QTest::newRow("disk low warning") << int(DiskWarn) << kDiskWarn;
+        QTest::newRow("disk low stop hides the warning") << (DiskStop | DiskWarn) << kDiskStop;
+        QTest::newRow("log full") << int(LogFull) << kLogFull;
+        QTest::newRow("database missing") << int(DbMissing) << kDbMissing;
+        QTest::newRow("everything")
+            << (NoDevice | InvalidFolder | DiskStop | DiskWarn | LogFull | DbMissing)
+            << kNoDevice + kInvalidFolder + kDiskStop + kLogFull + kDbMissing;
+    }
+    void eachConditionShowsItsBlockInOrder()
+    {
+        QFETCH(int, conditions);
+        QFETCH(QString, text);
+        TestContext tc;
+        SetConditions(tc.ctx->error, conditions);
+        frmErrors form(*tc.ctx, nullptr);
+        QCOMPARE(form.windowTitle(), QString("Errors/Warnings"));
+        QCOMPARE(ShownConditions(form), text);
+    }
+
+    void unviewedEntriesAndAFullLogOfferTheLog_data()
+    {
+        QTest::addColumn<int>("unviewed");
+        QTest::addColumn<bool>("full");
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<bool>("viewEnabled");
+        QTest::newRow("nothing new") << 0 << false << QString() << false;
+        QTest::newRow("one") << 1 << false
+                             << QString("There is an unviewed error/warning in the error log.")
+                             << true;
+        QTest::newRow("three") << 3 << false
+                               << QString("There are 3 unviewed errors/warnings in the error log.")
+                               << true;
+        QTest::newRow("full, all seen") << 0 << true << QString() << true;
+    }
+    void unviewedEntriesAndAFullLogOfferTheLog()
+    {
+        QFETCH(int, unviewed);
+        QFETCH(bool, full);
+        TestContext tc;
+        tc.OpenDatabase();
+        for (int i = 0; i < unviewed; ++i)
+            tc.ctx->log.LogEvent(EventWarning, "Something", "");
+        tc.ctx->error.SetElogFull(full);
+        frmErrors form(*tc.ctx, nullptr);
+        QFETCH(QString, label);
+        QCOMPARE(form.findChild<QLabel*>("lblNumErrors")->text(), label);
+        QFETCH(bool, viewEnabled);
+        QCOMPARE(form.findChild<QPushButton*>("btnViewElog")->isEnabled(), viewEnabled);
+    }
+
+    void viewingTheLogClearsTheCountOnReturn()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.ctx->log.LogEvent(EventError, "First", "");
+        tc.ctx->log.LogEvent(EventError, "Second", "");
+        frmErrors form(*tc.ctx, nullptr);
+        form.show();
+        QString shownTitle;
+        WhenModalOpens([&](QDialog* dialog) {
+            shownTitle = dialog->windowTitle();
+            dialog->close();
+        });
+        form.findChild<QPushButton*>("btnViewElog")->click();
+        QCOMPARE(shownTitle, QString("Error Log"));
+        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
+        QCOMPARE(form.findChild<QLabel*>("lblNumErrors")->text(), QString());
+        QVERIFY(!form.findChild<QPushButton*>("btnViewElog")->isEnabled());
+    }
+};
+
+QTEST_MAIN(TestFrmErrors)
+#include "test_frmErrors.moc"

@@ -1,0 +1,391 @@
+#include "Programs.h"
+#include "TestContext.h"
+#include "shell/ModeDisplay.h"
+#include "shell/StatusBarPlus.h"
+#include "shell/frmMain.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTest>
+#include <QToolBar>
+
+namespace {
+
+// A context whose recording folder is set and exists, so that start-up asks nothing.
+struct Started {
+    explicit Started(bool withFolder = true)
+    {
+        if (withFolder) {
+            QDir().mkpath(Folder());
+            tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", Folder());
+        }
+    }
+    QString Folder() const { return tc.Root() + "/recordings"; }
+    void Activate()
+    {
+        form = std::make_unique<frmMain>(*tc.ctx, false);
+        form->FirstActivate();
+    }
+
+    TestContext tc;
+    std::unique_ptr<frmMain> form;
+};
+
+} // namespace
+
+class TestFrmMain : public QObject {
+    Q_OBJECT
+
+private slots:
+    void startsInItsOrder()
+    {
+        Started s;
+        s.tc.OpenDatabase();
+        s.tc.AddProgram(Programs::Weekly("Every day", "20:00:00", "21:00:00", "1111111"));
+        s.tc.ctx->database.CloseAll();
+        s.form = std::make_unique<frmMain>(*s.tc.ctx, false);
+        // Loaded, not yet activated: no database, no heartbeat, not ready.
+        QVERIFY(!s.tc.ctx->appReady);
+        QVERIFY(!s.tc.ctx->database.db.IsOpen());
+        QCOMPARE(s.form->Controller().heartbeat.Timer1.Interval(), 0);
+
+        s.form->FirstActivate();
+        QVERIFY(s.tc.ctx->appReady);
+        QVERIFY(s.tc.ctx->database.db.IsOpen());
+        QVERIFY(s.tc.ctx->scheduler.next.NextProgramFound);
+        QCOMPARE(s.form->Controller().heartbeat.Timer1.Interval(), 250);
+        QCOMPARE(s.form->ui.DBGridPrograms->model()->rowCount(), 1);
+        QVERIFY(s.form->ui.Action("mnuEdit")->isEnabled());
+        QVERIFY(!s.form->ui.Action("mnuRecordingsPlay")->isEnabled());
+        QCOMPARE(s.form->windowTitle(), QStringLiteral("Nightreel 2000"));
+        QCOMPARE(s.form->ui.ModeStatus->text(), QStringLiteral("STOPPED"));
+        QVERIFY(s.form->ui.DiskStatus->text().startsWith("Disk Space Used: "));
+        QVERIFY(s.tc.messageBox.asked.isEmpty());
+    }
+
+    void noRecordingFolderKeepsTheProgramRunning()
+    {
+        Started s(false);
+        s.tc.messageBox.answers << MsgResult::No;
+        s.Activate();
+        QCOMPARE(s.tc.messageBox.asked.size(), 1);
+        QCOMPARE(s.tc.messageBox.asked[0].title, QStringLiteral("Recording Folder Needed"));
+        QCOMPARE(s.tc.messageBox.asked[0].text,
+                 QStringLiteral("Nightreel 2000 requires a valid recording folder for recording "
+                                "to occur.  Select Recording folder?"));
+        QVERIFY(s.tc.ctx->appReady);
+        QVERIFY(s.tc.ctx->error.InvalidRecordingDirectory());
+        QVERIFY(!s.form->ui.Action("ToolbarMain.Record")->isEnabled());
+        QVERIFY(!s.form->ui.Action("mnuViewDiskStatus")->isEnabled());
+        QVERIFY(s.form->ui.Action("ToolbarMain.Error")->isVisible());
+        QCOMPARE(s.form->ui.DiskStatus->text(), QString());
+    }
+
+    void noCaptureSourceIsAnError()
+    {
+        Started s;
+        s.tc.audioDevices.sources = 0;
+        s.Activate();
+        QVERIFY(s.tc.ctx->error.NoAudioRecordDevice());
+        QVERIFY(!s.form->ui.Action("ToolbarMain.Record")->isEnabled());
+        QVERIFY(s.form->ui.Action("mnuErrors")->isEnabled());
+    }
+
+    void leftoverTemporaryFilesGoAtStart()
+    {
+        Started s;
+        for (const char* name : {"a.WAV.TMP", "b.mp3.tmp", "keep.wav", "keep.TMP"}) {
+            QFile f(s.Folder() + "/" + name);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+        }
+        s.Activate();
+        QCOMPARE(QDir(s.Folder()).entryList(QDir::Files), QStringList({"keep.TMP", "keep.wav"}));
+    }
+
+    void leavingAsksOrRefuses_data()
+    {
+        QTest::addColumn<bool>("recording");
+        QTest::addColumn<bool>("converting");
+        QTest::addColumn<bool>("program");
+        QTest::addColumn<bool>("bySystem");
+        QTest::addColumn<MsgResult>("answer");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("closes");
+        QTest::newRow("recording")
+            << true << false << false << false << MsgResult::Ok << "Recording in progress"
+            << "Can not exit while recording. Please stop the recording or "
+               "wait for it complete."
+            << false;
+        QTest::newRow("recording at shutdown")
+            << true << false << false << true << MsgResult::Ok << "Recording in progress"
+            << "" << false;
+        QTest::newRow("converting")
+            << false << true << false << false << MsgResult::Ok << "Converting to MP3"
+            << "Can not exit while converting to MP3. Please stop the "
+               "conversion or wait for it complete."
+            << false;
+        QTest::newRow("programs, No") << false << false << true << false << MsgResult::No << "Exit"
+                                      << "You have scheduled recordings. No recording will occur "
+                                         "if you exit. Are you sure you want to exit?"
+                                      << false;
+        QTest::newRow("nothing, Yes")
+            << false << false << false << false << MsgResult::Yes << "Exit"
+            << "Are you sure you want to exit?" << true;
+        QTest::newRow("programs at log-out")
+            << false << false << true << true << MsgResult::No << ""
+            << "" << true;
+    }
+    void leavingAsksOrRefuses()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+        QFETCH(bool, closes);
+        QFETCH(bool, program);
+        QFETCH(bool, recording);
+        QFETCH(bool, converting);
+        QFETCH(MsgResult, answer);
+        QFETCH(bool, bySystem);
+        Started s;
+        s.Activate();
+        if (program)
+            s.tc.AddProgram(Programs::Weekly("Show", "20:00:00", "21:00:00", "0100000"));
+        s.tc.ctx->appStatus.SetRecording(recording);
+        s.tc.ctx->appStatus.SetConverting(converting);
+        s.tc.messageBox.answers << answer;
+        QCOMPARE(s.form->Controller().QueryUnload(bySystem), closes);
+        if (title.isEmpty()) {
+            QVERIFY(s.tc.messageBox.asked.isEmpty());
+        } else {
+            QCOMPARE(s.tc.messageBox.asked.size(), 1);
+            QCOMPARE(s.tc.messageBox.asked[0].title, title);
+            if (!text.isEmpty())
+                QCOMPARE(s.tc.messageBox.asked[0].text, text);
+        }
+    }
+
+    void theModeTableDecidesByPriority_data()
+    {
+        QTest::addColumn<QString>("flags");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("panel");
+        QTest::newRow("stopped") << ""
+                                 << "Nightreel 2000"
+                                 << "STOPPED";
+        QTest::newRow("suspended beats all") << "suspended,recording,converting,playing"
+                                             << "Nightreel 2000 - Suspended"
+                                             << "SUSPENDED";
+        QTest::newRow("paused") << "recording,paused,converting"
+                                << "Nightreel 2000 - Recording (PAUSED)"
+                                << "RECORDING PAUSED";
+        QTest::newRow("recording") << "recording,converting,playing"
+                                   << "Nightreel 2000 - Recording"
+                                   << "RECORDING";
+        QTest::newRow("converting") << "converting,playing"
+                                    << "Nightreel 2000 - Converting to MP3"
+                                    << "track.wav";
+        QTest::newRow("playing") << "playing"
+                                 << "Nightreel 2000 - Playing"
+                                 << "PLAYING";
+        QTest::newRow("paused without recording") << "paused"
+                                                  << "Nightreel 2000"
+                                                  << "STOPPED";
+    }
+    void theModeTableDecidesByPriority()
+    {
+        QFETCH(QString, flags);
+        TestContext tc;
+        clsAppStatus& status = tc.ctx->appStatus;
+        status.SetRecording(flags.contains("recording"));
+        status.SetPaused(flags.contains("paused"));
+        status.SetConverting(flags.contains("converting"));
+        status.SetPlaying(flags.contains("playing"));
+        if (flags.contains("suspended")) {
+            status.SetRecording(false);
+            status.SetConverting(false);
+            tc.messageBox.answers << MsgResult::Yes;
+            status.HandleSuspendMenuClickEvent(tc.messageBox);
+            status.SetRecording(flags.contains("recording"));
+            status.SetConverting(flags.contains("converting"));
+        }
+        ModeDisplay::Extra extra;
+        extra.convertingText = "track.wav";
+        QFETCH(QString, title);
+        QFETCH(QString, panel);
+        const ModeDisplay d = ModeDisplay::Compute(*tc.ctx, extra);
+        QCOMPARE(d.title, title);
+        QCOMPARE(d.panelText, panel);
+        QCOMPARE(d.recordEnabled, !flags.contains("recording") && !flags.contains("suspended"));
+        QCOMPARE(d.stopCaption,
+                 flags.startsWith("converting") ? "Stop MP3 Conversion" : "Stop Current Recording");
+    }
+
+    void aFlagSetToItsValueRepaintsNothing()
+    {
+        TestContext tc;
+        QSignalSpy updates(&tc.ctx->appStatus, &clsAppStatus::Update);
+        tc.ctx->appStatus.SetPaused(false);
+        QCOMPARE(updates.size(), 0);
+        tc.ctx->appStatus.SetPaused(true);
+        tc.ctx->appStatus.SetPaused(true);
+        QCOMPARE(updates.size(), 1);
+    }
+
+    void suspendingIsRefusedWhileBusy_data()
+    {
+        QTest::addColumn<bool>("recording");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("recording")
+            << true << "Please stop the recording in process prior to suspending.";
+        QTest::newRow("converting") << false
+                                    << "Please stop the MP3 conversion in process prior to "
+                                       "suspending.";
+    }
+    void suspendingIsRefusedWhileBusy()
+    {
+        QFETCH(bool, recording);
+        QFETCH(QString, text);
+        TestContext tc;
+        tc.ctx->appStatus.SetRecording(recording);
+        tc.ctx->appStatus.SetConverting(!recording);
+        tc.ctx->appStatus.HandleSuspendMenuClickEvent(tc.messageBox);
+        QVERIFY(!tc.ctx->appStatus.Suspended());
+        QCOMPARE(tc.messageBox.asked.at(0).title, QStringLiteral("Invalid request"));
+        QCOMPARE(tc.messageBox.asked.at(0).text, text);
+    }
+
+    void diskFigures_data()
+    {
+        QTest::addColumn<double>("freeMb");
+        QTest::addColumn<bool>("warn");
+        QTest::addColumn<bool>("stop");
+        QTest::newRow("plenty") << 1000.0 << false << false;
+        QTest::newRow("exactly at the warning limit") << 50.0 << false << false;
+        QTest::newRow("just under it") << 49.9 << true << false;
+        QTest::newRow("stop limit with half a megabyte") << 24.5 << true << false;
+        QTest::newRow("under the stop limit") << 24.4 << true << true;
+    }
+    void diskFigures()
+    {
+        QFETCH(double, freeMb);
+        QFETCH(bool, warn);
+        QFETCH(bool, stop);
+        TestContext tc;
+        tc.ctx->options.WarnRecMegsLeft = 50;
+        tc.ctx->options.StopRecMegsLeft = 25;
+        StatusBarPlus::DiskSpaceMb disk =
+            StatusBarPlus::FromBytes(qint64(2000.0 * 1048576), qint64(freeMb * 1048576));
+        const StatusBarPlus::Update u = StatusBarPlus::Run(*tc.ctx, QString(), disk);
+        QCOMPARE(tc.ctx->error.DiskLowWarn(), warn);
+        QCOMPARE(tc.ctx->error.DiskLowStopRecording(), stop);
+        QVERIFY(u.diskText.startsWith("Disk Space Used: "));
+        QVERIFY(u.diskToolTip.endsWith(" Megabytes remaining"));
+    }
+
+    void aTinyDiskIsFull()
+    {
+        QCOMPARE(StatusBarPlus::FromBytes(512 * 1024, 512 * 1024).usedPercent, 100.0f);
+        QCOMPARE(StatusBarPlus::FromBytes(4 * 1048576, 1048576).usedPercent, 75.0f);
+        QCOMPARE(StatusBarPlus::GetRecDirDiskSpaceMb("/a").total, 0.0);
+        QVERIFY(StatusBarPlus::GetRecDirDiskSpaceMb(QDir::tempPath()).total > 0.0);
+    }
+
+    void theDiskGuardStopsARecordingOnce()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.ctx->appStatus.SetRecording(true);
+        tc.ctx->recordingStatus.Description = "Concert";
+        const auto disk = StatusBarPlus::FromBytes(qint64(1000) * 1048576, 10 * 1048576);
+        QVERIFY(StatusBarPlus::Run(*tc.ctx, QString(), disk).postStop);
+        QVERIFY(tc.ctx->recordingStatus.StopRequested);
+        QVERIFY(!StatusBarPlus::Run(*tc.ctx, QString(), disk).postStop);
+        // Each round logs again until the recording has ended.
+        QCOMPARE(tc.CountRows("EventLog"), 2);
+    }
+
+    void elapsedTexts()
+    {
+        TestContext tc;
+        tc.ctx->recordingStatus.StartTime = Programs::At(2026, 6, 1, "20:00:00");
+        tc.ctx->recordingStatus.EndTime = Programs::At(2026, 6, 1, "21:00:00");
+        tc.clock.Set(Programs::At(2026, 6, 1, "20:01:59"));
+        QCOMPARE(StatusBarPlus::ElapsedText(*tc.ctx), QStringLiteral("01:59"));
+        QCOMPARE(StatusBarPlus::ElapsedRemainingText(*tc.ctx),
+                 QStringLiteral("119 seconds elapsed, 59 minutes remaining"));
+        tc.clock.Set(Programs::At(2026, 6, 1, "21:00:30"));
+        QCOMPARE(StatusBarPlus::ElapsedText(*tc.ctx), QStringLiteral("01:00:30"));
+        QCOMPARE(StatusBarPlus::ElapsedRemainingText(*tc.ctx),
+                 QStringLiteral("60 minutes elapsed, 0 seconds remaining"));
+    }
+
+    void thePageDecidesTheMenu()
+    {
+        Started s;
+        s.Activate();
+        s.form->ui.Action("mnuViewRecordings")->trigger();
+        QCOMPARE(s.form->ui.SSTab1->currentIndex(), 1);
+        QVERIFY(!s.form->ui.mnuPrograms->menuAction()->isVisible());
+        QVERIFY(s.form->ui.mnuRecordings->menuAction()->isVisible());
+        QVERIFY(s.form->ui.Action("mnuViewRecordings")->isChecked());
+        QVERIFY(!s.form->ui.Action("mnuViewPrograms")->isChecked());
+        s.form->ui.SSTab1->setCurrentIndex(0);
+        QVERIFY(s.form->ui.mnuPrograms->menuAction()->isVisible());
+        QVERIFY(!s.form->ui.mnuRecordings->menuAction()->isVisible());
+    }
+
+    void headerClicksSortAscendingThenDescending()
+    {
+        Started s;
+        s.Activate();
+        for (const char* name : {"Bravo", "Alpha"})
+            s.tc.AddProgram(Programs::Weekly(name, "20:00:00", "21:00:00", "0100000"));
+        QHeaderView* header = s.form->ui.DBGridPrograms->horizontalHeader();
+        const auto first = [&] {
+            return s.form->ui.DBGridPrograms->model()->index(0, 0).data().toString();
+        };
+        emit header->sectionClicked(0);
+        QVERIFY(s.tc.ctx->database.DataPrograms.RecordSource().endsWith(" ASC"));
+        QCOMPARE(first(), QStringLiteral("Alpha"));
+        emit header->sectionClicked(0);
+        QVERIFY(s.tc.ctx->database.DataPrograms.RecordSource().endsWith(" DESC"));
+        QCOMPARE(first(), QStringLiteral("Bravo"));
+        emit header->sectionClicked(1); // only the description sorts
+        QVERIFY(s.tc.ctx->database.DataPrograms.RecordSource().endsWith(" DESC"));
+    }
+
+    void restoreAndCompactionFromTheMenu()
+    {
+        Started s;
+        s.Activate();
+        s.tc.AddProgram(Programs::Weekly("Kept", "20:00:00", "21:00:00", "1111111"));
+        QSignalSpy mode(&s.tc.ctx->appStatus, &clsAppStatus::Update);
+        s.form->ui.Action("mnuCompactDb")->trigger();
+        QCOMPARE(mode.size(), 2); // maintenance on and off
+        QCOMPARE(s.form->ui.DBGridPrograms->model()->rowCount(), 1);
+        QVERIFY(s.tc.ctx->scheduler.next.NextProgramFound);
+
+        s.tc.messageBox.answers << MsgResult::No;
+        s.form->ui.Action("mnuRestoreOriginalDb")->trigger();
+        QCOMPARE(s.tc.messageBox.asked.last().title, QStringLiteral("Restore Original Database"));
+        QCOMPARE(s.form->ui.DBGridPrograms->model()->rowCount(), 1);
+
+        s.tc.messageBox.answers << MsgResult::Yes;
+        s.form->ui.Action("mnuRestoreOriginalDb")->trigger();
+        QCOMPARE(s.form->ui.DBGridPrograms->model()->rowCount(), 0);
+        QVERIFY(!s.tc.ctx->scheduler.next.NextProgramFound);
+        QVERIFY(!s.form->ui.Action("mnuEdit")->isEnabled());
+        QVERIFY(!s.tc.ctx->appStatus.Maintenance());
+        QVERIFY(!s.tc.ctx->error.DatabaseMissing());
+    }
+};
+
+QTEST_MAIN(TestFrmMain)
+#include "test_frmMain.moc"
