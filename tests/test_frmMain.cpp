@@ -361,6 +361,51 @@ private slots:
         QVERIFY(s.tc.ctx->database.DataPrograms.RecordSource().endsWith(" DESC"));
     }
 
+    void deletingTheLastRecordingLeavesOnlyAddAndLoad()
+    {
+        Started s;
+        s.Activate();
+        const QString file = s.Folder() + "/only.wav";
+        QFile f(file);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("RIFF");
+        f.close();
+        Recordset& rs = s.tc.ctx->database.DataRecordings.recordset();
+        rs.AddNew();
+        rs.SetValue("File", file);
+        rs.Update();
+        QVERIFY(s.form->ui.Action("mnuRecordingsRemove")->isEnabled());
+        s.form->ui.DBGridRecordings->selectRow(0);
+        s.tc.messageBox.answers << MsgResult::Yes;
+        s.form->ui.Action("ToolbarRecordings.Delete")->trigger();
+        QCOMPARE(s.tc.messageBox.asked.last().title, QStringLiteral("Remove Recordings From Disk"));
+        QVERIFY(!QFile::exists(file));
+        QCOMPARE(s.form->ui.DBGridRecordings->model()->rowCount(), 0);
+        for (const char* name :
+             {"mnuRecordingsPlay", "mnuRecordingsRemove", "mnuDetails", "mnuRecordingsExplore",
+              "mnuRecordingsCopyFilename", "mnuRecordingsRemoveFromList", "mnuClearList",
+              "mnuSaveList", "mnuRecordingsSelectAll", "ToolbarRecordings.Play",
+              "ToolbarRecordings.save_list"})
+            QVERIFY2(!s.form->ui.Action(name)->isEnabled(), name);
+        for (const char* name : {"mnuAddFileToList", "mnuAddFolderToList", "mnuLoadList",
+                                 "ToolbarRecordings.add_to_list", "ToolbarRecordings.load_list"})
+            QVERIFY2(s.form->ui.Action(name)->isEnabled(), name);
+    }
+
+    void playingAMissingFileSaysSo()
+    {
+        Started s;
+        s.Activate();
+        Recordset& rs = s.tc.ctx->database.DataRecordings.recordset();
+        rs.AddNew();
+        rs.SetValue("File", s.Folder() + "/moved.wav");
+        rs.Update();
+        s.form->ui.DBGridRecordings->selectRow(0);
+        emit s.form->ui.DBGridRecordings->doubleClicked(
+            s.form->ui.DBGridRecordings->model()->index(0, 0));
+        QCOMPARE(s.tc.messageBox.asked.last().title, QStringLiteral("Recording file not found"));
+    }
+
     void restoreAndCompactionFromTheMenu()
     {
         Started s;

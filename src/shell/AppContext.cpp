@@ -12,6 +12,9 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , registry(*this)
     , database(*this)
     , scheduler(*this)
+    , ProgramFormat(*this)
+    , ProgramFormFormat(*this)
+    , WfxDefault(*this)
 {
 }
 

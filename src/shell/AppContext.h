@@ -2,6 +2,7 @@
 
 #include "diagnostics/EventLog.h"
 #include "diagnostics/clsError.h"
+#include "formats/clsRecordingFormat.h"
 #include "scheduling/Scheduler.h"
 #include "shell/clsAppStatus.h"
 #include "shell/clsRecordingStatus.h"
@@ -47,6 +48,11 @@ public:
     clsRecordingStatus recordingStatus;
     AppDatabase database;
     Scheduler scheduler;
+    // The format of the program being handled, the working copy that the dialogs show and
+    // change, and the default format of the Info row.
+    clsRecordingFormat ProgramFormat;
+    clsRecordingFormat ProgramFormFormat;
+    clsRecordingFormat WfxDefault;
     // False until the end of the first activation: the timers idle until then.
     bool appReady = false;
     // Asks the running MP3 conversion to stop at its next step.

@@ -47,6 +47,7 @@ void MainFormController::InitializeForFirstActivation(const FolderChooser& choos
     Trap(m_ctx.log, "Main Form Load", [&] {
         m_ctx.database.InitializeControls();
         CheckDefaultRecordingDirectory(chooser);
+        GetWfxDefault(m_ctx);
         m_ctx.scheduler.ScheduleNextRecording();
         heartbeat.Start();
     });
@@ -160,6 +161,8 @@ void MainFormController::mnuRestoreOriginalDb_Click()
     // These run after a refused question too.
     m_ctx.database.CheckDatabaseMissing();
     emit ListsReplaced();
+    // The new Info row holds the format in force, not that of the empty file.
+    m_ctx.WfxDefault.SaveDefaultFormatInfo();
     m_ctx.scheduler.ScheduleNextRecording();
     m_ctx.appStatus.SetMaintenance(false);
 }

@@ -3,6 +3,7 @@
 #include "common/Clock.h"
 #include "common/ProcessLauncher.h"
 #include "common/TextHelpers.h"
+#include "formats/FileInspection.h"
 #include "platform/AudioDevices.h"
 #include "shell/AppContext.h"
 #include "shell/WidgetMessageBox.h"
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QLockFile>
+#include <QTextStream>
 
 namespace ModuleStart {
 namespace {
@@ -25,17 +27,38 @@ void ShowAlreadyRunning(MessageBoxPresenter& messageBox)
                     MsgIcon::Exclamation, MsgButtons::Ok);
 }
 
-} // namespace
-
-int Main(int argc, char* argv[])
+void SetApplicationNames()
 {
-    QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Larkmoor Systems"));
     QCoreApplication::setApplicationName(QStringLiteral("Nightreel"));
     QCoreApplication::setApplicationVersion(QStringLiteral("%1.%2.%3")
                                                 .arg(NIGHTREEL_VERSION_MAJOR)
                                                 .arg(NIGHTREEL_VERSION_MINOR)
                                                 .arg(NIGHTREEL_VERSION_REV));
+}
+
+// "--inspect FILE": what the recordings list would show of the file; no window, no lock.
+int Inspect(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    SetApplicationNames();
+    SystemClock clock;
+    WidgetMessageBox messageBox;
+    DetachedProcessLauncher launcher;
+    PulseAudioDevices audioDevices;
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices}, AppFolders::ForCurrentUser());
+    QTextStream out(stdout);
+    return InspectFile(ctx, QString::fromLocal8Bit(argv[2]), out);
+}
+
+} // namespace
+
+int Main(int argc, char* argv[])
+{
+    if (argc == 3 && qstrcmp(argv[1], "--inspect") == 0)
+        return Inspect(argc, argv);
+    QApplication app(argc, argv);
+    SetApplicationNames();
     QApplication::setQuitOnLastWindowClosed(false);
     // One optional word: "1" starts hidden in the tray, "2" allows a second instance.
     const QString word = argc > 1 ? Text::Trim(QString::fromLocal8Bit(argv[1])) : QString();

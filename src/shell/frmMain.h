@@ -10,6 +10,7 @@
 class AppContext;
 class QMenu;
 class QSystemTrayIcon;
+class Recordset;
 class RecordsetModel;
 class frmRecordingStatus;
 
@@ -46,6 +47,20 @@ protected:
 
 private:
     void ConnectCommands();
+    void ConnectRecordingCommands();
+    // The commands of the recordings list, each trapped under the system's name.
+    void RecordingsPlay();
+    void ShowRecordingDetails();
+    void ExploreRecording();
+    void CopyRecordingFilename();
+    void AddFileToList();
+    void AddFolderToList();
+    void RemoveSelectedRecordingsFromList();
+    void DeleteSelectedRecordingsFromDisk();
+    void ClearRecordingsList();
+    void AfterRecordingsChange();
+    // The row a single-row command of the recordings list works on, on a clone.
+    bool RecordingCommandRow(Recordset& rs) const;
     void CreateTray();
     void BindGrids();
     void GetFormRegSettings();

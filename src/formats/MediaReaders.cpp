@@ -1,0 +1,211 @@
+#include "formats/MediaReaders.h"
+
+#include "common/AutomationDate.h"
+#include "common/TextHelpers.h"
+#include "formats/CodecCatalogue.h"
+#include "formats/ModuleFileTime.h"
+#include "formats/Mp3Info.h"
+#include "formats/WaveFileChunks.h"
+#include "formats/clsRecordingFormat.h"
+#include "shell/AppContext.h"
+#include "store/Options.h"
+#include "store/Recordset.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+using ReadChunks = bool (*)(QIODevice&, int, WaveFileChunks&);
+
+bool ReadWave(const QString& path, ReadChunks read, WaveFileChunks& chunks)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && read(file, CodecCatalogue::MaxFormatSize(), chunks);
+}
+
+// The format chunk as the block of a new format object, and the object's short text.
+QString FormatText(const WaveFileChunks& chunks, clsRecordingFormat& format)
+{
+    std::memcpy(format.mwfx(), chunks.fmt.constData(),
+                size_t(std::min<qsizetype>(chunks.fmt.size(), format.MwfxSize())));
+    format.CalcRemainingVarsFromMwfx();
+    return format.TextCompressionMethodShort;
+}
+
+void StartRow(const QString& path, RecordingRow& row)
+{
+    row.File = path;
+    row.EndTime = ModuleFileTime::FileDateTime(path);
+    row.Size = ModuleFileTime::GetFileSizeMbytes(path);
+}
+
+// Writes the row unless the file is listed; a database failure is not reported, as no
+// reader reports anything.
+void AddRow(AppContext& ctx, const RecordingRow& row)
+{
+    try {
+        if (IsFileInRecordingsList(ctx, row.File))
+            return;
+        Recordset& rs = ctx.database.DataRecordings.recordset();
+        rs.AddNew();
+        rs.SetValue(QStringLiteral("Title"), row.Title);
+        rs.SetValue(QStringLiteral("StartTime"), row.StartTime);
+        rs.SetValue(QStringLiteral("EndTime"), row.EndTime);
+        rs.SetValue(QStringLiteral("CompressionMethod"), row.CompressionMethod);
+        rs.SetValue(QStringLiteral("Size"), double(row.Size));
+        rs.SetValue(QStringLiteral("File"), row.File);
+        rs.Update();
+        rs.SetBookmark(rs.LastModified());
+    } catch (const std::exception&) {
+        ctx.database.DataRecordings.recordset().CancelUpdate();
+    }
+}
+
+} // namespace
+
+namespace MediaReaders {
+
+bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row)
+{
+    WaveFileChunks chunks;
+    if (!ReadWave(path, WaveFileChunk::ReadNightreelWave, chunks))
+        return false;
+    double created = 0.0;
+    if (!Options::ParseDateText(chunks.created, created))
+        return false;
+    clsRecordingFormat format(ctx);
+    row = RecordingRow();
+    row.CompressionMethod = FormatText(chunks, format);
+    row.Title = chunks.title;
+    StartRow(path, row);
+    const qint32 seconds = format.CalcSecondsFromMbytes(row.Size);
+    row.StartTime = AutomationDate::AddSeconds(row.EndTime, -seconds);
+
+    // A file stamped before a change of daylight saving time lies an hour off the start
+    // that the file itself records; both times move by that hour. The recorded start is
+    // not used otherwise.
+    const qint64 difference = AutomationDate::MinutesBetween(row.StartTime, created);
+    double shift = 0.0;
+    if (difference >= 58 && difference <= 62)
+        shift = 3600;
+    else if (difference >= -62 && difference <= -58)
+        shift = -3600;
+    row.StartTime = AutomationDate::AddSeconds(row.StartTime, shift);
+    row.EndTime = AutomationDate::AddSeconds(row.EndTime, shift);
+    return true;
+}
+
+bool ReadNightreelCompressedWave(AppContext& ctx, const QString& path, RecordingRow& row)
+{
+    WaveFileChunks chunks;
+    if (!ReadWave(path, WaveFileChunk::ReadNightreelCompressedWave, chunks))
+        return false;
+    clsRecordingFormat format(ctx);
+    row = RecordingRow();
+    row.CompressionMethod = FormatText(chunks, format);
+    row.Title = chunks.title;
+    StartRow(path, row);
+    qint64 seconds = chunks.sampleFrames;
+    if (chunks.factBytesRead > 0) {
+        if (format.nSamplesPerSec() == 0)
+            return false;
+        seconds = Text::RoundHalfEven(double(chunks.sampleFrames) / format.nSamplesPerSec());
+    }
+    row.StartTime = AutomationDate::AddSeconds(row.EndTime, -double(seconds));
+    return true;
+}
+
+bool ReadOtherWave(AppContext& ctx, const QString& path, RecordingRow& row)
+{
+    WaveFileChunks chunks;
+    if (!ReadWave(path, WaveFileChunk::ReadOtherWave, chunks))
+        return false;
+    clsRecordingFormat format(ctx);
+    row = RecordingRow();
+    row.CompressionMethod = FormatText(chunks, format);
+    StartRow(path, row);
+    const float perSecond = format.CalcStorageMbytesSng(1);
+    if (!(perSecond > 0.0f))
+        return false;
+    const double seconds = std::nearbyint(double(row.Size) / double(perSecond));
+    row.StartTime = AutomationDate::AddSeconds(row.EndTime, -seconds);
+    row.Title = GetFileNameFromPath(path);
+    return true;
+}
+
+bool ReadMp3(const QString& path, RecordingRow& row)
+{
+    // Without the file there is no date to work from.
+    if (!QFileInfo(path).isFile())
+        return false;
+    Mp3Info info;
+    Mp3File::GetMp3Info(path, true, true, info);
+    row = RecordingRow();
+    row.Title = info.Title.isEmpty() ? GetFileNameFromPath(path) : info.Title;
+    StartRow(path, row);
+    row.StartTime = AutomationDate::AddSeconds(row.EndTime, -double(info.Duration));
+    row.CompressionMethod = QStringLiteral("MPEG Layer 3  ") + QString::number(info.Bitrate) +
+                            QStringLiteral(" kBits/s, ") + QString::number(info.Frequency) +
+                            QStringLiteral(" Hz, ") + info.Mode;
+    return true;
+}
+
+bool ReadRecordingRow(AppContext& ctx, const QString& path, RecordingRow& row)
+{
+    const QString suffix = QFileInfo(Text::Trim(path)).suffix().toUpper();
+    if (suffix == QLatin1String("WAV"))
+        return ReadNightreelWave(ctx, path, row) || ReadNightreelCompressedWave(ctx, path, row) ||
+               ReadOtherWave(ctx, path, row);
+    if (suffix == QLatin1String("MP3"))
+        return ReadMp3(path, row);
+    return false;
+}
+
+} // namespace MediaReaders
+
+void AddNightreelWaveToList(AppContext& ctx, const QString& path, bool& found)
+{
+    RecordingRow row;
+    found = MediaReaders::ReadNightreelWave(ctx, path, row);
+    if (found)
+        AddRow(ctx, row);
+}
+
+void AddNightreelCompressedWaveToList(AppContext& ctx, const QString& path, bool& found)
+{
+    RecordingRow row;
+    found = MediaReaders::ReadNightreelCompressedWave(ctx, path, row);
+    if (found)
+        AddRow(ctx, row);
+}
+
+void AddOtherWaveToList(AppContext& ctx, const QString& path)
+{
+    RecordingRow row;
+    if (MediaReaders::ReadOtherWave(ctx, path, row))
+        AddRow(ctx, row);
+}
+
+void AddMp3ToList(AppContext& ctx, const QString& path)
+{
+    RecordingRow row;
+    if (MediaReaders::ReadMp3(path, row))
+        AddRow(ctx, row);
+}
+
+bool IsFileInRecordingsList(AppContext& ctx, const QString& path)
+{
+    const QString criteria = Text::SqlQuoted(Text::Trim(path).toUpper());
+    Recordset rs = Recordset::Open(
+        ctx.database.db,
+        QStringLiteral("SELECT * FROM [Recordings] WHERE TRIM(UCASE([File])) = ") + criteria);
+    return rs.RecordCount() >= 1;
+}
+
+QString GetFileNameFromPath(const QString& path)
+{
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}

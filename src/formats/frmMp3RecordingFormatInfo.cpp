@@ -1,0 +1,38 @@
+#include "formats/frmMp3RecordingFormatInfo.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+frmMp3RecordingFormatInfo::frmMp3RecordingFormatInfo(QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmMp3RecordingFormatInfo"));
+    setWindowTitle(QStringLiteral("Selecting MP3 Recording Format"));
+    const QString texts[] = {
+        QStringLiteral("To enable MP3 recording, follow the steps below:"),
+        QStringLiteral("1) Click on the ") +
+            QStringLiteral("\"Select from all recording formats\"") + QStringLiteral(" button"),
+        QStringLiteral("2) Select the ") + QStringLiteral("\"MPEG Layer-3\"") +
+            QStringLiteral(" recording format.  If this recording format does not show up on "
+                           "the list, visit the Larkmoor Systems website for the most recent "
+                           "information on obtaining this codec."),
+    };
+    auto* layout = new QVBoxLayout(this);
+    for (int i = 0; i < 3; ++i) {
+        auto* label = new QLabel(texts[i], this);
+        label->setObjectName(QStringLiteral("Label%1").arg(i + 1));
+        label->setWordWrap(true);
+        layout->addWidget(label);
+    }
+    auto* ok = new QPushButton(QStringLiteral("&OK"), this);
+    ok->setObjectName(QStringLiteral("CommandOk"));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(ok);
+    layout->addLayout(buttons);
+    setFixedWidth(400);
+}

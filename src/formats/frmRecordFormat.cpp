@@ -1,0 +1,374 @@
+#include "formats/frmRecordFormat.h"
+
+#include "diagnostics/Trap.h"
+#include "formats/CodecCatalogue.h"
+#include "formats/FormatChooser.h"
+#include "formats/frmMP3Warning.h"
+#include "formats/frmMP3WarningNT.h"
+#include "formats/frmMp3RecordingFormatInfo.h"
+#include "shell/AppContext.h"
+#include "shell/FormPlacement.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace {
+
+struct Preset {
+    quint16 channels;
+    quint32 samplesPerSec;
+    quint16 bits;
+};
+constexpr Preset PhoneQuality{1, 11025, 8};
+constexpr Preset RadioQuality{1, 22050, 8};
+constexpr Preset CdQuality{2, 44100, 16};
+
+// The offset of the form from the main window's corner, in twips.
+constexpr int FormOffsetTwips = 200;
+
+// Rates as the user reads them, with the thousands separator even where the locale
+// leaves it out by default.
+QString RateText(quint32 rate)
+{
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
+    return locale.toString(rate);
+}
+
+void SetCheckedQuietly(QRadioButton* button, bool checked)
+{
+    // A radio button of an exclusive group can only be cleared with the group off.
+    const bool exclusive = button->autoExclusive();
+    button->setAutoExclusive(false);
+    button->setChecked(checked);
+    button->setAutoExclusive(exclusive);
+}
+
+} // namespace
+
+frmRecordFormat::frmRecordFormat(AppContext& ctx, clsRecordingFormat& format, QWidget* parent)
+    : QDialog(parent)
+    , m_ctx(ctx)
+    , m_format(format)
+    , m_backup(ctx)
+{
+    setObjectName(QStringLiteral("frmRecordFormat"));
+    setWindowTitle(QStringLiteral("Select Recording Format"));
+
+    auto named = [](QWidget* widget, const char* name) {
+        widget->setObjectName(QString::fromLatin1(name));
+        return widget;
+    };
+
+    Frame4 = new QGroupBox(QStringLiteral("Format Selected"), this);
+    named(Frame4, "Frame4");
+    LabelFormat = new QLabel(Frame4);
+    named(LabelFormat, "LabelFormat");
+    LabelFormat->setWordWrap(true);
+    LabelFormat->setMinimumHeight(36);
+    LabelFormat->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    (new QVBoxLayout(Frame4))->addWidget(LabelFormat);
+
+    CheckUsePcm = new QCheckBox(QStringLiteral("&Use PCM format "), this);
+    named(CheckUsePcm, "CheckUsePcm");
+
+    framePcmFormat = new QGroupBox(QStringLiteral("&Standard PCM Format "), this);
+    named(framePcmFormat, "framePcmFormat");
+    optPhoneQuality = new QRadioButton(QStringLiteral("&Phone Quality"), framePcmFormat);
+    named(optPhoneQuality, "optPhoneQuality");
+    optRadioQuality = new QRadioButton(QStringLiteral("&Radio Quality"), framePcmFormat);
+    named(optRadioQuality, "optRadioQuality");
+    optCDQuality = new QRadioButton(QStringLiteral("C&D Quality"), framePcmFormat);
+    named(optCDQuality, "optCDQuality");
+
+    FrameChannels = new QGroupBox(QStringLiteral("C&hannels"), framePcmFormat);
+    named(FrameChannels, "FrameChannels");
+    OptionMono = new QRadioButton(QStringLiteral("&Mono"), FrameChannels);
+    named(OptionMono, "OptionMono");
+    OptionStereo = new QRadioButton(QStringLiteral(" S&tereo"), FrameChannels);
+    named(OptionStereo, "OptionStereo");
+    auto* channels = new QVBoxLayout(FrameChannels);
+    channels->addWidget(OptionMono);
+    channels->addWidget(OptionStereo);
+
+    FrameResolution = new QGroupBox(QStringLiteral("R&esolution"), framePcmFormat);
+    named(FrameResolution, "FrameResolution");
+    Option8bit = new QRadioButton(QStringLiteral("&8 bit"), FrameResolution);
+    named(Option8bit, "Option8bit");
+    Option16bit = new QRadioButton(QStringLiteral("&16  bit"), FrameResolution);
+    named(Option16bit, "Option16bit");
+    auto* resolution = new QVBoxLayout(FrameResolution);
+    resolution->addWidget(Option8bit);
+    resolution->addWidget(Option16bit);
+
+    LabelSampleRate = new QLabel(QStringLiteral("Sample Rate"), framePcmFormat);
+    named(LabelSampleRate, "LabelSampleRate");
+    ComboSampleRate = new QComboBox(framePcmFormat);
+    named(ComboSampleRate, "ComboSampleRate");
+    LabelSampleRate->setBuddy(ComboSampleRate);
+
+    auto* presets = new QVBoxLayout;
+    presets->addWidget(optPhoneQuality);
+    presets->addWidget(optRadioQuality);
+    presets->addWidget(optCDQuality);
+    presets->addStretch();
+    auto* rate = new QVBoxLayout;
+    rate->addWidget(LabelSampleRate);
+    rate->addWidget(ComboSampleRate);
+    rate->addStretch();
+    auto* pcm = new QHBoxLayout(framePcmFormat);
+    pcm->addLayout(presets);
+    pcm->addWidget(FrameChannels);
+    pcm->addWidget(FrameResolution);
+    pcm->addLayout(rate);
+
+    CommandAdvanced = new QPushButton(QStringLiteral("Select from &all recording formats"), this);
+    named(CommandAdvanced, "CommandAdvanced");
+
+    frameMP3 = new QGroupBox(QStringLiteral("MP3"), this);
+    named(frameMP3, "frameMP3");
+    // The caption is long for one line; it is broken where its two sentences meet.
+    chkConvert = new QCheckBox(
+        QStringLiteral("Co&nvert to the selected MP3 format after recording in the appropriate "
+                       "PCM format.\n(Recommended for Windows 95/98/Me)"),
+        frameMP3);
+    named(chkConvert, "chkConvert");
+    chkMP3FileExtension = new QCheckBox(QStringLiteral("Sa&ve with .MP3 file extension"), frameMP3);
+    named(chkMP3FileExtension, "chkMP3FileExtension");
+    // Beside the MP3 frame, not in it: the steps it shows are wanted while MP3 is not yet
+    // chosen and the frame is unavailable.
+    btnInfo = new QPushButton(this);
+    named(btnInfo, "btnInfo");
+    btnInfo->setIcon(style()->standardIcon(QStyle::SP_MessageBoxInformation));
+    btnInfo->setToolTip(QStringLiteral("Selecting MP3 Recording Format"));
+    auto* mp3 = new QGridLayout(frameMP3);
+    mp3->addWidget(chkConvert, 0, 0);
+    mp3->addWidget(chkMP3FileExtension, 1, 0);
+
+    Label1 = new QLabel(QStringLiteral("NOTE: It is strongly recommended to perform a short test "
+                                       "recording if no recording has been made with this "
+                                       "format before."),
+                        this);
+    named(Label1, "Label1");
+    Label1->setWordWrap(true);
+
+    CommandOk = new QPushButton(QStringLiteral("&OK"), this);
+    named(CommandOk, "CommandOk");
+    CommandOk->setDefault(true);
+    CommandCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    named(CommandCancel, "CommandCancel");
+
+    auto* pcmRow = new QHBoxLayout;
+    pcmRow->addWidget(CheckUsePcm);
+    pcmRow->addStretch();
+    pcmRow->addWidget(CommandAdvanced);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(Label1, 1);
+    buttons->addWidget(CommandOk);
+    buttons->addWidget(CommandCancel);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(Frame4);
+    layout->addLayout(pcmRow);
+    layout->addWidget(framePcmFormat);
+    auto* mp3Row = new QHBoxLayout;
+    mp3Row->addWidget(frameMP3, 1);
+    mp3Row->addWidget(btnInfo, 0, Qt::AlignVCenter);
+    layout->addLayout(mp3Row);
+    layout->addLayout(buttons);
+
+    // Form load.
+    CommandAdvanced->setText(QStringLiteral("Select from &all\nrecording formats"));
+    FormPlacement::PlaceAtMainForm(this, parent, FormOffsetTwips);
+    m_backup.CopyFrom(m_format);
+    chkMP3FileExtension->setChecked(m_format.SaveMP3FileExtension);
+    chkConvert->setChecked(m_format.ConvertToMP3);
+    UpdateMp3Frame();
+    m_sampleRates = CodecCatalogue::SampleRates();
+    for (quint32 sampleRate : m_sampleRates)
+        ComboSampleRate->addItem(RateText(sampleRate));
+    ComboSampleRate->setCurrentIndex(-1);
+    CheckRecordingFormat();
+
+    connect(optPhoneQuality, &QRadioButton::clicked, this, [this] {
+        SelectPreset(PhoneQuality.channels, PhoneQuality.samplesPerSec, PhoneQuality.bits);
+    });
+    connect(optRadioQuality, &QRadioButton::clicked, this, [this] {
+        SelectPreset(RadioQuality.channels, RadioQuality.samplesPerSec, RadioQuality.bits);
+    });
+    connect(optCDQuality, &QRadioButton::clicked, this,
+            [this] { SelectPreset(CdQuality.channels, CdQuality.samplesPerSec, CdQuality.bits); });
+    for (QRadioButton* option : {OptionMono, OptionStereo, Option8bit, Option16bit})
+        connect(option, &QRadioButton::clicked, this, &frmRecordFormat::SetWfxFromPcmForm);
+    connect(ComboSampleRate, &QComboBox::currentIndexChanged, this,
+            &frmRecordFormat::SetWfxFromPcmForm);
+    connect(CheckUsePcm, &QCheckBox::clicked, this, &frmRecordFormat::CheckUsePcm_Click);
+    connect(chkConvert, &QCheckBox::clicked, this, &frmRecordFormat::Mp3Flag_Click);
+    connect(chkMP3FileExtension, &QCheckBox::clicked, this, &frmRecordFormat::Mp3Flag_Click);
+    connect(btnInfo, &QPushButton::clicked, this, [this] {
+        frmMp3RecordingFormatInfo info(this);
+        info.exec();
+    });
+    connect(CommandAdvanced, &QPushButton::clicked, this, &frmRecordFormat::CommandAdvanced_Click);
+    connect(CommandOk, &QPushButton::clicked, this, &frmRecordFormat::CommandOk_Click);
+    connect(CommandCancel, &QPushButton::clicked, this, &frmRecordFormat::CommandCancel_Click);
+}
+
+void frmRecordFormat::CheckRecordingFormat()
+{
+    // Setting a control fires its event, which would come back here.
+    if (m_updating)
+        return;
+    m_updating = true;
+    Trap(m_ctx.log, "CheckRecordingFormat", [&] {
+        LabelFormat->setText(m_format.TextCompressionMethod);
+        if (m_format.wFormatTag() != clsRecordingFormat::WAVE_FORMAT_PCM) {
+            CheckUsePcm->setChecked(false);
+            CheckUsePcm->setEnabled(true);
+            SetPcmControlsEnabled(false);
+            UpdateMp3Frame();
+            return;
+        }
+        CheckUsePcm->setChecked(true);
+        CheckUsePcm->setEnabled(false);
+        SetPcmControlsEnabled(true);
+        (m_format.nChannels() == 2 ? OptionStereo : OptionMono)->setChecked(true);
+        (m_format.nBitsPerSample() == 16 ? Option16bit : Option8bit)->setChecked(true);
+        ComboSampleRate->setCurrentIndex(int(m_sampleRates.indexOf(m_format.nSamplesPerSec())));
+
+        const struct {
+            QRadioButton* button;
+            Preset preset;
+        } presets[] = {{optPhoneQuality, PhoneQuality},
+                       {optRadioQuality, RadioQuality},
+                       {optCDQuality, CdQuality}};
+        for (const auto& p : presets)
+            SetCheckedQuietly(p.button, false);
+        for (const auto& p : presets)
+            if (p.preset.channels == m_format.nChannels() &&
+                p.preset.bits == m_format.nBitsPerSample() &&
+                p.preset.samplesPerSec == m_format.nSamplesPerSec())
+                p.button->setChecked(true);
+    });
+    m_updating = false;
+}
+
+void frmRecordFormat::UpdateMp3Frame()
+{
+    const bool mp3 = m_format.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3;
+    frameMP3->setEnabled(mp3);
+    chkConvert->setEnabled(mp3);
+    chkMP3FileExtension->setEnabled(mp3);
+}
+
+void frmRecordFormat::SetPcmControlsEnabled(bool enabled)
+{
+    framePcmFormat->setEnabled(enabled);
+}
+
+void frmRecordFormat::SelectPreset(quint16 channels, quint32 samplesPerSec, quint16 bits)
+{
+    if (m_updating)
+        return;
+    m_format.SetToPcm(channels, samplesPerSec, bits);
+    CheckRecordingFormat();
+}
+
+void frmRecordFormat::SetWfxFromPcmForm()
+{
+    if (m_updating)
+        return;
+    const quint16 channels = OptionStereo->isChecked() ? 2 : 1;
+    const quint16 bits = Option16bit->isChecked() ? 16 : 8;
+    const int index = ComboSampleRate->currentIndex();
+    const quint32 rate = index >= 0 && index < m_sampleRates.size() ? m_sampleRates[index] : 11025;
+    m_format.SetToPcm(channels, rate, bits);
+    CheckRecordingFormat();
+}
+
+void frmRecordFormat::CheckUsePcm_Click()
+{
+    if (m_updating)
+        return;
+    if (CheckUsePcm->isChecked()) {
+        SetPcmControlsEnabled(true);
+        SetWfxFromPcmForm();
+    } else {
+        SetPcmControlsEnabled(false);
+    }
+    UpdateMp3Frame();
+}
+
+void frmRecordFormat::Mp3Flag_Click()
+{
+    if (m_updating)
+        return;
+    m_format.ConvertToMP3 = chkConvert->isChecked();
+    m_format.SaveMP3FileExtension = chkMP3FileExtension->isChecked();
+    m_format.CalculateTextCompressionMethodString();
+    LabelFormat->setText(m_format.TextCompressionMethod);
+}
+
+void frmRecordFormat::CommandAdvanced_Click()
+{
+    Trap(m_ctx.log, "Recording Format Form CommandAdvanced_Click", [&] {
+        // The chooser writes straight into the block; the fields are rebuilt from it.
+        if (FormatChooser::Choose(this, m_format.mwfx(), m_format.MwfxSize()) != 0)
+            return;
+        m_format.CalcRemainingVarsFromMwfx();
+        UpdateMp3Frame();
+        CheckRecordingFormat();
+    });
+}
+
+void frmRecordFormat::CommandOk_Click()
+{
+    m_format.SaveMP3FileExtension = chkMP3FileExtension->isChecked();
+    m_format.ConvertToMP3 = chkConvert->isChecked();
+    m_format.CalculateTextCompressionMethodString();
+    m_format.FormatChanged = -1;
+    if (m_format.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 &&
+        Mp3WarningForm::WarningDue(m_ctx)) {
+        if (RunsOnWindows9x && !m_format.ConvertToMP3) {
+            frmMP3Warning warning(m_ctx, this);
+            warning.exec();
+        } else if (!RunsOnWindows9x && m_format.ConvertToMP3) {
+            frmMP3WarningNT warning(m_ctx, this);
+            warning.exec();
+        }
+    }
+    QDialog::accept();
+}
+
+void frmRecordFormat::CommandCancel_Click()
+{
+    m_format.CopyFrom(m_backup);
+    QDialog::reject();
+}
+
+// Escape and the window's close button count as Cancel.
+void frmRecordFormat::reject()
+{
+    CommandCancel_Click();
+}
+
+bool ChangeFormat(AppContext& ctx, clsRecordingFormat& format, QWidget* owner)
+{
+    bool changed = false;
+    Trap(ctx.log, "ChangeFormat", [&] {
+        format.FormatChanged = 0;
+        frmRecordFormat form(ctx, format, owner);
+        form.exec();
+        // OK sets True, which is -1: any non-zero value is the confirmation.
+        changed = format.FormatChanged != 0;
+    });
+    return changed;
+}

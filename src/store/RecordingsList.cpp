@@ -1,0 +1,166 @@
+#include "store/RecordingsList.h"
+
+#include "common/AutomationDate.h"
+#include "common/TextHelpers.h"
+#include "diagnostics/Trap.h"
+#include "formats/MediaReaders.h"
+#include "shell/AppContext.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+const QString kWaveFiles = QStringLiteral("*.WAV");
+const QString kMp3Files = QStringLiteral("*.MP3");
+
+QString Comparable(const QString& path)
+{
+    return Text::Trim(path).toUpper();
+}
+
+// Names of the folder matching the pattern, in the order of the listing, any case.
+QStringList FilesMatching(const QDir& dir, const QString& pattern)
+{
+    return dir.entryList({pattern}, QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+QString Plural(qint64 n, const QString& one)
+{
+    return QString::number(n) + u' ' + one + (n == 1 ? QString() : QStringLiteral("s"));
+}
+
+} // namespace
+
+RecordingsList::RecordingsList(AppContext& ctx)
+    : m_ctx(ctx)
+{
+}
+
+bool RecordingsList::IsExcluded(const QString& path) const
+{
+    // The file being recorded is not a finished recording yet.
+    const QString finalFile = m_ctx.recordingStatus.FinalFile;
+    return !finalFile.isEmpty() && Comparable(finalFile) == Comparable(path);
+}
+
+void RecordingsList::AddFileToRecordingsList(const QString& path)
+{
+    const QString file = Text::Trim(path);
+    if (IsExcluded(file))
+        return;
+    const QString suffix = QFileInfo(file).suffix().toUpper();
+    if (suffix == QLatin1String("WAV")) {
+        bool found = false;
+        AddNightreelWaveToList(m_ctx, file, found);
+        if (!found)
+            AddNightreelCompressedWaveToList(m_ctx, file, found);
+        if (!found)
+            AddOtherWaveToList(m_ctx, file);
+    } else if (suffix == QLatin1String("MP3")) {
+        AddMp3ToList(m_ctx, file);
+    }
+}
+
+void RecordingsList::AddFolderToRecordingsList(const QString& folder)
+{
+    const QDir dir(folder);
+    for (const QString& pattern : {kWaveFiles, kMp3Files}) {
+        for (const QString& name : FilesMatching(dir, pattern))
+            AddFileToRecordingsList(dir.filePath(name));
+    }
+}
+
+void RecordingsList::RepositionAfterRemoval()
+{
+    Recordset& rs = m_ctx.database.DataRecordings.recordset();
+    if (rs.IsEOF())
+        return;
+    rs.MoveNext();
+    if (rs.IsEOF() && rs.RecordCount() > 0)
+        rs.MoveLast();
+}
+
+void RecordingsList::RemoveFromList(const QList<qint64>& bookmarks)
+{
+    Recordset& rs = m_ctx.database.DataRecordings.recordset();
+    for (const qint64 bookmark : bookmarks) {
+        rs.SetBookmark(bookmark);
+        rs.Delete();
+    }
+    RepositionAfterRemoval();
+}
+
+void RecordingsList::DeleteFromDisk(const QList<qint64>& bookmarks)
+{
+    Recordset& rs = m_ctx.database.DataRecordings.recordset();
+    for (const qint64 bookmark : bookmarks) {
+        rs.SetBookmark(bookmark);
+        const QString file = rs.Value(QStringLiteral("File")).toString();
+        QFile::remove(file);
+        if (QFileInfo::exists(file)) {
+            m_ctx.log.LogEvent(EventError, QStringLiteral("Recording was not deleted from disk."),
+                               QStringLiteral("File may be read only, or locked by another "
+                                              "process.\r\nFilename: ") +
+                                   file);
+            continue;
+        }
+        rs.Delete();
+    }
+    RepositionAfterRemoval();
+}
+
+void RecordingsList::ClearRecordingsList()
+{
+    m_ctx.database.db.Execute(QStringLiteral("DELETE FROM [Recordings]"));
+    m_ctx.database.DataRecordings.Refresh();
+}
+
+int RecordingsList::PurgeOldRecordings()
+{
+    const QString folder = m_ctx.options.DefaultRecordingDirectory;
+    const QDir dir(folder);
+    if (folder.isEmpty() || !dir.exists())
+        return 0;
+    const QDateTime limit =
+        AutomationDate::ToDateTime(m_ctx.Now() - double(m_ctx.options.PurgeDays));
+    int deleted = 0;
+    for (const QString& pattern : {kWaveFiles, kMp3Files}) {
+        for (const QString& name : FilesMatching(dir, pattern)) {
+            const QString path = dir.filePath(name);
+            if (QFileInfo(path).lastModified() < limit && QFile::remove(path))
+                ++deleted;
+        }
+    }
+    return deleted;
+}
+
+void RecordingsList::RemoveMissingFromRecordingFolder()
+{
+    const QString folder = Comparable(QDir(m_ctx.options.DefaultRecordingDirectory).path());
+    Recordset rs = m_ctx.database.DataRecordings.recordset().Clone();
+    for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
+        const QString file = rs.Value(QStringLiteral("File")).toString();
+        if (Comparable(QFileInfo(file).path()) == folder && !QFileInfo::exists(file))
+            rs.Delete();
+    }
+}
+
+void RecordingsList::Purge()
+{
+    if (PurgeOldRecordings() == 0)
+        return;
+    m_ctx.database.DataRecordings.Refresh();
+    AddFolderToRecordingsList(m_ctx.options.DefaultRecordingDirectory);
+    RemoveMissingFromRecordingFolder();
+    m_ctx.database.DataRecordings.Refresh();
+}
+
+QString RecordingsList::DurationText(double startTime, double endTime)
+{
+    const qint64 seconds = AutomationDate::SecondsBetween(startTime, endTime);
+    return Plural(seconds / 3600, QStringLiteral("Hour")) + u' ' +
+           Plural(seconds / 60 % 60, QStringLiteral("Minute")) + u' ' +
+           Plural(seconds % 60, QStringLiteral("Second"));
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class AppContext;
+
+// The list of recordings and the files behind it. The list and the disk are separate
+// things: "from list" never touches a file, "from disk" removes file and row.
+class RecordingsList {
+public:
+    explicit RecordingsList(AppContext& ctx);
+
+    // Adds a .wav or .mp3 file through the readers, unless it is being recorded or
+    // converted, or is listed already; other files are ignored.
+    void AddFileToRecordingsList(const QString& path);
+    // The wave files of the folder first, then its MP3 files; no descent into subfolders.
+    void AddFolderToRecordingsList(const QString& folder);
+    // The rows of these bookmarks leave the list; their files stay.
+    void RemoveFromList(const QList<qint64>& bookmarks);
+    // Deletes the files and their rows. A file that can't be deleted keeps its row and
+    // leaves an entry in the log.
+    void DeleteFromDisk(const QList<qint64>& bookmarks);
+    // Empties the list, leaving the files.
+    void ClearRecordingsList();
+
+    // Deletes the recording folder's wave and MP3 files older than the age limit, listed or
+    // not; returns how many went.
+    int PurgeOldRecordings();
+    // Drops the rows of files of the recording folder that are gone.
+    void RemoveMissingFromRecordingFolder();
+    // The purge of the heartbeat's window, with the list brought up to date afterwards.
+    void Purge();
+
+    // "1 Hour 2 Minutes 3 Seconds": all three parts, the singular exactly for 1.
+    static QString DurationText(double startTime, double endTime);
+
+private:
+    bool IsExcluded(const QString& path) const;
+    void RepositionAfterRemoval();
+
+    AppContext& m_ctx;
+};

@@ -1,0 +1,59 @@
+#include "store/SavedLists.h"
+
+#include "common/RuntimeError.h"
+#include "common/TextHelpers.h"
+#include "shell/AppContext.h"
+#include "store/ListFile.h"
+#include "store/RecordingsList.h"
+
+#include <QDir>
+#include <QFile>
+
+SavedLists::SavedLists(AppContext& ctx)
+    : m_ctx(ctx)
+{
+}
+
+QString SavedLists::Folder() const
+{
+    return m_ctx.folders.dataFolder + QStringLiteral("/recrdlst");
+}
+
+QString SavedLists::PathOf(const QString& name) const
+{
+    return Folder() + u'/' + Text::Trim(name) + QStringLiteral(".LST");
+}
+
+QStringList SavedLists::Names() const
+{
+    QStringList names;
+    const QStringList files = QDir(Folder()).entryList({QStringLiteral("*.LST")}, QDir::Files);
+    for (const QString& file : files)
+        names << file.left(file.size() - 4);
+    return names;
+}
+
+void SavedLists::Save(const QString& name)
+{
+    Recordset rs = m_ctx.database.DataRecordings.recordset().Clone();
+    if (rs.IsEOF())
+        return;
+    QFile file(PathOf(name));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        throw RuntimeError(ErrorNumber::PathFileAccess, file.errorString());
+    for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext())
+        file.write('"' + QFile::encodeName(rs.Value(QStringLiteral("File")).toString()) + "\"\r\n");
+}
+
+void SavedLists::LoadList(const QString& name, bool merge)
+{
+    if (!merge)
+        m_ctx.database.db.Execute(QStringLiteral("DELETE FROM [Recordings]"));
+    QFile file(PathOf(name));
+    if (!file.open(QIODevice::ReadOnly))
+        throw RuntimeError(ErrorNumber::FileNotFound, file.errorString());
+    RecordingsList list(m_ctx);
+    for (const QString& path : ListFile::ReadItems(file.readAll()))
+        list.AddFileToRecordingsList(path);
+    m_ctx.database.DataRecordings.Refresh();
+}

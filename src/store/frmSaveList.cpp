@@ -1,0 +1,89 @@
+#include "store/frmSaveList.h"
+
+#include "common/MessageBox.h"
+#include "common/PathHelpers.h"
+#include "common/TextHelpers.h"
+#include "diagnostics/Trap.h"
+#include "shell/AppContext.h"
+#include "shell/FormPlacement.h"
+#include "store/SavedLists.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+frmSaveList::frmSaveList(AppContext& ctx, QWidget* owner)
+    : QDialog(owner)
+    , m_ctx(ctx)
+    , m_combo1(new QComboBox)
+{
+    setObjectName(QStringLiteral("frmSaveList"));
+    setWindowTitle(QStringLiteral("Save Recordings List"));
+    m_combo1->setObjectName(QStringLiteral("Combo1"));
+    m_combo1->setEditable(true);
+    auto* save = new QPushButton(QStringLiteral("&Save"));
+    save->setObjectName(QStringLiteral("frmSave"));
+    save->setDefault(true);
+    auto* exit = new QPushButton(QStringLiteral("&Exit"));
+    exit->setObjectName(QStringLiteral("btnExit"));
+    connect(save, &QPushButton::clicked, this, &frmSaveList::frmSave_Click);
+    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(save);
+    buttons->addWidget(exit);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(QStringLiteral("Enter list name")));
+    layout->addWidget(m_combo1);
+    layout->addLayout(buttons);
+    setMinimumWidth(320);
+    FormPlacement::PlaceAtMainForm(this, owner, 500);
+
+    Trap(m_ctx.log, "Save Recordings List form load", [&] {
+        const SavedLists lists(m_ctx);
+        QDir().mkpath(lists.Folder());
+        m_combo1->addItems(lists.Names());
+        m_combo1->setCurrentText(QString());
+    });
+}
+
+void frmSaveList::frmSave_Click()
+{
+    Trap(m_ctx.log, "frmSave_Click", [&] {
+        const auto warn = [this](const QString& title, const QString& text) {
+            m_ctx.messageBox.Show(title, text, MsgIcon::Exclamation, MsgButtons::Ok);
+        };
+        if (m_ctx.database.DataRecordings.recordset().RecordCount() == 0) {
+            warn(QString(), QStringLiteral("No recordings in current list"));
+            return;
+        }
+        const QString name = m_combo1->currentText();
+        if (InvalidFilenameCharacters(name)) {
+            warn(QStringLiteral("Invalid list name"),
+                 QStringLiteral("The recordings list name cannot contain any of the following "
+                                "characters:\r\n\\ / : * ? \" < > | "));
+            return;
+        }
+        if (Text::Trim(name).isEmpty()) {
+            warn(QStringLiteral("Invalid list name"),
+                 QStringLiteral("The recordings list name cannot be blank"));
+            return;
+        }
+        SavedLists lists(m_ctx);
+        const QString path = lists.PathOf(name);
+        if (QFile::exists(path)) {
+            if (m_ctx.messageBox.Show(QStringLiteral("Overwrite list"),
+                                      QStringLiteral("Are you sure you want to overwrite existing "
+                                                     "recordings list with same name?"),
+                                      MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
+                return;
+            QFile::remove(path);
+        }
+        lists.Save(name);
+        accept();
+    });
+}

@@ -1,0 +1,346 @@
+#include "formats/CodecCatalogue.h"
+#include "formats/clsRecordingFormat.h"
+#include "support/TestContext.h"
+
+#include <QSqlQuery>
+#include <QtTest>
+
+namespace {
+
+const QString kSection = QStringLiteral("Settings");
+
+QByteArray Mp3Extra(const QByteArray& record)
+{
+    return record.mid(CodecCatalogue::WaveFormatExSize);
+}
+
+void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
+{
+    std::memcpy(format.mwfx(), record.constData(), size_t(record.size()));
+    format.CalcRemainingVarsFromMwfx();
+}
+
+// Replaces the Info row by one with the given columns, straight in the file.
+void PutInfoRow(TestContext& tc, int cbSize, const QByteArray& extra)
+{
+    QSqlQuery q(tc.ctx->database.db.Connection());
+    QVERIFY(q.exec("DELETE FROM Info"));
+    QVERIFY(q.prepare("INSERT INTO Info VALUES (1, 0, 0, 85, 2, 44100, 16000, 1, 0, ?, ?)"));
+    q.addBindValue(cbSize);
+    q.addBindValue(extra);
+    QVERIFY(q.exec());
+    tc.ctx->database.DataInfo.Requery();
+}
+
+} // namespace
+
+class TestFormats : public QObject {
+    Q_OBJECT
+
+private slots:
+    void secondsFromMbytesRoundTiesToEven_data()
+    {
+        QTest::addColumn<quint32>("rate");
+        QTest::addColumn<float>("mbytes");
+        QTest::addColumn<qint32>("seconds");
+        // 2 Mbytes a second: 5 Mbytes are 2.5 seconds, 7 are 3.5.
+        QTest::newRow("2.5 to 2") << 524288u << 5.0f << 2;
+        QTest::newRow("3.5 to 4") << 524288u << 7.0f << 4;
+        QTest::newRow("no byte rate") << 0u << 100.0f << 0;
+    }
+    void secondsFromMbytesRoundTiesToEven()
+    {
+        QFETCH(quint32, rate);
+        QFETCH(float, mbytes);
+        QFETCH(qint32, seconds);
+        TestContext tc;
+        clsRecordingFormat format(*tc.ctx);
+        format.SetToPcm(2, rate, 16);
+        QCOMPARE(format.CalcSecondsFromMbytes(mbytes), seconds);
+    }
+
+    void blockAlignOfOddSampleSizesIsRounded_data()
+    {
+        QTest::addColumn<quint16>("channels");
+        QTest::addColumn<quint16>("bits");
+        QTest::addColumn<quint16>("blockAlign");
+        QTest::newRow("1 x 12 bits") << quint16(1) << quint16(12) << quint16(2);
+        QTest::newRow("1 x 4 bits, half to even") << quint16(1) << quint16(4) << quint16(0);
+        QTest::newRow("3 x 4 bits") << quint16(3) << quint16(4) << quint16(2);
+    }
+    void blockAlignOfOddSampleSizesIsRounded()
+    {
+        QFETCH(quint16, channels);
+        QFETCH(quint16, bits);
+        QFETCH(quint16, blockAlign);
+        TestContext tc;
+        clsRecordingFormat format(*tc.ctx);
+        format.SetToPcm(channels, 8000, bits);
+        QCOMPARE(format.nBlockAlign(), blockAlign);
+        QCOMPARE(format.nAvgBytesPerSec(), quint32(blockAlign) * 8000);
+        // The block says the same as the fields.
+        const uchar* block = format.mwfx();
+        QCOMPARE(quint16(block[12] | block[13] << 8), blockAlign);
+    }
+
+    void theTwoGigabyteLimit_data()
+    {
+        QTest::addColumn<QByteArray>("record");
+        QTest::addColumn<bool>("convert");
+        QTest::addColumn<qint32>("seconds");
+        QTest::addColumn<QString>("refusal");
+        const QByteArray megaPerSecond = CodecCatalogue::PcmRecord(2, 262144, 16);
+        const QByteArray mp3 = CodecCatalogue::Mp3Record(2, 44100, 128);
+        const QString tooBig = "The recording exceeds 2 Gigabytes, which is the maximum size "
+                               "supported.  Please shorten the recording time or the recording "
+                               "format frequency.";
+        const QString pcmTooBig = "The temporary PCM file required for conversion exceeds 2 "
+                                  "Gigabytes, which is the maximum size supported.  Please shorten "
+                                  "the recording time or the recording format frequency.";
+        // 1 Mbyte a second: the figures are Mbytes of 1024 times 1024 bytes.
+        QTest::newRow("exactly 2000.0 passes") << megaPerSecond << false << 2000 << QString();
+        QTest::newRow("2001 is refused") << megaPerSecond << false << 2001 << tooBig;
+        // 12000 s of 16-bit stereo PCM at 44100 Hz are about 2019 Mbytes; the MP3 is 183.
+        QTest::newRow("conversion refused on its PCM size") << mp3 << true << 12000 << pcmTooBig;
+        QTest::newRow("real-time MP3 of the same length") << mp3 << false << 12000 << QString();
+        QTest::newRow("conversion just under the limit") << mp3 << true << 11800 << QString();
+    }
+    void theTwoGigabyteLimit()
+    {
+        QFETCH(QByteArray, record);
+        QFETCH(bool, convert);
+        QFETCH(qint32, seconds);
+        QFETCH(QString, refusal);
+        TestContext tc;
+        clsRecordingFormat format(*tc.ctx);
+        SetFromRecord(format, record);
+        format.ConvertToMP3 = convert;
+        QCOMPARE(CheckFor2GbLimit(*tc.ctx, format, seconds), !refusal.isEmpty());
+        if (refusal.isEmpty()) {
+            QVERIFY(tc.messageBox.asked.isEmpty());
+        } else {
+            QCOMPARE(tc.messageBox.asked.size(), 1);
+            QCOMPARE(tc.messageBox.asked[0].title, QStringLiteral("Recording Size Exceeded"));
+            QCOMPARE(tc.messageBox.asked[0].text, refusal);
+            QCOMPARE(tc.messageBox.asked[0].icon, MsgIcon::Exclamation);
+        }
+    }
+
+    void textsNameTheFormatAndTheMp3Handling_data()
+    {
+        QTest::addColumn<QByteArray>("record");
+        QTest::addColumn<bool>("convert");
+        QTest::addColumn<bool>("mp3Extension");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("shortText");
+        QTest::newRow("PCM has no note") << CodecCatalogue::PcmRecord(2, 44100, 16) << true << true
+                                         << "PCM 44.100 kHz, 16 Bit, Stereo"
+                                         << "PCM 44.100 kHz, 16 Bit, Stereo";
+        QTest::newRow("MP3 converted to .MP3")
+            << CodecCatalogue::Mp3Record(1, 22050, 32) << true << true
+            << "MPEG Layer-3 32 kBit/s, 22,050 Hz, Mono   (Record in PCM format and convert to "
+               "MP3; Save as .MP3 file )"
+            << "MPEG Layer-3 32 kBit/s, 22,050 Hz, Mono";
+        QTest::newRow("MP3 real-time to .WAV")
+            << CodecCatalogue::Mp3Record(2, 44100, 128) << false << false
+            << "MPEG Layer-3 128 kBit/s, 44,100 Hz, Stereo   (Record MP3 in real-time; Save as "
+               ".WAV file )"
+            << "MPEG Layer-3 128 kBit/s, 44,100 Hz, Stereo";
+        QByteArray unknown = CodecCatalogue::PcmRecord(1, 8000, 8);
+        unknown[0] = char(0x31); // a codec this machine does not have
+        QTest::newRow("unknown codec") << unknown << false << false << "ERROR ERROR"
+                                       << "ERROR ERROR";
+    }
+    void textsNameTheFormatAndTheMp3Handling()
+    {
+        QFETCH(QByteArray, record);
+        QFETCH(bool, convert);
+        QFETCH(bool, mp3Extension);
+        QFETCH(QString, text);
+        QFETCH(QString, shortText);
+        TestContext tc;
+        clsRecordingFormat format(*tc.ctx);
+        format.ConvertToMP3 = convert;
+        format.SaveMP3FileExtension = mp3Extension;
+        SetFromRecord(format, record);
+        QCOMPARE(format.TextCompressionMethod, text);
+        QCOMPARE(format.TextCompressionMethodShort, shortText);
+        // The record itself survives a format without texts.
+        QCOMPARE(format.Record(), record);
+    }
+
+    void copyTakesRecordTextsAndFlagsButNotTheConfirmation()
+    {
+        TestContext tc;
+        clsRecordingFormat source(*tc.ctx);
+        source.ConvertToMP3 = true;
+        source.SaveMP3FileExtension = false;
+        SetFromRecord(source, CodecCatalogue::Mp3Record(2, 32000, 96));
+        source.FormatChanged = -1;
+        clsRecordingFormat copy(*tc.ctx);
+        copy.CopyFrom(source);
+        QCOMPARE(copy.Record(), source.Record());
+        QCOMPARE(copy.nSamplesPerSec(), 32000u);
+        QCOMPARE(QByteArray(reinterpret_cast<const char*>(copy.byteWfxExtraPtr()), 12),
+                 Mp3Extra(source.Record()));
+        QCOMPARE(copy.TextCompressionMethod, source.TextCompressionMethod);
+        QVERIFY(copy.ConvertToMP3);
+        QVERIFY(!copy.SaveMP3FileExtension);
+        QCOMPARE(copy.FormatChanged, qint16(0));
+    }
+
+    void programRowsKeepTheFormatWithOneMoreByte_data()
+    {
+        QTest::addColumn<QByteArray>("record");
+        QTest::addColumn<int>("flags");
+        QTest::newRow("cbSize 0 is one zero byte") << CodecCatalogue::PcmRecord(1, 11025, 8) << 1;
+        QTest::newRow("MP3 with its 12 bytes") << CodecCatalogue::Mp3Record(2, 44100, 128) << 2;
+    }
+    void programRowsKeepTheFormatWithOneMoreByte()
+    {
+        QFETCH(QByteArray, record);
+        QFETCH(int, flags);
+        TestContext tc;
+        tc.OpenDatabase();
+        clsRecordingFormat format(*tc.ctx);
+        SetFromRecord(format, record);
+        format.SaveMP3FileExtension = flags & 1;
+        format.ConvertToMP3 = flags & 2;
+        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        rs.AddNew();
+        rs.SetValue("Description", "Show");
+        format.WriteFormat(rs);
+        rs.Update();
+        rs.SetBookmark(rs.LastModified());
+
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        QVERIFY(q.exec("SELECT wfxExtra, Flags FROM Programs"));
+        QVERIFY(q.next());
+        QCOMPARE(q.value(0).toByteArray(), Mp3Extra(record) + QByteArray(1, '\0'));
+        QCOMPARE(q.value(1).toInt(), flags);
+
+        clsRecordingFormat read(*tc.ctx);
+        read.ReadFormat(rs);
+        QCOMPARE(read.Record(), record);
+        QCOMPARE(read.SaveMP3FileExtension, bool(flags & 1));
+        QCOMPARE(read.ConvertToMP3, bool(flags & 2));
+        QCOMPARE(tc.CountRows("EventLog"), 0);
+    }
+
+    void aRowFromBeforeTheFlagsHasNeitherFlag()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram({{"Description", "Old"},
+                       {"wfx_wFormatTag", 1},
+                       {"wfx_nChannels", 1},
+                       {"wfx_nSamplesPerSec", 8000},
+                       {"wfx_nAvgBytesPerSec", 8000},
+                       {"wfx_nBlockAlign", 1},
+                       {"wfx_nBitsPerSample", 8},
+                       {"wfx_cbSize", 0}});
+        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        rs.MoveFirst();
+        clsRecordingFormat format(*tc.ctx);
+        format.ConvertToMP3 = format.SaveMP3FileExtension = true;
+        format.ReadFormat(rs);
+        QVERIFY(!format.ConvertToMP3);
+        QVERIFY(!format.SaveMP3FileExtension);
+        QCOMPARE(format.nSamplesPerSec(), 8000u);
+    }
+
+    void theDefaultFormatRoundTripsThroughInfoAndSettings()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        clsRecordingFormat format(*tc.ctx);
+        format.ConvertToMP3 = true;
+        format.SaveMP3FileExtension = false;
+        SetFromRecord(format, CodecCatalogue::Mp3Record(1, 16000, 24));
+        format.SaveDefaultFormatInfo();
+        QCOMPARE(tc.CountRows("Info"), 1);
+        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "ConvertToMP3", {}), QStringLiteral("True"));
+        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "SaveMP3FileExtension", {}),
+                 QStringLiteral("False"));
+
+        GetWfxDefault(*tc.ctx);
+        clsRecordingFormat& dflt = tc.ctx->WfxDefault;
+        QCOMPARE(dflt.Record(), format.Record());
+        QVERIFY(dflt.ConvertToMP3);
+        QVERIFY(!dflt.SaveMP3FileExtension);
+        QCOMPARE(dflt.TextCompressionMethod, format.TextCompressionMethod);
+    }
+
+    void aNonMp3DefaultRewritesBothMp3Settings()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.ctx->registry.SaveSetting(kSection, "SaveMP3FileExtension", "False");
+        tc.ctx->registry.SaveSetting(kSection, "ConvertToMP3", "True");
+        clsRecordingFormat format(*tc.ctx);
+        format.SaveMP3FileExtension = false;
+        format.ConvertToMP3 = true;
+        format.SetToPcm(2, 22050, 16);
+        format.SaveDefaultFormatInfo();
+        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "SaveMP3FileExtension", {}),
+                 QStringLiteral("True"));
+        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "ConvertToMP3", {}),
+                 QStringLiteral("False"));
+        QCOMPARE(tc.CountRows("Info"), 1);
+    }
+
+    void anUnusableDefaultFallsBackToPhoneQuality_data()
+    {
+        QTest::addColumn<int>("cbSize");
+        QTest::addColumn<bool>("deleteRow");
+        QTest::newRow("more extra bytes than this machine's formats") << 40 << false;
+        QTest::newRow("no Info row") << 0 << true;
+    }
+    void anUnusableDefaultFallsBackToPhoneQuality()
+    {
+        QFETCH(int, cbSize);
+        QFETCH(bool, deleteRow);
+        TestContext tc;
+        tc.OpenDatabase();
+        PutInfoRow(tc, cbSize, QByteArray(cbSize + 1, 'x'));
+        if (deleteRow) {
+            QSqlQuery q(tc.ctx->database.db.Connection());
+            QVERIFY(q.exec("DELETE FROM Info"));
+            tc.ctx->database.DataInfo.Requery();
+        }
+        GetWfxDefault(*tc.ctx);
+        const clsRecordingFormat& dflt = tc.ctx->WfxDefault;
+        QCOMPARE(dflt.Record(), CodecCatalogue::PcmRecord(1, 11025, 8));
+        QCOMPARE(dflt.TextCompressionMethod, QStringLiteral("PCM 11.025 kHz, 8 Bit, Mono"));
+
+        // The row is rewritten: one row, phone quality, read back by the next start.
+        QCOMPARE(tc.CountRows("Info"), 1);
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        QVERIFY(q.exec("SELECT wfxdflt_wFormatTag, wfxdflt_nSamplesPerSec, wfxdflt_cbSize, "
+                       "wfxdfltExtra FROM Info"));
+        QVERIFY(q.next());
+        QCOMPARE(q.value(0).toInt(), 1);
+        QCOMPARE(q.value(1).toInt(), 11025);
+        QCOMPARE(q.value(2).toInt(), 0);
+        QCOMPARE(q.value(3).toByteArray(), QByteArray(1, '\0'));
+        clsRecordingFormat next(*tc.ctx);
+        QCOMPARE(next.ReadDefaultFormatInfo(), qint16(0));
+    }
+
+    void theCatalogueListsOnlyWhatItCanDescribe()
+    {
+        const QList<QByteArray> formats = CodecCatalogue::RecordingFormats();
+        for (const QByteArray& record : formats) {
+            QString text;
+            QVERIFY2(CodecCatalogue::FormatDescription(record, text), record.toHex().constData());
+            QVERIFY(record.size() <= CodecCatalogue::MaxFormatSize());
+        }
+        // An MP3 record without its extra bytes is not a format any codec takes.
+        QString text;
+        QVERIFY(!CodecCatalogue::FormatDescription(
+            CodecCatalogue::Mp3Record(2, 44100, 128).left(18), text));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFormats)
+#include "test_formats.moc"

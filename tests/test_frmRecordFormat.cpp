@@ -1,0 +1,292 @@
+#include "formats/CodecCatalogue.h"
+#include "formats/FormatChooser.h"
+#include "formats/frmMP3Warning.h"
+#include "formats/frmMP3WarningNT.h"
+#include "formats/frmMp3RecordingFormatInfo.h"
+#include "formats/frmRecordFormat.h"
+#include "support/TestContext.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QtTest>
+#include <functional>
+
+namespace {
+
+const QString kSection = QStringLiteral("Settings");
+
+void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
+{
+    std::memcpy(format.mwfx(), record.constData(), size_t(record.size()));
+    format.CalcRemainingVarsFromMwfx();
+}
+
+template <typename T> T* Control(QWidget* form, const char* name)
+{
+    T* control = form->findChild<T*>(QString::fromLatin1(name));
+    if (!control)
+        qFatal("no control %s", name);
+    return control;
+}
+
+// Acts on the modal dialog of that name as soon as it is shown; stops watching when the
+// returned object goes.
+class WhenModal {
+public:
+    WhenModal(const QString& name, std::function<void(QWidget*)> action)
+    {
+        m_timer.setInterval(5);
+        QObject::connect(&m_timer, &QTimer::timeout, [this, name, action] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (modal && modal->objectName() == name) {
+                m_timer.stop();
+                ++seen;
+                action(modal);
+            }
+        });
+        m_timer.start();
+    }
+    int seen = 0;
+
+private:
+    QTimer m_timer;
+};
+
+} // namespace
+
+class TestFrmRecordFormat : public QObject {
+    Q_OBJECT
+
+private slots:
+    void cancelAfterTheChooserRestoresFormatAndFlags()
+    {
+        TestContext tc;
+        clsRecordingFormat& format = tc.ctx->ProgramFormFormat;
+        format.SaveMP3FileExtension = true;
+        format.ConvertToMP3 = false;
+        format.SetToPcmPhoneQuality();
+        const QByteArray before = format.Record();
+
+        frmRecordFormat form(*tc.ctx, format, nullptr);
+        WhenModal chooser("FormatChooser", [](QWidget* dialog) {
+            Control<QComboBox>(dialog, "cboFormatTag")->setCurrentText("MPEG Layer-3");
+            auto* list = Control<QListWidget>(dialog, "lstAttributes");
+            list->setCurrentItem(
+                list->findItems("128 kBit/s, 44,100 Hz, Stereo", Qt::MatchExactly)[0]);
+            Control<QPushButton>(dialog, "btnOk")->click();
+        });
+        Control<QPushButton>(&form, "CommandAdvanced")->click();
+        QCOMPARE(chooser.seen, 1);
+        // A full record with its extra bytes came back.
+        QCOMPARE(format.Record(), CodecCatalogue::Mp3Record(2, 44100, 128));
+        QVERIFY(!Control<QCheckBox>(&form, "CheckUsePcm")->isChecked());
+        QVERIFY(Control<QCheckBox>(&form, "CheckUsePcm")->isEnabled());
+        QVERIFY(!Control<QGroupBox>(&form, "framePcmFormat")->isEnabled());
+        QVERIFY(Control<QCheckBox>(&form, "chkConvert")->isEnabled());
+
+        Control<QCheckBox>(&form, "chkConvert")->click();
+        Control<QCheckBox>(&form, "chkMP3FileExtension")->click();
+        QVERIFY(format.ConvertToMP3);
+        QVERIFY(!format.SaveMP3FileExtension);
+        QCOMPARE(Control<QLabel>(&form, "LabelFormat")->text(), format.TextCompressionMethod);
+        QVERIFY(format.TextCompressionMethod.endsWith("convert to MP3; Save as .WAV file )"));
+
+        Control<QPushButton>(&form, "CommandCancel")->click();
+        QCOMPARE(format.Record(), before);
+        QVERIFY(format.SaveMP3FileExtension);
+        QVERIFY(!format.ConvertToMP3);
+        QCOMPARE(format.TextCompressionMethod, QStringLiteral("PCM 11.025 kHz, 8 Bit, Mono"));
+        QCOMPARE(format.FormatChanged, qint16(0));
+    }
+
+    void changeFormatTellsOkFromCancel_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("changed");
+        QTest::newRow("OK") << "CommandOk" << true;
+        QTest::newRow("Cancel") << "CommandCancel" << false;
+    }
+    void changeFormatTellsOkFromCancel()
+    {
+        QFETCH(QString, button);
+        QFETCH(bool, changed);
+        TestContext tc;
+        clsRecordingFormat& format = tc.ctx->ProgramFormFormat;
+        format.SetToPcmPhoneQuality();
+        WhenModal dialog("frmRecordFormat", [&](QWidget* form) {
+            Control<QRadioButton>(form, "optCDQuality")->click();
+            form->findChild<QPushButton*>(button)->click();
+        });
+        QCOMPARE(ChangeFormat(*tc.ctx, format, nullptr), changed);
+        QCOMPARE(format.nSamplesPerSec(), changed ? 44100u : 11025u);
+    }
+
+    void aRateOutsideTheListSelectsNothingAndTheNextChangeTakes11025()
+    {
+        TestContext tc;
+        clsRecordingFormat format(*tc.ctx);
+        format.SetToPcm(1, 6000, 16);
+        frmRecordFormat form(*tc.ctx, format, nullptr);
+        auto* rates = Control<QComboBox>(&form, "ComboSampleRate");
+        QCOMPARE(rates->currentIndex(), -1);
+        QCOMPARE(format.nSamplesPerSec(), 6000u);
+        Control<QRadioButton>(&form, "OptionStereo")->click();
+        QCOMPARE(format.nSamplesPerSec(), 11025u);
+        QCOMPARE(format.nChannels(), quint16(2));
+        QCOMPARE(format.nBitsPerSample(), quint16(16));
+        QCOMPARE(rates->currentText(), QStringLiteral("11,025"));
+    }
+
+    void presetsFollowTheFormat_data()
+    {
+        QTest::addColumn<int>("channels");
+        QTest::addColumn<int>("rate");
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<QString>("preset");
+        QTest::newRow("phone") << 1 << 11025 << 8 << "optPhoneQuality";
+        QTest::newRow("radio") << 1 << 22050 << 8 << "optRadioQuality";
+        QTest::newRow("CD") << 2 << 44100 << 16 << "optCDQuality";
+        QTest::newRow("stereo radio is no preset") << 2 << 22050 << 8 << QString();
+        QTest::newRow("16-bit mono at 44100 is no preset") << 1 << 44100 << 16 << QString();
+    }
+    void presetsFollowTheFormat()
+    {
+        QFETCH(int, channels);
+        QFETCH(int, rate);
+        QFETCH(int, bits);
+        QFETCH(QString, preset);
+        TestContext tc;
+        clsRecordingFormat format(*tc.ctx);
+        // Start from a preset, so that one is selected before the change.
+        format.SetToPcm(2, 44100, 16);
+        frmRecordFormat form(*tc.ctx, format, nullptr);
+        QVERIFY(Control<QRadioButton>(&form, "optCDQuality")->isChecked());
+
+        Control<QRadioButton>(&form, channels == 2 ? "OptionStereo" : "OptionMono")->click();
+        Control<QRadioButton>(&form, bits == 16 ? "Option16bit" : "Option8bit")->click();
+        auto* rates = Control<QComboBox>(&form, "ComboSampleRate");
+        rates->setCurrentIndex(int(CodecCatalogue::SampleRates().indexOf(quint32(rate))));
+        QCOMPARE(format.Record(), CodecCatalogue::PcmRecord(channels, rate, bits));
+        for (const char* name : {"optPhoneQuality", "optRadioQuality", "optCDQuality"})
+            QCOMPARE(Control<QRadioButton>(&form, name)->isChecked(), preset == name);
+        QCOMPARE(rates->currentText(), QLocale(QLocale::English).toString(rate));
+    }
+
+    void okWarnsAboutConversionUntilToldNotTo_data()
+    {
+        QTest::addColumn<bool>("convert");
+        QTest::addColumn<QString>("setting");
+        QTest::addColumn<bool>("tick");
+        QTest::addColumn<bool>("warned");
+        QTest::newRow("real-time MP3: no warning") << false << QString() << false << false;
+        QTest::newRow("conversion, first time") << true << QString() << false << true;
+        QTest::newRow("conversion, ticked not to show") << true << QString() << true << true;
+        QTest::newRow("setting y") << true << "y" << false << true;
+        QTest::newRow("setting N") << true << "N" << false << false;
+    }
+    void okWarnsAboutConversionUntilToldNotTo()
+    {
+        QFETCH(bool, convert);
+        QFETCH(QString, setting);
+        QFETCH(bool, tick);
+        QFETCH(bool, warned);
+        TestContext tc;
+        if (!setting.isEmpty())
+            tc.ctx->registry.SaveSetting(kSection, "ShowMp3Warning", setting);
+        clsRecordingFormat format(*tc.ctx);
+        format.ConvertToMP3 = convert;
+        SetFromRecord(format, CodecCatalogue::Mp3Record(1, 22050, 32));
+        frmRecordFormat form(*tc.ctx, format, nullptr);
+        WhenModal warning("frmMP3WarningNT", [&](QWidget* dialog) {
+            QCOMPARE(dialog->windowTitle(), QStringLiteral("MPEG Layer-3"));
+            QVERIFY(Control<QLabel>(dialog, "Label1")->text().startsWith("The convert option is"));
+            Control<QCheckBox>(dialog, "chkShowAgain")->setChecked(tick);
+            Control<QPushButton>(dialog, "Command1")->click();
+        });
+        Control<QPushButton>(&form, "CommandOk")->click();
+        QCOMPARE(warning.seen, warned ? 1 : 0);
+        QCOMPARE(format.FormatChanged, qint16(-1));
+        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "ShowMp3Warning", {}),
+                 tick ? QStringLiteral("N") : setting);
+    }
+
+    void theFormOpensBesideTheMainWindowWithItsTexts()
+    {
+        TestContext tc;
+        QWidget main;
+        main.move(300, 200);
+        main.show();
+        clsRecordingFormat format(*tc.ctx);
+        format.SetToPcmPhoneQuality();
+        frmRecordFormat form(*tc.ctx, format, &main);
+        // 200 twips right of and below the main window's corner.
+        QCOMPARE(form.pos(), main.pos() + QPoint(13, 13));
+        QCOMPARE(form.windowTitle(), QStringLiteral("Select Recording Format"));
+        QCOMPARE(Control<QPushButton>(&form, "CommandAdvanced")->text(),
+                 QStringLiteral("Select from &all\nrecording formats"));
+        QStringList rates;
+        auto* combo = Control<QComboBox>(&form, "ComboSampleRate");
+        for (int i = 0; i < combo->count(); ++i)
+            rates << combo->itemText(i);
+        QCOMPARE(rates, QStringList({"8,000", "11,025", "12,000", "16,000", "22,050", "24,000",
+                                     "32,000", "44,100", "48,000"}));
+        QVERIFY(!Control<QGroupBox>(&form, "frameMP3")->isEnabled());
+
+        WhenModal info("frmMp3RecordingFormatInfo", [](QWidget* dialog) {
+            QCOMPARE(
+                Control<QLabel>(dialog, "Label2")->text(),
+                QStringLiteral("1) Click on the \"Select from all recording formats\" button"));
+            QVERIFY(Control<QLabel>(dialog, "Label3")
+                        ->text()
+                        .startsWith("2) Select the \"MPEG Layer-3\" recording format.  If"));
+            Control<QPushButton>(dialog, "CommandOk")->click();
+        });
+        Control<QPushButton>(&form, "btnInfo")->click();
+        QCOMPARE(info.seen, 1);
+    }
+
+    // Not a check: pictures of the forms for a reviewer, when NIGHTREEL_FORM_PNG names a folder.
+    void grabForms()
+    {
+        const QString folder = qEnvironmentVariable("NIGHTREEL_FORM_PNG");
+        if (folder.isEmpty())
+            QSKIP("set NIGHTREEL_FORM_PNG to a folder to get pictures of the forms");
+        QDir().mkpath(folder);
+        TestContext tc;
+        clsRecordingFormat pcm(*tc.ctx);
+        pcm.SetToPcm(2, 44100, 16);
+        frmRecordFormat pcmForm(*tc.ctx, pcm, nullptr);
+        pcmForm.adjustSize();
+        pcmForm.grab().save(folder + "/frmRecordFormat-pcm.png");
+        clsRecordingFormat mp3(*tc.ctx);
+        mp3.ConvertToMP3 = true;
+        mp3.SaveMP3FileExtension = true;
+        SetFromRecord(mp3, CodecCatalogue::Mp3Record(2, 44100, 128));
+        frmRecordFormat mp3Form(*tc.ctx, mp3, nullptr);
+        mp3Form.adjustSize();
+        mp3Form.grab().save(folder + "/frmRecordFormat-mp3.png");
+        frmMP3Warning warning(*tc.ctx, nullptr);
+        warning.adjustSize();
+        warning.grab().save(folder + "/frmMP3Warning.png");
+        frmMP3WarningNT warningNT(*tc.ctx, nullptr);
+        warningNT.adjustSize();
+        warningNT.grab().save(folder + "/frmMP3WarningNT.png");
+        FormatChooser chooser(mp3.Record(), nullptr);
+        chooser.adjustSize();
+        chooser.grab().save(folder + "/FormatChooser.png");
+        frmMp3RecordingFormatInfo info(nullptr);
+        info.adjustSize();
+        info.grab().save(folder + "/frmMp3RecordingFormatInfo.png");
+    }
+};
+
+QTEST_MAIN(TestFrmRecordFormat)
+#include "test_frmRecordFormat.moc"

@@ -1,0 +1,441 @@
+#include "common/AutomationDate.h"
+#include "formats/CodecCatalogue.h"
+#include "formats/FileInspection.h"
+#include "formats/MediaReaders.h"
+#include "formats/ModuleFileTime.h"
+#include "formats/Mp3Info.h"
+#include "store/Options.h"
+#include "support/TestContext.h"
+
+#include <QProcess>
+#include <QTextStream>
+#include <QtEndian>
+#include <QtTest>
+
+namespace {
+
+// Noon on a day of summer time, where the file dates of the tests lie.
+double FileDate()
+{
+    return AutomationDate::FromText(QStringLiteral("06/01/2026")) + 0.5;
+}
+
+bool Run(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != 0) {
+        qWarning() << program << arguments << process.readAllStandardError();
+        return false;
+    }
+    return true;
+}
+
+// A tone made by sox.
+QString MakeWav(const QString& folder, const QString& name, int rate, int channels, int bits,
+                int seconds)
+{
+    const QString path = folder + u'/' + name;
+    if (!Run("sox",
+             {"-n", "-r", QString::number(rate), "-c", QString::number(channels), "-b",
+              QString::number(bits), path, "synth", QString::number(seconds), "sine", "440"}))
+        return QString();
+    return path;
+}
+
+QByteArray Le32(quint32 value)
+{
+    QByteArray bytes(4, '\0');
+    qToLittleEndian(value, bytes.data());
+    return bytes;
+}
+
+QByteArray Chunk(const QByteArray& id, const QByteArray& data)
+{
+    QByteArray chunk = id + Le32(quint32(data.size())) + data;
+    if (data.size() % 2)
+        chunk += '\0';
+    return chunk;
+}
+
+QByteArray Riff(const QByteArray& formType, const QByteArray& chunks)
+{
+    return Chunk("RIFF", formType + chunks);
+}
+
+QByteArray Text(const QString& text)
+{
+    return text.toUtf8() + '\0';
+}
+
+QString WriteFile(const QString& folder, const QString& name, const QByteArray& content,
+                  double date = FileDate())
+{
+    const QString path = folder + u'/' + name;
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return QString();
+    file.write(content);
+    file.close();
+    ModuleFileTime::SetFileDateTime(path, date);
+    return path;
+}
+
+// A recording of this system's task: 10 seconds of phone-quality PCM, its start written
+// in ICRD.
+QByteArray NightreelWave(double created, const QString& software = "Nightreel 2000 1.0")
+{
+    const QByteArray info = "INFO" + Chunk("ISFT", Text(software)) +
+                            Chunk("INAM", Text("Morning show")) +
+                            Chunk("ICRD", Text(Options::DateText(created)));
+    return Riff("WAVE", Chunk("fmt ", CodecCatalogue::PcmRecord(1, 11025, 8).left(16)) +
+                            Chunk("data", QByteArray(110250, char(0x80))) + Chunk("LIST", info));
+}
+
+double Seconds(double seconds)
+{
+    return seconds / 86400.0;
+}
+
+} // namespace
+
+class TestMediaReaders : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        if (QStandardPaths::findExecutable("sox").isEmpty() ||
+            QStandardPaths::findExecutable("lame").isEmpty())
+            QSKIP("sox and lame are needed (scripts/install-deps.sh)");
+    }
+
+    void mp3FilesOfLameAreRead_data()
+    {
+        QTest::addColumn<int>("rate");
+        QTest::addColumn<int>("channels");
+        QTest::addColumn<QStringList>("lameArguments");
+        QTest::addColumn<int>("bitrate"); // 0: variable
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<QString>("title"); // empty: no tag
+
+        QTest::newRow("MPEG 1, 128 kbit/s, stereo, tagged")
+            << 44100 << 2
+            << QStringList{"-b", "128", "-m", "s", "--tt", "Evening news", "--id3v1-only"} << 128
+            << "Stereo"
+            << "Evening news";
+        QTest::newRow("MPEG 1, 192 kbit/s, joint stereo")
+            << 48000 << 2 << QStringList{"-b", "192", "-m", "j"} << 192 << "Joint Stereo"
+            << QString();
+        QTest::newRow("MPEG 1, 48 kbit/s, mono") << 32000 << 1 << QStringList{"-b", "48", "-m", "m"}
+                                                 << 48 << "Single Channel" << QString();
+        QTest::newRow("MPEG 2, 32 kbit/s, mono, tagged")
+            << 22050 << 1 << QStringList{"-b", "32", "-m", "m", "--tt", "Talk", "--id3v1-only"}
+            << 32 << "Single Channel"
+            << "Talk";
+        QTest::newRow("MPEG 2, 64 kbit/s, stereo")
+            << 24000 << 2 << QStringList{"-b", "64", "-m", "s"} << 64 << "Stereo" << QString();
+        QTest::newRow("MPEG 2.5, 16 kbit/s, mono")
+            << 11025 << 1 << QStringList{"-b", "16", "-m", "m"} << 16 << "Single Channel"
+            << QString();
+        QTest::newRow("MPEG 2.5, 24 kbit/s, stereo, tagged")
+            << 8000 << 2 << QStringList{"-b", "24", "-m", "s", "--tt", "Low", "--id3v1-only"} << 24
+            << "Stereo"
+            << "Low";
+        QTest::newRow("MPEG 1, VBR, stereo")
+            << 44100 << 2 << QStringList{"-V", "2", "-m", "s"} << 0 << "Stereo" << QString();
+    }
+    void mp3FilesOfLameAreRead()
+    {
+        QFETCH(int, rate);
+        QFETCH(int, channels);
+        QFETCH(QStringList, lameArguments);
+        QFETCH(int, bitrate);
+        QFETCH(QString, mode);
+        QFETCH(QString, title);
+        TestContext tc;
+        const int seconds = 10;
+        const QString wav = MakeWav(tc.Root(), "tone.wav", rate, channels, 16, seconds);
+        QVERIFY(!wav.isEmpty());
+        const QString mp3 = tc.Root() + "/tone.mp3";
+        QVERIFY(Run("lame", QStringList{"--quiet", "--resample", QString::number(rate / 1000.0)} +
+                                lameArguments + QStringList{wav, mp3}));
+
+        Mp3Info info;
+        Mp3File::GetMp3Info(mp3, true, true, info);
+        QCOMPARE(info.Frequency, rate);
+        QCOMPARE(info.Mode, mode);
+        QCOMPARE(info.IsVbr, bitrate == 0);
+        if (bitrate > 0) {
+            QCOMPARE(int(info.Bitrate), bitrate);
+        } else {
+            // The mean rate of the whole file, within a few per cent.
+            const double mean = QFileInfo(mp3).size() * 8.0 / seconds / 1000.0;
+            QVERIFY2(qAbs(info.Bitrate - mean) < mean * 0.03,
+                     qPrintable(QString("%1 against %2").arg(info.Bitrate).arg(mean)));
+            QVERIFY(info.VbrFrames > 0);
+        }
+        // Encoder delay and padding add a fraction of a second at most.
+        QVERIFY2(info.Duration >= seconds - 1 && info.Duration <= seconds,
+                 qPrintable(QString::number(info.Duration)));
+        QCOMPARE(info.HasTag, !title.isEmpty());
+        QCOMPARE(info.Title, title);
+        // Without a tag the genre reads 255; lame leaves it unset (255) in its tags too.
+        QCOMPARE(int(info.Genre), 255);
+
+        tc.OpenDatabase();
+        ModuleFileTime::SetFileDateTime(mp3, FileDate());
+        AddMp3ToList(*tc.ctx, mp3);
+        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+        QCOMPARE(rs.RecordCount(), 1);
+        QCOMPARE(rs.Value("Title").toString(),
+                 title.isEmpty() ? QStringLiteral("tone.mp3") : title);
+        QCOMPARE(
+            rs.Value("CompressionMethod").toString(),
+            QString("MPEG Layer 3  %1 kBits/s, %2 Hz, %3").arg(info.Bitrate).arg(rate).arg(mode));
+        QCOMPARE(rs.Value("EndTime").toDouble(), FileDate());
+        QCOMPARE(AutomationDate::SecondsBetween(rs.Value("StartTime").toDouble(), FileDate()),
+                 qint64(info.Duration));
+    }
+
+    void theTagWrittenOverTheEndIsReadBack()
+    {
+        TestContext tc;
+        const QString wav = MakeWav(tc.Root(), "tone.wav", 44100, 1, 16, 3);
+        const QString mp3 = tc.Root() + "/tone.mp3";
+        QVERIFY(Run("lame", {"--quiet", "-b", "64", wav, mp3}));
+        const qint64 size = QFileInfo(mp3).size();
+        Mp3File::WriteId3Tag(mp3, "A description far longer than thirty characters", "", "", "",
+                             "Nightreel 2000 Recording", 12);
+        QCOMPARE(QFileInfo(mp3).size(), size);
+        Mp3Info info;
+        Mp3File::GetMp3Info(mp3, true, true, info);
+        QVERIFY(info.HasTag);
+        QCOMPARE(info.Title, QStringLiteral("A description far longer than"));
+        QCOMPARE(info.Comment, QStringLiteral("Nightreel 2000 Recording"));
+        QCOMPARE(int(info.Genre), 12);
+        QCOMPARE(int(info.Bitrate), 64);
+    }
+
+    void pcmWaveFilesOfSoxAreRead_data()
+    {
+        QTest::addColumn<int>("rate");
+        QTest::addColumn<int>("channels");
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<QString>("format");
+        QTest::newRow("CD quality") << 44100 << 2 << 16 << "PCM 44.100 kHz, 16 Bit, Stereo";
+        QTest::newRow("phone quality") << 11025 << 1 << 8 << "PCM 11.025 kHz, 8 Bit, Mono";
+        QTest::newRow("a rate of no preset") << 6000 << 1 << 16 << "PCM 6.000 kHz, 16 Bit, Mono";
+    }
+    void pcmWaveFilesOfSoxAreRead()
+    {
+        QFETCH(int, rate);
+        QFETCH(int, channels);
+        QFETCH(int, bits);
+        QFETCH(QString, format);
+        TestContext tc;
+        tc.OpenDatabase();
+        const QString path = MakeWav(tc.Root(), "tone.wav", rate, channels, bits, 20);
+        QVERIFY(!path.isEmpty());
+        ModuleFileTime::SetFileDateTime(path, FileDate());
+        RecordingRow row;
+        QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelCompressedWave(*tc.ctx, path, row));
+        QVERIFY(MediaReaders::ReadOtherWave(*tc.ctx, path, row));
+        QCOMPARE(row.Title, QStringLiteral("tone.wav"));
+        QCOMPARE(row.CompressionMethod, format);
+        QCOMPARE(row.EndTime, FileDate());
+        QCOMPARE(AutomationDate::SecondsBetween(row.StartTime, row.EndTime), qint64(20));
+        QCOMPARE(row.Size, float(QFileInfo(path).size()) / 1024.0f / 1024.0f);
+    }
+
+    void theRecordingTasksWaveKeepsItsTitleAndCorrectsDaylightSaving_data()
+    {
+        QTest::addColumn<int>("createdMinutesAfterStart");
+        QTest::addColumn<int>("shiftMinutes");
+        QTest::newRow("same time") << 0 << 0;
+        QTest::newRow("57 minutes: left") << 57 << 0;
+        QTest::newRow("58 minutes: an hour later") << 58 << 60;
+        QTest::newRow("62 minutes: an hour later") << 62 << 60;
+        QTest::newRow("63 minutes: left") << 63 << 0;
+        QTest::newRow("-60 minutes: an hour earlier") << -60 << -60;
+        QTest::newRow("-63 minutes: left") << -63 << 0;
+    }
+    void theRecordingTasksWaveKeepsItsTitleAndCorrectsDaylightSaving()
+    {
+        QFETCH(int, createdMinutesAfterStart);
+        QFETCH(int, shiftMinutes);
+        TestContext tc;
+        // The file holds 10 seconds (and its headers, a few ms more).
+        const double start = FileDate() - Seconds(10);
+        const QString path = WriteFile(
+            tc.Root(), "show.wav", NightreelWave(start + Seconds(60.0 * createdMinutesAfterStart)));
+        RecordingRow row;
+        QVERIFY(MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
+        QCOMPARE(row.Title, QStringLiteral("Morning show"));
+        QCOMPARE(row.CompressionMethod, QStringLiteral("PCM 11.025 kHz, 8 Bit, Mono"));
+        QCOMPARE(AutomationDate::SecondsBetween(FileDate(), row.EndTime),
+                 qint64(shiftMinutes * 60));
+        QCOMPARE(AutomationDate::SecondsBetween(start, row.StartTime), qint64(shiftMinutes * 60));
+    }
+
+    void theEncodersWaveTakesItsLengthFromTheFactChunk_data()
+    {
+        QTest::addColumn<QByteArray>("fact");
+        QTest::addColumn<int>("seconds");
+        QTest::newRow("441000 frames at 44100 Hz") << Le32(441000) << 10;
+        QTest::newRow("half a second rounds to even") << Le32(22050 * 5) << 2;
+        QTest::newRow("an empty fact chunk") << QByteArray() << 0;
+    }
+    void theEncodersWaveTakesItsLengthFromTheFactChunk()
+    {
+        QFETCH(QByteArray, fact);
+        QFETCH(int, seconds);
+        TestContext tc;
+        const QByteArray wave =
+            Riff("WAVE", Chunk("ISFT", Text("Nightreel 2000 1.0 ")) + Chunk("INAM", Text("News ")) +
+                             Chunk("fmt ", CodecCatalogue::Mp3Record(2, 44100, 128)) +
+                             Chunk("fact", fact) + Chunk("data", QByteArray(4000, '\x55')));
+        const QString path = WriteFile(tc.Root(), "news.wav", wave);
+        RecordingRow row;
+        QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
+        QVERIFY(MediaReaders::ReadNightreelCompressedWave(*tc.ctx, path, row));
+        QCOMPARE(row.Title, QStringLiteral("News "));
+        QCOMPARE(row.CompressionMethod,
+                 QStringLiteral("MPEG Layer-3 128 kBit/s, 44,100 Hz, Stereo"));
+        QCOMPARE(AutomationDate::SecondsBetween(row.StartTime, row.EndTime), qint64(seconds));
+    }
+
+    void eachFileGetsOneRowAndTheNewRowIsCurrent()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        const QString nightreel = WriteFile(tc.Root(), "show.wav", NightreelWave(FileDate()));
+        const QString other = MakeWav(tc.Root(), "other.wav", 8000, 1, 8, 2);
+        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+
+        bool found = false;
+        AddNightreelWaveToList(*tc.ctx, nightreel, found);
+        QVERIFY(found);
+        AddOtherWaveToList(*tc.ctx, other);
+        QCOMPARE(rs.Value("File").toString(), other);
+        // A file already listed is still taken by its reader, and gets no second row.
+        found = false;
+        AddNightreelWaveToList(*tc.ctx, nightreel, found);
+        QVERIFY(found);
+        AddOtherWaveToList(*tc.ctx, other);
+        QCOMPARE(tc.CountRows("Recordings"), 2);
+        // The test is on trimmed, upper-cased text.
+        QVERIFY(IsFileInRecordingsList(*tc.ctx, " " + other.toLower() + " "));
+        QVERIFY(!IsFileInRecordingsList(*tc.ctx, tc.Root() + "/o'ther.wav"));
+    }
+
+    void aForeignWaveWithASoftwareChunkIsAnOtherWave()
+    {
+        TestContext tc;
+        const QString path =
+            WriteFile(tc.Root(), "foreign.wav", NightreelWave(FileDate(), "SoundTool 5"));
+        RecordingRow row;
+        QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelCompressedWave(*tc.ctx, path, row));
+        QVERIFY(MediaReaders::ReadRecordingRow(*tc.ctx, path, row));
+        QCOMPARE(row.Title, QStringLiteral("foreign.wav"));
+        QCOMPARE(AutomationDate::SecondsBetween(row.StartTime, row.EndTime), qint64(10));
+    }
+
+    void damagedFilesGiveTheDefinedRowOrNone_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("listed");
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("title");
+
+        const QByteArray fmt = Chunk("fmt ", CodecCatalogue::PcmRecord(1, 8000, 8).left(16));
+        QByteArray absurdFmt = "fmt " + Le32(0xFFFFFFF0u) + CodecCatalogue::PcmRecord(1, 8000, 8);
+        QByteArray absurdJunk = "junk" + Le32(0xFFFFFFFFu) + QByteArray(20, 'j') + fmt;
+        QTest::newRow("RIFF header cut short")
+            << "cut.wav" << QByteArray("RIFF\x10\0") << false << QString() << QString();
+        QTest::newRow("no fmt chunk")
+            << "nofmt.wav" << Riff("WAVE", Chunk("data", QByteArray(64, 1))) << false << QString()
+            << QString();
+        QTest::newRow("fmt behind a chunk of absurd size")
+            << "junk.wav" << Riff("WAVE", absurdJunk) << false << QString() << QString();
+        QTest::newRow("fmt of absurd size")
+            << "bigfmt.wav" << QByteArray("RIFF" + Le32(0xFFFFFFFFu) + "WAVE" + absurdFmt) << true
+            << "PCM 8.000 kHz, 8 Bit, Mono"
+            << "bigfmt.wav";
+        QTest::newRow("not RIFF WAVE")
+            << "avi.wav" << Riff("AVI ", fmt) << false << QString() << QString();
+        QTest::newRow("MP3 under 256 bytes")
+            << "short.mp3" << QByteArray(200, '\xFF') << true << "MPEG Layer 3  0 kBits/s, 0 Hz, "
+            << "short.mp3";
+        QByteArray freeFormat(400, '\0');
+        freeFormat[10] = '\xFF';
+        freeFormat[11] = '\xFB';
+        QTest::newRow("MP3 header of the free format")
+            << "free.mp3" << freeFormat << true << "MPEG Layer 3  0 kBits/s, 44100 Hz, Stereo"
+            << "free.mp3";
+        QByteArray tagAtTheEnd(300, 'x');
+        tagAtTheEnd.replace(295, 5, "TAGab");
+        // The tag is taken wherever it starts, however little of it is left.
+        QTest::newRow("MP3 with a tag cut off by the end")
+            << "cut.mp3" << tagAtTheEnd << true << "MPEG Layer 3  0 kBits/s, 0 Hz, "
+            << "ab";
+    }
+    void damagedFilesGiveTheDefinedRowOrNone()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(bool, listed);
+        QFETCH(QString, format);
+        QFETCH(QString, title);
+        TestContext tc;
+        tc.OpenDatabase();
+        const QString path = WriteFile(tc.Root(), name, content);
+        if (name.endsWith(".mp3")) {
+            AddMp3ToList(*tc.ctx, path);
+        } else {
+            bool found = true;
+            AddNightreelWaveToList(*tc.ctx, path, found);
+            QVERIFY(!found);
+            AddNightreelCompressedWaveToList(*tc.ctx, path, found);
+            QVERIFY(!found);
+            AddOtherWaveToList(*tc.ctx, path);
+        }
+        QCOMPARE(tc.CountRows("Recordings"), listed ? 1 : 0);
+        if (listed) {
+            Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+            QCOMPARE(rs.Value("CompressionMethod").toString(), format);
+            QCOMPARE(rs.Value("Title").toString(), title);
+        }
+        QCOMPARE(tc.CountRows("EventLog"), 0);
+    }
+
+    void inspectPrintsTheRowOrNothing()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        const QString wave = WriteFile(tc.Root(), "show.wav", NightreelWave(FileDate()));
+        QString text;
+        QTextStream out(&text);
+        QCOMPARE(InspectFile(*tc.ctx, wave, out), 0);
+        const QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.value(0), QStringLiteral("Title: Morning show"));
+        QCOMPARE(lines.value(2), QStringLiteral("Start: 2026-06-01 11:59:50"));
+        QCOMPARE(lines.value(3), QStringLiteral("End: 2026-06-01 12:00:00"));
+        QCOMPARE(lines.value(4), QStringLiteral("Format: PCM 11.025 kHz, 8 Bit, Mono"));
+        QVERIFY(lines.value(5).startsWith("Size: 0.105"));
+        QCOMPARE(tc.CountRows("Recordings"), 0);
+
+        text.clear();
+        const QString notes = WriteFile(tc.Root(), "notes.txt", "RIFF");
+        QVERIFY(InspectFile(*tc.ctx, notes, out) != 0);
+        QVERIFY(InspectFile(*tc.ctx, tc.Root() + "/missing.wav", out) != 0);
+        QVERIFY(text.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMediaReaders)
+#include "test_mediareaders.moc"

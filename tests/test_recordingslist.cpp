@@ -1,0 +1,265 @@
+#include "Programs.h"
+#include "TestContext.h"
+#include "store/ListFile.h"
+#include "store/RecordingsList.h"
+#include "store/SavedLists.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+// A short PCM wave file that any wave reader takes.
+void WriteWave(const QString& path)
+{
+    const quint32 dataSize = 8000;
+    QByteArray b;
+    const auto u32 = [&b](quint32 v) {
+        b.append(reinterpret_cast<const char*>(&v), 4);
+    };
+    const auto u16 = [&b](quint16 v) {
+        b.append(reinterpret_cast<const char*>(&v), 2);
+    };
+    b.append("RIFF");
+    u32(36 + dataSize);
+    b.append("WAVEfmt ");
+    u32(16);
+    u16(1);
+    u16(1);
+    u32(8000);
+    u32(8000);
+    u16(1);
+    u16(8);
+    b.append("data");
+    u32(dataSize);
+    b.append(QByteArray(dataSize, char(0x80)));
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(b);
+}
+
+void WriteFile(const QString& path, const QByteArray& content)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(content);
+}
+
+QStringList ListedFiles(AppContext& ctx)
+{
+    QStringList files;
+    Recordset rs = ctx.database.DataRecordings.recordset().Clone();
+    for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext())
+        files << QFileInfo(rs.Value("File").toString()).fileName();
+    return files;
+}
+
+struct ListFixture {
+    ListFixture()
+    {
+        tc.OpenDatabase();
+        QDir().mkpath(Folder());
+        tc.ctx->options.DefaultRecordingDirectory = Folder();
+    }
+    QString Folder() const { return tc.Root() + "/rec"; }
+    QString File(const QString& name) const { return Folder() + "/" + name; }
+
+    TestContext tc;
+    RecordingsList list{*tc.ctx};
+};
+
+} // namespace
+
+class TestRecordingsList : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aFileIsListedOnce()
+    {
+        ListFixture f;
+        WriteWave(f.File("a.wav"));
+        f.list.AddFileToRecordingsList(f.File("a.wav"));
+        f.list.AddFileToRecordingsList("  " + f.File("a.wav") + " ");
+        f.list.AddFileToRecordingsList(f.File("notes.txt"));
+        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"a.wav"});
+    }
+
+    void theFileBeingRecordedIsNotListed()
+    {
+        ListFixture f;
+        WriteWave(f.File("now.wav"));
+        f.tc.ctx->recordingStatus.FinalFile = f.File("now.wav");
+        f.list.AddFileToRecordingsList(f.File("now.wav"));
+        QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
+    }
+
+    void aFolderListsItsWaveFilesFirst()
+    {
+        ListFixture f;
+        WriteFile(f.File("a.mp3"), QByteArray(600, 'x'));
+        WriteWave(f.File("b.WAV"));
+        WriteWave(f.File("c.wav"));
+        QDir().mkpath(f.Folder() + "/sub");
+        WriteWave(f.Folder() + "/sub/d.wav");
+        f.list.AddFolderToRecordingsList(f.Folder());
+        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList({"b.WAV", "c.wav", "a.mp3"}));
+    }
+
+    void aFileThatCantBeDeletedKeepsItsRow()
+    {
+        ListFixture f;
+        WriteWave(f.File("gone.wav"));
+        WriteWave(f.File("stuck.wav"));
+        f.list.AddFolderToRecordingsList(f.Folder());
+        // A folder of that name can't be removed as a file, whoever asks.
+        QFile::remove(f.File("stuck.wav"));
+        QVERIFY(QDir().mkpath(f.File("stuck.wav") + "/inside"));
+        Recordset rs = f.tc.ctx->database.DataRecordings.recordset().Clone();
+        QList<qint64> all;
+        for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext())
+            all << rs.Bookmark();
+        f.list.DeleteFromDisk(all);
+        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"stuck.wav"});
+        QVERIFY(!QFile::exists(f.File("gone.wav")));
+        QCOMPARE(f.tc.CountRows("EventLog"), 1);
+        Recordset& log = f.tc.ctx->database.ElogRecordset();
+        log.MoveLast();
+        QCOMPARE(log.Value("Message").toString(),
+                 QStringLiteral("Recording was not deleted from disk."));
+        QVERIFY(log.Value("Details").toString().endsWith("Filename: " + f.File("stuck.wav")));
+    }
+
+    void removingAndClearingLeaveTheFiles()
+    {
+        ListFixture f;
+        WriteWave(f.File("a.wav"));
+        WriteWave(f.File("b.wav"));
+        f.list.AddFolderToRecordingsList(f.Folder());
+        Recordset rs = f.tc.ctx->database.DataRecordings.recordset().Clone();
+        rs.MoveFirst();
+        f.list.RemoveFromList({rs.Bookmark()});
+        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"b.wav"});
+        f.list.ClearRecordingsList();
+        QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
+        QVERIFY(QFile::exists(f.File("a.wav")) && QFile::exists(f.File("b.wav")));
+    }
+
+    // The purge works on the recording folder, not on the list.
+    void thePurgeDeletesOldFilesOfTheFolderOnly()
+    {
+        ListFixture f;
+        const QString elsewhere = f.tc.Root() + "/elsewhere";
+        QDir().mkpath(elsewhere);
+        for (const QString& path :
+             {f.File("old.wav"), f.File("old.mp3"), f.File("new.wav"), elsewhere + "/old.wav"})
+            WriteWave(path);
+        f.list.AddFileToRecordingsList(f.File("new.wav"));
+        f.list.AddFileToRecordingsList(elsewhere + "/old.wav");
+        f.tc.clock.Set(QDateTime::currentDateTime());
+        const QDateTime longAgo = QDateTime::currentDateTime().addDays(-40);
+        for (const QString& path : {f.File("old.wav"), f.File("old.mp3"), elsewhere + "/old.wav"}) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+        }
+        f.tc.ctx->options.PurgeDays = 30;
+        f.list.Purge();
+        QCOMPARE(QDir(f.Folder()).entryList(QDir::Files), QStringList{"new.wav"});
+        QVERIFY(QFile::exists(elsewhere + "/old.wav"));
+        QStringList listed = ListedFiles(*f.tc.ctx);
+        listed.sort();
+        QCOMPARE(listed, QStringList({"new.wav", "old.wav"}));
+        QCOMPARE(f.list.PurgeOldRecordings(), 0);
+    }
+
+    void aRowOfAVanishedFileGoesOnlyFromTheRecordingFolder()
+    {
+        ListFixture f;
+        const QString elsewhere = f.tc.Root() + "/elsewhere";
+        QDir().mkpath(elsewhere);
+        WriteWave(f.File("a.wav"));
+        WriteWave(elsewhere + "/b.wav");
+        f.list.AddFileToRecordingsList(f.File("a.wav"));
+        f.list.AddFileToRecordingsList(elsewhere + "/b.wav");
+        QFile::remove(f.File("a.wav"));
+        QFile::remove(elsewhere + "/b.wav");
+        f.list.RemoveMissingFromRecordingFolder();
+        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"b.wav"});
+    }
+
+    void durations_data()
+    {
+        QTest::addColumn<QString>("end");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("singular") << "21:01:01"
+                                  << "1 Hour 1 Minute 1 Second";
+        QTest::newRow("plural and zero") << "22:00:02"
+                                         << "2 Hours 0 Minutes 2 Seconds";
+    }
+    void durations()
+    {
+        QFETCH(QString, end);
+        QFETCH(QString, text);
+        QCOMPARE(RecordingsList::DurationText(Programs::At(2026, 6, 1, "20:00:00"),
+                                              Programs::At(2026, 6, 1, end)),
+                 text);
+    }
+
+    void aSavedListKeepsPathsInTheListsOrder()
+    {
+        ListFixture f;
+        WriteWave(f.File("b.wav"));
+        WriteWave(f.File("a.wav"));
+        f.list.AddFolderToRecordingsList(f.Folder());
+        SavedLists lists(*f.tc.ctx);
+        QDir().mkpath(lists.Folder());
+        lists.Save("  Disk one  ");
+        QCOMPARE(lists.Names(), QStringList{"Disk one"});
+        QFile saved(lists.PathOf("Disk one"));
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QCOMPARE(saved.readAll(), QByteArray("\"" + f.File("a.wav").toUtf8() + "\"\r\n\"" +
+                                             f.File("b.wav").toUtf8() + "\"\r\n"));
+
+        // An empty list makes no file.
+        f.list.ClearRecordingsList();
+        lists.Save("Empty");
+        QCOMPARE(lists.Names(), QStringList{"Disk one"});
+
+        // Merging a listed file keeps one row.
+        f.list.AddFileToRecordingsList(f.File("a.wav"));
+        lists.LoadList("Disk one", true);
+        QStringList merged = ListedFiles(*f.tc.ctx);
+        merged.sort();
+        QCOMPARE(merged, QStringList({"a.wav", "b.wav"}));
+
+        // Files that are gone drop out in silence.
+        QFile::remove(f.File("a.wav"));
+        QFile::remove(f.File("b.wav"));
+        lists.LoadList("Disk one", false);
+        QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
+        QCOMPARE(f.tc.CountRows("EventLog"), 0);
+    }
+
+    void listFilesAreReadItemByItem_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("items");
+        QTest::newRow("two") << QByteArray("\"/a b.wav\"\r\n\"/c.mp3\"\r\n")
+                             << QStringList({"/a b.wav", "/c.mp3"});
+        QTest::newRow("ends inside an item")
+            << QByteArray("\"/a.wav\"\r\n\"/trunc") << QStringList{"/a.wav"};
+        QTest::newRow("no line ends")
+            << QByteArray("\"/a.wav\"\"/b.wav\"") << QStringList({"/a.wav", "/b.wav"});
+        QTest::newRow("empty") << QByteArray() << QStringList();
+    }
+    void listFilesAreReadItemByItem()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QStringList, items);
+        QCOMPARE(ListFile::ReadItems(content), items);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRecordingsList)
+#include "test_recordingslist.moc"
