@@ -8,6 +8,7 @@
 #include "diagnostics/frmErrors.h"
 #include "options/frmSelectExistingRecordDirectory.h"
 #include "options/frmSelectRecordDirectory.h"
+#include "scheduling/ProgramListGrid.h"
 #include "shell/AppContext.h"
 #include "shell/GridSelection.h"
 #include "shell/Icons.h"
@@ -69,6 +70,7 @@ frmMain::frmMain(AppContext& ctx, bool startHidden, QWidget* parent)
     BindGrids();
     CreateTray();
     ConnectCommands();
+    m_programList = new ProgramListGrid(m_ctx, *this);
     connect(qApp, &QGuiApplication::commitDataRequest, this,
             [this](QSessionManager&) { m_closingBySystem = true; });
 }

@@ -12,6 +12,7 @@ class QMenu;
 class QSystemTrayIcon;
 class Recordset;
 class RecordsetModel;
+class ProgramListGrid;
 class frmRecordingStatus;
 
 // The main window: the two lists, the commands, the mode display and the status bar. It
@@ -86,4 +87,6 @@ private:
     bool m_closingBySystem = false;
     bool m_programsSortAscending = false;
     bool m_recordingsSortAscending = false;
+    // The program commands and the ways into them from menus, toolbar and grid.
+    ProgramListGrid* m_programList = nullptr;
 };

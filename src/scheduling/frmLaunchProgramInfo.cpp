@@ -1,0 +1,50 @@
+#include "scheduling/frmLaunchProgramInfo.h"
+
+#include "shell/FormPlacement.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+frmLaunchProgramInfo::frmLaunchProgramInfo(QWidget* owner)
+    : QDialog(owner)
+{
+    setObjectName(QStringLiteral("frmLaunchProgramInfo"));
+    setWindowTitle(QStringLiteral("Launch Program Info"));
+    auto* layout = new QVBoxLayout(this);
+    const QStringList lines = Lines();
+    for (int i = 0; i < lines.size(); ++i) {
+        auto* label = new QLabel(lines.at(i));
+        label->setObjectName(QStringLiteral("lblInfo") + QString::number(i));
+        label->setWordWrap(true);
+        label->setTextFormat(Qt::PlainText);
+        layout->addWidget(label);
+        if (i == 0)
+            layout->addSpacing(6);
+    }
+    auto* CommandOk = new QPushButton(QStringLiteral("&OK"));
+    CommandOk->setObjectName(QStringLiteral("CommandOk"));
+    CommandOk->setDefault(true);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(CommandOk);
+    layout->addLayout(buttons);
+    connect(CommandOk, &QPushButton::clicked, this, &QDialog::accept);
+    setFixedWidth(420);
+    FormPlacement::PlaceAtMainForm(this, owner, 100);
+}
+
+QStringList frmLaunchProgramInfo::Lines()
+{
+    return {
+        QStringLiteral("The application launch command after recording can contain any of the "
+                       "following symbols which will be substituted with the appropriate string:"),
+        QStringLiteral("%d - recording file directory"),
+        QStringLiteral("%p - full recording file name including path"),
+        QStringLiteral("%e - recording file name extension, not including the dot"),
+        QStringLiteral("%% - the % character"),
+        QStringLiteral("%b - recording file name without the path and extension"),
+        QStringLiteral("%f - recording file name without the path"),
+    };
+}

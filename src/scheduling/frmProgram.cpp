@@ -1,0 +1,784 @@
+#include "scheduling/frmProgram.h"
+
+#include "common/AutomationDate.h"
+#include "common/MessageBox.h"
+#include "common/PathHelpers.h"
+#include "common/TextHelpers.h"
+#include "diagnostics/Trap.h"
+#include "formats/clsRecordingFormat.h"
+#include "formats/frmRecordFormat.h"
+#include "scheduling/frmLaunchProgramInfo.h"
+#include "shell/AppContext.h"
+#include "shell/FormPlacement.h"
+
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QDesktopServices>
+#include <QDir>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTimeEdit>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace {
+
+const QString kForbiddenList = QStringLiteral("\\ / : * ? \" < > | ");
+
+// The arrows beside a delay box: they step the number in the box within 0..120.
+QWidget* MakeUpDown(QLineEdit* buddy)
+{
+    auto* box = new QWidget;
+    auto* layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    const auto arrow = [&](Qt::ArrowType type, int step) {
+        auto* button = new QToolButton;
+        button->setArrowType(type);
+        button->setFixedSize(16, 11);
+        button->setAutoRepeat(true);
+        QObject::connect(button, &QToolButton::clicked, buddy, [buddy, step] {
+            const qint64 value = Text::RoundHalfEven(Text::Val(Text::Trim(buddy->text())));
+            buddy->setText(QString::number(std::clamp<qint64>(value + step, 0, 120)));
+        });
+        layout->addWidget(button);
+    };
+    arrow(Qt::UpArrow, 1);
+    arrow(Qt::DownArrow, -1);
+    return box;
+}
+
+QDate DateOf(double date)
+{
+    return AutomationDate::ToDateTime(date).date();
+}
+
+QTime TimeOf(double time)
+{
+    return AutomationDate::ToDateTime(AutomationDate::TimePart(time)).time();
+}
+
+void SetEnabled(std::initializer_list<QWidget*> controls, bool enabled)
+{
+    for (QWidget* control : controls)
+        control->setEnabled(enabled);
+}
+
+double TimeValue(const QTimeEdit* picker)
+{
+    const QTime t = picker->time();
+    return AutomationDate::FromTime(t.hour(), t.minute(), t.second());
+}
+
+} // namespace
+
+template <typename T> T* frmProgram::Named(T* widget, const char* name)
+{
+    widget->setObjectName(QString::fromLatin1(name));
+    m_controls.append(widget);
+    return widget;
+}
+
+frmProgram::frmProgram(AppContext& ctx, QWidget* owner)
+    : QDialog(owner)
+    , m_ctx(ctx)
+{
+    setObjectName(QStringLiteral("frmProgram"));
+    setWindowTitle(QStringLiteral("Program"));
+    viewHtmlFile = [](const QString& url, QWidget*) {
+        QDesktopServices::openUrl(QUrl::fromUserInput(url));
+    };
+
+    SSTab1 = new QTabWidget;
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    const auto page = [this](const char* name, const QString& title) {
+        auto* frame = new QWidget;
+        frame->setObjectName(QString::fromLatin1(name));
+        SSTab1->addTab(frame, title);
+        return frame;
+    };
+    frameGeneral = page("frameGeneral", QStringLiteral("&General"));
+    frameFile = page("frameFile", QStringLiteral("&File"));
+    frameExternalApp = page("frameExternalApp", QStringLiteral("&External App"));
+    frameInternet = page("frameInternet", QStringLiteral("&Internet"));
+    frameMixer = page("frameMixer", QStringLiteral("&Mixer"));
+    BuildGeneralTab(frameGeneral);
+    BuildFileTab(frameFile);
+    BuildExternalAppTab(frameExternalApp);
+    BuildInternetTab(frameInternet);
+    BuildMixerTab(frameMixer);
+
+    CommandOk = Named(new QPushButton(QStringLiteral("&OK")), "CommandOk");
+    CommandOk->setDefault(true);
+    CommandCancel = Named(new QPushButton(QStringLiteral("&Cancel")), "CommandCancel");
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(CommandOk);
+    buttons->addWidget(CommandCancel);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(SSTab1, 1);
+    layout->addLayout(buttons);
+
+    connect(CommandOk, &QPushButton::clicked, this, &frmProgram::CommandOk_Click);
+    connect(CommandCancel, &QPushButton::clicked, this, &frmProgram::CommandCancel_Click);
+    connect(SSTab1, &QTabWidget::currentChanged, this, &frmProgram::SSTab1_Click);
+
+    Form_Load();
+}
+
+void frmProgram::BuildGeneralTab(QWidget* page)
+{
+    TextProgramDescription = Named(new QLineEdit, "TextProgramDescription");
+    auto* lblDescription = Named(new QLabel(QStringLiteral("Description")), "lblDescription");
+    lblDescription->setBuddy(TextProgramDescription);
+    CheckEnabled = Named(new QCheckBox(QStringLiteral("Ena&bled")), "CheckEnabled");
+    CheckEnabled->setChecked(true);
+
+    frameFrequency = Named(new QGroupBox(QStringLiteral("F&requency")), "frameFrequency");
+    OptionOneTimeOrDaily[0] =
+        Named(new QRadioButton(QStringLiteral("O&ne Time")), "OptionOneTimeOrDaily(0)");
+    OptionOneTimeOrDaily[1] =
+        Named(new QRadioButton(QStringLiteral("&Daily")), "OptionOneTimeOrDaily(1)");
+    OptionOneTimeOrDaily[0]->setChecked(true);
+    dtpkrOnceDate = Named(new QDateEdit, "dtpkrOnceDate");
+    dtpkrOnceDate->setCalendarPopup(true);
+    // The locale's short date, always with four digits of the year.
+    QString dateFormat = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!dateFormat.contains(QStringLiteral("yyyy")))
+        dateFormat.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+    dtpkrOnceDate->setDisplayFormat(dateFormat);
+    const QString dayCaptions[] = {QStringLiteral("S&un"), QStringLiteral("M&on"),
+                                   QStringLiteral("&Tue"), QStringLiteral("&Wed"),
+                                   QStringLiteral("T&hu"), QStringLiteral("F&ri"),
+                                   QStringLiteral("&Sat")};
+    auto* days = new QHBoxLayout;
+    for (int d = 0; d < 7; ++d) {
+        const QByteArray name = "CheckDaysOfWeek(" + QByteArray::number(d) + ')';
+        CheckDaysOfWeek[d] = Named(new QCheckBox(dayCaptions[d]), name.constData());
+        days->addWidget(CheckDaysOfWeek[d]);
+    }
+    days->addStretch();
+    auto* frequency = new QGridLayout(frameFrequency);
+    frequency->addWidget(OptionOneTimeOrDaily[0], 0, 0);
+    frequency->addWidget(dtpkrOnceDate, 0, 1, Qt::AlignLeft);
+    frequency->addWidget(OptionOneTimeOrDaily[1], 1, 0);
+    frequency->addLayout(days, 1, 1);
+    frequency->setColumnStretch(1, 1);
+
+    dtpkrStartTime = Named(new QTimeEdit, "dtpkrStartTime");
+    dtpkrEndTime = Named(new QTimeEdit, "dtpkrEndTime");
+    for (QTimeEdit* picker : {dtpkrStartTime, dtpkrEndTime})
+        picker->setDisplayFormat(QStringLiteral("HH:mm:ss"));
+    auto* lblStart = Named(new QLabel(QStringLiteral("Start Time")), "lblStartTime");
+    auto* lblEnd = Named(new QLabel(QStringLiteral("End Time")), "lblEndTime");
+    lblStart->setBuddy(dtpkrStartTime);
+    lblEnd->setBuddy(dtpkrEndTime);
+    auto* lblDuration = Named(new QLabel(QStringLiteral("Duration:")), "LabelDuration");
+    LabelDurationData = Named(new QLabel, "LabelDurationData");
+    auto* lblDisk = Named(new QLabel(QStringLiteral("Disk Storage: ")), "LabelDiskSpace");
+    LabelDiskSpaceData = Named(new QLabel, "LabelDiskSpaceData");
+
+    auto* lblFormat = Named(new QLabel(QStringLiteral("Recording Format")), "LabelRecordingFormat");
+    TextCompressionMethod = Named(new QLineEdit, "TextCompressionMethod");
+    TextCompressionMethod->setReadOnly(true);
+    ChangeComprMethodButton =
+        Named(new QPushButton(QStringLiteral("Modif&y")), "ChangeComprMethodButton");
+
+    auto* grid = new QGridLayout(page);
+    grid->addWidget(lblDescription, 0, 0);
+    grid->addWidget(TextProgramDescription, 0, 1, 1, 3);
+    grid->addWidget(CheckEnabled, 0, 4);
+    grid->addWidget(frameFrequency, 1, 0, 1, 5);
+    grid->addWidget(lblStart, 2, 0);
+    grid->addWidget(dtpkrStartTime, 2, 1);
+    grid->addWidget(lblDuration, 2, 2);
+    grid->addWidget(LabelDurationData, 2, 3, 1, 2);
+    grid->addWidget(lblEnd, 3, 0);
+    grid->addWidget(dtpkrEndTime, 3, 1);
+    grid->addWidget(lblDisk, 3, 2);
+    grid->addWidget(LabelDiskSpaceData, 3, 3, 1, 2);
+    grid->addWidget(lblFormat, 4, 0);
+    grid->addWidget(TextCompressionMethod, 4, 1, 1, 3);
+    grid->addWidget(ChangeComprMethodButton, 4, 4);
+    grid->setColumnStretch(3, 1);
+    grid->setRowStretch(5, 1);
+
+    connect(OptionOneTimeOrDaily[0], &QRadioButton::clicked, this,
+            &frmProgram::OptionOneTimeOrDaily_Click);
+    connect(OptionOneTimeOrDaily[1], &QRadioButton::clicked, this,
+            &frmProgram::OptionOneTimeOrDaily_Click);
+    connect(CheckEnabled, &QCheckBox::clicked, this, &frmProgram::CheckEnabled_Click);
+    connect(dtpkrStartTime, &QTimeEdit::timeChanged, this, &frmProgram::CalcTimeDuration);
+    connect(dtpkrEndTime, &QTimeEdit::timeChanged, this, &frmProgram::CalcTimeDuration);
+    connect(ChangeComprMethodButton, &QPushButton::clicked, this,
+            &frmProgram::ChangeComprMethodButton_Click);
+}
+
+void frmProgram::BuildFileTab(QWidget* page)
+{
+    optDefaultFilename = Named(new QRadioButton, "optDefaultFilename");
+    optDefaultFilename->setChecked(true);
+    chkPrefix = Named(new QCheckBox(QStringLiteral("&Prefix")), "chkPrefix");
+    txtPrefix = Named(new QLineEdit, "txtPrefix");
+    chkSuffix = Named(new QCheckBox(QStringLiteral("&Suffix")), "chkSuffix");
+    txtSuffix = Named(new QLineEdit, "txtSuffix");
+    optUserFilename = Named(new QRadioButton(QStringLiteral("&User")), "optUserFilename");
+    txtUserFilename = Named(new QLineEdit, "txtUserFilename");
+
+    auto* grid = new QGridLayout(page);
+    grid->addWidget(optDefaultFilename, 0, 0, 1, 3);
+    grid->addWidget(chkPrefix, 1, 1);
+    grid->addWidget(txtPrefix, 1, 2);
+    grid->addWidget(chkSuffix, 2, 1);
+    grid->addWidget(txtSuffix, 2, 2);
+    grid->addWidget(optUserFilename, 3, 0, 1, 2);
+    grid->addWidget(txtUserFilename, 3, 2);
+    grid->setColumnMinimumWidth(0, 20);
+    grid->setColumnStretch(2, 1);
+    grid->setRowStretch(4, 1);
+
+    for (QAbstractButton* button : std::initializer_list<QAbstractButton*>{
+             optDefaultFilename, optUserFilename, chkPrefix, chkSuffix})
+        connect(button, &QAbstractButton::clicked, this, &frmProgram::DoFilenameEnables);
+}
+
+void frmProgram::BuildExternalAppTab(QWidget* page)
+{
+    chkLaunchPrior =
+        Named(new QCheckBox(QStringLiteral("Launch external program &prior to recording")),
+              "chkLaunchPrior");
+    txtLaunchPrior = Named(new QLineEdit, "txtLaunchPrior");
+    lblLaunchPriorDelay =
+        Named(new QLabel(QStringLiteral("Number of seconds to launch program p&rior to recording")),
+              "lblLaunchPriorDelay");
+    txtLaunchPriorDelay = Named(new QLineEdit(QStringLiteral("0")), "txtLaunchPriorDelay");
+    txtLaunchPriorDelay->setMaximumWidth(50);
+    lblLaunchPriorDelay->setBuddy(txtLaunchPriorDelay);
+    updnLaunchPriorDelay = Named(MakeUpDown(txtLaunchPriorDelay), "updnLaunchPriorDelay");
+    chkLaunchAfter =
+        Named(new QCheckBox(QStringLiteral("Launch external program when recording co&mpletes")),
+              "chkLaunchAfter");
+    txtLaunchAfter = Named(new QLineEdit, "txtLaunchAfter");
+    chkLaunchAfterOnlyIfOk =
+        Named(new QCheckBox(QStringLiteral("Launch only if &successful recording")),
+              "chkLaunchAfterOnlyIfOk");
+    btnInfo = Named(new QPushButton(QStringLiteral("Info...")), "btnInfo");
+
+    auto* delay = new QHBoxLayout;
+    delay->addWidget(lblLaunchPriorDelay);
+    delay->addWidget(txtLaunchPriorDelay);
+    delay->addWidget(updnLaunchPriorDelay);
+    delay->addStretch();
+    auto* grid = new QGridLayout(page);
+    grid->addWidget(chkLaunchPrior, 0, 0, 1, 2);
+    grid->addWidget(txtLaunchPrior, 1, 1);
+    grid->addLayout(delay, 2, 1);
+    grid->addWidget(chkLaunchAfter, 3, 0, 1, 2);
+    grid->addWidget(txtLaunchAfter, 4, 1);
+    grid->addWidget(chkLaunchAfterOnlyIfOk, 5, 1);
+    grid->addWidget(btnInfo, 6, 1, Qt::AlignRight);
+    grid->setColumnMinimumWidth(0, 20);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(7, 1);
+
+    connect(chkLaunchPrior, &QCheckBox::clicked, this, &frmProgram::DoLaunchPriorEnables);
+    connect(chkLaunchAfter, &QCheckBox::clicked, this, &frmProgram::DoLaunchAfterEnables);
+    connect(chkLaunchAfterOnlyIfOk, &QCheckBox::clicked, this, &frmProgram::DoLaunchAfterEnables);
+    connect(btnInfo, &QPushButton::clicked, this, &frmProgram::btnInfo_Click);
+}
+
+void frmProgram::BuildInternetTab(QWidget* page)
+{
+    chkLaunchLink = Named(new QCheckBox(QStringLiteral("Launch &Internet link prior to recording")),
+                          "chkLaunchLink");
+    txtLaunchLink = Named(new QLineEdit, "txtLaunchLink");
+    btnTestUrl = Named(new QPushButton(QStringLiteral("&Test")), "btnTestUrl");
+    lblLaunchLinkDelay = Named(
+        new QLabel(QStringLiteral("Number of seconds to launch Internet link prior to recording")),
+        "lblLaunchLinkDelay");
+    txtLaunchLinkDelay = Named(new QLineEdit(QStringLiteral("0")), "txtLaunchLinkDelay");
+    txtLaunchLinkDelay->setMaximumWidth(50);
+    lblLaunchLinkDelay->setBuddy(txtLaunchLinkDelay);
+    updnLaunchLinkDelay = Named(MakeUpDown(txtLaunchLinkDelay), "updnLaunchLinkDelay");
+    frameCloseStreamingPlayer =
+        Named(new QGroupBox(QStringLiteral("Close streaming player when done recording")),
+              "frameCloseStreamingPlayer");
+    const QString options[] = {
+        QStringLiteral("&Let Nightreel attempt to determine the streaming player"),
+        QStringLiteral("Enter &Window title (or part of) "),
+        QStringLiteral("Do &not close streaming player")};
+    for (int i = 0; i < 3; ++i) {
+        const QByteArray name = "optCloseStreamingPlayer(" + QByteArray::number(i) + ')';
+        optCloseStreamingPlayer[i] = Named(new QRadioButton(options[i]), name.constData());
+        connect(optCloseStreamingPlayer[i], &QRadioButton::clicked, this,
+                &frmProgram::DoLaunchLinkEnables);
+    }
+    optCloseStreamingPlayer[0]->setChecked(true);
+    txtStreamingPlayerWindowTitle = Named(new QLineEdit, "txtStreamingPlayerWindowTitle");
+    chkHangUp =
+        Named(new QCheckBox(QStringLiteral("&Hang up dial up connection when done recording")),
+              "chkHangUp");
+
+    auto* close = new QGridLayout(frameCloseStreamingPlayer);
+    close->addWidget(optCloseStreamingPlayer[0], 0, 0, 1, 2);
+    close->addWidget(optCloseStreamingPlayer[1], 1, 0);
+    close->addWidget(txtStreamingPlayerWindowTitle, 1, 1);
+    close->addWidget(optCloseStreamingPlayer[2], 2, 0, 1, 2);
+    close->setColumnStretch(1, 1);
+
+    auto* link = new QHBoxLayout;
+    link->addWidget(txtLaunchLink, 1);
+    link->addWidget(btnTestUrl);
+    auto* delay = new QHBoxLayout;
+    delay->addWidget(lblLaunchLinkDelay);
+    delay->addWidget(txtLaunchLinkDelay);
+    delay->addWidget(updnLaunchLinkDelay);
+    delay->addStretch();
+    auto* grid = new QGridLayout(page);
+    grid->addWidget(chkLaunchLink, 0, 0, 1, 2);
+    grid->addLayout(link, 1, 1);
+    grid->addLayout(delay, 2, 1);
+    grid->addWidget(frameCloseStreamingPlayer, 3, 1);
+    grid->addWidget(chkHangUp, 4, 1);
+    grid->setColumnMinimumWidth(0, 20);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(5, 1);
+
+    connect(chkLaunchLink, &QCheckBox::clicked, this, &frmProgram::DoLaunchLinkEnables);
+    connect(btnTestUrl, &QPushButton::clicked, this, &frmProgram::btnTestUrl_Click);
+}
+
+void frmProgram::BuildMixerTab(QWidget* page)
+{
+    auto* lblPrior = Named(new QLabel(QStringLiteral("Activate mixer profile prior to recording")),
+                           "lblMixerProfilePrior");
+    lstMixerProfilePrior = Named(new QListWidget, "lstMixerProfilePrior");
+    auto* lblAfter =
+        Named(new QLabel(QStringLiteral("Activate mixer profile when recording completes")),
+              "lblMixerProfileAfter");
+    lstMixerProfileAfter = Named(new QListWidget, "lstMixerProfileAfter");
+    lblPrior->setBuddy(lstMixerProfilePrior);
+    lblAfter->setBuddy(lstMixerProfileAfter);
+    auto* lblHint =
+        Named(new QLabel(QStringLiteral("Mixer profiles can be created in the Tools menu.")),
+              "lblMixerHint");
+
+    auto* grid = new QGridLayout(page);
+    grid->addWidget(lblPrior, 0, 0);
+    grid->addWidget(lblAfter, 0, 1);
+    grid->addWidget(lstMixerProfilePrior, 1, 0);
+    grid->addWidget(lstMixerProfileAfter, 1, 1);
+    grid->addWidget(lblHint, 2, 0, 1, 2);
+}
+
+void frmProgram::Form_Load()
+{
+    Trap(m_ctx.log, "Program Form Load", [&] {
+        FormPlacement::PlaceAtMainForm(this, parentWidget(), 100);
+        switch (m_ctx.options.DefaultRecordFileNameFormat) {
+        case 1:
+            optDefaultFilename->setText(QStringLiteral("YY&MMDD_hhmmss"));
+            break;
+        case 2:
+            optDefaultFilename->setText(QStringLiteral("DD&MMYY_hhmmss"));
+            break;
+        default:
+            optDefaultFilename->setText(QStringLiteral("&MMDDYY_hhmmss"));
+            break;
+        }
+        MixerListsFilled = false;
+        FormatChanged = false;
+        m_programFormOk = false;
+        m_ctx.ProgramFormFormat.CopyFrom(m_ctx.ProgramFormat);
+        TextCompressionMethod->setText(m_ctx.ProgramFormFormat.TextCompressionMethod);
+        ApplyFrequencyRule();
+        for (QTimeEdit* picker : {dtpkrStartTime, dtpkrEndTime}) {
+            const QTime t = picker->time();
+            picker->setTime(QTime(t.hour(), t.minute(), 0));
+        }
+        CalcTimeDuration();
+    });
+}
+
+void frmProgram::FillProgramForm(const ProgramFormValues& v)
+{
+    TextCompressionMethod->setText(v.FormCompressionMethod);
+    TextProgramDescription->setText(v.FormDescription);
+    CheckEnabled->setChecked(v.FormEnabled);
+    CheckEnabled_Click();
+    dtpkrStartTime->setTime(TimeOf(v.FormStartTime));
+    dtpkrEndTime->setTime(TimeOf(v.FormEndTime));
+    dtpkrOnceDate->setDate(DateOf(v.FormOneTimeDay));
+    // Selecting an option clicks it only when that changes the selection.
+    QRadioButton* option = OptionOneTimeOrDaily[v.FormFrequency == 0 ? 0 : 1];
+    if (!option->isChecked()) {
+        option->setChecked(true);
+        OptionOneTimeOrDaily_Click();
+    }
+    for (int d = 0; d < 7; ++d)
+        CheckDaysOfWeek[d]->setChecked(v.FormDays[d]);
+
+    if (!Text::Trim(v.FormFilenameUser).isEmpty()) {
+        optUserFilename->setChecked(true);
+        txtUserFilename->setText(v.FormFilenameUser);
+        chkPrefix->setChecked(false);
+        chkSuffix->setChecked(false);
+        txtPrefix->clear();
+        txtSuffix->clear();
+    } else {
+        optDefaultFilename->setChecked(true);
+        chkPrefix->setChecked(!Text::Trim(v.FormFilenamePrefix).isEmpty());
+        txtPrefix->setText(v.FormFilenamePrefix);
+        chkSuffix->setChecked(!Text::Trim(v.FormFilenameSuffix).isEmpty());
+        txtSuffix->setText(v.FormFilenameSuffix);
+        txtUserFilename->clear();
+    }
+    DoFilenameEnables();
+
+    const bool prior = !v.FormLaunchAppPrior.isEmpty();
+    chkLaunchPrior->setChecked(prior);
+    txtLaunchPrior->setText(v.FormLaunchAppPrior);
+    txtLaunchPriorDelay->setText(prior ? QString::number(v.FormLaunchAppDelay)
+                                       : QStringLiteral("0"));
+    DoLaunchPriorEnables();
+    chkLaunchAfter->setChecked(!v.FormLaunchAppAfter.isEmpty());
+    txtLaunchAfter->setText(v.FormLaunchAppAfter);
+    chkLaunchAfterOnlyIfOk->setChecked(v.FormLaunchAfterOnlyIfOk);
+    DoLaunchAfterEnables();
+
+    if (v.FormInternetLink.isEmpty()) {
+        chkLaunchLink->setChecked(false);
+        txtLaunchLink->clear();
+        txtLaunchLinkDelay->setText(QStringLiteral("0"));
+        chkHangUp->setChecked(false);
+        txtStreamingPlayerWindowTitle->clear();
+    } else {
+        chkLaunchLink->setChecked(true);
+        txtLaunchLink->setText(v.FormInternetLink);
+        txtLaunchLinkDelay->setText(QString::number(v.FormInternetLinkDelay));
+        chkHangUp->setChecked(v.FormHangupInternetConnection);
+    }
+    if (v.FormStreamingPlayerClose == ProgramEditor::DoNotClose) {
+        optCloseStreamingPlayer[2]->setChecked(true);
+    } else if (v.FormStreamingPlayerClose.isEmpty()) {
+        optCloseStreamingPlayer[0]->setChecked(true);
+    } else {
+        optCloseStreamingPlayer[1]->setChecked(true);
+        txtStreamingPlayerWindowTitle->setText(v.FormStreamingPlayerClose);
+    }
+    DoLaunchLinkEnables();
+
+    // Without a profile to show, the lists are filled when their tab is first chosen.
+    if (!v.FormMixerProfileBefore.isEmpty() || !v.FormMixerProfileAfter.isEmpty()) {
+        FillMixerListBoxes();
+        SelectProfile(lstMixerProfilePrior, v.FormMixerProfileBefore);
+        SelectProfile(lstMixerProfileAfter, v.FormMixerProfileAfter);
+    }
+}
+
+void frmProgram::SelectProfile(QListWidget* list, const QString& name)
+{
+    if (name.isEmpty())
+        return;
+    for (int i = 0; i < list->count(); ++i) {
+        if (list->item(i)->text().compare(name, Qt::CaseInsensitive) == 0) {
+            list->setCurrentRow(i);
+            return;
+        }
+    }
+}
+
+QString frmProgram::ProfileOf(const QListWidget* list)
+{
+    const QListWidgetItem* item = list->currentItem();
+    const QString text = item ? Text::Trim(item->text()) : QString();
+    if (text == ProgramEditor::NoneSelected || text == ProgramEditor::NoneAvailable)
+        return QString();
+    return text;
+}
+
+void frmProgram::CalcTimeDuration()
+{
+    DurationSeconds =
+        ProgramEditor::DurationSeconds(TimeValue(dtpkrStartTime), TimeValue(dtpkrEndTime));
+    DurationHours = qint16(DurationSeconds / 3600);
+    DurationMinutes = qint16(DurationSeconds % 3600 / 60);
+    DurationSecondsPart = qint16(DurationSeconds % 60);
+    LabelDurationData->setText(ProgramEditor::DurationText(DurationSeconds));
+    LabelDiskSpaceData->setText(ProgramEditor::DiskSpaceText(
+        m_ctx.ProgramFormFormat.CalcStorageMbytesSng(DurationSeconds)));
+}
+
+void frmProgram::ApplyFrequencyRule()
+{
+    const bool oneTime = OptionOneTimeOrDaily[0]->isChecked();
+    dtpkrOnceDate->setEnabled(oneTime);
+    for (QCheckBox* day : CheckDaysOfWeek)
+        day->setEnabled(!oneTime);
+}
+
+void frmProgram::OptionOneTimeOrDaily_Click()
+{
+    Trap(m_ctx.log, "OptionOneTimeOrDaily_Click", [&] {
+        ApplyFrequencyRule();
+        DoFilenameEnables();
+    });
+}
+
+void frmProgram::CheckEnabled_Click()
+{
+    Trap(m_ctx.log, "Program Form CheckEnabled_Click", [&] {
+        // A disabled program can only be enabled, saved or left. Re-enabling does not
+        // re-apply the four rules of the dependants; their next click puts them right.
+        const bool on = CheckEnabled->isChecked();
+        for (QWidget* control : std::as_const(m_controls))
+            control->setEnabled(on);
+        if (on)
+            ApplyFrequencyRule();
+        CommandOk->setEnabled(true);
+        CommandCancel->setEnabled(true);
+        CheckEnabled->setEnabled(true);
+    });
+}
+
+void frmProgram::DoFilenameEnables()
+{
+    const bool byDefault = optDefaultFilename->isChecked();
+    chkPrefix->setEnabled(byDefault);
+    chkSuffix->setEnabled(byDefault);
+    txtPrefix->setEnabled(byDefault && chkPrefix->isChecked());
+    txtSuffix->setEnabled(byDefault && chkSuffix->isChecked());
+    txtUserFilename->setEnabled(!byDefault);
+}
+
+void frmProgram::DoLaunchPriorEnables()
+{
+    SetEnabled({txtLaunchPrior, txtLaunchPriorDelay, updnLaunchPriorDelay, lblLaunchPriorDelay},
+               chkLaunchPrior->isChecked());
+}
+
+void frmProgram::DoLaunchAfterEnables()
+{
+    SetEnabled({txtLaunchAfter, chkLaunchAfterOnlyIfOk}, chkLaunchAfter->isChecked());
+}
+
+void frmProgram::DoLaunchLinkEnables()
+{
+    const bool on = chkLaunchLink->isChecked();
+    SetEnabled({txtLaunchLink, btnTestUrl, txtLaunchLinkDelay, updnLaunchLinkDelay,
+                frameCloseStreamingPlayer, chkHangUp, optCloseStreamingPlayer[0],
+                optCloseStreamingPlayer[1], optCloseStreamingPlayer[2], lblLaunchLinkDelay},
+               on);
+    txtStreamingPlayerWindowTitle->setEnabled(on && optCloseStreamingPlayer[1]->isChecked());
+}
+
+void frmProgram::FillMixerListBoxes()
+{
+    lstMixerProfilePrior->clear();
+    lstMixerProfileAfter->clear();
+    const QDir folder(ProgramEditor::MixerFolder(m_ctx));
+    const QStringList files =
+        folder.exists() ? folder.entryList({QStringLiteral("*.mxr")}, QDir::Files, QDir::Name)
+                        : QStringList();
+    for (QListWidget* list : {lstMixerProfilePrior, lstMixerProfileAfter}) {
+        if (files.isEmpty()) {
+            list->addItem(ProgramEditor::NoneAvailable);
+        } else {
+            list->addItem(ProgramEditor::NoneSelected);
+            for (const QString& file : files)
+                list->addItem(QFileInfo(file).completeBaseName());
+        }
+        list->setCurrentRow(0);
+    }
+    MixerListsFilled = true;
+}
+
+void frmProgram::SSTab1_Click(int tab)
+{
+    if (tab == 4 && !MixerListsFilled)
+        FillMixerListBoxes();
+}
+
+void frmProgram::ChangeComprMethodButton_Click()
+{
+    Trap(m_ctx.log, "Program Form ChangeComprMethodButton_Click", [&] {
+        // A later cancelled change loses an earlier accepted one; that is intended.
+        FormatChanged = ChangeFormat(m_ctx, m_ctx.ProgramFormFormat, this);
+        if (FormatChanged) {
+            TextCompressionMethod->setText(m_ctx.ProgramFormFormat.TextCompressionMethod);
+            CalcTimeDuration();
+        }
+    });
+}
+
+void frmProgram::btnTestUrl_Click()
+{
+    if (viewHtmlFile)
+        viewHtmlFile(Text::Trim(txtLaunchLink->text()), this);
+}
+
+void frmProgram::btnInfo_Click()
+{
+    frmLaunchProgramInfo info(this);
+    info.exec();
+}
+
+bool frmProgram::ProgramingConflict(QString& description)
+{
+    ProgramEditor::ConflictQuery query;
+    query.oneTime = OptionOneTimeOrDaily[0]->isChecked();
+    query.oneTimeDay = AutomationDate::FromDate(dtpkrOnceDate->date());
+    query.startTime = TimeValue(dtpkrStartTime);
+    query.endTime = TimeValue(dtpkrEndTime);
+    for (int d = 0; d < 7; ++d)
+        query.days[d] = CheckDaysOfWeek[d]->isChecked();
+    query.editingExisting = EditingExisting;
+    query.editProgramId = EditProgramId;
+    return ProgramEditor::ProgramingConflict(m_ctx, query, description);
+}
+
+bool frmProgram::CommandOkChecks()
+{
+    const auto warn = [this](const QString& title, const QString& text) {
+        m_ctx.messageBox.Show(title, text, MsgIcon::Exclamation, MsgButtons::Ok);
+        return false;
+    };
+    const bool daily = OptionOneTimeOrDaily[1]->isChecked();
+    if (daily && std::none_of(CheckDaysOfWeek.begin(), CheckDaysOfWeek.end(),
+                              [](const QCheckBox* day) { return day->isChecked(); }))
+        return warn(QStringLiteral("No days selected"),
+                    QStringLiteral("At least one day needs to be selected."));
+    if (optUserFilename->isChecked()) {
+        const QString name = txtUserFilename->text();
+        if (InvalidFilenameCharacters(name))
+            return warn(QStringLiteral("Invalid Filename"),
+                        QStringLiteral("The filename cannot contain any of the following "
+                                       "characters:\n") +
+                            kForbiddenList);
+        QString base = Text::Trim(name);
+        const QString upper = base.toUpper();
+        if (upper.endsWith(QStringLiteral(".MP3")) || upper.endsWith(QStringLiteral(".WAV")))
+            base.chop(4);
+        if (Text::Trim(base).isEmpty())
+            return warn(QStringLiteral("Invalid Filename"), QStringLiteral("Invalid Filename"));
+    }
+    if (optDefaultFilename->isChecked()) {
+        if (chkPrefix->isChecked() && InvalidFilenameCharacters(txtPrefix->text()))
+            return warn(QStringLiteral("Invalid Filename Prefix"),
+                        QStringLiteral("The filename prefix cannot contain any of the following "
+                                       "characters:\n") +
+                            kForbiddenList);
+        if (chkSuffix->isChecked() && InvalidFilenameCharacters(txtSuffix->text()))
+            return warn(QStringLiteral("Invalid Filename Suffix"),
+                        QStringLiteral("The filename suffix cannot contain any of the following "
+                                       "characters:\n") +
+                            kForbiddenList);
+    }
+    if (Text::Trim(TextProgramDescription->text()).isEmpty()) {
+        warn(QStringLiteral("Program description required"),
+             QStringLiteral("Please enter a program description."));
+        if (TextProgramDescription->isEnabled())
+            TextProgramDescription->setFocus();
+        return false;
+    }
+    // Edits too: a one-time program whose time has passed can't be saved until moved.
+    if (OptionOneTimeOrDaily[0]->isChecked() &&
+        AutomationDate::FromDate(dtpkrOnceDate->date()) + TimeValue(dtpkrStartTime) < m_ctx.Now())
+        return warn(QStringLiteral("Invalid date and time"),
+                    QStringLiteral("The scheduled date and time must be later than the current "
+                                   "time."));
+    // Only an enabled program is refused for a conflict; a disabled one may be saved in
+    // conflict and enabled later without a test.
+    QString other;
+    if (ProgramingConflict(other) && CheckEnabled->isChecked())
+        return warn(QStringLiteral("Schedule Conflict"),
+                    QStringLiteral("There is a scheduling conflict with another program. Please "
+                                   "modify the recording time or remove/disable the conflicting "
+                                   "program.\n\nConflicting Program Description: ") +
+                        other);
+    if (CheckFor2GbLimit(m_ctx, m_ctx.ProgramFormFormat, DurationSeconds))
+        return false;
+    if (m_ctx.options.ConfirmLongRecordings &&
+        DurationSeconds > qint32(m_ctx.options.LongRecordingHours) * 3600) {
+        const MsgResult answer = m_ctx.messageBox.Show(
+            QStringLiteral("Long Recording Confirmation"),
+            QStringLiteral("A recording longer than ") +
+                QString::number(m_ctx.options.LongRecordingHours) +
+                QStringLiteral(" hours is programmed.  Save this programming? "),
+            MsgIcon::None, MsgButtons::YesNo);
+        if (answer != MsgResult::Yes)
+            return false;
+    }
+    return true;
+}
+
+void frmProgram::CopyFormValues()
+{
+    ProgramFormValues v;
+    v.FormEnabled = CheckEnabled->isChecked();
+    v.FormDescription = TextProgramDescription->text();
+    v.FormCompressionMethod = TextCompressionMethod->text();
+    v.FormStartTime = TimeValue(dtpkrStartTime);
+    v.FormEndTime = TimeValue(dtpkrEndTime);
+    v.FormFrequency = OptionOneTimeOrDaily[0]->isChecked() ? 0 : 1;
+    v.FormOneTimeDay = AutomationDate::FromDate(dtpkrOnceDate->date());
+    for (int d = 0; d < 7; ++d)
+        v.FormDays[d] = CheckDaysOfWeek[d]->isChecked();
+
+    if (optUserFilename->isChecked()) {
+        v.FormFilenameUser = Text::Trim(txtUserFilename->text());
+    } else {
+        if (chkPrefix->isChecked())
+            v.FormFilenamePrefix = txtPrefix->text();
+        if (chkSuffix->isChecked())
+            v.FormFilenameSuffix = txtSuffix->text();
+    }
+    if (chkLaunchPrior->isChecked()) {
+        v.FormLaunchAppPrior = Text::Trim(txtLaunchPrior->text());
+        v.FormLaunchAppDelay = ProgramEditor::DelayFromText(txtLaunchPriorDelay->text());
+    }
+    if (chkLaunchAfter->isChecked()) {
+        v.FormLaunchAppAfter = Text::Trim(txtLaunchAfter->text());
+        v.FormLaunchAfterOnlyIfOk = chkLaunchAfterOnlyIfOk->isChecked();
+    }
+    // Without the link nothing of the player's closing is kept, not even "do not close".
+    if (chkLaunchLink->isChecked()) {
+        v.FormInternetLink = Text::Trim(txtLaunchLink->text());
+        v.FormInternetLinkDelay = ProgramEditor::DelayFromText(txtLaunchLinkDelay->text());
+        v.FormHangupInternetConnection = chkHangUp->isChecked();
+        if (optCloseStreamingPlayer[1]->isChecked())
+            v.FormStreamingPlayerClose = txtStreamingPlayerWindowTitle->text();
+        else if (optCloseStreamingPlayer[2]->isChecked())
+            v.FormStreamingPlayerClose = ProgramEditor::DoNotClose;
+    }
+    v.FormMixerProfileBefore = ProfileOf(lstMixerProfilePrior);
+    v.FormMixerProfileAfter = ProfileOf(lstMixerProfileAfter);
+    m_values = v;
+}
+
+void frmProgram::CommandOk_Click()
+{
+    Trap(m_ctx.log, "Program Form CommandOk_Click", [&] {
+        if (!CommandOkChecks())
+            return;
+        CopyFormValues();
+        if (FormatChanged)
+            m_ctx.ProgramFormat.CopyFrom(m_ctx.ProgramFormFormat);
+        m_programFormOk = true;
+        accept();
+    });
+}
+
+void frmProgram::CommandCancel_Click()
+{
+    reject();
+}

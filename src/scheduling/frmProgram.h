@@ -1,0 +1,144 @@
+#pragma once
+
+#include "scheduling/ProgramEditor.h"
+
+#include <QDialog>
+#include <QList>
+#include <array>
+#include <functional>
+
+class AppContext;
+class QCheckBox;
+class QDateEdit;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QRadioButton;
+class QTabWidget;
+class QTimeEdit;
+
+// The program editor: one program on five tabs. It writes nothing to the database itself;
+// the caller fills it, shows it modally and, when ProgramFormOk() is true afterwards,
+// writes FormValues().
+class frmProgram : public QDialog {
+    Q_OBJECT
+public:
+    frmProgram(AppContext& ctx, QWidget* owner);
+
+    // Set by the caller before the dialog is shown: an edit is never in conflict with the
+    // row it edits.
+    bool EditingExisting = false;
+    qint32 EditProgramId = 0;
+
+    bool FormatChanged = false;
+    qint32 DurationSeconds = 0;
+    qint16 DurationHours = 0;
+    qint16 DurationMinutes = 0;
+    qint16 DurationSecondsPart = 0;
+    bool MixerListsFilled = false;
+
+    // Puts a program's values into the controls, with the rules of the file name, the
+    // launches, the link and the mixer profiles; the enabling rules follow.
+    void FillProgramForm(const ProgramFormValues& values);
+
+    void CalcTimeDuration();
+    bool ProgramingConflict(QString& description);
+    void DoFilenameEnables();
+    void DoLaunchPriorEnables();
+    void DoLaunchAfterEnables();
+    void DoLaunchLinkEnables();
+    void FillMixerListBoxes();
+
+    // True only once OK passed every check; FormValues() then holds what is to be saved.
+    bool ProgramFormOk() const { return m_programFormOk; }
+    const ProgramFormValues& FormValues() const { return m_values; }
+
+    // Opens a web link for btnTestUrl, with this dialog as owner of its messages.
+    std::function<void(const QString& url, QWidget* owner)> viewHtmlFile;
+
+private:
+    void BuildGeneralTab(QWidget* page);
+    void BuildFileTab(QWidget* page);
+    void BuildExternalAppTab(QWidget* page);
+    void BuildInternetTab(QWidget* page);
+    void BuildMixerTab(QWidget* page);
+    template <typename T> T* Named(T* widget, const char* name);
+
+    void Form_Load();
+    void ApplyFrequencyRule();
+    void OptionOneTimeOrDaily_Click();
+    void CheckEnabled_Click();
+    void ChangeComprMethodButton_Click();
+    void SSTab1_Click(int tab);
+    void btnTestUrl_Click();
+    void btnInfo_Click();
+    void CommandOk_Click();
+    bool CommandOkChecks();
+    void CopyFormValues();
+    void CommandCancel_Click();
+    static void SelectProfile(QListWidget* list, const QString& name);
+    static QString ProfileOf(const QListWidget* list);
+
+    AppContext& m_ctx;
+    ProgramFormValues m_values;
+    bool m_programFormOk = false;
+    // Every control that CheckEnabled switches, in the order they were made.
+    QList<QWidget*> m_controls;
+
+    QTabWidget* SSTab1;
+    QWidget* frameGeneral;
+    QWidget* frameFile;
+    QWidget* frameExternalApp;
+    QWidget* frameInternet;
+    QWidget* frameMixer;
+
+    QLineEdit* TextProgramDescription;
+    QCheckBox* CheckEnabled;
+    QGroupBox* frameFrequency;
+    std::array<QRadioButton*, 2> OptionOneTimeOrDaily{};
+    QDateEdit* dtpkrOnceDate;
+    std::array<QCheckBox*, 7> CheckDaysOfWeek{};
+    QTimeEdit* dtpkrStartTime;
+    QTimeEdit* dtpkrEndTime;
+    QLabel* LabelDurationData;
+    QLabel* LabelDiskSpaceData;
+    QLineEdit* TextCompressionMethod;
+    QPushButton* ChangeComprMethodButton;
+
+    QRadioButton* optDefaultFilename;
+    QRadioButton* optUserFilename;
+    QLineEdit* txtUserFilename;
+    QCheckBox* chkPrefix;
+    QLineEdit* txtPrefix;
+    QCheckBox* chkSuffix;
+    QLineEdit* txtSuffix;
+
+    QCheckBox* chkLaunchPrior;
+    QLineEdit* txtLaunchPrior;
+    QLineEdit* txtLaunchPriorDelay;
+    QWidget* updnLaunchPriorDelay;
+    QLabel* lblLaunchPriorDelay;
+    QCheckBox* chkLaunchAfter;
+    QLineEdit* txtLaunchAfter;
+    QCheckBox* chkLaunchAfterOnlyIfOk;
+    QPushButton* btnInfo;
+
+    QCheckBox* chkLaunchLink;
+    QLineEdit* txtLaunchLink;
+    QPushButton* btnTestUrl;
+    QLineEdit* txtLaunchLinkDelay;
+    QWidget* updnLaunchLinkDelay;
+    QLabel* lblLaunchLinkDelay;
+    QGroupBox* frameCloseStreamingPlayer;
+    std::array<QRadioButton*, 3> optCloseStreamingPlayer{};
+    QLineEdit* txtStreamingPlayerWindowTitle;
+    QCheckBox* chkHangUp;
+
+    QListWidget* lstMixerProfilePrior;
+    QListWidget* lstMixerProfileAfter;
+
+    QPushButton* CommandOk;
+    QPushButton* CommandCancel;
+};

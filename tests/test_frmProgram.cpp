@@ -1,0 +1,500 @@
+#include "ModalDialogs.h"
+#include "ProgramListFixture.h"
+#include "Programs.h"
+#include "scheduling/frmEnableDisablePrograms.h"
+#include "scheduling/frmLaunchProgramInfo.h"
+#include "scheduling/frmProgram.h"
+#include "shell/frmMain.h"
+#include "store/GridColumns.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTimeEdit>
+#include <QtTest>
+#include <functional>
+
+namespace {
+
+template <typename T = QWidget> T* Control(QWidget* form, const QString& name)
+{
+    T* control = form->findChild<T*>(name);
+    if (!control)
+        qFatal("no control %s", qPrintable(name));
+    return control;
+}
+
+// Edits as a user makes them, in order: "name=value". Buttons take 1 or 0 and are clicked
+// only when that changes them, so the form's click rules run; time pickers take HH:mm:ss.
+void Apply(QWidget* form, const QStringList& edits)
+{
+    for (const QString& edit : edits) {
+        const int at = edit.indexOf(u'=');
+        const QString name = edit.left(at);
+        const QString value = edit.mid(at + 1);
+        QWidget* control = Control(form, name);
+        if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+            if (button->isChecked() != (value == "1"))
+                button->click();
+        } else if (auto* time = qobject_cast<QTimeEdit*>(control)) {
+            time->setTime(QTime::fromString(value, "HH:mm:ss"));
+        } else if (auto* line = qobject_cast<QLineEdit*>(control)) {
+            line->setText(value);
+        } else {
+            qFatal("can't edit %s", qPrintable(name));
+        }
+    }
+}
+
+// The program commands with the real editor, answered in place: the edits are made and
+// OK is clicked.
+class EditorView : public FakeProgramListView {
+public:
+    explicit EditorView(AppContext& ctx)
+        : m_ctx(ctx)
+    {
+    }
+    bool ShowProgramForm(const ProgramFormValues& initial, bool editingExisting,
+                         qint32 editProgramId, ProgramFormValues& result) override
+    {
+        frmProgram form(m_ctx, nullptr);
+        form.FillProgramForm(initial);
+        form.EditingExisting = editingExisting;
+        form.EditProgramId = editProgramId;
+        Apply(&form, edits);
+        if (inspect)
+            inspect(form);
+        Control<QPushButton>(&form, "CommandOk")->click();
+        if (!form.ProgramFormOk())
+            return false;
+        result = form.FormValues();
+        return true;
+    }
+
+    QStringList edits;
+    std::function<void(frmProgram&)> inspect;
+
+private:
+    AppContext& m_ctx;
+};
+
+struct Fixture : ProgramListFixture<EditorView> {
+    Fixture()
+    {
+        tc.ctx->options.ConfirmLongRecordings = true;
+        tc.ctx->options.LongRecordingHours = 3;
+    }
+    // A new program as the Add command opens it, with a description.
+    std::unique_ptr<frmProgram> NewForm()
+    {
+        tc.ctx->ProgramFormat.CopyFrom(tc.ctx->WfxDefault);
+        auto form = std::make_unique<frmProgram>(*tc.ctx, nullptr);
+        ProgramFormValues v = ProgramEditor::NewProgramValues(tc.ctx->Now());
+        v.FormDescription = "Show";
+        v.FormCompressionMethod = tc.ctx->ProgramFormat.TextCompressionMethod;
+        form->FillProgramForm(v);
+        return form;
+    }
+};
+
+} // namespace
+
+class TestFrmProgram : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theChecksOfOkRunInTheirOrder_data()
+    {
+        QTest::addColumn<QStringList>("edits");
+        QTest::addColumn<bool>("rival");
+        QTest::addColumn<bool>("bigFormat");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("textStart");
+        const QString prefix = "OptionOneTimeOrDaily(1)=1";
+        QTest::newRow("1 no day, before the missing description")
+            << QStringList{prefix, "TextProgramDescription="} << false << false
+            << "No days selected"
+            << "At least one day needs to be selected.";
+        QTest::newRow("2 forbidden character in the user's name, before the description")
+            << QStringList{"optUserFilename=1", "txtUserFilename=a:b", "TextProgramDescription="}
+            << false << false << "Invalid Filename"
+            << "The filename cannot contain any of the following characters:\n\\ / : * ? \" < "
+               "> | ";
+        QTest::newRow("3 nothing but an extension")
+            << QStringList{"optUserFilename=1", "txtUserFilename= .WaV "} << false << false
+            << "Invalid Filename"
+            << "Invalid Filename";
+        QTest::newRow("4 prefix") << QStringList{"chkPrefix=1", "txtPrefix=a*"} << false << false
+                                  << "Invalid Filename Prefix"
+                                  << "The filename prefix cannot contain";
+        QTest::newRow("5 suffix") << QStringList{"chkSuffix=1", "txtSuffix=<x"} << false << false
+                                  << "Invalid Filename Suffix"
+                                  << "The filename suffix cannot contain";
+        QTest::newRow("6 blank description") << QStringList{"TextProgramDescription=   "} << false
+                                             << false << "Program description required"
+                                             << "Please enter a program description.";
+        QTest::newRow("7 in the past, before the conflict")
+            << QStringList{"dtpkrStartTime=11:00:00", "dtpkrEndTime=14:00:00"} << true << false
+            << "Invalid date and time"
+            << "The scheduled date and time must be later than the current time.";
+        QTest::newRow("8 conflict") << QStringList{} << true << false << "Schedule Conflict"
+                                    << "There is a scheduling conflict with another program. "
+                                       "Please modify the recording time or remove/disable the "
+                                       "conflicting program.\n\nConflicting Program "
+                                       "Description: Rival";
+        QTest::newRow("8 a disabled program is saved in conflict")
+            << QStringList{"CheckEnabled=0"} << true << false << ""
+            << "";
+        QTest::newRow("9 size, before the long recording")
+            << QStringList{"dtpkrEndTime=12:30:00"} << false << true << "Recording Size Exceeded"
+            << "The recording exceeds 2 Gigabytes";
+        QTest::newRow("10 long recording, answered no")
+            << QStringList{"dtpkrEndTime=17:00:01"} << false << false
+            << "Long Recording Confirmation"
+            << "A recording longer than 3 hours is programmed.  Save this programming? ";
+        QTest::newRow("exactly the long limit passes")
+            << QStringList{"dtpkrEndTime=16:00:00"} << false << false << ""
+            << "";
+    }
+    void theChecksOfOkRunInTheirOrder()
+    {
+        QFETCH(QStringList, edits);
+        QFETCH(bool, rival);
+        QFETCH(bool, bigFormat);
+        QFETCH(QString, title);
+        QFETCH(QString, textStart);
+        Fixture f;
+        if (rival)
+            f.Add(Programs::OneTime("Rival", Programs::At(2026, 6, 1, "00:00:00"), "13:30:00",
+                                    "14:30:00"));
+        if (bigFormat)
+            f.tc.ctx->WfxDefault.SetToPcm(2, 44100, 16);
+        auto form = f.NewForm();
+        Apply(form.get(), edits);
+        Control<QPushButton>(form.get(), "CommandOk")->click();
+
+        if (title.isEmpty()) {
+            QVERIFY(f.tc.messageBox.asked.isEmpty());
+            QVERIFY(form->ProgramFormOk());
+            return;
+        }
+        QVERIFY(!form->ProgramFormOk());
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        const ScriptedMessageBox::Asked& box = f.tc.messageBox.asked.first();
+        QCOMPARE(box.title, title);
+        QVERIFY2(box.text.startsWith(textStart), qPrintable(box.text));
+        if (title == "Long Recording Confirmation") {
+            QCOMPARE(box.icon, MsgIcon::None);
+            QCOMPARE(box.buttons, MsgButtons::YesNo);
+        } else {
+            QCOMPARE(box.icon, MsgIcon::Exclamation);
+        }
+    }
+
+    void valuesAreStoredByTheirRules_data()
+    {
+        QTest::addColumn<QStringList>("edits");
+        QTest::addColumn<QString>("column");
+        QTest::addColumn<QString>("stored");
+        const QString prior = "chkLaunchPrior=1";
+        QTest::newRow("delay abc")
+            << QStringList{prior, "txtLaunchPriorDelay=abc"} << "LaunchAppDelay"
+            << "0";
+        QTest::newRow("delay 500")
+            << QStringList{prior, "txtLaunchPriorDelay=500"} << "LaunchAppDelay"
+            << "120";
+        QTest::newRow("delay -5") << QStringList{prior, "txtLaunchPriorDelay=-5"}
+                                  << "LaunchAppDelay"
+                                  << "0";
+        QTest::newRow("delay 7.6")
+            << QStringList{prior, "txtLaunchPriorDelay=7.6"} << "LaunchAppDelay"
+            << "8";
+        QTest::newRow("command trimmed")
+            << QStringList{prior, "txtLaunchPrior=  player -x  "} << "LaunchAppPrior"
+            << "player -x";
+        QTest::newRow("link delay 7.6")
+            << QStringList{"chkLaunchLink=1", "txtLaunchLink=http://radio",
+                           "txtLaunchLinkDelay=7.6"}
+            << "InternetLinkDelay"
+            << "8";
+        QTest::newRow("user file name trimmed, extension kept")
+            << QStringList{"optUserFilename=1", "txtUserFilename=  show.wav "} << "FilenameUser"
+            << "show.wav";
+        QTest::newRow("prefix with a forbidden character, box off")
+            << QStringList{"chkPrefix=1", "txtPrefix=a*b", "chkPrefix=0"} << "FilenamePrefix"
+            << "";
+        QTest::newRow("do not close, then the link unchecked")
+            << QStringList{"chkLaunchLink=1", "txtLaunchLink=http://radio",
+                           "optCloseStreamingPlayer(2)=1", "chkLaunchLink=0"}
+            << "StreamingPlayerClose"
+            << "";
+        QTest::newRow("do not close") << QStringList{"chkLaunchLink=1", "txtLaunchLink=http://r",
+                                                     "optCloseStreamingPlayer(2)=1"}
+                                      << "StreamingPlayerClose"
+                                      << "DO_NOT_CLOSE";
+        QTest::newRow("window title as typed")
+            << QStringList{"chkLaunchLink=1", "txtLaunchLink=http://r",
+                           "optCloseStreamingPlayer(1)=1", "txtStreamingPlayerWindowTitle=Radio "}
+            << "StreamingPlayerClose"
+            << "Radio ";
+    }
+    void valuesAreStoredByTheirRules()
+    {
+        QFETCH(QStringList, edits);
+        QFETCH(QString, column);
+        QFETCH(QString, stored);
+        Fixture f;
+        f.view.edits = QStringList{"TextProgramDescription=Show"} + edits;
+        f.commands.AddNewProgram();
+        QVERIFY(f.tc.messageBox.asked.isEmpty());
+        QCOMPARE(f.tc.CountRows("Programs"), 1);
+        QCOMPARE(f.Column(f.view.current, column).toString(), stored);
+    }
+
+    void aCloneIsRefusedUnchangedAnEditNeverConflictsWithItself()
+    {
+        Fixture f;
+        const qint64 id = f.Add(Programs::Weekly("Jazz", "20:00:00", "21:00:00", "0000011"));
+
+        f.view.current = id;
+        f.commands.CopyProgram();
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.tc.messageBox.asked[0].title, QString("Schedule Conflict"));
+        QVERIFY(f.tc.messageBox.asked[0].text.endsWith("Conflicting Program Description: Jazz"));
+        QCOMPARE(f.tc.CountRows("Programs"), 1);
+
+        f.tc.messageBox.asked.clear();
+        f.view.current = id;
+        f.commands.EditProgram();
+        QVERIFY(f.tc.messageBox.asked.isEmpty());
+
+        f.view.current = id;
+        f.view.edits = {"CheckEnabled=0"};
+        f.commands.CopyProgram();
+        QVERIFY(f.tc.messageBox.asked.isEmpty());
+        QCOMPARE(f.tc.CountRows("Programs"), 2);
+        QCOMPARE(f.Column(f.view.current, "DescriptionText").toString(),
+                 QString("Jazz   **DISABLED** "));
+    }
+
+    void anEditShowsTheRowAndStoresItBack()
+    {
+        Fixture f;
+        QVariantHash row = Programs::Weekly("Jazz", "22:00:00", "02:00:00", "0000011");
+        row.insert({{"FilenamePrefix", "pre"},
+                    {"LaunchAppPrior", "player"},
+                    {"LaunchAppDelay", 30},
+                    {"InternetLink", "http://radio"},
+                    {"InternetLinkDelay", 15},
+                    {"HangupInternetConnection", -1},
+                    {"StreamingPlayerClose", "Radio"}});
+        const qint64 id = f.Add(row);
+        f.view.current = id;
+        f.tc.messageBox.answers = {MsgResult::Yes}; // four hours is a long recording
+        f.view.inspect = [](frmProgram& form) {
+            QVERIFY(Control<QRadioButton>(&form, "OptionOneTimeOrDaily(1)")->isChecked());
+            QVERIFY(Control<QCheckBox>(&form, "CheckDaysOfWeek(6)")->isChecked());
+            QVERIFY(!Control<QCheckBox>(&form, "CheckDaysOfWeek(0)")->isChecked());
+            QCOMPARE(form.DurationSeconds, 4 * 3600);
+            QCOMPARE(Control<QLabel>(&form, "LabelDurationData")->text(),
+                     QString("4 hours 0 min 0 sec"));
+            QVERIFY(Control<QCheckBox>(&form, "chkPrefix")->isChecked());
+            QCOMPARE(Control<QLineEdit>(&form, "txtLaunchPriorDelay")->text(), QString("30"));
+            QVERIFY(Control<QRadioButton>(&form, "optCloseStreamingPlayer(1)")->isChecked());
+            QVERIFY(Control<QLineEdit>(&form, "txtStreamingPlayerWindowTitle")->isEnabled());
+            QCOMPARE(Control<QLineEdit>(&form, "TextCompressionMethod")->text(),
+                     QString("PCM 11.025 kHz, 8 Bit, Mono"));
+        };
+        f.commands.EditProgram();
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.Column(id, "FilenamePrefix").toString(), QString("pre"));
+        QCOMPARE(f.Column(id, "LaunchAppDelay").toInt(), 30);
+        QCOMPARE(f.Column(id, "InternetLinkDelay").toInt(), 15);
+        QCOMPARE(f.Column(id, "StreamingPlayerClose").toString(), QString("Radio"));
+        QVERIFY(Field::ToBool(f.Column(id, "HangupInternetConnection")));
+        QCOMPARE(f.Column(id, "FrequencyText").toString(), QString("Fri,Sat"));
+    }
+
+    void aDeletedMixerProfileIsClearedOnSave()
+    {
+        Fixture f;
+        const QString folder = ProgramEditor::MixerFolder(*f.tc.ctx);
+        QVERIFY(QDir().mkpath(folder));
+        QFile file(folder + "/Evening.mxr");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("profile");
+        file.close();
+        QVariantHash row = Programs::Weekly("Jazz", "20:00:00", "21:00:00", "0000011");
+        row.insert({{"MixerProfileBefore", "gone"}, {"MixerProfileAfter", "Evening"}});
+        const qint64 id = f.Add(row);
+        f.view.current = id;
+        f.view.inspect = [](frmProgram& form) {
+            QVERIFY(form.MixerListsFilled);
+            QCOMPARE(Control<QListWidget>(&form, "lstMixerProfilePrior")->currentItem()->text(),
+                     QString("(none selected)"));
+            QCOMPARE(Control<QListWidget>(&form, "lstMixerProfileAfter")->currentItem()->text(),
+                     QString("Evening"));
+        };
+        f.commands.EditProgram();
+        QCOMPARE(f.Column(id, "MixerProfileBefore").toString(), QString());
+        QCOMPARE(f.Column(id, "MixerProfileAfter").toString(), QString("Evening"));
+    }
+
+    void equalTimesLastNothingAndCanBeSaved()
+    {
+        Fixture f;
+        auto form = f.NewForm();
+        Apply(form.get(), {"dtpkrStartTime=13:00:00", "dtpkrEndTime=13:00:00"});
+        QCOMPARE(form->DurationSeconds, 0);
+        QCOMPARE(Control<QLabel>(form.get(), "LabelDurationData")->text(),
+                 QString("0 hours 0 min 0 sec"));
+        QCOMPARE(Control<QLabel>(form.get(), "LabelDiskSpaceData")->text(), QString("0.0 Kbytes"));
+        Control<QPushButton>(form.get(), "CommandOk")->click();
+        QVERIFY(form->ProgramFormOk());
+    }
+
+    void anUncheckedEnabledBoxLeavesOnlyItselfOkAndCancel()
+    {
+        Fixture f;
+        auto form = f.NewForm();
+        Apply(form.get(), {"CheckEnabled=0"});
+        for (const char* name :
+             {"TextProgramDescription", "dtpkrOnceDate", "chkPrefix", "chkLaunchPrior",
+              "chkLaunchLink", "lstMixerProfilePrior", "ChangeComprMethodButton"})
+            QVERIFY2(!Control(form.get(), name)->isEnabled(), name);
+        for (const char* name : {"CheckEnabled", "CommandOk", "CommandCancel"})
+            QVERIFY2(Control(form.get(), name)->isEnabled(), name);
+        // Back on, the date rule is applied again but the dependants' rules are not.
+        Apply(form.get(), {"CheckEnabled=1"});
+        QVERIFY(Control(form.get(), "dtpkrOnceDate")->isEnabled());
+        QVERIFY(!Control(form.get(), "CheckDaysOfWeek(1)")->isEnabled());
+        QVERIFY(Control(form.get(), "txtLaunchPrior")->isEnabled());
+        Apply(form.get(), {"chkLaunchPrior=1", "chkLaunchPrior=0"});
+        QVERIFY(!Control(form.get(), "txtLaunchPrior")->isEnabled());
+    }
+
+    void theLinkControlsFollowTheirBoxAndTheTitleItsOption()
+    {
+        Fixture f;
+        auto form = f.NewForm();
+        QVERIFY(!Control(form.get(), "btnTestUrl")->isEnabled());
+        Apply(form.get(), {"chkLaunchLink=1"});
+        QVERIFY(Control(form.get(), "btnTestUrl")->isEnabled());
+        QVERIFY(Control(form.get(), "frameCloseStreamingPlayer")->isEnabled());
+        QVERIFY(!Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
+        Apply(form.get(), {"optCloseStreamingPlayer(1)=1"});
+        QVERIFY(Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
+        Apply(form.get(), {"optCloseStreamingPlayer(2)=1"});
+        QVERIFY(!Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
+
+        QString opened;
+        form->viewHtmlFile = [&opened](const QString& url, QWidget*) {
+            opened = url;
+        };
+        Apply(form.get(), {"txtLaunchLink=  http://radio.example/live  "});
+        Control<QPushButton>(form.get(), "btnTestUrl")->click();
+        QCOMPARE(opened, QString("http://radio.example/live"));
+    }
+
+    void theEnableDisableDialogAnswers_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("choice");
+        QTest::newRow("enable") << "btnEnable" << 0;
+        QTest::newRow("disable") << "btnDisable" << 1;
+        QTest::newRow("cancel") << "btnCancel" << 2;
+    }
+    void theEnableDisableDialogAnswers()
+    {
+        QFETCH(QString, button);
+        QFETCH(int, choice);
+        WhenModalOpens([button](QDialog* dialog) {
+            QCOMPARE(dialog->windowTitle(), QString("Enable/Disable Programs"));
+            Control<QPushButton>(dialog, button)->click();
+        });
+        QCOMPARE(frmEnableDisablePrograms::Ask(nullptr), choice);
+    }
+
+    void theMainWindowAddsThroughTheEditorAndSortsTheSearch()
+    {
+        Fixture f;
+        const QString recordings = f.tc.Root() + "/recordings";
+        QDir().mkpath(recordings);
+        f.tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", recordings);
+        frmMain main(*f.tc.ctx, false);
+        main.FirstActivate();
+        f.tc.ctx->options.ConfirmLongRecordings = false;
+
+        WhenModalOpens([](QDialog* dialog) {
+            QCOMPARE(dialog->objectName(), QString("frmProgram"));
+            Apply(dialog,
+                  {"TextProgramDescription=Beta", "OptionOneTimeOrDaily(1)=1",
+                   "CheckDaysOfWeek(1)=1", "dtpkrStartTime=20:00:00", "dtpkrEndTime=21:00:00"});
+            Control<QPushButton>(dialog, "CommandOk")->click();
+        });
+        main.ui.Action("ToolbarPrograms.Add")->trigger();
+        QTableView* grid = main.ui.DBGridPrograms;
+        QCOMPARE(grid->model()->rowCount(), 1);
+        QVERIFY(main.ui.Action("mnuEdit")->isEnabled());
+        QCOMPARE(f.tc.ctx->scheduler.next.NextProgramDescription, QString("Beta"));
+
+        // A second program with the same start: the sort decides which one the search takes.
+        f.Add(Programs::Weekly("Alpha", "20:00:00", "21:00:00", "0100000"));
+        emit grid->horizontalHeader()->sectionClicked(0);
+        QVERIFY(f.tc.ctx->database.DataPrograms.RecordSource().endsWith(" ASC"));
+        f.tc.ctx->scheduler.ScheduleNextRecording();
+        QCOMPARE(f.tc.ctx->scheduler.next.NextProgramDescription, QString("Alpha"));
+        emit grid->horizontalHeader()->sectionClicked(0);
+        QVERIFY(f.tc.ctx->database.DataPrograms.RecordSource().endsWith(" DESC"));
+        f.tc.ctx->scheduler.ScheduleNextRecording();
+        QCOMPARE(f.tc.ctx->scheduler.next.NextProgramDescription, QString("Beta"));
+
+        // A double click on a row opens that row.
+        QString opened;
+        WhenModalOpens([&opened](QDialog* dialog) {
+            opened = Control<QLineEdit>(dialog, "TextProgramDescription")->text();
+            dialog->reject();
+        });
+        grid->setCurrentIndex(grid->model()->index(1, 0)); // the press of the double click
+        emit grid->doubleClicked(grid->model()->index(1, 0));
+        QCOMPARE(opened, grid->model()->index(1, 0).data().toString());
+    }
+
+    // Pictures of the forms for a reviewer, when a folder is given.
+    void grabTheFormsAsPictures()
+    {
+        const QString folder = qEnvironmentVariable("NIGHTREEL_PNG_DIR");
+        if (folder.isEmpty())
+            QSKIP("set NIGHTREEL_PNG_DIR to write the pictures");
+        QDir().mkpath(folder);
+        Fixture f;
+        auto form = f.NewForm();
+        Apply(form.get(), {"chkLaunchLink=1", "optCloseStreamingPlayer(1)=1"});
+        form->resize(form->sizeHint().expandedTo(QSize(560, 380)));
+        auto* tabs = Control<QTabWidget>(form.get(), "SSTab1");
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            QVERIFY(form->grab().save(folder + "/frmProgram-" + QString::number(tab) + ".png"));
+        }
+        frmEnableDisablePrograms dialog(nullptr);
+        dialog.adjustSize();
+        QVERIFY(dialog.grab().save(folder + "/frmEnableDisablePrograms.png"));
+        frmLaunchProgramInfo info(nullptr);
+        info.adjustSize();
+        QVERIFY(info.grab().save(folder + "/frmLaunchProgramInfo.png"));
+    }
+};
+
+QTEST_MAIN(TestFrmProgram)
+#include "test_frmProgram.moc"

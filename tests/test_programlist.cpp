@@ -1,0 +1,342 @@
+#include "ProgramListFixture.h"
+#include "Programs.h"
+#include "scheduling/ProgramEditor.h"
+
+#include <QtTest>
+
+namespace {
+
+using ListFixture = ProgramListFixture<>;
+
+QVariantHash Disabled(QVariantHash row)
+{
+    row["Enabled"] = 0;
+    row["DescriptionText"] =
+        ProgramEditor::DescriptionText(row.value("Description").toString(), false);
+    return row;
+}
+
+} // namespace
+
+class TestProgramList : public QObject {
+    Q_OBJECT
+
+private slots:
+    void removeCountsTheRowUnderTheCursorWithTheSelection_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("rowsLeft");
+        QTest::addColumn<int>("selectedLeft");
+        QTest::newRow("yes: three selected and the cursor's row go")
+            << int(MsgResult::Yes) << 2 << 0;
+        // No leaves the selection as it stands, grown by the cursor's row.
+        QTest::newRow("no: nothing goes") << int(MsgResult::No) << 6 << 4;
+    }
+    void removeCountsTheRowUnderTheCursorWithTheSelection()
+    {
+        QFETCH(int, answer);
+        QFETCH(int, rowsLeft);
+        QFETCH(int, selectedLeft);
+        ListFixture f;
+        QList<qint64> ids;
+        for (int i = 0; i < 6; ++i)
+            ids << f.Add(
+                Programs::Weekly("P" + QString::number(i), "10:00:00", "11:00:00", "0100000"));
+        f.view.selected = {ids[0], ids[2], ids[4]};
+        f.view.current = ids[5];
+        f.tc.messageBox.answers = {MsgResult(answer)};
+
+        f.commands.RemovePrograms();
+
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.tc.messageBox.asked[0].title, QString("Remove Programs"));
+        QCOMPARE(f.tc.messageBox.asked[0].text,
+                 QString("Are you sure you want to remove the selected programs."));
+        QCOMPARE(f.tc.messageBox.asked[0].buttons, MsgButtons::YesNo);
+        QCOMPARE(f.tc.CountRows("Programs"), rowsLeft);
+        QVERIFY(f.Column(ids[1], "ID").isValid());
+        QVERIFY(f.Column(ids[3], "ID").isValid());
+        QCOMPARE(f.view.selected.size(), selectedLeft);
+    }
+
+    void removingTheLastRowLeavesNothingScheduled()
+    {
+        ListFixture f;
+        const qint64 only = f.Add(Programs::Weekly("Only", "10:00:00", "11:00:00", "1111111"));
+        f.tc.ctx->scheduler.ScheduleNextRecording();
+        QVERIFY(f.tc.ctx->scheduler.next.NextProgramFound);
+        f.view.current = only;
+        f.tc.messageBox.answers = {MsgResult::Yes};
+
+        f.commands.RemovePrograms();
+
+        QCOMPARE(f.tc.CountRows("Programs"), 0);
+        QVERIFY(!f.tc.ctx->scheduler.next.NextProgramFound);
+        QVERIFY(f.view.buttonUpdates > 0);
+    }
+
+    void toggleAsksForOneRowAndUsesTheDialogForSeveral_data()
+    {
+        QTest::addColumn<bool>("secondSelected");
+        QTest::addColumn<bool>("cursorOnSecond");
+        QTest::addColumn<int>("choice");
+        QTest::addColumn<bool>("dialogShown");
+        QTest::addColumn<bool>("firstEnabledAfter");
+        QTest::addColumn<bool>("secondEnabledAfter");
+        // The first row is enabled, the second disabled; the first is always selected.
+        QTest::newRow("two selected, disable") << true << false << 1 << true << false << false;
+        QTest::newRow("two selected, enable") << true << false << 0 << true << true << true;
+        QTest::newRow("two selected, cancel") << true << false << 2 << true << true << false;
+        QTest::newRow("one selected, cursor on another")
+            << false << true << 1 << true << false << false;
+    }
+    void toggleAsksForOneRowAndUsesTheDialogForSeveral()
+    {
+        QFETCH(bool, secondSelected);
+        QFETCH(bool, cursorOnSecond);
+        QFETCH(int, choice);
+        QFETCH(bool, dialogShown);
+        QFETCH(bool, firstEnabledAfter);
+        QFETCH(bool, secondEnabledAfter);
+        ListFixture f;
+        const QString longName = "An evening concert from the hall downtown";
+        const qint64 first = f.Add(Programs::Weekly(longName, "10:00:00", "11:00:00", "0100000"));
+        const qint64 second =
+            f.Add(Disabled(Programs::Weekly("Night talk", "22:00:00", "23:00:00", "0010000")));
+        f.view.selected = {first};
+        if (secondSelected)
+            f.view.selected << second;
+        if (cursorOnSecond)
+            f.view.current = second;
+        f.view.enableDisableChoice = choice;
+
+        f.commands.ToggleProgramEnables();
+
+        QCOMPARE(f.view.enableDisableShown == 1, dialogShown);
+        QVERIFY(f.tc.messageBox.asked.isEmpty());
+        QCOMPARE(Field::ToBool(f.Column(first, "Enabled")), firstEnabledAfter);
+        QCOMPARE(Field::ToBool(f.Column(second, "Enabled")), secondEnabledAfter);
+        QCOMPARE(f.Column(first, "DescriptionText").toString(),
+                 ProgramEditor::DescriptionText(longName, firstEnabledAfter));
+        if (choice == 1)
+            QCOMPARE(f.Column(second, "DescriptionText").toString(),
+                     QString("Night talk   **DISABLED** "));
+    }
+
+    void toggleOfTheRowUnderTheCursorAsksYesOrNo_data()
+    {
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("question");
+        QTest::addColumn<bool>("enabledAfter");
+        QTest::newRow("disable, no")
+            << true << int(MsgResult::No)
+            << "Are you sure you want to disable the selected program?" << true;
+        QTest::newRow("enable, yes")
+            << false << int(MsgResult::Yes)
+            << "Are you sure you want to enable the selected program?" << true;
+    }
+    void toggleOfTheRowUnderTheCursorAsksYesOrNo()
+    {
+        QFETCH(bool, enabled);
+        QFETCH(int, answer);
+        QFETCH(QString, question);
+        QFETCH(bool, enabledAfter);
+        ListFixture f;
+        QVariantHash row = Programs::Weekly("Morning news", "07:00:00", "07:30:00", "0111110");
+        const qint64 id = f.Add(enabled ? row : Disabled(row));
+        f.view.current = id;
+        f.tc.messageBox.answers = {MsgResult(answer)};
+
+        f.commands.ToggleProgramEnables();
+
+        QCOMPARE(f.view.enableDisableShown, 0);
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.tc.messageBox.asked[0].text, question);
+        QCOMPARE(Field::ToBool(f.Column(id, "Enabled")), enabledAfter);
+        QCOMPARE(f.view.current, id);
+    }
+
+    void editAndCloneFindTheirRow()
+    {
+        ListFixture f;
+        f.commands.EditProgram(); // empty list: nothing at all
+        QCOMPARE(f.view.formsShown, 0);
+
+        f.Add(Programs::Weekly("A", "10:00:00", "11:00:00", "0100000"));
+        const qint64 b = f.Add(Programs::Weekly("B", "12:00:00", "13:00:00", "0100000"));
+        f.view.selected = {b}; // no current row: the first selected counts
+        f.commands.EditProgram();
+        QCOMPARE(f.view.formsShown, 1);
+        QCOMPARE(f.view.shownWith.FormDescription, QString("B"));
+        QVERIFY(f.view.shownEditing);
+        QCOMPARE(f.view.shownId, qint32(b));
+
+        f.commands.CopyProgram();
+        QVERIFY(!f.view.shownEditing);
+        QCOMPARE(f.view.shownWith.FormDescription, QString("B"));
+    }
+
+    void cancellingCloneClearsTheSelectionButCancellingAddDoesNot()
+    {
+        ListFixture f;
+        const qint64 a = f.Add(Programs::Weekly("A", "10:00:00", "11:00:00", "0100000"));
+        f.view.selected = {a};
+        f.commands.AddNewProgram();
+        QCOMPARE(f.view.selected, QList<qint64>{a});
+        f.commands.CopyProgram();
+        QVERIFY(f.view.selected.isEmpty());
+        QCOMPARE(f.tc.CountRows("Programs"), 1);
+        QCOMPARE(f.view.buttonUpdates, 2);
+    }
+
+    void aNewProgramStartsAtTheNextWholeHourAndIsScheduledWhenSaved()
+    {
+        ListFixture f;
+        f.tc.clock.Set(QDateTime(QDate(2026, 6, 1), QTime(23, 20, 15)));
+        f.view.answerForm = [](ProgramFormValues& v) {
+            v.FormDescription = "Late show";
+        };
+
+        f.commands.AddNewProgram();
+
+        const ProgramFormValues& shown = f.view.shownWith;
+        QCOMPARE(AutomationDate::ToDateTime(shown.FormStartTime).time(), QTime(0, 0));
+        QCOMPARE(AutomationDate::ToDateTime(shown.FormEndTime).time(), QTime(1, 0));
+        QCOMPARE(AutomationDate::ToDateTime(shown.FormOneTimeDay).date(), QDate(2026, 6, 2));
+        QVERIFY(shown.FormEnabled);
+        QCOMPARE(shown.FormFrequency, qint16(0));
+        QCOMPARE(shown.FormCompressionMethod, f.tc.ctx->WfxDefault.TextCompressionMethod);
+
+        QCOMPARE(f.tc.CountRows("Programs"), 1);
+        const NextProgram& next = f.tc.ctx->scheduler.next;
+        QVERIFY(next.NextProgramFound);
+        QCOMPARE(next.NextProgramDescription, QString("Late show"));
+        QCOMPARE(next.NextProgramStart, Programs::At(2026, 6, 2, "00:00:00"));
+        QCOMPARE(f.view.current, qint64(next.NextProgramId));
+    }
+
+    void savingWritesTheDerivedColumns_data()
+    {
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<QString>("days");
+        QTest::addColumn<QString>("descriptionText");
+        QTest::addColumn<QString>("frequencyText");
+        const QString name = "123456789012345678901234567890";
+        QTest::newRow("enabled weekdays") << true << "0111110" << name << "Mon-Fri";
+        QTest::newRow("no day") << true << "0000000" << name << " ";
+        QTest::newRow("disabled weekend") << false << "1000001"
+                                          << "1234567890123456789012345   **DISABLED** "
+                                          << "Sun,Sat";
+    }
+    void savingWritesTheDerivedColumns()
+    {
+        QFETCH(bool, enabled);
+        QFETCH(QString, days);
+        QFETCH(QString, descriptionText);
+        QFETCH(QString, frequencyText);
+        ListFixture f;
+        QVariantHash row =
+            Programs::Weekly("123456789012345678901234567890", "10:00:00", "11:00:00", days);
+        row["RecordingCancelled"] = -1;
+        const qint64 id = f.Add(row);
+        f.view.current = id;
+        f.view.answerForm = [enabled](ProgramFormValues& v) {
+            v.FormEnabled = enabled;
+        };
+
+        f.commands.EditProgram();
+
+        QCOMPARE(f.tc.CountRows("Programs"), 1);
+        QCOMPARE(f.Column(id, "DescriptionText").toString(), descriptionText);
+        QCOMPARE(f.Column(id, "FrequencyText").toString(), frequencyText);
+        QVERIFY(!Field::ToBool(f.Column(id, "RecordingCancelled")));
+    }
+
+    void oldRowsReadWithTheirNullRules()
+    {
+        ListFixture f;
+        QVariantHash row = Programs::Weekly("Old", "10:00:00", "11:00:00", "0100000");
+        row.remove("StreamingPlayerClose");
+        row.remove("LaunchAppDelay");
+        row.remove("InternetLinkDelay");
+        row["LaunchAppPrior"] = "  player --start  ";
+        const qint64 id = f.Add(row);
+        Recordset& rs = f.tc.ctx->database.DataPrograms.recordset();
+        rs.SetBookmark(id);
+        const ProgramFormValues v = ProgramEditor::ReadProgramRow(*f.tc.ctx, rs);
+        QCOMPARE(v.FormStreamingPlayerClose, ProgramEditor::DoNotClose);
+        QCOMPARE(v.FormLaunchAppPrior, QString("player --start"));
+        QCOMPARE(v.FormLaunchAppDelay, qint16(0));
+    }
+
+    void conflictsAreFoundAsTheEditorSeesThem_data()
+    {
+        QTest::addColumn<QVariantHash>("other");
+        QTest::addColumn<bool>("oneTime");
+        QTest::addColumn<QDate>("day");
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("end");
+        QTest::addColumn<QString>("days");
+        QTest::addColumn<bool>("conflict");
+        const double monday = Programs::At(2026, 6, 1, "00:00:00");
+        const double nextMonday = Programs::At(2026, 6, 8, "00:00:00");
+        QTest::newRow("one time, same date, overlapping")
+            << Programs::OneTime("Other", monday, "10:00:00", "11:00:00") << true
+            << QDate(2026, 6, 1) << "10:30:00"
+            << "11:30:00"
+            << "" << true;
+        QTest::newRow("one time, a week apart")
+            << Programs::OneTime("Other", nextMonday, "10:00:00", "11:00:00") << true
+            << QDate(2026, 6, 1) << "10:30:00"
+            << "11:30:00"
+            << "" << false;
+        QTest::newRow("one time across midnight into the other's morning")
+            << Programs::OneTime("Other", Programs::At(2026, 6, 2, "00:00:00"), "01:00:00",
+                                 "03:00:00")
+            << true << QDate(2026, 6, 1) << "22:00:00"
+            << "02:00:00"
+            << "" << true;
+        QTest::newRow("one time against weekly of its weekday")
+            << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << true
+            << QDate(2030, 1, 7) << "10:30:00"
+            << "11:30:00"
+            << "" << true;
+        QTest::newRow("touching ranges")
+            << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << false << QDate()
+            << "11:00:00"
+            << "12:00:00"
+            << "0100000" << false;
+        QTest::newRow("disabled other")
+            << Disabled(Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000")) << false
+            << QDate() << "10:00:00"
+            << "11:00:00"
+            << "0100000" << false;
+    }
+    void conflictsAreFoundAsTheEditorSeesThem()
+    {
+        QFETCH(QVariantHash, other);
+        QFETCH(bool, oneTime);
+        QFETCH(QDate, day);
+        QFETCH(QString, start);
+        QFETCH(QString, end);
+        QFETCH(QString, days);
+        QFETCH(bool, conflict);
+        ListFixture f;
+        f.Add(other);
+        ProgramEditor::ConflictQuery q;
+        q.oneTime = oneTime;
+        if (day.isValid())
+            q.oneTimeDay = AutomationDate::FromDate(day);
+        q.startTime = Programs::TimeOfDay(start);
+        q.endTime = Programs::TimeOfDay(end);
+        for (int d = 0; d < 7 && !days.isEmpty(); ++d)
+            q.days[d] = days.at(d) == u'1';
+        QString description;
+        QCOMPARE(ProgramEditor::ProgramingConflict(*f.tc.ctx, q, description), conflict);
+        QCOMPARE(description, conflict ? QString("Other") : QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProgramList)
+#include "test_programlist.moc"
