@@ -24,17 +24,6 @@ QString TrimmedText(const Recordset& rs, const char* column, const QString& ifNu
     return value.isNull() ? ifNull : Text::Trim(value.toString());
 }
 
-qint16 DelayColumn(const Recordset& rs, const char* column)
-{
-    const QVariant value = rs.Value(QString::fromLatin1(column));
-    if (value.isNull())
-        return 0;
-    const qint64 number = Text::RoundHalfEven(Text::Val(Text::Trim(value.toString())));
-    if (number < -32768 || number > 32767)
-        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));
-    return qint16(number);
-}
-
 // A profile counts only while its file is there with content.
 QString ExistingProfile(const AppContext& ctx, const QString& name)
 {
@@ -130,12 +119,14 @@ ProgramFormValues ReadProgramRow(AppContext& ctx, Recordset& rs)
         v.FormFilenameSuffix = rs.Value(QStringLiteral("FilenameSuffix")).toString();
     }
     v.FormLaunchAppPrior = TrimmedText(rs, "LaunchAppPrior");
-    v.FormLaunchAppDelay = v.FormLaunchAppPrior.isEmpty() ? 0 : DelayColumn(rs, "LaunchAppDelay");
+    v.FormLaunchAppDelay = v.FormLaunchAppPrior.isEmpty()
+                               ? 0
+                               : DelayColumnValue(rs.Value(QStringLiteral("LaunchAppDelay")));
     v.FormLaunchAppAfter = TrimmedText(rs, "LaunchAppAfter");
     v.FormLaunchAfterOnlyIfOk = Field::ToBool(rs.Value(QStringLiteral("LaunchAfterOnlyIfOk")));
     v.FormInternetLink = TrimmedText(rs, "InternetLink");
     if (!v.FormInternetLink.isEmpty()) {
-        v.FormInternetLinkDelay = DelayColumn(rs, "InternetLinkDelay");
+        v.FormInternetLinkDelay = DelayColumnValue(rs.Value(QStringLiteral("InternetLinkDelay")));
         v.FormHangupInternetConnection =
             Field::ToBool(rs.Value(QStringLiteral("HangupInternetConnection")));
     }

@@ -36,17 +36,6 @@ QString TrimmedOr(const QVariant& value, const QString& ifNull)
     return value.isNull() ? ifNull : Text::Trim(value.toString());
 }
 
-// Delays are read through their text form and held in 16 bits.
-qint16 Delay(const QVariant& value)
-{
-    if (value.isNull())
-        return 0;
-    const qint64 number = Text::RoundHalfEven(Text::Val(Text::Trim(value.toString())));
-    if (number < -32768 || number > 32767)
-        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));
-    return qint16(number);
-}
-
 // The column positions of Programs, looked up once per scan.
 struct ProgramColumns {
     explicit ProgramColumns(const Recordset& rs)
@@ -195,9 +184,9 @@ bool Scheduler::DetermineNextProgramToSchedule(
                 description = rs.Value(c.description).toString();
                 avgBytesPerSec = rs.Value(c.avgBytesPerSec).toInt();
                 internetLink = rs.Value(c.internetLink).toString();
-                internetLinkDelay = Delay(rs.Value(c.internetLinkDelay));
+                internetLinkDelay = DelayColumnValue(rs.Value(c.internetLinkDelay));
                 launchAppPrior = TrimmedOr(rs.Value(c.launchAppPrior), QString());
-                launchAppDelay = Delay(rs.Value(c.launchAppDelay));
+                launchAppDelay = DelayColumnValue(rs.Value(c.launchAppDelay));
                 mixerProfileBefore = TrimmedOr(rs.Value(c.mixerProfileBefore), QString());
                 mixerProfileAfter = TrimmedOr(rs.Value(c.mixerProfileAfter), QString());
                 streamingPlayerClose = TrimmedOr(rs.Value(c.streamingPlayerClose), kDoNotClose);
