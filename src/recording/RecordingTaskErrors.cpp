@@ -1,0 +1,252 @@
+#include "recording/RecordingTaskErrors.h"
+
+#include "diagnostics/EventLog.h"
+
+RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
+{
+    switch (code) {
+    case 1000:
+        return {
+            QStringLiteral("Error communicating with recording task"),
+            QStringLiteral(
+                "The scheduler communicates with the recording task via a disk file which may be "
+                "locked.  Try restarting the software or rebooting system to unlock the file.  If "
+                "this error re-occurs, the disk containing the TEMP folder may be full or "
+                "read-only. It is also possible that the TEMP folder setting may be corrupt.")};
+    case 1001:
+        return {
+            QStringLiteral("Error communicating with recording task"),
+            QStringLiteral("The scheduler communicates with the recording task via a disk file.  "
+                           "There may have occurred an error during writing or reading the file.  "
+                           "If problem continues, try restarting the software or rebooting system. "
+                           " If this does not work, try selecting a different recording format.")};
+    case 1002:
+        return {
+            QStringLiteral("Error writing recording file."),
+            QStringLiteral("The recording task was unable to advance the I/O buffer while writing "
+                           "recording.  Possible causes may include insufficient system disk space "
+                           "or memory or there may be a problem with the recording format. Try "
+                           "closing unused programs, checking disk space, and restarting the "
+                           "software.  If this does not work try a different recording format.")};
+    case 1003:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to obtain audio metrics from the "
+                               "operating system.  If this problem occurs again, try restarting "
+                               "the software or rebooting system.")};
+    case 1004:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to allocate memory to store wave "
+                               "format information. If this problem occurs again, try restarting "
+                               "the software or rebooting system.")};
+    case 1005:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to lock memory that stores wave "
+                               "format information. If this problem occurs again, try restarting "
+                               "the software or rebooting system.")};
+    case 1006:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to allocate memory to store wave "
+                               "header information. If this problem occurs again, try restarting "
+                               "the software or rebooting system.")};
+    case 1007:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to lock memory that stores wave "
+                               "header information. If this problem occurs again, try restarting "
+                               "the software or rebooting system.")};
+    case 1008:
+        return {
+            QStringLiteral("Error occurred during recording process."),
+            QStringLiteral(
+                "The recording task was not able to allocate memory to store the wave buffer. If "
+                "this problem occurs again, try restarting the software or rebooting system.")};
+    case 1009:
+        return {
+            QStringLiteral("Error occurred during recording process."),
+            QStringLiteral(
+                "The recording task was not able to lock memory that stores the wave buffer. If "
+                "this problem occurs again, try restarting the software or rebooting system.")};
+    case 1010:
+        return {QStringLiteral("Error Opening Wave Input File."),
+                QStringLiteral(
+                    "The recording task was not able to open the wave input file.  This error can "
+                    "occur if the recording format is not fully supported, the recording device in "
+                    "use by another program, or if recording device is locked. Stop or close any "
+                    "program that may be sharing the sound card.  If the problem reoccurs or no "
+                    "other program is using the sound card, try a different recording format. If "
+                    "the problem persists, try restarting the software or rebooting the system.")};
+    case 1011:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("Error preparing header for recording")};
+    case 1013:
+        return {
+            QStringLiteral("Error Creating Wave File."),
+            QStringLiteral("The recording task was not able to create the Wave file.  Check if the "
+                           "recording media is writable and has enough disk space. If this problem "
+                           "occurs again, try a different recording format, recording folder, or "
+                           "disk drive.  If the problem persists, try restarting system.")};
+    case 1014:
+        return {
+            QStringLiteral("Error occurred during recording process."),
+            QStringLiteral(
+                "The recording task was not able to create the wave chunk portion of the recording "
+                "file. Check the recording drive disk space, or try selecting a different "
+                "recording format.  If this problem occurs again, try restarting system.")};
+    case 1015:
+        return {
+            QStringLiteral("Error occurred during recording process."),
+            QStringLiteral(
+                "The recording task was not able to create the wave format chunk portion of the "
+                "recording file. Check the recording drive disk space or try selecting a different "
+                "recording format.  If this problem occurs again, try restarting system.")};
+    case 1016:
+        return {
+            QStringLiteral("Error occurred during recording process."),
+            QStringLiteral(
+                "The recording task was not able to create the wave format data portion of the "
+                "recording file. Check the recording drive disk space or try selecting a different "
+                "recording format.  If this problem occurs again, try restarting system.")};
+    case 1017:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to create the wave fact chunk "
+                               "portion of the recording file. Check the recording drive disk "
+                               "space, or try selecting a different recording format.  If this "
+                               "problem occurs again, try restarting system.")};
+    case 1018:
+        return {
+            QStringLiteral("Error occurred during recording process."),
+            QStringLiteral(
+                "The recording task was not able to write the wave fact portion of the recording "
+                "file. Check the recording drive disk space, or try selecting a different "
+                "recording format. If this problem occurs again, try restarting system.")};
+    case 1019:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to create the wave data chunk "
+                               "portion of the recording file. Check the recording drive disk "
+                               "space, or try selecting a different recording format.  If this "
+                               "problem occurs again, try restarting system.")};
+    case 1020:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to obtain the wave information "
+                               "from the system.  Try selecting a different recording format. If "
+                               "this problem occurs again, try restarting system.")};
+    case 1021:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to start wave recording. Check the "
+                               "recording drive disk space, or try selecting a different recording "
+                               "format.  Check the recording drive disk space.  If this problem "
+                               "occurs again, try restarting system.")};
+    case 1022:
+        return {
+            QStringLiteral("Error occurred during recording process."),
+            QStringLiteral(
+                "The recording task was not able to write the software info chunk of the recording "
+                "file. Check the recording drive disk space, or try selecting a different "
+                "recording format.  If this problem occurs again, try restarting system.")};
+    case 1023:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to write the subject name info "
+                               "chunk of the recording file. Check the recording drive disk space, "
+                               "or try selecting a different recording format.  If this problem "
+                               "occurs again, try restarting system.")};
+    case 1024:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral(
+                    "The recording task was not able to add recording buffer during the recording "
+                    "process. If this problem occurs again, try selecting a different recording "
+                    "format. If problem persists even after changing the recording format, the "
+                    "recording device may be locked as a result of a bad recording format. It this "
+                    "is the case, a system restart is needed.")};
+    case 1025:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task encountered an error while during the recording "
+                               "stop. If this problem occurs again, try selecting a different "
+                               "recording format. If problem persists, try restarting system.")};
+    case 1026:
+    case 1027:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral(
+                    "The recording task encountered an error during the unpreparing of header 1 "
+                    "during the recording process. If this problem occurs again, try selecting a "
+                    "different recording format. If problem persists, try restarting system.")};
+    case 1028:
+        return {
+            QStringLiteral("Error Closing Input Device."),
+            QStringLiteral("The recording task encountered an error closing the sound card input "
+                           "device. If this problem occurs again, try selecting a different "
+                           "recording format. If problem persists, try restarting system.")};
+    case 1029:
+        return {
+            QStringLiteral("Error Closing Wave File."),
+            QStringLiteral(
+                "The recording task encountered an error closing the wave file. If this problem "
+                "occurs again, check the disk space of the recording drive, or try selecting a "
+                "different recording format. If problem persists, try restarting system.")};
+    case 1030:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to create the wave list chunk "
+                               "portion of the recording file. Check the recording drive disk "
+                               "space, or try selecting a different recording format.  If this "
+                               "problem occurs again, try restarting system.")};
+    case 1031:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to create the wave software info "
+                               "chunk portion of the recording file. Check the recording drive "
+                               "disk space, or try selecting a different recording format.  If "
+                               "this problem occurs again, try restarting system.")};
+    case 1032:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to create the wave subject name "
+                               "info chunk portion of the recording file. Check the recording "
+                               "drive disk space, or try selecting a different recording format.  "
+                               "If this problem occurs again, try restarting system.")};
+    case 1033:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to create the wave subject date "
+                               "info chunk portion of the recording file. Check the recording "
+                               "drive disk space, or try selecting a different recording format.  "
+                               "If this problem occurs again, try restarting system.")};
+    case 1034:
+        return {QStringLiteral("Error occurred during recording process."),
+                QStringLiteral("The recording task was not able to write the wave wave subject "
+                               "date chunk portion of the recording file. Check the recording "
+                               "drive disk space, or try selecting a different recording format.  "
+                               "If this problem occurs again, try restarting system.")};
+    case 1035:
+        // Heading and advice stand swapped for this code, as users have always seen them.
+        return {QStringLiteral("The recording task was not able to write the wave wave subject "
+                               "date chunk portion of the recording file. Check the recording "
+                               "drive disk space, or try selecting a different recording format.  "
+                               "If this problem occurs again, try restarting system."),
+                QStringLiteral("Error flushing recording file.")};
+    case 1050:
+        return {
+            QStringLiteral("Another application is recording audio."),
+            QStringLiteral("Another application is using the recording device. Stop that "
+                           "application and try again to record using Nightreel.  If the recording "
+                           "device is still locked, a system restart may be required.")};
+    case 1051:
+        return {QStringLiteral("No audio driver found for recording."),
+                QStringLiteral("If this error persists even after restarting the system, you may "
+                               "need to reinstall your sound card software.")};
+    case 1052:
+        return {QStringLiteral("Out of memory error while opening Wave input file."),
+                QStringLiteral("Try recording with different recording format. If the problem "
+                               "persists, try restarting the software or rebooting the system.")};
+    case 1053:
+        return {QStringLiteral("Bad Recording Format."),
+                QStringLiteral("Try recording with different recording format. If the problem "
+                               "persists, try restarting the software or rebooting the system.")};
+    default:
+        // 1012 has no row and falls here, as do codes that the task should never send.
+        return {QStringLiteral("Error occurred During Recording Process"),
+                QStringLiteral("Error #") + QString::number(code) +
+                    QStringLiteral(" Try changing recording format, restarting system, or "
+                                   "checking hardware or system software configuration.")};
+    }
+}
+
+void ReportRecordingTaskError(EventLog& log, qint32 code)
+{
+    const RecordingTaskErrorText text = RecordingTaskErrorTexts(code);
+    log.LogEvent(EventError, text.message, text.details);
+}

@@ -1,0 +1,380 @@
+#include "recording/RecordingTaskLink.h"
+
+#include "common/TextHelpers.h"
+#include "diagnostics/Trap.h"
+#include "recording/RecordingTaskErrors.h"
+#include "shell/AppContext.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QThread>
+
+using namespace TaskProtocol;
+
+namespace {
+
+int serverCount = 0;
+
+// The pause between the removal steps of an old task. Nothing runs meanwhile.
+void Sleep(int milliseconds)
+{
+    QThread::msleep(milliseconds);
+}
+
+} // namespace
+
+RecordingTaskLink::RecordingTaskLink(AppContext& ctx, QObject* parent)
+    : QObject(parent)
+    , m_ctx(ctx)
+    , m_taskProgram(QCoreApplication::applicationDirPath() + QStringLiteral("/nightreel-rec"))
+{
+    connect(&tmrKeepAlive, &IntervalTimer::timeout, this, &RecordingTaskLink::tmrKeepAlive_Timer);
+    connect(&tmrStopRecording, &IntervalTimer::timeout, this,
+            &RecordingTaskLink::tmrStopRecording_Timer);
+    connect(&TimerTimeout, &IntervalTimer::timeout, this, &RecordingTaskLink::TimerTimeout_Timer);
+    connect(&m_server, &QLocalServer::newConnection, this, &RecordingTaskLink::OnNewConnection);
+
+    // Only the owner may reach the socket; its folder is private to the owner as well.
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    const QString name = m_ctx.folders.runtimeFolder + QStringLiteral("/nightreel-%1-%2")
+                                                           .arg(QCoreApplication::applicationPid())
+                                                           .arg(++serverCount);
+    QLocalServer::removeServer(name);
+    m_server.listen(name);
+}
+
+RecordingTaskLink::~RecordingTaskLink()
+{
+    // A task whose scheduler goes away finishes its file by itself.
+    for (Connection& c : m_connections) {
+        c.socket->disconnect(this);
+        c.socket->flush();
+        c.socket->disconnectFromServer();
+    }
+    m_server.close();
+}
+
+QString RecordingTaskLink::ServerName() const
+{
+    return m_server.fullServerName();
+}
+
+QString RecordingTaskLink::ParameterFile() const
+{
+    return m_ctx.folders.runtimeFolder + u'/' + QString::fromLatin1(ParameterFileName);
+}
+
+void RecordingTaskLink::OnNewConnection()
+{
+    while (QLocalSocket* socket = m_server.nextPendingConnection()) {
+        socket->setParent(this);
+        m_connections.push_back(Connection{socket, {}, false, false, 0});
+        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { OnReadyRead(socket); });
+        connect(socket, &QLocalSocket::disconnected, this,
+                [this, socket] { OnDisconnected(socket); });
+        if (socket->bytesAvailable() > 0)
+            OnReadyRead(socket);
+    }
+}
+
+RecordingTaskLink::Connection* RecordingTaskLink::Find(QLocalSocket* socket)
+{
+    for (Connection& c : m_connections) {
+        if (c.socket == socket)
+            return &c;
+    }
+    return nullptr;
+}
+
+void RecordingTaskLink::OnDisconnected(QLocalSocket* socket)
+{
+    m_connections.remove_if([socket](const Connection& c) { return c.socket == socket; });
+    socket->deleteLater();
+}
+
+void RecordingTaskLink::OnReadyRead(QLocalSocket* socket)
+{
+    Connection* c = Find(socket);
+    if (!c)
+        return;
+    c->reader.Append(socket->readAll());
+    Frame frame;
+    for (;;) {
+        // Handlers below may run events and so drop this connection.
+        c = Find(socket);
+        if (!c)
+            return;
+        const FrameReader::Result next = c->reader.Next(frame);
+        if (next == FrameReader::Result::NeedMore)
+            return;
+        if (next == FrameReader::Result::Garbage) {
+            socket->abort();
+            UnexpectedCode(qint32(frame.number));
+            return;
+        }
+        switch (frame.kind) {
+        case Kind::Hello:
+            c->helloSeen = true;
+            c->identified = frame.payload == QByteArray(TaskClass) + '\n' + TaskTitle;
+            c->pid = frame.argument;
+            break;
+        case Kind::Reply:
+            for (PendingCall* call : m_pendingCalls) {
+                if (call->socket == socket && call->number == frame.number && !call->answered) {
+                    call->answered = true;
+                    call->result = frame.argument;
+                    break;
+                }
+            }
+            break;
+        case Kind::Post:
+            if (c->helloSeen) {
+                qint32 result = 0;
+                sbcls1_WndProc(frame.number, 0, frame.argument, result);
+                break;
+            }
+            [[fallthrough]];
+        case Kind::Call:
+            // The task never calls, and says who it is before anything else.
+            UnexpectedCode(qint32(frame.number));
+            break;
+        }
+    }
+}
+
+QLocalSocket* RecordingTaskLink::FindWindowA()
+{
+    // A task that has just gone is seen only when its end of the socket is read.
+    std::vector<QLocalSocket*> sockets;
+    for (const Connection& c : m_connections)
+        sockets.push_back(c.socket);
+    for (QLocalSocket* socket : sockets) {
+        if (Find(socket) && socket->state() == QLocalSocket::ConnectedState)
+            socket->waitForReadyRead(0);
+    }
+    m_window = nullptr;
+    for (const Connection& c : m_connections) {
+        if (c.identified && c.socket->state() == QLocalSocket::ConnectedState) {
+            m_window = c.socket;
+            break;
+        }
+    }
+    return m_window;
+}
+
+void RecordingTaskLink::Post(QLocalSocket* socket, quint32 msg)
+{
+    if (!socket || socket->state() != QLocalSocket::ConnectedState)
+        return;
+    socket->write(Encode(Kind::Post, msg, 0));
+    socket->flush();
+}
+
+void RecordingTaskLink::PostMessage(quint32 msg)
+{
+    Post(m_window, msg);
+}
+
+qint32 RecordingTaskLink::SendMessage(quint32 msg)
+{
+    QPointer<QLocalSocket> socket = m_window;
+    if (!socket || socket->state() != QLocalSocket::ConnectedState)
+        return 0;
+    PendingCall call{socket, msg};
+    m_pendingCalls.append(&call);
+    socket->write(Encode(Kind::Call, msg, 0));
+    socket->flush();
+    while (!call.answered && socket && socket->state() == QLocalSocket::ConnectedState)
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    m_pendingCalls.removeOne(&call);
+    return call.answered ? call.result : 0;
+}
+
+void RecordingTaskLink::StartTask()
+{
+    qint64 pid = 0;
+    // Whether the start worked is not asked: a task that never comes is met by the time-out.
+    QProcess::startDetached(m_taskProgram, {ServerName()}, QString(), &pid);
+    if (pid > 0)
+        m_startedTasks << pid;
+}
+
+bool RecordingTaskLink::ActivateNightreeltask()
+{
+    bool activated = false;
+    Trap(m_ctx.log, "ActivateNightreeltask", [&] {
+        for (int attempt = 0; attempt <= 2; ++attempt) {
+            // Only the last attempt reports; the first two failures are silent.
+            const bool reporting = attempt == 2;
+            bool failed = false;
+            if (QLocalSocket* old = FindWindowA()) {
+                Post(old, WM_CLOSE);
+                Sleep(1000);
+                if ((old = FindWindowA())) {
+                    Post(old, WM_QUIT);
+                    Sleep(1000);
+                    if (FindWindowA()) {
+                        if (reporting)
+                            m_ctx.log.LogEvent(
+                                EventError, QStringLiteral("Error removing Recording Process."),
+                                QStringLiteral("This may require Windows to be restarted."));
+                        failed = true;
+                    }
+                }
+            }
+            if (!failed) {
+                m_timedOut = false;
+                // Nothing stops this timer again; its later ticks are harmless. Intended.
+                TimerTimeout.SetInterval(m_activationTimeout);
+                m_taskResponded = false;
+                StartTask();
+                for (;;) {
+                    QCoreApplication::processEvents(QEventLoop::AllEvents |
+                                                    QEventLoop::WaitForMoreEvents);
+                    if (m_timedOut) {
+                        if (reporting)
+                            m_ctx.log.LogEvent(
+                                EventError, QStringLiteral("Error activating recording task."),
+                                QStringLiteral("Timeout occured.  Try restarting software or "
+                                               "rebooting system. If problem persists try a "
+                                               "different recording format."));
+                        failed = true;
+                        break;
+                    }
+                    if (m_taskResponded && m_taskStatusCode != 0) {
+                        if (reporting)
+                            ReportRecordingTaskError(m_ctx.log, m_taskStatusCode);
+                        Post(FindWindowA(), WM_CLOSE);
+                        failed = true;
+                        break;
+                    }
+                    if (m_taskResponded) {
+                        if (!FindWindowA()) {
+                            // This text differs from the one above by " -"; intended.
+                            if (reporting)
+                                m_ctx.log.LogEvent(
+                                    EventError, QStringLiteral("Error activating recording task."),
+                                    QStringLiteral("Timeout occured.  - Try restarting software "
+                                                   "or rebooting system. If problem persists try "
+                                                   "a different recording format."));
+                            failed = true;
+                        }
+                        break;
+                    }
+                }
+            }
+            if (failed) {
+                // No wait here: the next attempt's removal steps deal with a task that lingers.
+                Post(FindWindowA(), WM_QUIT);
+                continue;
+            }
+            activated = true;
+            break;
+        }
+    });
+    return activated;
+}
+
+bool RecordingTaskLink::sbcls1_WndProc(quint32 msg, qint32 wParam, qint32 lParam, qint32& result)
+{
+    bool handled = true;
+    Trap(m_ctx.log, "sbcls1_WndProc", [&] {
+        if (msg == WM_SYSCOMMAND && (wParam & ~15) != SC_MINIMIZE) {
+            handled = false;
+            return;
+        }
+        Dispatch(msg, wParam, lParam, result);
+    });
+    return handled;
+}
+
+void RecordingTaskLink::Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint32& result)
+{
+    Q_UNUSED(wParam);
+    result = 0;
+    switch (msg) {
+    case REC_MSG_READY:
+        m_taskResponded = true;
+        m_taskStatusCode = lParam;
+        break;
+    case REC_MSG_STOPPED:
+        tmrStopRecording.SetInterval(0);
+        emit StopRecording();
+        break;
+    case REC_MSG_ERROR:
+        // A task may report more than once; only the first report fails the recording.
+        if (!m_ctx.recordingStatus.Failed) {
+            m_ctx.recordingStatus.Failed = true;
+            emit StopRecording();
+            ReportRecordingTaskError(m_ctx.log, lParam);
+        }
+        break;
+    case REC_MSG_KEEPALIVE:
+        KeepAliveMissCount = 0;
+        break;
+    case WM_SYSCOMMAND:
+        emit MinimizeToTray();
+        break;
+    default:
+        UnexpectedCode(msg);
+        break;
+    }
+}
+
+void RecordingTaskLink::UnexpectedCode(qint64 number)
+{
+    m_ctx.log.LogEvent(EventError, QStringLiteral("Run Time Error"),
+                       QStringLiteral("Unexpected code from recording process.  Code=") +
+                           Text::Str(number) +
+                           QStringLiteral(" If problem persists, try a different recording "
+                                          "format or restarting Windows"));
+    emit StopRecording();
+}
+
+void RecordingTaskLink::RequestStop()
+{
+    if (m_ctx.recordingStatus.StopRequested)
+        return;
+    PostMessage(REC_MSG_STOP);
+    m_ctx.recordingStatus.StopRequested = true;
+    tmrStopRecording.SetInterval(StopWatchdogInterval);
+}
+
+void RecordingTaskLink::tmrKeepAlive_Timer()
+{
+    Trap(m_ctx.log, "tmrKeepAlive_Timer", [&] {
+        if (!m_ctx.appStatus.Recording())
+            return;
+        if (KeepAliveMissCount < KeepAliveMaxMisses) {
+            PostMessage(REC_MSG_KEEPALIVE);
+            ++KeepAliveMissCount;
+            return;
+        }
+        if (m_ctx.recordingStatus.Failed)
+            return;
+        m_ctx.log.LogEvent(
+            EventError, QStringLiteral("No response from recording task."),
+            QStringLiteral("Perform a test recording with a PCM recording format. If the error "
+                           "does not reoccur, there may have been a problem with the recording "
+                           "format.  Otherwise, the recording task may be locked and require a "
+                           "system restart. \rThe error occured during the following recording: ") +
+                m_ctx.recordingStatus.Description);
+        m_ctx.recordingStatus.Failed = true;
+        emit StopRecording();
+    });
+}
+
+void RecordingTaskLink::tmrStopRecording_Timer()
+{
+    Trap(m_ctx.log, "tmrStopRecording_Timer", [&] {
+        tmrStopRecording.SetInterval(0);
+        emit StopRecording();
+    });
+}
+
+void RecordingTaskLink::TimerTimeout_Timer()
+{
+    m_timedOut = true;
+}

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "common/IntervalTimer.h"
+#include "recording/TaskProtocol.h"
+
+#include <QList>
+#include <QLocalServer>
+#include <QObject>
+#include <QPointer>
+#include <list>
+
+class AppContext;
+class QLocalSocket;
+
+// The scheduler's side of the recording task: the channel the task talks on, the task's
+// process and identity, the start-up hand-shake, the dispatch of what the task sends, the
+// keep-alive and the stop watchdog.
+//
+// The channel stands in for window messages: the task's live connection that has named its
+// class and title is "the task's window". Everything runs on the caller's thread; the waits
+// let events run, so handlers and timers can be entered while a wait is in progress.
+class RecordingTaskLink : public QObject {
+    Q_OBJECT
+public:
+    explicit RecordingTaskLink(AppContext& ctx, QObject* parent = nullptr);
+    ~RecordingTaskLink() override;
+
+    static constexpr int KeepAliveInterval = 30000;
+    static constexpr int StopWatchdogInterval = 10000;
+    static constexpr qint16 KeepAliveMaxMisses = 3;
+
+    // The task program: nightreel-rec beside the running executable unless set otherwise.
+    void SetTaskProgram(const QString& path) { m_taskProgram = path; }
+    QString TaskProgram() const { return m_taskProgram; }
+    // How long an attempt waits for the task's ready message; ten seconds but in tests.
+    void SetActivationTimeout(int milliseconds) { m_activationTimeout = milliseconds; }
+    // The socket that the task is told to connect to; its folder holds the parameter file.
+    QString ServerName() const;
+    QString ParameterFile() const;
+
+    // Removes any old task, starts a new one and waits for it to say it is ready.
+    bool ActivateNightreeltask();
+    // The dispatch of what reaches the main window's hook. False hands the message on to the
+    // default handler (a system command other than minimise); result is then not set.
+    bool sbcls1_WndProc(quint32 msg, qint32 wParam, qint32 lParam, qint32& result);
+
+    // A synchronous call (REC_MSG_START, REC_MSG_PAUSE_TOGGLE): waits, letting events run,
+    // until the task answers. A task that is gone answers 0, as a vanished window does.
+    qint32 SendMessage(quint32 msg);
+    // A one-way message to the task found last; dropped when there is none.
+    void PostMessage(quint32 msg);
+    // The stop request of the clock, the user and the disk guard: posts REC_MSG_STOP once
+    // per recording and arms the watchdog.
+    void RequestStop();
+
+    void tmrKeepAlive_Timer();
+    void tmrStopRecording_Timer();
+    void TimerTimeout_Timer();
+
+    // Process ids of the tasks started so far, oldest first.
+    const QList<qint64>& StartedTasks() const { return m_startedTasks; }
+
+    IntervalTimer tmrKeepAlive;
+    IntervalTimer tmrStopRecording;
+    IntervalTimer TimerTimeout;
+    // Keep-alive questions without an answer, 0 to 3.
+    qint16 KeepAliveMissCount = 0;
+
+signals:
+    // StopRecording is due now (task stopped, task failed, no answer, watchdog). The receiver
+    // runs it before this returns: an error report of the task comes after it.
+    void StopRecording();
+    // The main window was asked to minimise: it goes to the tray instead.
+    void MinimizeToTray();
+
+private:
+    struct Connection {
+        QLocalSocket* socket = nullptr;
+        TaskProtocol::FrameReader reader;
+        bool helloSeen = false;
+        bool identified = false;
+        qint64 pid = 0;
+    };
+    struct PendingCall {
+        QLocalSocket* socket;
+        quint32 number;
+        bool answered = false;
+        qint32 result = 0;
+    };
+
+    void OnNewConnection();
+    void OnReadyRead(QLocalSocket* socket);
+    void OnDisconnected(QLocalSocket* socket);
+    Connection* Find(QLocalSocket* socket);
+    // The live, identified connection of a task; also refreshes the window handle.
+    QLocalSocket* FindWindowA();
+    void Post(QLocalSocket* socket, quint32 msg);
+    void StartTask();
+    void UnexpectedCode(qint64 number);
+    void Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint32& result);
+
+    AppContext& m_ctx;
+    QLocalServer m_server;
+    QString m_taskProgram;
+    std::list<Connection> m_connections;
+    QPointer<QLocalSocket> m_window;
+    QList<PendingCall*> m_pendingCalls;
+    QList<qint64> m_startedTasks;
+    bool m_taskResponded = false;
+    qint32 m_taskStatusCode = 0;
+    bool m_timedOut = false;
+    int m_activationTimeout = 10000;
+};

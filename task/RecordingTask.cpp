@@ -1,0 +1,436 @@
+#include "RecordingTask.h"
+
+#include "recording/RecordingTaskErrors.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QTimer>
+#include <chrono>
+#include <pulse/error.h>
+#include <thread>
+
+using namespace TaskProtocol;
+
+namespace {
+
+constexpr int FragmentMilliseconds = 100;
+constexpr int ReadyWaitMilliseconds = 2000;
+// A killed task loses at most this much of the header's account of the data.
+constexpr int HeaderUpdateMilliseconds = 2000;
+constexpr qint32 Mp3FormatTag = 85;
+constexpr qint32 PcmFormatTag = 1;
+
+bool IsDialogRate(qint32 rate)
+{
+    for (qint32 r : {8000, 11025, 12000, 16000, 22050, 24000, 32000, 44100, 48000}) {
+        if (r == rate)
+            return true;
+    }
+    return false;
+}
+
+int CaptureErrorCode(int paError)
+{
+    switch (paError) {
+    case PA_ERR_CONNECTIONREFUSED:
+    case PA_ERR_INVALIDSERVER:
+    case PA_ERR_CONNECTIONTERMINATED:
+    case PA_ERR_AUTHKEY:
+    case PA_ERR_ACCESS:
+        return TaskError::NoAudioDriver;
+    case PA_ERR_BUSY:
+        return TaskError::DeviceBusy;
+    case PA_ERR_NOTSUPPORTED:
+    case PA_ERR_INVALID:
+        return TaskError::BadFormat;
+    default:
+        return TaskError::OpenInputFailed;
+    }
+}
+
+} // namespace
+
+RecordingTask::RecordingTask(const QString& serverName, QObject* parent)
+    : QObject(parent)
+    , m_serverName(serverName)
+{
+    m_clock.start();
+    connect(&m_socket, &QLocalSocket::readyRead, this, &RecordingTask::OnReadyRead);
+    // A scheduler that goes away leaves a finished file behind.
+    connect(&m_socket, &QLocalSocket::disconnected, this, [this] {
+        Finish();
+        Leave();
+    });
+}
+
+RecordingTask::~RecordingTask()
+{
+    Finish();
+}
+
+bool RecordingTask::Begin()
+{
+    m_socket.connectToServer(m_serverName);
+    if (!m_socket.waitForConnected(5000))
+        return false;
+    Frame hello{Kind::Hello, 0, qint32(QCoreApplication::applicationPid()),
+                QByteArray(TaskClass) + '\n' + TaskTitle};
+    m_socket.write(Encode(hello));
+    m_readyCode = Prepare();
+    if (m_readyCode != 0) {
+        m_readySent = true;
+        Send(Kind::Post, REC_MSG_READY, m_readyCode);
+        return true;
+    }
+    // Ready once the server delivers sound: a new stream's first fragment can take a while,
+    // and a start command before it would lose the beginning. A server that stays silent
+    // does not hold up the recording, though.
+    QTimer::singleShot(ReadyWaitMilliseconds, this, &RecordingTask::PostReady);
+    return true;
+}
+
+void RecordingTask::PostReady()
+{
+    if (m_readySent)
+        return;
+    m_readySent = true;
+    Send(Kind::Post, REC_MSG_READY, 0);
+}
+
+int RecordingTask::Prepare()
+{
+    const QString folder = QFileInfo(m_serverName).absolutePath();
+    bool opened = false;
+    const std::optional<RecParms> parms =
+        RecParms::Read(folder + u'/' + QString::fromLatin1(ParameterFileName), &opened);
+    if (!opened)
+        return TaskError::ParameterFileLocked;
+    if (!parms)
+        return TaskError::ParameterFileBad;
+    m_parms = *parms;
+
+    const RecParms& p = m_parms;
+    if (p.nChannels < 1 || p.nChannels > 2 || !IsDialogRate(p.nSamplesPerSec))
+        return TaskError::BadFormat;
+    if (p.wFormatTag == PcmFormatTag) {
+        if ((p.nBitsPerSample != 8 && p.nBitsPerSample != 16) ||
+            p.nBlockAlign != p.nChannels * p.nBitsPerSample / 8)
+            return TaskError::BadFormat;
+    } else if (p.wFormatTag == Mp3FormatTag) {
+        m_mp3 = true;
+        if (const int code = OpenEncoder())
+            return code;
+    } else {
+        return TaskError::BadFormat;
+    }
+
+    if (const int code = OpenCapture())
+        return code;
+    const bool bareMp3 = m_mp3 && p.outputPath.toUpper().endsWith(QLatin1String(".MP3"));
+    if (const int code = m_file.Create(p, bareMp3))
+        return code;
+    m_sinceHeaderUpdate.start();
+    return 0;
+}
+
+int RecordingTask::OpenEncoder()
+{
+    m_lame = lame_init();
+    if (!m_lame)
+        return TaskError::OutOfMemory;
+    lame_set_num_channels(m_lame, m_parms.nChannels);
+    lame_set_in_samplerate(m_lame, m_parms.nSamplesPerSec);
+    lame_set_out_samplerate(m_lame, m_parms.nSamplesPerSec);
+    lame_set_brate(m_lame, m_parms.nAvgBytesPerSec * 8 / 1000);
+    lame_set_mode(m_lame, m_parms.nChannels == 1 ? MONO : JOINT_STEREO);
+    lame_set_VBR(m_lame, vbr_off);
+    // The stream is written as it comes; there is no going back for a VBR header.
+    lame_set_bWriteVbrTag(m_lame, 0);
+    lame_set_quality(m_lame, 5);
+    if (lame_init_params(m_lame) < 0)
+        return TaskError::BadFormat;
+    return 0;
+}
+
+int RecordingTask::OpenCapture()
+{
+    pa_sample_spec& sampleSpec = m_spec;
+    // An MP3 recording is captured as 16-bit PCM and encoded on the way to disk.
+    const bool eightBit = !m_mp3 && m_parms.nBitsPerSample == 8;
+    sampleSpec.format = eightBit ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE;
+    sampleSpec.channels = uint8_t(m_parms.nChannels);
+    sampleSpec.rate = uint32_t(m_parms.nSamplesPerSec);
+    m_frameBytes = pa_frame_size(&sampleSpec);
+
+    // Without a fragment size the server hands over audio in chunks of about two seconds.
+    pa_buffer_attr attr;
+    attr.maxlength = uint32_t(-1);
+    attr.tlength = uint32_t(-1);
+    attr.prebuf = uint32_t(-1);
+    attr.minreq = uint32_t(-1);
+    attr.fragsize = uint32_t(pa_usec_to_bytes(FragmentMilliseconds * 1000, &sampleSpec));
+
+    m_mainloop = pa_threaded_mainloop_new();
+    if (!m_mainloop)
+        return TaskError::OutOfMemory;
+    m_context =
+        pa_context_new(pa_threaded_mainloop_get_api(m_mainloop), "Nightreel recording task");
+    if (!m_context)
+        return TaskError::OutOfMemory;
+    pa_context_set_state_callback(m_context, &RecordingTask::OnContextState, this);
+    if (pa_context_connect(m_context, nullptr, PA_CONTEXT_NOFLAGS, nullptr) < 0)
+        return CaptureErrorCode(pa_context_errno(m_context));
+    if (pa_threaded_mainloop_start(m_mainloop) < 0)
+        return TaskError::OpenInputFailed;
+
+    pa_threaded_mainloop_lock(m_mainloop);
+    int code = 0;
+    for (;;) {
+        const pa_context_state_t state = pa_context_get_state(m_context);
+        if (state == PA_CONTEXT_READY)
+            break;
+        if (!PA_CONTEXT_IS_GOOD(state)) {
+            code = CaptureErrorCode(pa_context_errno(m_context));
+            break;
+        }
+        pa_threaded_mainloop_wait(m_mainloop);
+    }
+    if (code == 0) {
+        m_stream = pa_stream_new(m_context, "Recording", &sampleSpec, nullptr);
+        if (!m_stream) {
+            code = CaptureErrorCode(pa_context_errno(m_context));
+        } else {
+            pa_stream_set_state_callback(m_stream, &RecordingTask::OnStreamState, this);
+            pa_stream_set_read_callback(m_stream, &RecordingTask::OnStreamRead, this);
+            // The default source, or the one that PULSE_SOURCE names.
+            if (pa_stream_connect_record(m_stream, nullptr, &attr, PA_STREAM_ADJUST_LATENCY) < 0)
+                code = CaptureErrorCode(pa_context_errno(m_context));
+        }
+    }
+    while (code == 0) {
+        const pa_stream_state_t state = pa_stream_get_state(m_stream);
+        if (state == PA_STREAM_READY)
+            break;
+        if (!PA_STREAM_IS_GOOD(state)) {
+            code = CaptureErrorCode(pa_context_errno(m_context));
+            break;
+        }
+        pa_threaded_mainloop_wait(m_mainloop);
+    }
+    m_streaming = code == 0;
+    pa_threaded_mainloop_unlock(m_mainloop);
+    return code;
+}
+
+void RecordingTask::OnContextState(pa_context*, void* self)
+{
+    pa_threaded_mainloop_signal(static_cast<RecordingTask*>(self)->m_mainloop, 0);
+}
+
+void RecordingTask::OnStreamState(pa_stream* stream, void* self)
+{
+    auto* task = static_cast<RecordingTask*>(self);
+    pa_threaded_mainloop_signal(task->m_mainloop, 0);
+    // The device or the server went away during the recording.
+    if (task->m_streaming && !PA_STREAM_IS_GOOD(pa_stream_get_state(stream)) &&
+        !task->m_stopping.exchange(true))
+        QMetaObject::invokeMethod(
+            task, [task] { task->OnCaptureError(TaskError::AddBufferFailed); },
+            Qt::QueuedConnection);
+}
+
+void RecordingTask::OnStreamRead(pa_stream* stream, size_t, void* self)
+{
+    auto* task = static_cast<RecordingTask*>(self);
+    const void* data = nullptr;
+    size_t bytes = 0;
+    while (pa_stream_readable_size(stream) > 0) {
+        if (pa_stream_peek(stream, &data, &bytes) < 0 || bytes == 0)
+            return;
+        // A hole in the stream (no data) is skipped.
+        if (data)
+            task->OnSound(static_cast<const char*>(data), bytes);
+        pa_stream_drop(stream);
+    }
+}
+
+// Runs on the sound server's thread, once per fragment.
+void RecordingTask::OnSound(const char* sound, size_t bytes)
+{
+    if (!m_flowing.exchange(true))
+        QMetaObject::invokeMethod(this, &RecordingTask::PostReady, Qt::QueuedConnection);
+    // Before the start and while paused the sound is dropped.
+    if (!m_capturing || m_paused || m_reachedStop)
+        return;
+    // A fragment holds the sound of the time just before it arrived. Of the fragments that
+    // span the start or the stop, only the part after the start and before the stop is
+    // kept, so that the file's length matches the clock.
+    const qint64 frames = qint64(bytes / m_frameBytes);
+    const qint64 end = m_clock.nsecsElapsed();
+    const qint64 span = frames * 1000000000 / m_spec.rate;
+    const auto framesAt = [&](qint64 ns) {
+        return qBound<qint64>(0, (ns - (end - span)) * qint64(m_spec.rate) / 1000000000, frames);
+    };
+    const qint64 first = framesAt(m_startedAt);
+    qint64 last = frames;
+    if (m_stopping) {
+        last = framesAt(m_stoppedAt);
+        m_reachedStop = end >= m_stoppedAt;
+    }
+    if (last <= first)
+        return;
+    std::lock_guard lock(m_fileLock);
+    int code = Store(sound + first * qint64(m_frameBytes), size_t(last - first) * m_frameBytes);
+    if (code == 0 && m_sinceHeaderUpdate.elapsed() >= HeaderUpdateMilliseconds) {
+        code = m_file.UpdateHeader();
+        m_sinceHeaderUpdate.restart();
+    }
+    if (code != 0 && !m_stopping.exchange(true)) {
+        m_reachedStop = true;
+        QMetaObject::invokeMethod(
+            this, [this, code] { OnCaptureError(code); }, Qt::QueuedConnection);
+    }
+}
+
+int RecordingTask::Store(const char* pcm, size_t bytes)
+{
+    const int frames = int(bytes / m_frameBytes);
+    m_file.AddFrames(quint32(frames));
+    if (!m_mp3)
+        return m_file.Append(pcm, bytes);
+    // LAME's own bound for the worst case of one call.
+    m_mp3Buffer.resize(size_t(1.25 * frames + 7200));
+    const auto* samples = reinterpret_cast<const short*>(pcm);
+    const int encoded =
+        m_parms.nChannels == 2
+            ? lame_encode_buffer_interleaved(m_lame, const_cast<short*>(samples), frames,
+                                             m_mp3Buffer.data(), int(m_mp3Buffer.size()))
+            : lame_encode_buffer(m_lame, samples, samples, frames, m_mp3Buffer.data(),
+                                 int(m_mp3Buffer.size()));
+    if (encoded < 0)
+        return TaskError::WriteFailed;
+    return encoded > 0 ? m_file.Append(m_mp3Buffer.data(), size_t(encoded)) : 0;
+}
+
+void RecordingTask::Send(Kind kind, quint32 number, qint32 argument)
+{
+    if (m_socket.state() != QLocalSocket::ConnectedState)
+        return;
+    m_socket.write(Encode(kind, number, argument));
+    m_socket.flush();
+}
+
+void RecordingTask::OnReadyRead()
+{
+    m_reader.Append(m_socket.readAll());
+    Frame frame;
+    for (;;) {
+        const FrameReader::Result next = m_reader.Next(frame);
+        if (next != FrameReader::Result::Frame)
+            return;
+        if (frame.kind == Kind::Call)
+            OnCall(frame.number);
+        else if (frame.kind == Kind::Post)
+            OnPost(frame.number);
+        if (m_leaving)
+            return;
+    }
+}
+
+void RecordingTask::OnCall(quint32 number)
+{
+    qint32 result = 0;
+    if (number == REC_MSG_START) {
+        result = m_readyCode;
+        if (result == 0) {
+            m_startedAt = m_clock.nsecsElapsed();
+            m_capturing = true;
+        }
+    } else if (number == REC_MSG_PAUSE_TOGGLE) {
+        m_paused = !m_paused;
+    }
+    Send(Kind::Reply, number, result);
+}
+
+void RecordingTask::OnPost(quint32 number)
+{
+    switch (number) {
+    case REC_MSG_KEEPALIVE:
+        Send(Kind::Post, REC_MSG_KEEPALIVE, 0);
+        break;
+    case REC_MSG_STOP:
+        Finish();
+        Send(Kind::Post, REC_MSG_STOPPED, 0);
+        Leave();
+        break;
+    case WM_CLOSE:
+    case WM_QUIT:
+        Finish();
+        Leave();
+        break;
+    default:
+        break;
+    }
+}
+
+void RecordingTask::OnCaptureError(int code)
+{
+    if (m_leaving)
+        return;
+    Send(Kind::Post, REC_MSG_ERROR, code);
+    Finish();
+    Leave();
+}
+
+void RecordingTask::Finish()
+{
+    if (!m_stopping.exchange(true))
+        m_stoppedAt = m_clock.nsecsElapsed();
+    // The fragment under way holds the sound up to the stop; it is waited for, briefly.
+    if (m_streaming && m_capturing && !m_paused) {
+        for (int waited = 0; waited < 3 * FragmentMilliseconds && !m_reachedStop; waited += 5)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    m_reachedStop = true;
+    if (m_mainloop)
+        pa_threaded_mainloop_stop(m_mainloop);
+    if (m_stream) {
+        pa_stream_disconnect(m_stream);
+        pa_stream_unref(m_stream);
+        m_stream = nullptr;
+    }
+    if (m_context) {
+        pa_context_disconnect(m_context);
+        pa_context_unref(m_context);
+        m_context = nullptr;
+    }
+    if (m_mainloop) {
+        pa_threaded_mainloop_free(m_mainloop);
+        m_mainloop = nullptr;
+    }
+    m_streaming = false;
+
+    std::lock_guard lock(m_fileLock);
+    if (m_lame) {
+        if (m_file.IsOpen()) {
+            m_mp3Buffer.resize(7200);
+            const int tail = lame_encode_flush(m_lame, m_mp3Buffer.data(), int(m_mp3Buffer.size()));
+            if (tail > 0)
+                m_file.Append(m_mp3Buffer.data(), size_t(tail));
+        }
+        lame_close(m_lame);
+        m_lame = nullptr;
+    }
+    m_file.Close();
+}
+
+void RecordingTask::Leave()
+{
+    if (m_leaving)
+        return;
+    m_leaving = true;
+    if (m_socket.state() == QLocalSocket::ConnectedState)
+        m_socket.waitForBytesWritten(1000);
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+}

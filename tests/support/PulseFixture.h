@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <csignal>
+#include <optional>
+#include <sys/types.h>
+
+// A PulseAudio server of the test's own, in a temporary runtime folder and home: a null sink
+// "recsink" whose monitor is remapped to the default source "recmic". What is played into the
+// sink is what a recording hears. The environment of the test process (and so of the tasks
+// it starts) points at this server while the fixture lives.
+class PulseFixture {
+public:
+    PulseFixture()
+    {
+        for (const char* name : {"XDG_RUNTIME_DIR", "HOME", "PULSE_SERVER"})
+            m_saved.emplace_back(name, qEnvironmentVariableIsSet(name)
+                                           ? std::optional<QByteArray>(qgetenv(name))
+                                           : std::nullopt);
+        qputenv("XDG_RUNTIME_DIR", m_dir.path().toUtf8());
+        qputenv("HOME", m_dir.path().toUtf8());
+        qunsetenv("PULSE_SERVER");
+        const int rc = QProcess::execute(
+            "pulseaudio",
+            {"--daemonize=yes", "-n", "--exit-idle-time=-1", "--disallow-exit",
+             "--load=module-native-protocol-unix", "--load=module-null-sink sink_name=recsink",
+             "--load=module-remap-source source_name=recmic master=recsink.monitor"});
+        m_running = rc == 0;
+        // Explicit, so that no client ever tries to start a server of its own.
+        qputenv("PULSE_SERVER", ("unix:" + m_dir.path() + "/pulse/native").toUtf8());
+    }
+
+    ~PulseFixture()
+    {
+        Stop();
+        for (const auto& [name, value] : m_saved) {
+            if (value)
+                qputenv(name, *value);
+            else
+                qunsetenv(name);
+        }
+    }
+
+    // Ends the server, as if the sound system went away.
+    void Stop()
+    {
+        StopTone();
+        QFile pidFile(m_dir.path() + "/pulse/pid");
+        if (!pidFile.open(QIODevice::ReadOnly))
+            return;
+        const pid_t pid = pid_t(pidFile.readAll().trimmed().toInt());
+        if (pid <= 0)
+            return;
+        ::kill(pid, SIGTERM);
+        for (int i = 0; i < 50 && ::kill(pid, 0) == 0; ++i)
+            QTest::qSleep(50);
+    }
+
+    bool Running() const { return m_running; }
+    QString Folder() const { return m_dir.path(); }
+
+    // Plays a 1 kHz sine of amplitude 0.5 into the sink for the fixture's life. A capture
+    // stream opened soon after a player joins the sink gets its first sound late (the null
+    // sink settles its timing first), so one short capture runs here to get that over with.
+    bool PlayTone()
+    {
+        m_synth.setStandardOutputProcess(&m_player);
+        m_synth.start("sox", {"-n", "-t", "raw", "-r", "44100", "-c", "2", "-b", "16", "-e",
+                              "signed", "-", "synth", "600", "sine", "1000", "vol", "0.5"});
+        m_player.start("pacat",
+                       {"--device=recsink", "--rate=44100", "--channels=2", "--format=s16le"});
+        if (!m_synth.waitForStarted(3000) || !m_player.waitForStarted(3000))
+            return false;
+        QProcess warmUp;
+        warmUp.start("parecord", {"--latency-msec=100", "--raw", "/dev/null"});
+        warmUp.waitForStarted(3000);
+        QTest::qWait(2500);
+        warmUp.kill();
+        warmUp.waitForFinished(3000);
+        return m_player.state() == QProcess::Running;
+    }
+
+    void StopTone()
+    {
+        for (QProcess* p : {&m_player, &m_synth}) {
+            if (p->state() != QProcess::NotRunning) {
+                p->kill();
+                p->waitForFinished(3000);
+            }
+        }
+    }
+
+private:
+    QTemporaryDir m_dir;
+    bool m_running = false;
+    QProcess m_synth;
+    QProcess m_player;
+    std::vector<std::pair<const char*, std::optional<QByteArray>>> m_saved;
+};

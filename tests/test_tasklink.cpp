@@ -1,0 +1,425 @@
+// The scheduler's side of the link, driven by the scripted stand-in task: the hand-shake's
+// attempts, removal of an old task, what the task sends during a recording, the keep-alive
+// and the stop watchdog. Also the error catalogue and the parameter file.
+#include "TestContext.h"
+#include "recording/RecParms.h"
+#include "recording/RecordingTaskErrors.h"
+#include "recording/RecordingTaskLink.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSet>
+#include <QSignalSpy>
+#include <QSqlQuery>
+#include <QTest>
+#include <memory>
+
+using namespace TaskProtocol;
+
+namespace {
+
+struct Entry {
+    int type;
+    QString message;
+    QString details;
+};
+
+// A context and a link that starts the stand-in with the given plan.
+struct Fixture {
+    explicit Fixture(const QString& plan)
+    {
+        tc.OpenDatabase();
+        qputenv("NIGHTREEL_FAKE_PLAN", plan.toUtf8());
+        qputenv("NIGHTREEL_FAKE_LOG", (tc.Root() + "/fake.log").toUtf8());
+        link = std::make_unique<RecordingTaskLink>(*tc.ctx);
+        link->SetTaskProgram(NIGHTREEL_FAKETASK);
+        RecParms().Write(link->ParameterFile());
+        // StopRecording as the system has it: it acts only while a recording runs.
+        QObject::connect(link.get(), &RecordingTaskLink::StopRecording, [this] {
+            entriesAtStop << Entries().size();
+            if (tc.ctx->appStatus.Recording()) {
+                ++stops;
+                tc.ctx->appStatus.SetRecording(false);
+                link->tmrKeepAlive.SetInterval(0);
+            }
+        });
+    }
+    ~Fixture()
+    {
+        // The stand-in leaves when its scheduler goes away.
+        link.reset();
+        QTest::qWait(100);
+    }
+
+    bool StartRecording()
+    {
+        tc.ctx->appStatus.SetRecording(true);
+        tc.ctx->recordingStatus = clsRecordingStatus();
+        tc.ctx->recordingStatus.Description = "Evening news";
+        return link->ActivateNightreeltask() && link->SendMessage(REC_MSG_START) == 0;
+    }
+    QList<Entry> Entries()
+    {
+        QList<Entry> entries;
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec("SELECT Type, Message, Details FROM EventLog ORDER BY ID");
+        while (q.next())
+            entries << Entry{q.value(0).toInt(), q.value(1).toString(), q.value(2).toString()};
+        return entries;
+    }
+    QStringList Messages()
+    {
+        QStringList messages;
+        for (const Entry& e : Entries())
+            messages << e.message;
+        return messages;
+    }
+    // What the stand-ins wrote: "start PID" and "recv PID NUMBER" lines.
+    QStringList FakeLog() const
+    {
+        QFile file(tc.Root() + "/fake.log");
+        file.open(QIODevice::ReadOnly);
+        return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    }
+    // Stand-ins that received WM_CLOSE or WM_QUIT.
+    int ToldToLeave() const
+    {
+        QSet<QString> pids;
+        for (const QString& line : FakeLog()) {
+            const QStringList words = line.split(u' ');
+            if (words.at(0) == "recv" && (words.at(2) == "16" || words.at(2) == "18"))
+                pids << words.at(1);
+        }
+        return int(pids.size());
+    }
+    int Received(quint32 number) const
+    {
+        int count = 0;
+        for (const QString& line : FakeLog())
+            count += line.startsWith("recv ") && line.section(u' ', 2, 2).toUInt() == number;
+        return count;
+    }
+
+    TestContext tc;
+    std::unique_ptr<RecordingTaskLink> link;
+    int stops = 0;
+    QList<int> entriesAtStop;
+};
+
+} // namespace
+
+class TestTaskLink : public QObject {
+    Q_OBJECT
+
+private slots:
+    void errorCatalogue_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("detailsStart");
+        QTest::newRow("parameter file locked")
+            << 1000 << "Error communicating with recording task"
+            << "The scheduler communicates with the recording task via a disk file which may be "
+               "locked.";
+        QTest::newRow("1035 has its texts swapped")
+            << 1035
+            << "The recording task was not able to write the wave wave subject date chunk "
+               "portion of the recording file. Check the recording drive disk space, or try "
+               "selecting a different recording format.  If this problem occurs again, try "
+               "restarting system."
+            << "Error flushing recording file.";
+        QTest::newRow("1026") << 1026 << "Error occurred during recording process."
+                              << "The recording task encountered an error during the unpreparing "
+                                 "of header 1 during";
+        QTest::newRow("1027 reads as 1026")
+            << 1027 << "Error occurred during recording process."
+            << "The recording task encountered an error during the unpreparing of header 1 during";
+        QTest::newRow("no sound server") << 1051 << "No audio driver found for recording."
+                                         << "If this error persists even after restarting";
+        QTest::newRow("1012 has no row")
+            << 1012 << "Error occurred During Recording Process"
+            << "Error #1012 Try changing recording format, restarting system, or checking "
+               "hardware or system software configuration.";
+        QTest::newRow("0") << 0 << "Error occurred During Recording Process"
+                           << "Error #0 Try";
+        QTest::newRow("negative") << -7 << "Error occurred During Recording Process"
+                                  << "Error #-7 Try";
+        QTest::newRow("past the end") << 1054 << "Error occurred During Recording Process"
+                                      << "Error #1054 Try";
+    }
+    void errorCatalogue()
+    {
+        QFETCH(int, code);
+        QFETCH(QString, message);
+        QFETCH(QString, detailsStart);
+        TestContext tc;
+        tc.OpenDatabase();
+        ReportRecordingTaskError(tc.ctx->log, code);
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec("SELECT Type, Message, Details FROM EventLog");
+        QVERIFY(q.next());
+        QCOMPARE(q.value(0).toInt(), 2);
+        QCOMPARE(q.value(1).toString(), message);
+        QVERIFY2(q.value(2).toString().startsWith(detailsStart), qPrintable(q.value(2).toString()));
+        QVERIFY(!q.next());
+    }
+
+    void parameterFile_data()
+    {
+        QTest::addColumn<int>("cbSize");
+        QTest::addColumn<int>("lines");
+        QTest::newRow("PCM, no extra bytes") << 0 << 12;
+        QTest::newRow("MP3, 12 extra bytes") << 12 << 24;
+        QTest::newRow("the most the buffer holds") << 256 << 268;
+    }
+    void parameterFile()
+    {
+        QFETCH(int, cbSize);
+        QFETCH(int, lines);
+        TestContext tc;
+        RecParms p;
+        p.softwareName = "Nightreel 2000 1.0";
+        p.description = "  Jazz at night";
+        p.startText = "06/01/2026 23:00:00";
+        p.outputPath = tc.Root() + "/Jazz.WAV";
+        p.lengthSeconds = 3600;
+        p.nSamplesPerSec = 44100;
+        p.cbSize = cbSize;
+        for (int i = 0; i < cbSize; ++i)
+            p.extra.append(char(i * 7));
+        const QString path = tc.ctx->folders.runtimeFolder + "/RECPARMS.TMP";
+        QFile::remove(path);
+        p.Write(path);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray text = file.readAll();
+        QVERIFY(text.endsWith("\r\n"));
+        const QStringList written = QString::fromUtf8(text.chopped(2)).split("\r\n");
+        QCOMPARE(written.size(), lines);
+        // Numbers in the run time's print form: a sign place and a trailing blank.
+        QCOMPARE(written.at(4), QString(" 3600 "));
+        QCOMPARE(written.at(7), QString(" 44100 "));
+        QCOMPARE(written.at(11), " " + QString::number(cbSize) + " ");
+
+        // The task's reading of it: every line trimmed.
+        const std::optional<RecParms> read = RecParms::Read(path);
+        QVERIFY(read);
+        QCOMPARE(read->description, QString("Jazz at night"));
+        QCOMPARE(read->outputPath, p.outputPath);
+        QCOMPARE(read->startText, p.startText);
+        QCOMPARE(read->nSamplesPerSec, 44100);
+        QCOMPARE(read->extra, p.extra);
+    }
+
+    void anOversizedFormatCannotBeWritten()
+    {
+        TestContext tc;
+        RecParms p;
+        p.cbSize = 257;
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, p.Write(tc.Root() + "/RECPARMS.TMP"));
+    }
+
+    void activation_data()
+    {
+        QTest::addColumn<QString>("plan");
+        QTest::addColumn<bool>("activated");
+        QTest::addColumn<int>("starts");
+        QTest::addColumn<QStringList>("messages");
+        QTest::addColumn<QString>("details");
+        QTest::addColumn<int>("toldToLeave");
+        QTest::newRow("ready at once") << "ready=0" << true << 1 << QStringList() << "" << 0;
+        QTest::newRow("errors in attempts 0 and 1, ready in 2")
+            << "ready=1053/1053/0" << true << 3 << QStringList() << "" << 2;
+        QTest::newRow("an error in every attempt")
+            << "ready=1050" << false << 3 << QStringList{"Another application is recording audio."}
+            << "Another application" << 3;
+        // A task that does not say who it is can't be found, so nor can it be told to leave.
+        QTest::newRow("ready but not the task's window")
+            << "title=Other" << false << 3 << QStringList{"Error activating recording task."}
+            << "Timeout occured.  - Try restarting software" << 0;
+        QTest::newRow("never ready")
+            << "ready=none" << false << 3 << QStringList{"Error activating recording task."}
+            << "Timeout occured.  Try restarting software" << 3;
+    }
+    void activation()
+    {
+        QFETCH(QString, plan);
+        QFETCH(bool, activated);
+        QFETCH(int, starts);
+        QFETCH(QStringList, messages);
+        QFETCH(QString, details);
+        QFETCH(int, toldToLeave);
+        Fixture f(plan);
+        // The ten seconds of the activation time-out pass quicker here.
+        f.link->SetActivationTimeout(500);
+        QCOMPARE(f.link->ActivateNightreeltask(), activated);
+        QCOMPARE(f.link->StartedTasks().size(), starts);
+        QCOMPARE(f.Messages(), messages);
+        if (!messages.isEmpty()) {
+            QCOMPARE(f.Entries().first().type, 2);
+            QVERIFY2(f.Entries().first().details.startsWith(details),
+                     qPrintable(f.Entries().first().details));
+        }
+        // Each task that failed to come up was told to leave.
+        QTRY_COMPARE(f.ToldToLeave(), toldToLeave);
+    }
+
+    void anOldTaskThatIgnoresCloseCostsTwoSeconds()
+    {
+        Fixture f("close=ignore");
+        QVERIFY(f.link->ActivateNightreeltask());
+        QElapsedTimer elapsed;
+        elapsed.start();
+        QVERIFY(f.link->ActivateNightreeltask());
+        QVERIFY(elapsed.elapsed() >= 2000 && elapsed.elapsed() < 3500);
+        QCOMPARE(f.link->StartedTasks().size(), 2);
+        QCOMPARE(f.Received(WM_CLOSE), 1);
+        QCOMPARE(f.Received(WM_QUIT), 1);
+        QVERIFY(f.Messages().isEmpty());
+    }
+
+    void anOldTaskThatCannotBeRemovedIsReportedOnce()
+    {
+        Fixture f("close=ignore quit=ignore");
+        QVERIFY(f.link->ActivateNightreeltask());
+        QVERIFY(!f.link->ActivateNightreeltask());
+        QCOMPARE(f.link->StartedTasks().size(), 1);
+        QCOMPARE(f.Messages(), QStringList{"Error removing Recording Process."});
+        QCOMPARE(f.Entries().first().details, QString("This may require Windows to be restarted."));
+    }
+
+    void aTaskReportingAnErrorTwiceStopsOnceAndReportsOnce()
+    {
+        Fixture f("afterstart=1046:1024+1046:1024");
+        QSignalSpy stopRecording(f.link.get(), &RecordingTaskLink::StopRecording);
+        QVERIFY(f.StartRecording());
+        QTRY_COMPARE(stopRecording.size(), 1);
+        QTest::qWait(300);
+        QCOMPARE(stopRecording.size(), 1);
+        QVERIFY(f.tc.ctx->recordingStatus.Failed);
+        QCOMPARE(f.Messages(), QStringList{"Error occurred during recording process."});
+        // The recording was stopped before the error was reported.
+        QCOMPARE(f.entriesAtStop, QList<int>{0});
+    }
+
+    void aStartRefusedIsTheTaskAnswer()
+    {
+        Fixture f("start=1021");
+        QVERIFY(f.link->ActivateNightreeltask());
+        QCOMPARE(f.link->SendMessage(REC_MSG_START), 1021);
+        QCOMPARE(f.link->SendMessage(REC_MSG_PAUSE_TOGGLE), 0);
+    }
+
+    void theStopWatchdog()
+    {
+        Fixture f("stop=1500");
+        QSignalSpy stopRecording(f.link.get(), &RecordingTaskLink::StopRecording);
+        QVERIFY(f.StartRecording());
+        f.link->RequestStop();
+        f.link->RequestStop();
+        QVERIFY(f.tc.ctx->recordingStatus.StopRequested);
+        QCOMPARE(f.link->tmrStopRecording.Interval(), 10000);
+        // The task is slow: the watchdog's tick comes first and stops the recording.
+        f.link->tmrStopRecording_Timer();
+        QCOMPARE(f.link->tmrStopRecording.Interval(), 0);
+        QCOMPARE(f.stops, 1);
+        // The late 1045 is handed on all the same and finds nothing to stop.
+        QTRY_COMPARE_WITH_TIMEOUT(stopRecording.size(), 2, 3000);
+        QCOMPARE(f.stops, 1);
+        QCOMPARE(f.Received(REC_MSG_STOP), 1);
+        QVERIFY(f.Messages().isEmpty());
+    }
+
+    void keepAlive_data()
+    {
+        QTest::addColumn<QString>("plan");
+        QTest::addColumn<bool>("recording");
+        QTest::addColumn<int>("ticks");
+        QTest::addColumn<int>("misses");
+        QTest::addColumn<bool>("failed");
+        QTest::addColumn<int>("questions");
+        QTest::newRow("answered") << "keepalive=1" << true << 5 << 0 << false << 5;
+        // Two misses, then an answer: the count starts again from nothing.
+        QTest::newRow("answered after the second question")
+            << "keepalive=2" << true << 6 << 0 << false << 6;
+        QTest::newRow("three unanswered") << "keepalive=0" << true << 3 << 3 << false << 3;
+        QTest::newRow("the fourth tick gives up") << "keepalive=0" << true << 4 << 3 << true << 3;
+        QTest::newRow("not recording") << "keepalive=0" << false << 5 << 0 << false << 0;
+    }
+    void keepAlive()
+    {
+        QFETCH(QString, plan);
+        QFETCH(bool, recording);
+        QFETCH(int, ticks);
+        QFETCH(int, misses);
+        QFETCH(bool, failed);
+        QFETCH(int, questions);
+        Fixture f(plan);
+        QVERIFY(f.StartRecording());
+        f.tc.ctx->appStatus.SetRecording(recording);
+        for (int i = 0; i < ticks; ++i) {
+            f.link->tmrKeepAlive_Timer();
+            QTest::qWait(100);
+        }
+        QCOMPARE(f.link->KeepAliveMissCount, qint16(misses));
+        QCOMPARE(f.tc.ctx->recordingStatus.Failed, failed);
+        QCOMPARE(f.stops, failed ? 1 : 0);
+        if (failed) {
+            QCOMPARE(f.Messages(), QStringList{"No response from recording task."});
+            QVERIFY(f.Entries().first().details.endsWith(
+                "system restart. \rThe error occured during the following recording: "
+                "Evening news"));
+        } else {
+            QVERIFY(f.Messages().isEmpty());
+        }
+        QCOMPARE(f.Received(REC_MSG_KEEPALIVE), questions);
+    }
+
+    void unexpectedTraffic_data()
+    {
+        QTest::addColumn<QString>("plan");
+        QTest::addColumn<QString>("code");
+        QTest::newRow("an unknown number") << "afterstart=1048:0"
+                                           << "Code= 1048 If problem";
+        QTest::newRow("bytes that are no message") << "afterstart=raw"
+                                                   << "Code=-1 If problem";
+    }
+    void unexpectedTraffic()
+    {
+        QFETCH(QString, plan);
+        QFETCH(QString, code);
+        Fixture f(plan);
+        QVERIFY(f.StartRecording());
+        QTRY_COMPARE(f.stops, 1);
+        QCOMPARE(f.Messages(), QStringList{"Run Time Error"});
+        const QString details = f.Entries().first().details;
+        QVERIFY2(details.startsWith("Unexpected code from recording process.  " + code),
+                 qPrintable(details));
+        QVERIFY(details.endsWith("try a different recording format or restarting Windows"));
+    }
+
+    void systemCommands_data()
+    {
+        QTest::addColumn<int>("command");
+        QTest::addColumn<bool>("toTray");
+        QTest::newRow("minimise") << 61472 << true;
+        QTest::newRow("minimise with the low bits set") << 61475 << true;
+        QTest::newRow("maximise") << 61488 << false;
+        QTest::newRow("close") << 61536 << false;
+    }
+    void systemCommands()
+    {
+        QFETCH(int, command);
+        QFETCH(bool, toTray);
+        TestContext tc;
+        RecordingTaskLink link(*tc.ctx);
+        QSignalSpy tray(&link, &RecordingTaskLink::MinimizeToTray);
+        qint32 result = -1;
+        QCOMPARE(link.sbcls1_WndProc(WM_SYSCOMMAND, command, 0, result), toTray);
+        QCOMPARE(tray.size(), toTray ? 1 : 0);
+        QCOMPARE(result, toTray ? 0 : -1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTaskLink)
+#include "test_tasklink.moc"
