@@ -158,10 +158,39 @@ void frmMain::ConnectCommands()
     Heartbeat& heartbeat = m_controller.heartbeat;
     connect(&heartbeat, &Heartbeat::UpdateStatusBarPlus, this, &frmMain::UpdateStatusBarPlus);
     connect(&heartbeat, &Heartbeat::StopRecordingDue, this, &frmMain::StopRecordingRequested);
+    ConnectRecordingControl();
     connect(&heartbeat, &Heartbeat::PurgeDue, this, [this] {
         RecordingsList(m_ctx).Purge();
         AfterRecordingsChange();
     });
+}
+
+void frmMain::ConnectRecordingControl()
+{
+    RecordingControl& recording = m_recordingControl;
+    connect(&m_controller.heartbeat, &Heartbeat::StartRecordingDue, &recording,
+            [&recording](qint32 programId, double start, double end, const QString& description) {
+                QString text = description;
+                recording.StartRecording(programId, start, end, text);
+            });
+    // The clock, the disk guard and the user's confirmed stop all end in one stop request.
+    connect(this, &frmMain::StopRecordingRequested, &recording.link,
+            &RecordingTaskLink::RequestStop);
+    connect(&recording, &RecordingControl::UpdateModeDisplay, this, &frmMain::UpdateModeDisplay);
+    connect(&recording, &RecordingControl::UpdateRecordingsButtonsAndMenus, this,
+            &frmMain::UpdateRecordingsButtonsAndMenus);
+    connect(&recording, &RecordingControl::ShowRecordingStatusForm, this,
+            &frmMain::ShowRecordingStatusForm);
+    connect(&recording, &RecordingControl::UnloadRecordingStatusForm, this,
+            [this] { m_recordingStatusForm.reset(); });
+    connect(&recording.link, &RecordingTaskLink::MinimizeToTray, this, &frmMain::HideToTray);
+    for (const char* name : {"ToolbarMain.Stop", "mnuStopCurrentRecording"})
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
+            m_recordingControl.HandleStopRecordingRequest(m_ctx.options.ConfirmStopManualRecording);
+        });
+    for (const char* name : {"ToolbarMain.Pause", "mnuPauseRecording"})
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
+                [this] { m_recordingControl.ToolbarPauseResume(QStringLiteral("T")); });
 }
 
 void frmMain::showEvent(QShowEvent* event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "diagnostics/clsError.h"
+#include "recording/RecordingControl.h"
 #include "shell/MainFormController.h"
 #include "shell/frmMainUi.h"
 
@@ -35,6 +36,7 @@ public:
     void ShowRecordingStatusForm();
 
     MainFormController& Controller() { return m_controller; }
+    RecordingControl& Recording() { return m_recordingControl; }
     frmMainUi ui;
 
 signals:
@@ -49,6 +51,7 @@ protected:
 private:
     void ConnectCommands();
     void ConnectRecordingCommands();
+    void ConnectRecordingControl();
     // The commands of the recordings list, each trapped under the system's name.
     void RecordingsPlay();
     void ShowRecordingDetails();
@@ -76,6 +79,7 @@ private:
 
     AppContext& m_ctx;
     MainFormController m_controller;
+    RecordingControl m_recordingControl{m_ctx};
     RecordsetModel* m_programsModel = nullptr;
     RecordsetModel* m_recordingsModel = nullptr;
     QSystemTrayIcon* m_tray = nullptr;

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "formats/clsRecordingFormat.h"
+
+#include <QString>
+#include <memory>
+
+class AppContext;
+
+// One recording waiting to be turned from its PCM capture into the MP3 the user asked for.
+// The end of a recording puts it into the conversion queue; the queue writes the row of
+// Recordings and runs the launch after the recording once the MP3 exists.
+class clsConvertToMP3Request {
+public:
+    explicit clsConvertToMP3Request(AppContext& ctx)
+        : SourceFormat(ctx)
+        , DestinationFormat(ctx)
+    {
+    }
+
+    // The ".WAV.TMP" capture and the final ".MP3" (or ".WAV") path.
+    QString SourceFile;
+    QString DestinationFile;
+    clsRecordingFormat SourceFormat;
+    clsRecordingFormat DestinationFormat;
+    QString Description;
+    // Empty when the file keeps the ".MP3" extension: such a file carries an ID3 tag instead.
+    QString SoftwareName;
+    double StartTime = 0.0;
+    // Set when the capture has ended.
+    double EndTime = 0.0;
+    bool ManualRecording = false;
+    QString LaunchAppAfter;
+    bool LaunchAfterOnlyIfOk = false;
+};
+
+using Mp3ConvertQueueList = QList<std::shared_ptr<clsConvertToMP3Request>>;

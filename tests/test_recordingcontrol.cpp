@@ -1,0 +1,206 @@
+// The rules of the recording control that act before any recording task is asked: the
+// starts that end at once, and the user's stop of a recording or of a conversion.
+#include "Programs.h"
+#include "TestContext.h"
+#include "recording/RecordingControl.h"
+
+#include <QSqlQuery>
+#include <QTest>
+#include <memory>
+
+namespace {
+
+struct Fixture {
+    Fixture()
+    {
+        tc.OpenDatabase();
+        control = std::make_unique<RecordingControl>(*tc.ctx);
+        // No task may be started by these tests.
+        control->link.SetTaskProgram(tc.Root() + "/no-such-task");
+        tc.ctx->options.DefaultRecordingDirectory = tc.Root();
+        tc.clock.Set(Programs::At(2026, 6, 1, "10:00:00"));
+    }
+
+    AppContext& ctx() { return *tc.ctx; }
+
+    QStringList LogMessages() const
+    {
+        QStringList messages;
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec("SELECT Message || ' | ' || Details FROM EventLog ORDER BY ID");
+        while (q.next())
+            messages << q.value(0).toString();
+        return messages;
+    }
+
+    TestContext tc;
+    std::unique_ptr<RecordingControl> control;
+};
+
+} // namespace
+
+class TestRecordingControl : public QObject {
+    Q_OBJECT
+
+private slots:
+    void startThatEndsAtOnce_data();
+    void startThatEndsAtOnce();
+    void nullPlayerTitleUnderAfterProfileFailsTheStart();
+    void stopRequest_data();
+    void stopRequest();
+};
+
+void TestRecordingControl::startThatEndsAtOnce_data()
+{
+    QTest::addColumn<QString>("situation");
+    QTest::addColumn<QString>("boxText");
+
+    QTest::newRow("suspended") << "suspended"
+                               << "";
+    QTest::newRow("program row gone") << "row gone"
+                                      << "";
+    QTest::newRow("manual without folder")
+        << "no folder"
+        << "Invalid Recording Directory. Select a recording directory in Options.";
+}
+
+// Nothing is logged, no task is started, and Recording is clear again.
+void TestRecordingControl::startThatEndsAtOnce()
+{
+    QFETCH(QString, situation);
+    QFETCH(QString, boxText);
+
+    Fixture f;
+    qint32 id = 4711;
+    if (situation == "suspended") {
+        f.tc.messageBox.answers << MsgResult::Yes;
+        f.ctx().appStatus.HandleSuspendMenuClickEvent(f.tc.messageBox);
+        QVERIFY(f.ctx().appStatus.Suspended());
+        f.tc.messageBox.asked.clear();
+        id = qint32(
+            f.tc.AddProgram(Programs::Weekly("Suspended", "10:00:00", "11:00:00", "1111111")));
+        f.ctx().database.DataPrograms.Requery();
+    } else if (situation == "no folder") {
+        id = -1;
+        f.ctx().options.DefaultRecordingDirectory.clear();
+    }
+    const double now = f.ctx().Now();
+    QString description = "Test";
+    f.control->StartRecording(id, now, now + 0.01, description);
+
+    QVERIFY(!f.ctx().appStatus.Recording());
+    QVERIFY(f.control->link.StartedTasks().isEmpty());
+    QVERIFY(f.LogMessages().isEmpty());
+    if (boxText.isEmpty()) {
+        QVERIFY(f.tc.messageBox.asked.isEmpty());
+    } else {
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.tc.messageBox.asked[0].title, QString("Error"));
+        QCOMPARE(f.tc.messageBox.asked[0].text, boxText);
+    }
+}
+
+// Intended: a NULL StreamingPlayerClose is only tolerated when MixerProfileAfter is NULL too;
+// otherwise the start fails in its trap and Recording stays set for the clock to end.
+void TestRecordingControl::nullPlayerTitleUnderAfterProfileFailsTheStart()
+{
+    Fixture f;
+    QVariantHash row = Programs::Weekly("Quirk", "10:00:00", "11:00:00", "1111111");
+    row["StreamingPlayerClose"] = QVariant();
+    row["MixerProfileAfter"] = "evening";
+    const qint32 id = qint32(f.tc.AddProgram(row));
+    f.ctx().database.DataPrograms.Requery();
+    qint32 programId = id;
+    QString description;
+    const double now = f.ctx().Now();
+    f.control->StartRecording(programId, now, now + 0.01, description);
+
+    QVERIFY(f.ctx().appStatus.Recording());
+    QVERIFY(f.control->link.StartedTasks().isEmpty());
+    const QStringList messages = f.LogMessages();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages[0].contains("StartRecording"), qPrintable(messages[0]));
+}
+
+void TestRecordingControl::stopRequest_data()
+{
+    QTest::addColumn<bool>("recording");
+    QTest::addColumn<qint32>("programId");
+    QTest::addColumn<bool>("convert");
+    QTest::addColumn<bool>("confirm");
+    QTest::addColumn<bool>("answerYes");
+    QTest::addColumn<int>("queued");
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<bool>("stopped");
+
+    const QString save = "This will stop and save the recording in progress.  Are you sure you "
+                         "want to stop recording?";
+    const QString convert = "This will stop and convert the recording in progress to MP3.  Are "
+                            "you sure you want to stop recording?";
+    const QString conversion = "This will stop and save the MP3 conversion in progress.  Are you "
+                               "sure you want to stop the MP3 conversion?";
+    const QString conversionAndQueue =
+        "This will stop and save the MP3 conversion in progress and abort the remaining MP3 "
+        "conversions in the queue.   Are you sure you want to stop the MP3 conversion?";
+
+    QTest::newRow("manual, no confirmation")
+        << true << -1 << false << false << false << 0 << "" << true;
+    QTest::newRow("manual, confirmed no")
+        << true << -1 << false << true << false << 0 << save << false;
+    QTest::newRow("program always asks")
+        << true << 7 << false << false << true << 0 << save << true;
+    QTest::newRow("program to convert, no")
+        << true << 7 << true << false << false << 0 << convert << false;
+    QTest::newRow("conversion, queue empty")
+        << false << -1 << false << true << true << 0 << conversion << true;
+    QTest::newRow("conversion, queue waiting")
+        << false << -1 << false << true << true << 2 << conversionAndQueue << true;
+    QTest::newRow("conversion, no")
+        << false << -1 << false << true << false << 0 << conversion << false;
+}
+
+// The stop of a recording posts one request; the stop of a conversion raises its flag.
+void TestRecordingControl::stopRequest()
+{
+    QFETCH(bool, recording);
+    QFETCH(qint32, programId);
+    QFETCH(bool, convert);
+    QFETCH(bool, confirm);
+    QFETCH(bool, answerYes);
+    QFETCH(int, queued);
+    QFETCH(QString, question);
+    QFETCH(bool, stopped);
+
+    Fixture f;
+    AppContext& ctx = f.ctx();
+    if (recording)
+        ctx.appStatus.SetRecording(true);
+    else
+        ctx.appStatus.SetConverting(true);
+    ctx.recordingStatus.ProgramId = programId;
+    ctx.recordingStatus.ConvertToMP3 = convert;
+    for (int i = 0; i < queued; ++i)
+        f.control->Mp3ConvertQueue.append(std::make_shared<clsConvertToMP3Request>(ctx));
+    f.tc.messageBox.answers << (answerYes ? MsgResult::Yes : MsgResult::No);
+
+    f.control->HandleStopRecordingRequest(confirm);
+
+    if (question.isEmpty()) {
+        QVERIFY(f.tc.messageBox.asked.isEmpty());
+    } else {
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.tc.messageBox.asked[0].text, question);
+        QCOMPARE(f.tc.messageBox.asked[0].buttons, MsgButtons::YesNo);
+    }
+    if (recording) {
+        QCOMPARE(ctx.recordingStatus.StopRequested, stopped);
+        QCOMPARE(f.control->link.tmrStopRecording.Interval(), stopped ? 10000 : 0);
+        QVERIFY(!ctx.StopMp3Conversion);
+    } else {
+        QCOMPARE(ctx.StopMp3Conversion, stopped);
+        QVERIFY(!ctx.recordingStatus.StopRequested);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestRecordingControl)
+#include "test_recordingcontrol.moc"

@@ -1,0 +1,521 @@
+// One recording from a row of Programs to a file and a row of Recordings, with the real
+// recording task capturing from a PulseAudio server of the test's own: the start by the
+// heartbeat, the file's name, the end by the clock, the row, the occurrence's mark, the
+// next occurrence, the launch after the recording, and the ways a recording fails.
+#include "Programs.h"
+#include "PulseFixture.h"
+#include "TestContext.h"
+#include "formats/ModuleFileTime.h"
+#include "recording/RecParms.h"
+#include "recording/RecordingControl.h"
+#include "shell/Heartbeat.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSqlQuery>
+#include <QTest>
+#include <functional>
+#include <memory>
+
+namespace {
+
+// Monday, 1 June 2026.
+const QDate kDay(2026, 6, 1);
+
+struct LogEntry {
+    int type;
+    QString message;
+    QString details;
+};
+
+struct RecordingRow {
+    QString title;
+    QString file;
+    double start;
+    double end;
+    double size;
+};
+
+// 16-bit mono PCM at 44100 Hz, as the program editor writes it.
+QVariantHash WithPcmFormat(QVariantHash row)
+{
+    row.insert({{"wfx_wFormatTag", 1},
+                {"wfx_nChannels", 1},
+                {"wfx_nSamplesPerSec", 44100},
+                {"wfx_nAvgBytesPerSec", 88200},
+                {"wfx_nBlockAlign", 2},
+                {"wfx_nBitsPerSample", 16},
+                {"wfx_cbSize", 0},
+                {"Flags", 0},
+                {"CompressionMethod", "PCM 44,100 Hz, 16 Bit, Mono"}});
+    return row;
+}
+
+// The level and the rough frequency of a wave file, as sox measures them.
+bool ToneOf(const QString& path, double& rms, double& frequency)
+{
+    QProcess sox;
+    sox.start("sox", {path, "-n", "stat"});
+    if (!sox.waitForFinished(10000))
+        return false;
+    const QString out = QString::fromUtf8(sox.readAllStandardError());
+    const auto value = [&](const QString& label) {
+        const auto m = QRegularExpression(label + R"(:\s+([-0-9.]+))").match(out);
+        return m.hasMatch() ? m.captured(1).toDouble() : -1.0;
+    };
+    rms = value("RMS +amplitude");
+    frequency = value("Rough +frequency");
+    return rms >= 0 && frequency >= 0;
+}
+
+// A context, a heartbeat and the recording control wired as the main window wires them,
+// with the real recording task.
+class Cycle {
+public:
+    Cycle()
+    {
+        tc.OpenDatabase();
+        folder = tc.Root() + "/recordings";
+        QDir().mkpath(folder);
+        tc.ctx->options.DefaultRecordingDirectory = folder;
+        tc.ctx->appReady = true;
+        heartbeat = std::make_unique<Heartbeat>(*tc.ctx);
+        control = std::make_unique<RecordingControl>(*tc.ctx);
+        control->link.SetTaskProgram(QCoreApplication::applicationDirPath() +
+                                     "/../src/nightreel-rec");
+        QObject::connect(heartbeat.get(), &Heartbeat::StartRecordingDue,
+                         [this](qint32 id, double start, double end, const QString& description) {
+                             QString text = description;
+                             ++starts;
+                             control->StartRecording(id, start, end, text);
+                         });
+        QObject::connect(heartbeat.get(), &Heartbeat::StopRecordingDue,
+                         [this] { control->link.RequestStop(); });
+    }
+
+    AppContext& ctx() { return *tc.ctx; }
+
+    qint64 AddProgram(const QVariantHash& row)
+    {
+        const qint64 id = tc.AddProgram(WithPcmFormat(row));
+        ctx().database.DataPrograms.Requery();
+        return id;
+    }
+
+    // Runs the clock at real speed from `from`, ticking the heartbeat by hand, until the
+    // recording has begun and ended again or the limit is reached.
+    bool RecordOnce(double from, const std::function<void()>& whileRecording = {})
+    {
+        tc.clock.Set(from);
+        ctx().scheduler.ScheduleNextRecording();
+        QElapsedTimer elapsed;
+        elapsed.start();
+        bool began = false;
+        while (elapsed.elapsed() < 20000) {
+            tc.clock.Set(AutomationDate::AddSeconds(from, elapsed.elapsed() / 1000.0));
+            heartbeat->Timer1_Timer();
+            const bool recording = ctx().appStatus.Recording();
+            if ((recording || starts > 0) && !began) {
+                began = true;
+                parmsAtStart = RecParms::Read(control->link.ParameterFile());
+                durationAtStart = ctx().recordingStatus.DurationSeconds;
+                if (whileRecording)
+                    whileRecording();
+            }
+            if (began && !ctx().appStatus.Recording())
+                return true;
+            QTest::qWait(50);
+        }
+        return false;
+    }
+
+    QList<LogEntry> Entries() const
+    {
+        QList<LogEntry> entries;
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec("SELECT Type, Message, Details FROM EventLog ORDER BY ID");
+        while (q.next())
+            entries.append({q.value(0).toInt(), q.value(1).toString(), q.value(2).toString()});
+        return entries;
+    }
+
+    QList<RecordingRow> Recordings() const
+    {
+        QList<RecordingRow> rows;
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec("SELECT Title, File, StartTime, EndTime, Size FROM Recordings ORDER BY ID");
+        while (q.next())
+            rows.append({q.value(0).toString(), q.value(1).toString(), q.value(2).toDouble(),
+                         q.value(3).toDouble(), q.value(4).toDouble()});
+        return rows;
+    }
+
+    QVariant ProgramColumn(qint64 id, const QString& column) const
+    {
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec(QStringLiteral("SELECT [%1] FROM Programs WHERE ID = %2").arg(column).arg(id));
+        return q.next() ? q.value(0) : QVariant();
+    }
+
+    QStringList FilesInFolder() const { return QDir(folder).entryList(QDir::Files); }
+
+    TestContext tc;
+    QString folder;
+    std::unique_ptr<Heartbeat> heartbeat;
+    std::unique_ptr<RecordingControl> control;
+    std::optional<RecParms> parmsAtStart;
+    qint32 durationAtStart = -1;
+    int starts = 0;
+};
+
+double At(const QString& time, int addDays = 0)
+{
+    return Programs::At(kDay.year(), kDay.month(), kDay.day(), time) + addDays;
+}
+
+} // namespace
+
+class TestRecordingCycle : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void scheduledProgramRecordsIntoItsFile_data();
+    void scheduledProgramRecordsIntoItsFile();
+    void openWindowStartsAtOnceAndEndsByTheClock();
+    void dayLongRecordingStopsByTheClock();
+    void recordingWithoutDataFails();
+    void manualRecordingNeedsHalfAMegabyteAboveTheLimit();
+    void recordingToConvertCapturesPcmAndQueuesIt();
+    void captureErrorDeletesThePartialFile();
+    void noSoundServerMeansNoRecording();
+
+private:
+    std::unique_ptr<PulseFixture> m_pulse;
+};
+
+void TestRecordingCycle::initTestCase()
+{
+    if (!QFile::exists(QCoreApplication::applicationDirPath() + "/../src/nightreel-rec"))
+        QSKIP("the recording task is not built");
+    m_pulse = std::make_unique<PulseFixture>();
+    if (!m_pulse->Running())
+        QSKIP("no PulseAudio server could be started");
+    QVERIFY(m_pulse->PlayTone());
+}
+
+void TestRecordingCycle::scheduledProgramRecordsIntoItsFile_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QString>("userName");
+    QTest::addColumn<QString>("expectedName");
+    QTest::addColumn<bool>("launcherFails");
+
+    // The start is at 10:00:05 on 1 June 2026 by the test's clock.
+    QTest::newRow("stamp") << ""
+                           << ""
+                           << ""
+                           << "060126_100005.WAV" << false;
+    QTest::newRow("prefix and suffix") << "Show_"
+                                       << "_am"
+                                       << ""
+                                       << "Show_060126_100005_am.WAV" << false;
+    QTest::newRow("user's name, launch fails") << "Show_"
+                                               << "_am"
+                                               << "  Morning news "
+                                               << "Morning news.WAV" << true;
+}
+
+// A weekly program due within seconds records into the recording folder; a file and a row
+// of the same name are replaced; the row's times are the file's; the occurrence is marked
+// and next week's is scheduled; the command after the recording gets the file's parts.
+void TestRecordingCycle::scheduledProgramRecordsIntoItsFile()
+{
+    QFETCH(QString, prefix);
+    QFETCH(QString, suffix);
+    QFETCH(QString, userName);
+    QFETCH(QString, expectedName);
+    QFETCH(bool, launcherFails);
+
+    Cycle c;
+    QVariantHash row = Programs::Weekly("Morning news", "10:00:05", "10:00:08", "0100000");
+    row.insert({{"FilenamePrefix", prefix},
+                {"FilenameSuffix", suffix},
+                {"FilenameUser", userName},
+                {"LaunchAppAfter", "  /usr/bin/after %d|%p|%f|%b|%e|%%|%x  "},
+                {"LaunchAfterOnlyIfOk", -1}});
+    c.AddProgram(row);
+    const QString path = c.folder + "/" + expectedName;
+    const QString expectedCommand = "/usr/bin/after " + c.folder + "/|" + path + "|" +
+                                    expectedName + "|" + expectedName.chopped(4) + "|WAV|%|%x";
+    if (launcherFails)
+        c.tc.launcher.failing.insert(expectedCommand);
+
+    // An older recording of the same name, on disk and in the list.
+    {
+        QFile old(path);
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        old.write(QByteArray(4096, 'x'));
+        Recordset rs = c.ctx().database.DataRecordings.recordset();
+        rs.AddNew();
+        rs.SetValue("Title", "Older");
+        rs.SetValue("File", path);
+        rs.Update();
+    }
+
+    QVERIFY(c.RecordOnce(At("10:00:04")));
+    QCOMPARE(c.starts, 1);
+
+    QCOMPARE(c.FilesInFolder(), QStringList{expectedName});
+    double rms = 0, frequency = 0;
+    QVERIFY(ToneOf(path, rms, frequency));
+    QVERIFY2(rms > 0.1, qPrintable(QString::number(rms)));
+    QVERIFY2(frequency > 900 && frequency < 1100, qPrintable(QString::number(frequency)));
+
+    const QList<RecordingRow> rows = c.Recordings();
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows[0].title, QString("Morning news"));
+    QCOMPARE(rows[0].file, path);
+    // The times describe the file (written just now), not the test clock of June 2026.
+    const double fileTime = ModuleFileTime::FileDateTime(path);
+    QCOMPARE(rows[0].end, fileTime);
+    // The length is what the data holds: the task's hand-shake shortens a recording whose
+    // end is kept by the clock.
+    const double seconds = (rows[0].end - rows[0].start) * 86400.0;
+    const double held = QFileInfo(path).size() / 88200.0;
+    QVERIFY2(seconds >= 1.0 && std::abs(seconds - held) <= 0.6,
+             qPrintable(QString("%1 %2").arg(seconds).arg(held)));
+    QCOMPARE(float(rows[0].size), ModuleFileTime::GetFileSizeMbytes(path));
+
+    const NextProgram& next = c.ctx().scheduler.next;
+    QVERIFY(next.NextProgramFound);
+    QCOMPARE(next.NextProgramStart, At("10:00:05", 7));
+    QCOMPARE(c.ctx().options.RecentRecordingFilename, path);
+
+    QCOMPARE(c.tc.launcher.started, QStringList{expectedCommand});
+    const QList<LogEntry> entries = c.Entries();
+    const bool logged = std::any_of(entries.cbegin(), entries.cend(), [](const LogEntry& e) {
+        return e.message == "Invalid Launch Application command" &&
+               e.details.contains("that the application exists.");
+    });
+    QCOMPARE(logged, launcherFails);
+    QVERIFY(!c.ctx().appStatus.Recording());
+}
+
+// A program whose window is already open starts on the first tick, with the length of what
+// is left of it, and ends at its end.
+void TestRecordingCycle::openWindowStartsAtOnceAndEndsByTheClock()
+{
+    Cycle c;
+    c.AddProgram(Programs::Weekly("Window", "10:00:00", "10:00:04", "1111111"));
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QVERIFY(c.RecordOnce(At("10:00:02")));
+    QCOMPARE(c.durationAtStart, 2);
+    QVERIFY(c.parmsAtStart);
+    QCOMPARE(c.parmsAtStart->lengthSeconds, 2);
+    QCOMPARE(c.ctx().recordingStatus.EndTime, At("10:00:04"));
+    QVERIFY(c.ctx().Now() > At("10:00:04"));
+    QVERIFY2(elapsed.elapsed() < 8000, qPrintable(QString::number(elapsed.elapsed())));
+    QCOMPARE(c.Recordings().size(), 1);
+}
+
+// A day-long recording loses its whole day in the length written for the task; the clock
+// then jumps to three seconds before the end, and the stop still comes from the clock.
+void TestRecordingCycle::dayLongRecordingStopsByTheClock()
+{
+    Cycle c;
+    AppContext& ctx = c.ctx();
+    ctx.recordingStatus.ProgramId = -1;
+    c.control->ManualFormat.SetToPcm(1, 22050, 16);
+    const double from = At("12:00:00");
+    c.tc.clock.Set(from);
+    qint32 id = -1;
+    QString description = "All day";
+    c.control->StartRecording(id, from, from + 1.0, description);
+    QVERIFY(ctx.appStatus.Recording());
+    QCOMPARE(ctx.recordingStatus.DurationSeconds, 0);
+    const std::optional<RecParms> parms = RecParms::Read(c.control->link.ParameterFile());
+    QVERIFY(parms);
+    QCOMPARE(parms->lengthSeconds, 0);
+
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (ctx.appStatus.Recording() && elapsed.elapsed() < 15000) {
+        c.tc.clock.Set(AutomationDate::AddSeconds(from, 86397 + elapsed.elapsed() / 1000.0));
+        c.heartbeat->Timer1_Timer();
+        QTest::qWait(50);
+    }
+    QVERIFY(!ctx.appStatus.Recording());
+    QVERIFY(ctx.Now() > from + 1.0);
+    QVERIFY2(elapsed.elapsed() > 2500, qPrintable(QString::number(elapsed.elapsed())));
+    QCOMPARE(c.Recordings().size(), 1);
+}
+
+// A recording paused at once holds no sound: it fails with the advice on short recordings,
+// leaves neither file nor row, and the command meant only for good recordings is not run.
+void TestRecordingCycle::recordingWithoutDataFails()
+{
+    Cycle c;
+    QVariantHash row = Programs::Weekly("Silent", "10:00:01", "10:00:03", "0100000");
+    row.insert({{"LaunchAppAfter", "/usr/bin/after %p"}, {"LaunchAfterOnlyIfOk", -1}});
+    c.AddProgram(row);
+    QVERIFY(c.RecordOnce(At("10:00:00"), [&] { c.control->ToolbarPauseResume("p"); }));
+    const QList<LogEntry> entries = c.Entries();
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries[0].type, 2);
+    QCOMPARE(entries[0].message, QString("Recording failed"));
+    QVERIFY(entries[0].details.contains("Silent"));
+    QVERIFY(entries[0].details.contains("try extending the time by a few seconds."));
+    QVERIFY(c.ctx().recordingStatus.Failed);
+    QVERIFY(c.FilesInFolder().isEmpty());
+    QVERIFY(c.Recordings().isEmpty());
+    QVERIFY(c.tc.launcher.started.isEmpty());
+}
+
+// A manual request is refused with free space a quarter megabyte above the limit and
+// accepted with half a megabyte; a manual recording stops without a question.
+void TestRecordingCycle::manualRecordingNeedsHalfAMegabyteAboveTheLimit()
+{
+    Cycle c;
+    AppContext& ctx = c.ctx();
+    ctx.options.StopRecMegsLeft = 25;
+    ctx.options.ConfirmStopManualRecording = false;
+    ctx.recordingStatus.ProgramId = -1;
+    c.control->ManualFormat.SetToPcm(1, 22050, 16);
+    double free = 25.25;
+    c.control->FreeMegabytes = [&free](const QString&) {
+        return free;
+    };
+    const double now = At("12:00:00");
+    c.tc.clock.Set(now);
+
+    qint32 id = -1;
+    QString description = "Manual";
+    c.control->StartRecording(id, now, AutomationDate::AddSeconds(now, 60), description);
+    QVERIFY(!ctx.appStatus.Recording());
+    QCOMPARE(c.tc.messageBox.asked.size(), 1);
+    QCOMPARE(c.tc.messageBox.asked[0].title,
+             QString("Recording not started due to insufficient disk space."));
+    QVERIFY(c.control->link.StartedTasks().isEmpty());
+
+    free = 25.5;
+    c.control->StartRecording(id, now, AutomationDate::AddSeconds(now, 60), description);
+    QVERIFY(ctx.appStatus.Recording());
+    QCOMPARE(c.control->link.StartedTasks().size(), 1);
+    QTest::qWait(1500);
+    c.control->HandleStopRecordingRequest(ctx.options.ConfirmStopManualRecording);
+    QTRY_VERIFY_WITH_TIMEOUT(!ctx.appStatus.Recording(), 12000);
+    QCOMPARE(c.tc.messageBox.asked.size(), 1);
+    QCOMPARE(c.FilesInFolder(), QStringList{"060126_120000.WAV"});
+    QCOMPARE(c.Recordings().size(), 1);
+    QCOMPARE(c.Recordings()[0].title, QString("Manual"));
+}
+
+// An MP3 format to be converted is captured as 16-bit PCM into a ".WAV.TMP" file beside the
+// final name, and the end hands the request to the conversion queue instead of writing a row.
+void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
+{
+    Cycle c;
+    AppContext& ctx = c.ctx();
+    ctx.recordingStatus.ProgramId = -1;
+    const quint8 extra[12] = {1, 0, 2, 0, 0, 0, 0x20, 0x01, 1, 0, 0x71, 0x05};
+    c.control->ManualFormat.SetWaveFormatEx(85, 2, 22050, 8000, 1, 0, 12, extra);
+    c.control->ManualFormat.ConvertToMP3 = true;
+    c.control->ManualFormat.SaveMP3FileExtension = true;
+    c.control->FreeMegabytes = [](const QString&) {
+        return 100000.0;
+    };
+    const double from = At("12:00:00");
+    c.tc.clock.Set(from);
+    qint32 id = -1;
+    QString description = "To convert";
+    c.control->StartRecording(id, from, AutomationDate::AddSeconds(from, 60), description);
+    QVERIFY(ctx.appStatus.Recording());
+    const std::optional<RecParms> parms = RecParms::Read(c.control->link.ParameterFile());
+    QVERIFY(parms);
+    QCOMPARE(parms->wFormatTag, qint16(1));
+    QCOMPARE(parms->nChannels, 2);
+    QCOMPARE(parms->nSamplesPerSec, 22050);
+    QCOMPARE(parms->nBitsPerSample, 16);
+    const QString capture = c.folder + "/060126_120000.WAV.TMP";
+    QCOMPARE(parms->outputPath, capture);
+
+    QTest::qWait(1500);
+    c.tc.clock.AdvanceSeconds(2);
+    c.control->HandleStopRecordingRequest(false);
+    QTRY_VERIFY_WITH_TIMEOUT(!ctx.appStatus.Recording(), 12000);
+
+    QCOMPARE(c.FilesInFolder(), QStringList{"060126_120000.WAV.TMP"});
+    QVERIFY(c.Recordings().isEmpty());
+    QCOMPARE(c.control->Mp3ConvertQueue.size(), 1);
+    const clsConvertToMP3Request& request = *c.control->Mp3ConvertQueue.constFirst();
+    QCOMPARE(request.SourceFile, capture);
+    QCOMPARE(request.DestinationFile, c.folder + "/060126_120000.MP3");
+    QCOMPARE(request.SourceFormat.wFormatTag(), quint16(1));
+    QCOMPARE(request.DestinationFormat.wFormatTag(), quint16(85));
+    QCOMPARE(request.Description, QString("To convert"));
+    // A file that keeps the .MP3 extension gets an ID3 tag, not the software's name.
+    QVERIFY(request.SoftwareName.isEmpty());
+    QVERIFY(request.ManualRecording);
+    QCOMPARE(request.StartTime, from);
+    QCOMPARE(request.EndTime, ctx.Now());
+}
+
+// The sound server goes away during capture: the task reports it, the partial file is
+// deleted and no row is written.
+void TestRecordingCycle::captureErrorDeletesThePartialFile()
+{
+    Cycle c;
+    const qint64 id =
+        c.AddProgram(Programs::Weekly("Interrupted", "10:00:01", "10:00:30", "0100000"));
+    QVERIFY(c.RecordOnce(At("10:00:00"), [this] {
+        QTest::qWait(1000);
+        m_pulse->Stop();
+    }));
+    const QList<LogEntry> entries = c.Entries();
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries[0].type, 2);
+    QVERIFY(c.ctx().recordingStatus.Failed);
+    QVERIFY(c.FilesInFolder().isEmpty());
+    QVERIFY(c.Recordings().isEmpty());
+    // The window is still open: the occurrence is marked and is not started again.
+    QCOMPARE(c.ProgramColumn(id, "RecordingCancelled").toInt(), -1);
+    QCOMPARE(c.ProgramColumn(id, "RecordingCancelledEndDateAndTime").toDouble(), At("10:00:30"));
+    for (int i = 0; i < 10; ++i) {
+        c.tc.clock.AdvanceSeconds(0.25);
+        c.heartbeat->Timer1_Timer();
+    }
+    QCOMPARE(c.starts, 1);
+    QVERIFY(!c.ctx().appStatus.Recording());
+}
+
+// Without a sound server the task can't start: the activation logs why, and there is no
+// file and no row.
+void TestRecordingCycle::noSoundServerMeansNoRecording()
+{
+    m_pulse->Stop();
+    Cycle c;
+    QVariantHash row = Programs::Weekly("No sound", "10:00:01", "10:00:05", "0100000");
+    row.insert({{"LaunchAppAfter", "/usr/bin/after %f"}, {"LaunchAfterOnlyIfOk", 0}});
+    const qint64 id = c.AddProgram(row);
+    QVERIFY(c.RecordOnce(At("10:00:00")));
+    QVERIFY(!c.Entries().isEmpty());
+    QCOMPARE(c.Entries().constFirst().type, 2);
+    QVERIFY(c.ctx().recordingStatus.Failed);
+    QVERIFY(c.FilesInFolder().isEmpty());
+    QVERIFY(c.Recordings().isEmpty());
+    // The command not limited to good recordings runs after a failed one too.
+    QCOMPARE(c.tc.launcher.started.size(), 1);
+    QVERIFY(c.tc.launcher.started[0].startsWith("/usr/bin/after 060126_1000"));
+    QCOMPARE(c.ProgramColumn(id, "RecordingCancelled").toInt(), -1);
+}
+
+QTEST_GUILESS_MAIN(TestRecordingCycle)
+#include "test_recordingcycle.moc"
