@@ -1,6 +1,6 @@
 #include "common/AutomationDate.h"
 #include "formats/CodecCatalogue.h"
-#include "formats/FileInspection.h"
+#include "formats/FileRowPreview.h"
 #include "formats/MediaReaders.h"
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"

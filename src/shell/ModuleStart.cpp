@@ -3,7 +3,7 @@
 #include "common/Clock.h"
 #include "common/ProcessLauncher.h"
 #include "common/TextHelpers.h"
-#include "formats/FileInspection.h"
+#include "formats/FileRowPreview.h"
 #include "platform/AudioDevices.h"
 #include "shell/AppContext.h"
 #include "shell/WidgetMessageBox.h"

@@ -1,4 +1,4 @@
-#include "formats/FileInspection.h"
+#include "formats/FileRowPreview.h"
 
 #include "common/AutomationDate.h"
 #include "formats/MediaReaders.h"
