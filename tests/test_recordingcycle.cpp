@@ -2,6 +2,7 @@
 // recording task capturing from a PulseAudio server of the test's own: the start by the
 // heartbeat, the file's name, the end by the clock, the row, the occurrence's mark, the
 // next occurrence, the launch after the recording, and the ways a recording fails.
+#include "ProgramListFixture.h"
 #include "Programs.h"
 #include "PulseFixture.h"
 #include "TestContext.h"
@@ -188,6 +189,7 @@ private slots:
     void scheduledProgramRecordsIntoItsFile_data();
     void scheduledProgramRecordsIntoItsFile();
     void openWindowStartsAtOnceAndEndsByTheClock();
+    void programEnteredThroughTheEditorIsRecorded();
     void dayLongRecordingStopsByTheClock();
     void recordingWithoutDataFails();
     void manualRecordingNeedsHalfAMegabyteAboveTheLimit();
@@ -324,6 +326,30 @@ void TestRecordingCycle::openWindowStartsAtOnceAndEndsByTheClock()
     QVERIFY(c.ctx().Now() > At("10:00:04"));
     QVERIFY2(elapsed.elapsed() < 8000, qPrintable(QString::number(elapsed.elapsed())));
     QCOMPARE(c.Recordings().size(), 1);
+}
+
+// A one-time program saved through the list's Add command, as the editor hands back its
+// fields, is found by the schedule and recorded at its time.
+void TestRecordingCycle::programEnteredThroughTheEditorIsRecorded()
+{
+    Cycle c;
+    c.tc.clock.Set(At("09:59:55"));
+    c.ctx().WfxDefault.SetToPcm(1, 11025, 8);
+    FakeProgramListView view;
+    view.answerForm = [](ProgramFormValues& v) {
+        v.FormDescription = "Entered by hand";
+        v.FormFrequency = 0;
+        v.FormOneTimeDay = At("00:00:00");
+        v.FormStartTime = Programs::TimeOfDay("10:00:00");
+        v.FormEndTime = Programs::TimeOfDay("10:00:03");
+    };
+    ProgramListCommands(c.ctx(), view).AddNewProgram();
+    QCOMPARE(c.ctx().scheduler.next.NextProgramStart, At("10:00:00"));
+    QVERIFY(c.RecordOnce(At("09:59:58")));
+    const QList<RecordingRow> rows = c.Recordings();
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows[0].title, QStringLiteral("Entered by hand"));
+    QVERIFY(QFileInfo(rows[0].file).fileName().startsWith("060126_10000"));
 }
 
 // A day-long recording loses its whole day in the length written for the task; the clock
