@@ -42,6 +42,19 @@ void StartRow(const QString& path, RecordingRow& row)
     row.Size = ModuleFileTime::GetFileSizeMbytes(path);
 }
 
+// What every wave reader starts with: the chunks read its way, and a fresh row with the
+// format's text and the file's name, time and size. False when the reader doesn't take it.
+bool StartWaveRow(const QString& path, ReadChunks read, WaveFileChunks& chunks,
+                  clsRecordingFormat& format, RecordingRow& row)
+{
+    if (!ReadWave(path, read, chunks))
+        return false;
+    row = RecordingRow();
+    row.CompressionMethod = FormatText(chunks, format);
+    StartRow(path, row);
+    return true;
+}
+
 // Writes the row unless the file is listed; a database failure is not reported, as no
 // reader reports anything.
 void AddRow(AppContext& ctx, const RecordingRow& row)
@@ -71,16 +84,13 @@ namespace MediaReaders {
 bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row)
 {
     WaveFileChunks chunks;
-    if (!ReadWave(path, WaveFileChunk::ReadNightreelWave, chunks))
+    clsRecordingFormat format(ctx);
+    if (!StartWaveRow(path, WaveFileChunk::ReadNightreelWave, chunks, format, row))
         return false;
     double created = 0.0;
     if (!Options::ParseDateText(chunks.created, created))
         return false;
-    clsRecordingFormat format(ctx);
-    row = RecordingRow();
-    row.CompressionMethod = FormatText(chunks, format);
     row.Title = chunks.title;
-    StartRow(path, row);
     const qint32 seconds = format.CalcSecondsFromMbytes(row.Size);
     row.StartTime = AutomationDate::AddSeconds(row.EndTime, -seconds);
 
@@ -101,13 +111,10 @@ bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row)
 bool ReadNightreelCompressedWave(AppContext& ctx, const QString& path, RecordingRow& row)
 {
     WaveFileChunks chunks;
-    if (!ReadWave(path, WaveFileChunk::ReadNightreelCompressedWave, chunks))
-        return false;
     clsRecordingFormat format(ctx);
-    row = RecordingRow();
-    row.CompressionMethod = FormatText(chunks, format);
+    if (!StartWaveRow(path, WaveFileChunk::ReadNightreelCompressedWave, chunks, format, row))
+        return false;
     row.Title = chunks.title;
-    StartRow(path, row);
     qint64 seconds = chunks.sampleFrames;
     if (chunks.factBytesRead > 0) {
         if (format.nSamplesPerSec() == 0)
@@ -121,12 +128,9 @@ bool ReadNightreelCompressedWave(AppContext& ctx, const QString& path, Recording
 bool ReadOtherWave(AppContext& ctx, const QString& path, RecordingRow& row)
 {
     WaveFileChunks chunks;
-    if (!ReadWave(path, WaveFileChunk::ReadOtherWave, chunks))
-        return false;
     clsRecordingFormat format(ctx);
-    row = RecordingRow();
-    row.CompressionMethod = FormatText(chunks, format);
-    StartRow(path, row);
+    if (!StartWaveRow(path, WaveFileChunk::ReadOtherWave, chunks, format, row))
+        return false;
     const float perSecond = format.CalcStorageMbytesSng(1);
     if (!(perSecond > 0.0f))
         return false;

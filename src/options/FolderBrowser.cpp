@@ -1,14 +1,21 @@
 #include "options/FolderBrowser.h"
 
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QStorageInfo>
 #include <QTimer>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 FolderBrowser::FolderBrowser(QObject* parent)
     : QObject(parent)
@@ -138,4 +145,41 @@ void FolderBrowser::OnFolderChosen()
         m_dirs->setCurrentIndex(m_model->index(m_path));
         m_busy = wasBusy;
     }
+}
+
+FolderBrowser::Buttons FolderBrowser::LayOutForm(QDialog* form, QLabel* prompt, QLineEdit* path,
+                                                 const QString& drives,
+                                                 const QString& folders) const
+{
+    const auto caption = [](const QString& text, QWidget* buddy) {
+        auto* label = new QLabel(text);
+        label->setBuddy(buddy);
+        return label;
+    };
+    auto* fields = new QGridLayout;
+    int row = 0;
+    fields->addWidget(prompt, row++, 0, 1, 2);
+    if (path) {
+        fields->addWidget(caption(QStringLiteral("Path"), path), row, 0);
+        fields->addWidget(path, row++, 1);
+    }
+    fields->addWidget(caption(drives, m_drives), row, 0);
+    fields->addWidget(m_drives, row++, 1);
+    fields->addWidget(caption(folders, m_dirs), row, 0, Qt::AlignTop);
+    fields->addWidget(m_dirs, row, 1);
+    fields->setRowStretch(row, 1);
+
+    Buttons buttons{new QPushButton(QStringLiteral("&OK")),
+                    new QPushButton(QStringLiteral("&Cancel"))};
+    buttons.btnOK->setObjectName(QStringLiteral("btnOK"));
+    buttons.btnOK->setDefault(true);
+    buttons.btnCancel->setObjectName(QStringLiteral("btnCancel"));
+    auto* buttonRow = new QHBoxLayout;
+    buttonRow->addStretch();
+    buttonRow->addWidget(buttons.btnOK);
+    buttonRow->addWidget(buttons.btnCancel);
+    auto* layout = new QVBoxLayout(form);
+    layout->addLayout(fields, 1);
+    layout->addLayout(buttonRow);
+    return buttons;
 }

@@ -4,7 +4,11 @@
 #include <QString>
 
 class QComboBox;
+class QDialog;
 class QFileSystemModel;
+class QLabel;
+class QLineEdit;
+class QPushButton;
 class QTimer;
 class QTreeView;
 
@@ -24,6 +28,16 @@ public:
     QString Path() const { return m_path; }
     // The mounted file system that holds the path.
     static QString DriveOf(const QString& path);
+
+    // The OK and Cancel buttons of a folder form.
+    struct Buttons {
+        QPushButton* btnOK;
+        QPushButton* btnCancel;
+    };
+    // Lays out a folder form: the prompt, the path box when there is one, the drive and
+    // folder lists with their captions, and OK and Cancel.
+    Buttons LayOutForm(QDialog* form, QLabel* prompt, QLineEdit* path, const QString& drives,
+                       const QString& folders) const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -4,14 +4,9 @@
 #include "options/FolderPaths.h"
 #include "shell/FormPlacement.h"
 
-#include <QComboBox>
 #include <QDir>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeView>
-#include <QVBoxLayout>
 
 frmSelectExistingRecordDirectory::frmSelectExistingRecordDirectory(QWidget* owner,
                                                                    const QString& startFolder)
@@ -23,34 +18,13 @@ frmSelectExistingRecordDirectory::frmSelectExistingRecordDirectory(QWidget* owne
     setWindowTitle(QStringLiteral("Select Folder"));
     m_lblPrompt->setObjectName(QStringLiteral("lblPrompt"));
 
-    auto* btnOK = new QPushButton(QStringLiteral("&OK"));
-    btnOK->setObjectName(QStringLiteral("btnOK"));
-    btnOK->setDefault(true);
-    auto* btnCancel = new QPushButton(QStringLiteral("&Cancel"));
-    btnCancel->setObjectName(QStringLiteral("btnCancel"));
-
-    auto* lblDrive = new QLabel(QStringLiteral("Drive"));
-    lblDrive->setBuddy(m_browser->drvDrives());
-    auto* lblFolder = new QLabel(QStringLiteral("Folder"));
-    lblFolder->setBuddy(m_browser->dirDirs());
-    auto* fields = new QGridLayout;
-    fields->addWidget(m_lblPrompt, 0, 0, 1, 2);
-    fields->addWidget(lblDrive, 1, 0);
-    fields->addWidget(m_browser->drvDrives(), 1, 1);
-    fields->addWidget(lblFolder, 2, 0, Qt::AlignTop);
-    fields->addWidget(m_browser->dirDirs(), 2, 1);
-    fields->setRowStretch(2, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(btnOK);
-    buttons->addWidget(btnCancel);
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(fields, 1);
-    layout->addLayout(buttons);
+    const FolderBrowser::Buttons buttons = m_browser->LayOutForm(
+        this, m_lblPrompt, nullptr, QStringLiteral("Drive"), QStringLiteral("Folder"));
     resize(400, 340);
 
-    connect(btnOK, &QPushButton::clicked, this, &frmSelectExistingRecordDirectory::btnOK_Click);
-    connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(buttons.btnOK, &QPushButton::clicked, this,
+            &frmSelectExistingRecordDirectory::btnOK_Click);
+    connect(buttons.btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     FormPlacement::PlaceAtMainForm(this, owner, 100);
     if (!m_browser->SetPath(startFolder))

@@ -8,15 +8,10 @@
 #include "shell/FormPlacement.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTreeView>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -28,13 +23,6 @@ public:
     WaitCursor(const WaitCursor&) = delete;
     WaitCursor& operator=(const WaitCursor&) = delete;
 };
-
-QLabel* Caption(const QString& text, QWidget* buddy)
-{
-    auto* label = new QLabel(text);
-    label->setBuddy(buddy);
-    return label;
-}
 
 } // namespace
 
@@ -51,33 +39,13 @@ frmSelectRecordDirectory::frmSelectRecordDirectory(AppContext& ctx, QWidget* own
 
     auto* lblPrompt = new QLabel(QStringLiteral("Enter or select recording directory."));
     lblPrompt->setObjectName(QStringLiteral("lblPrompt"));
-    auto* btnOK = new QPushButton(QStringLiteral("&OK"));
-    btnOK->setObjectName(QStringLiteral("btnOK"));
-    btnOK->setDefault(true);
-    auto* btnCancel = new QPushButton(QStringLiteral("&Cancel"));
-    btnCancel->setObjectName(QStringLiteral("btnCancel"));
-
-    auto* fields = new QGridLayout;
-    fields->addWidget(lblPrompt, 0, 0, 1, 2);
-    fields->addWidget(Caption(QStringLiteral("Path"), m_txtPath), 1, 0);
-    fields->addWidget(m_txtPath, 1, 1);
-    fields->addWidget(Caption(QStringLiteral("Drives"), m_browser->drvDrives()), 2, 0);
-    fields->addWidget(m_browser->drvDrives(), 2, 1);
-    fields->addWidget(Caption(QStringLiteral("Directories"), m_browser->dirDirs()), 3, 0,
-                      Qt::AlignTop);
-    fields->addWidget(m_browser->dirDirs(), 3, 1);
-    fields->setRowStretch(3, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(btnOK);
-    buttons->addWidget(btnCancel);
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(fields, 1);
-    layout->addLayout(buttons);
+    const FolderBrowser::Buttons buttons = m_browser->LayOutForm(
+        this, lblPrompt, m_txtPath, QStringLiteral("Drives"), QStringLiteral("Directories"));
     resize(420, 360);
 
-    connect(btnOK, &QPushButton::clicked, this, &frmSelectRecordDirectory::btnOK_Click);
-    connect(btnCancel, &QPushButton::clicked, this, &frmSelectRecordDirectory::btnCancel_Click);
+    connect(buttons.btnOK, &QPushButton::clicked, this, &frmSelectRecordDirectory::btnOK_Click);
+    connect(buttons.btnCancel, &QPushButton::clicked, this,
+            &frmSelectRecordDirectory::btnCancel_Click);
     connect(m_browser, &FolderBrowser::PathChanged, this,
             &frmSelectRecordDirectory::dirDirs_Change);
 
