@@ -2,7 +2,7 @@
 // Prints search_1000_ms=, search_10000_ms= and tick_us=, one per line.
 #include "Programs.h"
 #include "TestContext.h"
-#include "shell/Heartbeat.h"
+#include "recording/Heartbeat.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -75,9 +75,11 @@ double SearchMilliseconds(int programs)
 
 double IdleTickMicroseconds()
 {
+    // The program's own heartbeat, with the status bar round it runs on every tick.
     TestContext tc;
-    Heartbeat heartbeat(*tc.ctx);
-    tc.ctx->appReady = true;
+    Heartbeat& heartbeat = tc.ctx->recorder.HeartbeatTimer();
+    tc.ctx->appStatus.SetReady(true);
+    tc.ctx->options.DefaultRecordingDirectory = tc.Root();
     NextProgram& next = tc.ctx->scheduler.next;
     next.NextProgramFound = true;
     next.NextProgramStart = Programs::At(2026, 6, 2, "20:00:00");

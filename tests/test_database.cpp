@@ -1,6 +1,7 @@
 #include "LogCapture.h"
 #include "TestContext.h"
 #include "common/TextHelpers.h"
+#include "store/GridColumns.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,6 +26,14 @@ void RunSql(const QString& path, const QStringList& statements)
     QSqlDatabase::removeDatabase("test-setup");
 }
 
+// The tables besides Programs of a file from an older version.
+const QStringList kOlderTables = {
+    "CREATE TABLE Recordings (ID INTEGER PRIMARY KEY, Title TEXT, File TEXT, StartTime REAL, "
+    "EndTime REAL, CompressionMethod TEXT, Size REAL)",
+    "CREATE TABLE EventLog (ID INTEGER PRIMARY KEY, Type INTEGER, DateAndTime REAL, "
+    "Message TEXT, Details TEXT)",
+    "CREATE TABLE Info (VersionMajor INTEGER)"};
+
 } // namespace
 
 class TestDatabase : public QObject {
@@ -36,19 +45,16 @@ private slots:
         TestContext tc;
         const QString file = tc.ctx->database.DatabaseFile();
         QFile::remove(file);
-        RunSql(file, {"CREATE TABLE Programs (ID INTEGER PRIMARY KEY, Enabled INTEGER, "
-                      "Description TEXT, DescriptionText TEXT, StartTime REAL, EndTime REAL, "
-                      "Frequency INTEGER, OneTimeDay REAL, Sun INTEGER, Mon INTEGER, "
-                      "Tue INTEGER, Wed INTEGER, Thu INTEGER, Fri INTEGER, Sat INTEGER, "
-                      "wfx_nAvgBytesPerSec INTEGER, RecordingCancelled INTEGER, "
-                      "RecordingCancelledEndDateAndTime REAL)",
-                      "INSERT INTO Programs (Description, DescriptionText, Enabled) "
-                      "VALUES ('Old show', 'Old show', -1)",
-                      "CREATE TABLE Recordings (ID INTEGER PRIMARY KEY, Title TEXT, File TEXT, "
-                      "StartTime REAL, EndTime REAL, CompressionMethod TEXT, Size REAL)",
-                      "CREATE TABLE EventLog (ID INTEGER PRIMARY KEY, Type INTEGER, "
-                      "DateAndTime REAL, Message TEXT, Details TEXT)",
-                      "CREATE TABLE Info (VersionMajor INTEGER)"});
+        RunSql(file, QStringList{
+                         "CREATE TABLE Programs (ID INTEGER PRIMARY KEY, Enabled INTEGER, "
+                         "Description TEXT, DescriptionText TEXT, StartTime REAL, EndTime REAL, "
+                         "Frequency INTEGER, OneTimeDay REAL, Sun INTEGER, Mon INTEGER, "
+                         "Tue INTEGER, Wed INTEGER, Thu INTEGER, Fri INTEGER, Sat INTEGER, "
+                         "wfx_nAvgBytesPerSec INTEGER, RecordingCancelled INTEGER, "
+                         "RecordingCancelledEndDateAndTime REAL)",
+                         "INSERT INTO Programs (Description, DescriptionText, Enabled) "
+                         "VALUES ('Old show', 'Old show', -1)",
+                     } + kOlderTables);
         tc.OpenDatabase();
         Recordset& rs = tc.ctx->database.DataPrograms.recordset();
         QCOMPARE(rs.FieldNames().size(), 18 + 14);
@@ -64,6 +70,27 @@ private slots:
         tc.OpenDatabase();
         QCOMPARE(tc.ctx->database.DataPrograms.recordset().FieldNames().size(), 18 + 14);
         QCOMPARE(tc.CountRows("EventLog"), 0);
+    }
+
+    // A column that can't be added is reported on its own and the next is still tried.
+    void eachColumnThatCannotBeAddedIsReported()
+    {
+        TestContext tc;
+        const QString file = tc.ctx->database.DatabaseFile();
+        QFile::remove(file);
+        // Columns can't be added to a view: every one of the fourteen fails.
+        RunSql(file, QStringList{
+                         "CREATE TABLE OldPrograms (ID INTEGER PRIMARY KEY, Description TEXT, "
+                         "DescriptionText TEXT)",
+                         "CREATE VIEW Programs AS SELECT * FROM OldPrograms",
+                     } + kOlderTables);
+        tc.OpenDatabase();
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        QVERIFY(q.exec("SELECT COUNT(*) FROM EventLog WHERE Details LIKE "
+                       "'%Module: InitializeControls%'"));
+        QVERIFY(q.next());
+        QCOMPARE(q.value(0).toInt(), 14);
+        QVERIFY(tc.ctx->database.DataRecordings.recordset().IsOpen());
     }
 
     void anEmptyFileHasItsTablesAndOneInfoRow()
@@ -172,14 +199,17 @@ private slots:
     {
         TestContext tc;
         tc.OpenDatabase();
-        for (const char* name : {"Bravo", "Alpha", "Charlie"})
+        // Text sorts without regard to case, as the old database sorted it.
+        for (const char* name : {"bravo", "Alpha", "Charlie"})
             tc.AddProgram({{"Description", name}, {"DescriptionText", name}});
         AppDatabase& db = tc.ctx->database;
         db.SortDbgrids();
         QCOMPARE(db.DataPrograms.RecordSource(),
-                 QStringLiteral("SELECT * FROM [Programs] ORDER BY [DescriptionText] ASC"));
+                 QStringLiteral("SELECT * FROM [Programs] ORDER BY [DescriptionText] COLLATE "
+                                "NOCASE ASC"));
         QCOMPARE(db.DataRecordings.RecordSource(),
-                 QStringLiteral("SELECT * FROM [Recordings] ORDER BY [StartTime] DESC"));
+                 QStringLiteral("SELECT * FROM [Recordings] ORDER BY [StartTime] COLLATE NOCASE "
+                                "DESC"));
         const auto order = [&db] {
             QStringList names;
             Recordset clone = db.DataPrograms.recordset().Clone();
@@ -187,10 +217,11 @@ private slots:
                 names << clone.Value("Description").toString();
             return names;
         };
-        QCOMPARE(order(), QStringList({"Alpha", "Bravo", "Charlie"}));
-        db.DataPrograms.SetRecordSource("SELECT * FROM [Programs] ORDER BY [DescriptionText] DESC");
+        QCOMPARE(order(), QStringList({"Alpha", "bravo", "Charlie"}));
+        db.DataPrograms.SetRecordSource(
+            GridColumns::SortStatement("Programs", "DescriptionText", false));
         db.DataPrograms.Refresh();
-        QCOMPARE(order(), QStringList({"Charlie", "Bravo", "Alpha"}));
+        QCOMPARE(order(), QStringList({"Charlie", "bravo", "Alpha"}));
     }
 
     void compactionReplacesAStaleTempFile()

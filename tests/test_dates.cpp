@@ -1,4 +1,5 @@
 #include "common/AutomationDate.h"
+#include "common/Clock.h"
 #include "common/FileHelpers.h"
 #include "common/TextHelpers.h"
 
@@ -45,6 +46,12 @@ private slots:
         QCOMPARE(Minute(d), 59);
         QCOMPARE(Second(d), 58);
         QCOMPARE(DatePart(d) + TimePart(d), d);
+        // Every part truncates: the last half-second of a day still belongs to it.
+        const double late = FromDateTime(QDateTime(QDate(2026, 11, 21), QTime(23, 59, 59, 700)));
+        QCOMPARE(Weekday(late), 7);
+        QCOMPARE(Second(late), 59);
+        QCOMPARE(DatePart(late), DatePart(d));
+        QCOMPARE(SecondsBetween(d, late), qint64(1));
     }
 
     // Differences count the unit boundaries passed, not the elapsed whole units.
@@ -78,6 +85,15 @@ private slots:
         QCOMPARE(MinutesBetween(FromDateTime(a), FromDateTime(b)), minutes);
         QFETCH(qint64, hours);
         QCOMPARE(HoursBetween(FromDateTime(a), FromDateTime(b)), hours);
+    }
+
+    void theSystemClockGivesWholeSeconds()
+    {
+        SystemClock clock;
+        for (int i = 0; i < 5; ++i) {
+            QCOMPARE(ToDateTime(clock.Now()).time().msec(), 0);
+            QTest::qSleep(7);
+        }
     }
 
     void addingSecondsLandsOnTheSecond()

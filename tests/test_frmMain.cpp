@@ -1,7 +1,6 @@
 #include "Programs.h"
 #include "TestContext.h"
 #include "shell/ModeDisplay.h"
-#include "shell/StatusBarPlus.h"
 #include "shell/frmMain.h"
 
 #include <QAction>
@@ -52,15 +51,15 @@ private slots:
         s.tc.ctx->database.CloseAll();
         s.form = std::make_unique<frmMain>(*s.tc.ctx, false);
         // Loaded, not yet activated: no database, no heartbeat, not ready.
-        QVERIFY(!s.tc.ctx->appReady);
+        QVERIFY(!s.tc.ctx->appStatus.Ready());
         QVERIFY(!s.tc.ctx->database.db.IsOpen());
-        QCOMPARE(s.form->Controller().heartbeat.Timer1.Interval(), 0);
+        QCOMPARE(s.tc.ctx->recorder.HeartbeatTimer().Timer1.Interval(), 0);
 
         s.form->FirstActivate();
-        QVERIFY(s.tc.ctx->appReady);
+        QVERIFY(s.tc.ctx->appStatus.Ready());
         QVERIFY(s.tc.ctx->database.db.IsOpen());
         QVERIFY(s.tc.ctx->scheduler.next.NextProgramFound);
-        QCOMPARE(s.form->Controller().heartbeat.Timer1.Interval(), 250);
+        QCOMPARE(s.tc.ctx->recorder.HeartbeatTimer().Timer1.Interval(), 250);
         QCOMPARE(s.form->ui.DBGridPrograms->model()->rowCount(), 1);
         QVERIFY(s.form->ui.Action("mnuEdit")->isEnabled());
         QVERIFY(!s.form->ui.Action("mnuRecordingsPlay")->isEnabled());
@@ -68,6 +67,20 @@ private slots:
         QCOMPARE(s.form->ui.ModeStatus->text(), QStringLiteral("STOPPED"));
         QVERIFY(s.form->ui.DiskStatus->text().startsWith("Disk Space Used: "));
         QVERIFY(s.tc.messageBox.asked.isEmpty());
+    }
+
+    // A step of the first activation that fails does not keep the later ones from running:
+    // above all the heartbeat starts.
+    void aFailedStartUpStepStillStartsTheHeartbeat()
+    {
+        Started s;
+        QFile bad(s.tc.ctx->database.DatabaseFile());
+        QVERIFY(bad.open(QIODevice::WriteOnly));
+        bad.write(QByteArray("not a database\n").repeated(100));
+        bad.close();
+        s.Activate();
+        QVERIFY(s.tc.ctx->appStatus.Ready());
+        QCOMPARE(s.tc.ctx->recorder.HeartbeatTimer().Timer1.Interval(), 250);
     }
 
     void noRecordingFolderKeepsTheProgramRunning()
@@ -80,7 +93,7 @@ private slots:
         QCOMPARE(s.tc.messageBox.asked[0].text,
                  QStringLiteral("Nightreel 2000 requires a valid recording folder for recording "
                                 "to occur.  Select Recording folder?"));
-        QVERIFY(s.tc.ctx->appReady);
+        QVERIFY(s.tc.ctx->appStatus.Ready());
         QVERIFY(s.tc.ctx->error.InvalidRecordingDirectory());
         QVERIFY(!s.form->ui.Action("ToolbarMain.Record")->isEnabled());
         QVERIFY(!s.form->ui.Action("mnuViewDiskStatus")->isEnabled());
@@ -259,71 +272,6 @@ private slots:
         QVERIFY(!tc.ctx->appStatus.Suspended());
         QCOMPARE(tc.messageBox.asked.at(0).title, QStringLiteral("Invalid request"));
         QCOMPARE(tc.messageBox.asked.at(0).text, text);
-    }
-
-    void diskFigures_data()
-    {
-        QTest::addColumn<double>("freeMb");
-        QTest::addColumn<bool>("warn");
-        QTest::addColumn<bool>("stop");
-        QTest::newRow("plenty") << 1000.0 << false << false;
-        QTest::newRow("exactly at the warning limit") << 50.0 << false << false;
-        QTest::newRow("just under it") << 49.9 << true << false;
-        QTest::newRow("stop limit with half a megabyte") << 24.5 << true << false;
-        QTest::newRow("under the stop limit") << 24.4 << true << true;
-    }
-    void diskFigures()
-    {
-        QFETCH(double, freeMb);
-        QFETCH(bool, warn);
-        QFETCH(bool, stop);
-        TestContext tc;
-        tc.ctx->options.WarnRecMegsLeft = 50;
-        tc.ctx->options.StopRecMegsLeft = 25;
-        StatusBarPlus::DiskSpaceMb disk =
-            StatusBarPlus::FromBytes(qint64(2000.0 * 1048576), qint64(freeMb * 1048576));
-        const StatusBarPlus::Update u = StatusBarPlus::Run(*tc.ctx, QString(), disk);
-        QCOMPARE(tc.ctx->error.DiskLowWarn(), warn);
-        QCOMPARE(tc.ctx->error.DiskLowStopRecording(), stop);
-        QVERIFY(u.diskText.startsWith("Disk Space Used: "));
-        QVERIFY(u.diskToolTip.endsWith(" Megabytes remaining"));
-    }
-
-    void aTinyDiskIsFull()
-    {
-        QCOMPARE(StatusBarPlus::FromBytes(512 * 1024, 512 * 1024).usedPercent, 100.0f);
-        QCOMPARE(StatusBarPlus::FromBytes(4 * 1048576, 1048576).usedPercent, 75.0f);
-        QCOMPARE(StatusBarPlus::GetRecDirDiskSpaceMb("/a").total, 0.0);
-        QVERIFY(StatusBarPlus::GetRecDirDiskSpaceMb(QDir::tempPath()).total > 0.0);
-    }
-
-    void theDiskGuardStopsARecordingOnce()
-    {
-        TestContext tc;
-        tc.OpenDatabase();
-        tc.ctx->appStatus.SetRecording(true);
-        tc.ctx->recordingStatus.Description = "Concert";
-        const auto disk = StatusBarPlus::FromBytes(qint64(1000) * 1048576, 10 * 1048576);
-        QVERIFY(StatusBarPlus::Run(*tc.ctx, QString(), disk).postStop);
-        QVERIFY(tc.ctx->recordingStatus.StopRequested);
-        QVERIFY(!StatusBarPlus::Run(*tc.ctx, QString(), disk).postStop);
-        // Each round logs again until the recording has ended.
-        QCOMPARE(tc.CountRows("EventLog"), 2);
-    }
-
-    void elapsedTexts()
-    {
-        TestContext tc;
-        tc.ctx->recordingStatus.StartTime = Programs::At(2026, 6, 1, "20:00:00");
-        tc.ctx->recordingStatus.EndTime = Programs::At(2026, 6, 1, "21:00:00");
-        tc.clock.Set(Programs::At(2026, 6, 1, "20:01:59"));
-        QCOMPARE(StatusBarPlus::ElapsedText(*tc.ctx), QStringLiteral("01:59"));
-        QCOMPARE(StatusBarPlus::ElapsedRemainingText(*tc.ctx),
-                 QStringLiteral("119 seconds elapsed, 59 minutes remaining"));
-        tc.clock.Set(Programs::At(2026, 6, 1, "21:00:30"));
-        QCOMPARE(StatusBarPlus::ElapsedText(*tc.ctx), QStringLiteral("01:00:30"));
-        QCOMPARE(StatusBarPlus::ElapsedRemainingText(*tc.ctx),
-                 QStringLiteral("60 minutes elapsed, 0 seconds remaining"));
     }
 
     void thePageDecidesTheMenu()

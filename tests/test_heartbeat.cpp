@@ -1,7 +1,7 @@
 #include "LogCapture.h"
 #include "Programs.h"
 #include "TestContext.h"
-#include "shell/Heartbeat.h"
+#include "recording/Heartbeat.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -11,12 +11,14 @@ using Programs::At;
 
 namespace {
 
-// A heartbeat over a fresh context, ticked by hand at the times the test sets.
+// A heartbeat on its own over a fresh context's parts, ticked by hand at the times the test
+// sets; what it hands on is read from its signals.
 struct Fixture {
     Fixture()
-        : heartbeat(*tc.ctx)
+        : heartbeat(tc.clock, tc.ctx->log, tc.ctx->options, tc.launcher, tc.ctx->scheduler,
+                    tc.ctx->appStatus, status)
     {
-        tc.ctx->appReady = true;
+        tc.ctx->appStatus.SetReady(true);
         tc.clock.Set(At(2026, 6, 1, "12:00:00"));
     }
     void TickAt(double date)
@@ -27,6 +29,7 @@ struct Fixture {
     NextProgram& next() { return tc.ctx->scheduler.next; }
 
     TestContext tc;
+    clsRecordingStatus status;
     Heartbeat heartbeat;
 };
 
@@ -39,13 +42,13 @@ private slots:
     void idlesUntilTheApplicationIsReady()
     {
         Fixture f;
-        f.tc.ctx->appReady = false;
+        f.tc.ctx->appStatus.SetReady(false);
         f.heartbeat.Start();
         QSignalSpy status(&f.heartbeat, &Heartbeat::UpdateStatusBarPlus);
         f.heartbeat.Timer1_Timer();
         QCOMPARE(status.size(), 0);
         QCOMPARE(f.heartbeat.Timer1.Interval(), 250);
-        f.tc.ctx->appReady = true;
+        f.tc.ctx->appStatus.SetReady(true);
         f.heartbeat.Timer1_Timer();
         QCOMPARE(status.size(), 1);
         QCOMPARE(f.heartbeat.Timer1.Interval(), 250);
@@ -80,7 +83,7 @@ private slots:
         QFETCH(int, jump);
         Fixture f;
         f.tc.OpenDatabase();
-        f.tc.ctx->recordingStatus.EndTime = At(2026, 6, 2, "00:00:00");
+        f.status.EndTime = At(2026, 6, 2, "00:00:00");
         QFETCH(bool, recording);
         QFETCH(bool, scheduled);
         f.tc.ctx->appStatus.SetRecording(recording);
@@ -171,20 +174,22 @@ private slots:
         QCOMPARE(start[0][2].toDouble(), At(2026, 6, 1, "20:30:00"));
         QCOMPARE(start[0][3].toString(), QStringLiteral("News"));
 
-        // While it records, the clock ends it strictly after its end, once.
+        // While it records, the clock asks for the stop strictly after its end, until the
+        // stop request has been made.
         f.tc.ctx->appStatus.SetRecording(true);
-        f.tc.ctx->recordingStatus.EndTime = At(2026, 6, 1, "20:30:00");
+        f.status.EndTime = At(2026, 6, 1, "20:30:00");
         QSignalSpy stop(&f.heartbeat, &Heartbeat::StopRecordingDue);
         f.TickAt(At(2026, 6, 1, "20:28:30"));
-        QVERIFY(!f.tc.ctx->recordingStatus.NextProgramScheduled);
+        QVERIFY(!f.status.NextProgramScheduled);
         f.TickAt(At(2026, 6, 1, "20:28:31"));
-        QVERIFY(f.tc.ctx->recordingStatus.NextProgramScheduled);
+        QVERIFY(f.status.NextProgramScheduled);
         f.TickAt(At(2026, 6, 1, "20:30:00"));
         QCOMPARE(stop.size(), 0);
         f.TickAt(At(2026, 6, 1, "20:30:01"));
+        QCOMPARE(stop.size(), 1);
+        f.status.StopRequested = true;
         f.TickAt(At(2026, 6, 1, "20:30:02"));
         QCOMPARE(stop.size(), 1);
-        QVERIFY(f.tc.ctx->recordingStatus.StopRequested);
         QCOMPARE(start.size(), 1);
     }
 

@@ -102,9 +102,9 @@ private slots:
         QFETCH(bool, onlyIfOk);
         QFETCH(bool, started);
         TestContext tc;
-        LaunchAfterRecording(*tc.ctx, ok, "convert %p", onlyIfOk, "/rec/a.wav");
+        LaunchAfterRecording(tc.ctx->log, tc.launcher, ok, "convert %p", onlyIfOk, "/rec/a.wav");
         QCOMPARE(tc.launcher.started, started ? QStringList{"convert /rec/a.wav"} : QStringList());
-        LaunchAfterRecording(*tc.ctx, true, "   ", false, "/rec/a.wav");
+        LaunchAfterRecording(tc.ctx->log, tc.launcher, true, "   ", false, "/rec/a.wav");
         QCOMPARE(tc.launcher.started.size(), started ? 1 : 0);
     }
 
@@ -113,7 +113,8 @@ private slots:
         TestContext tc;
         tc.OpenDatabase();
         tc.launcher.failing.insert("/opt/missing /rec/a.wav");
-        LaunchAfterRecording(*tc.ctx, true, "/opt/missing %p", false, "/rec/a.wav");
+        LaunchAfterRecording(tc.ctx->log, tc.launcher, true, "/opt/missing %p", false,
+                             "/rec/a.wav");
         Recordset& log = tc.ctx->database.ElogRecordset();
         log.MoveLast();
         QCOMPARE(log.Value("Type").toInt(), 1);

@@ -2,7 +2,6 @@
 // starts that end at once, and the user's stop of a recording or of a conversion.
 #include "Programs.h"
 #include "TestContext.h"
-#include "recording/RecordingControl.h"
 
 #include <QSqlQuery>
 #include <QTest>
@@ -10,13 +9,15 @@
 
 namespace {
 
+// The program's own recorder over a fresh context.
 struct Fixture {
     Fixture()
+        : recorder(tc.ctx->recorder)
+        , control(&recorder.Control())
     {
         tc.OpenDatabase();
-        control = std::make_unique<RecordingControl>(*tc.ctx);
         // No task may be started by these tests.
-        control->link.SetTaskProgram(tc.Root() + "/no-such-task");
+        recorder.Link().SetTaskProgram(tc.Root() + "/no-such-task");
         tc.ctx->options.DefaultRecordingDirectory = tc.Root();
         tc.clock.Set(Programs::At(2026, 6, 1, "10:00:00"));
     }
@@ -34,7 +35,8 @@ struct Fixture {
     }
 
     TestContext tc;
-    std::unique_ptr<RecordingControl> control;
+    Recorder& recorder;
+    RecordingControl* control;
 };
 
 } // namespace
@@ -48,6 +50,8 @@ private slots:
     void nullPlayerTitleUnderAfterProfileFailsTheStart();
     void stopRequest_data();
     void stopRequest();
+    void whatTheTaskReportsFailsTheRecordingOnce_data();
+    void whatTheTaskReportsFailsTheRecordingOnce();
 };
 
 void TestRecordingControl::startThatEndsAtOnce_data()
@@ -89,7 +93,7 @@ void TestRecordingControl::startThatEndsAtOnce()
     f.control->StartRecording(id, now, now + 0.01, description);
 
     QVERIFY(!f.ctx().appStatus.Recording());
-    QVERIFY(f.control->link.StartedTasks().isEmpty());
+    QVERIFY(f.recorder.Link().StartedTasks().isEmpty());
     QVERIFY(f.LogMessages().isEmpty());
     if (boxText.isEmpty()) {
         QVERIFY(f.tc.messageBox.asked.isEmpty());
@@ -116,7 +120,7 @@ void TestRecordingControl::nullPlayerTitleUnderAfterProfileFailsTheStart()
     f.control->StartRecording(programId, now, now + 0.01, description);
 
     QVERIFY(f.ctx().appStatus.Recording());
-    QVERIFY(f.control->link.StartedTasks().isEmpty());
+    QVERIFY(f.recorder.Link().StartedTasks().isEmpty());
     const QStringList messages = f.LogMessages();
     QCOMPARE(messages.size(), 1);
     QVERIFY2(messages[0].contains("StartRecording"), qPrintable(messages[0]));
@@ -177,10 +181,11 @@ void TestRecordingControl::stopRequest()
         ctx.appStatus.SetRecording(true);
     else
         ctx.appStatus.SetConverting(true);
-    ctx.recordingStatus.ProgramId = programId;
-    ctx.recordingStatus.ConvertToMP3 = convert;
+    f.recorder.Status().ProgramId = programId;
+    f.recorder.Status().ConvertToMP3 = convert;
     for (int i = 0; i < queued; ++i)
-        f.control->Mp3ConvertQueue.append(std::make_shared<clsConvertToMP3Request>(ctx));
+        f.recorder.Conversion().Mp3ConvertQueue.append(
+            std::make_shared<clsConvertToMP3Request>(ctx));
     f.tc.messageBox.answers << (answerYes ? MsgResult::Yes : MsgResult::No);
 
     f.control->HandleStopRecordingRequest(confirm);
@@ -193,13 +198,53 @@ void TestRecordingControl::stopRequest()
         QCOMPARE(f.tc.messageBox.asked[0].buttons, MsgButtons::YesNo);
     }
     if (recording) {
-        QCOMPARE(ctx.recordingStatus.StopRequested, stopped);
-        QCOMPARE(f.control->link.tmrStopRecording.Interval(), stopped ? 10000 : 0);
-        QVERIFY(!ctx.StopMp3Conversion);
+        QCOMPARE(f.recorder.Status().StopRequested, stopped);
+        QCOMPARE(f.recorder.Link().tmrStopRecording.Interval(), stopped ? 10000 : 0);
+        QVERIFY(!f.recorder.Conversion().StopMp3Conversion);
     } else {
-        QCOMPARE(ctx.StopMp3Conversion, stopped);
-        QVERIFY(!ctx.recordingStatus.StopRequested);
+        QCOMPARE(f.recorder.Conversion().StopMp3Conversion, stopped);
+        QVERIFY(!f.recorder.Status().StopRequested);
     }
+}
+
+void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce_data()
+{
+    QTest::addColumn<bool>("error");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("detailsEnd");
+    QTest::newRow("capture error") << true << "Error occurred during recording process."
+                                   << "";
+    QTest::newRow("no keep-alive answer")
+        << false << "No response from recording task."
+        << "system restart. \rThe error occured during the following recording: Evening news";
+}
+
+// The first report fails and ends the recording and is logged after the end; a second
+// report of the same recording is not.
+void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce()
+{
+    QFETCH(bool, error);
+    QFETCH(QString, message);
+    QFETCH(QString, detailsEnd);
+    Fixture f;
+    f.ctx().appStatus.SetRecording(true);
+    f.recorder.Status().Description = "Evening news";
+    int entriesAtEnd = -1;
+    QObject::connect(f.control, &RecordingControl::UpdateRecordingsButtonsAndMenus,
+                     [&] { entriesAtEnd = f.LogMessages().size(); });
+    for (int i = 0; i < 2; ++i) {
+        if (error)
+            emit f.recorder.Link().TaskError(1024);
+        else
+            emit f.recorder.Link().TaskNotResponding();
+    }
+    QVERIFY(f.recorder.Status().Failed);
+    QVERIFY(!f.ctx().appStatus.Recording());
+    const QStringList messages = f.LogMessages();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY(messages[0].startsWith(message + " | "));
+    QVERIFY(messages[0].endsWith(detailsEnd));
+    QCOMPARE(entriesAtEnd, error ? 0 : 1);
 }
 
 QTEST_GUILESS_MAIN(TestRecordingControl)

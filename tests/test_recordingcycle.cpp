@@ -8,8 +8,6 @@
 #include "TestContext.h"
 #include "formats/ModuleFileTime.h"
 #include "recording/RecParms.h"
-#include "recording/RecordingControl.h"
-#include "shell/Heartbeat.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,7 +16,9 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSqlQuery>
+#include <QStorageInfo>
 #include <QTest>
 #include <functional>
 #include <memory>
@@ -74,32 +74,26 @@ bool ToneOf(const QString& path, double& rms, double& frequency)
     return rms >= 0 && frequency >= 0;
 }
 
-// A context, a heartbeat and the recording control wired as the main window wires them,
-// with the real recording task.
+// The program's own recorder over a fresh context, with the real recording task; its
+// heartbeat is ticked by hand.
 class Cycle {
 public:
     Cycle()
+        : control(&tc.ctx->recorder.Control())
     {
         tc.OpenDatabase();
         folder = tc.Root() + "/recordings";
         QDir().mkpath(folder);
         tc.ctx->options.DefaultRecordingDirectory = folder;
-        tc.ctx->appReady = true;
-        heartbeat = std::make_unique<Heartbeat>(*tc.ctx);
-        control = std::make_unique<RecordingControl>(*tc.ctx);
-        control->link.SetTaskProgram(QCoreApplication::applicationDirPath() +
-                                     "/../src/nightreel-rec");
-        QObject::connect(heartbeat.get(), &Heartbeat::StartRecordingDue,
-                         [this](qint32 id, double start, double end, const QString& description) {
-                             QString text = description;
-                             ++starts;
-                             control->StartRecording(id, start, end, text);
-                         });
-        QObject::connect(heartbeat.get(), &Heartbeat::StopRecordingDue,
-                         [this] { control->link.RequestStop(); });
+        tc.ctx->appStatus.SetReady(true);
+        recorder().Link().SetTaskProgram(QCoreApplication::applicationDirPath() +
+                                         "/../src/nightreel-rec");
+        QObject::connect(&recorder().HeartbeatTimer(), &Heartbeat::StartRecordingDue,
+                         [this] { ++starts; });
     }
 
     AppContext& ctx() { return *tc.ctx; }
+    Recorder& recorder() { return tc.ctx->recorder; }
 
     qint64 AddProgram(const QVariantHash& row)
     {
@@ -119,12 +113,12 @@ public:
         bool began = false;
         while (elapsed.elapsed() < 20000) {
             tc.clock.Set(AutomationDate::AddSeconds(from, elapsed.elapsed() / 1000.0));
-            heartbeat->Timer1_Timer();
+            recorder().HeartbeatTimer().Timer1_Timer();
             const bool recording = ctx().appStatus.Recording();
             if ((recording || starts > 0) && !began) {
                 began = true;
-                parmsAtStart = RecParms::Read(control->link.ParameterFile());
-                durationAtStart = ctx().recordingStatus.DurationSeconds;
+                parmsAtStart = RecParms::Read(recorder().Link().ParameterFile());
+                durationAtStart = recorder().Status().DurationSeconds;
                 if (whileRecording)
                     whileRecording();
             }
@@ -167,8 +161,7 @@ public:
 
     TestContext tc;
     QString folder;
-    std::unique_ptr<Heartbeat> heartbeat;
-    std::unique_ptr<RecordingControl> control;
+    RecordingControl* control;
     std::optional<RecParms> parmsAtStart;
     qint32 durationAtStart = -1;
     int starts = 0;
@@ -194,6 +187,7 @@ private slots:
     void recordingWithoutDataFails();
     void manualRecordingNeedsHalfAMegabyteAboveTheLimit();
     void recordingToConvertCapturesPcmAndQueuesIt();
+    void diskGuardStopsAndKeepsTheRecording();
     void captureErrorDeletesThePartialFile();
     void noSoundServerMeansNoRecording();
 
@@ -322,7 +316,7 @@ void TestRecordingCycle::openWindowStartsAtOnceAndEndsByTheClock()
     QCOMPARE(c.durationAtStart, 2);
     QVERIFY(c.parmsAtStart);
     QCOMPARE(c.parmsAtStart->lengthSeconds, 2);
-    QCOMPARE(c.ctx().recordingStatus.EndTime, At("10:00:04"));
+    QCOMPARE(c.recorder().Status().EndTime, At("10:00:04"));
     QVERIFY(c.ctx().Now() > At("10:00:04"));
     QVERIFY2(elapsed.elapsed() < 8000, qPrintable(QString::number(elapsed.elapsed())));
     QCOMPARE(c.Recordings().size(), 1);
@@ -358,7 +352,7 @@ void TestRecordingCycle::dayLongRecordingStopsByTheClock()
 {
     Cycle c;
     AppContext& ctx = c.ctx();
-    ctx.recordingStatus.ProgramId = -1;
+    c.recorder().Status().ProgramId = -1;
     c.control->ManualFormat.SetToPcm(1, 22050, 16);
     const double from = At("12:00:00");
     c.tc.clock.Set(from);
@@ -366,8 +360,8 @@ void TestRecordingCycle::dayLongRecordingStopsByTheClock()
     QString description = "All day";
     c.control->StartRecording(id, from, from + 1.0, description);
     QVERIFY(ctx.appStatus.Recording());
-    QCOMPARE(ctx.recordingStatus.DurationSeconds, 0);
-    const std::optional<RecParms> parms = RecParms::Read(c.control->link.ParameterFile());
+    QCOMPARE(c.recorder().Status().DurationSeconds, 0);
+    const std::optional<RecParms> parms = RecParms::Read(c.recorder().Link().ParameterFile());
     QVERIFY(parms);
     QCOMPARE(parms->lengthSeconds, 0);
 
@@ -375,7 +369,7 @@ void TestRecordingCycle::dayLongRecordingStopsByTheClock()
     elapsed.start();
     while (ctx.appStatus.Recording() && elapsed.elapsed() < 15000) {
         c.tc.clock.Set(AutomationDate::AddSeconds(from, 86397 + elapsed.elapsed() / 1000.0));
-        c.heartbeat->Timer1_Timer();
+        c.recorder().HeartbeatTimer().Timer1_Timer();
         QTest::qWait(50);
     }
     QVERIFY(!ctx.appStatus.Recording());
@@ -399,7 +393,7 @@ void TestRecordingCycle::recordingWithoutDataFails()
     QCOMPARE(entries[0].message, QString("Recording failed"));
     QVERIFY(entries[0].details.contains("Silent"));
     QVERIFY(entries[0].details.contains("try extending the time by a few seconds."));
-    QVERIFY(c.ctx().recordingStatus.Failed);
+    QVERIFY(c.recorder().Status().Failed);
     QVERIFY(c.FilesInFolder().isEmpty());
     QVERIFY(c.Recordings().isEmpty());
     QVERIFY(c.tc.launcher.started.isEmpty());
@@ -413,12 +407,9 @@ void TestRecordingCycle::manualRecordingNeedsHalfAMegabyteAboveTheLimit()
     AppContext& ctx = c.ctx();
     ctx.options.StopRecMegsLeft = 25;
     ctx.options.ConfirmStopManualRecording = false;
-    ctx.recordingStatus.ProgramId = -1;
+    c.recorder().Status().ProgramId = -1;
     c.control->ManualFormat.SetToPcm(1, 22050, 16);
-    double free = 25.25;
-    c.control->FreeMegabytes = [&free](const QString&) {
-        return free;
-    };
+    c.tc.diskSpace.freeMb = 25.25;
     const double now = At("12:00:00");
     c.tc.clock.Set(now);
 
@@ -429,12 +420,12 @@ void TestRecordingCycle::manualRecordingNeedsHalfAMegabyteAboveTheLimit()
     QCOMPARE(c.tc.messageBox.asked.size(), 1);
     QCOMPARE(c.tc.messageBox.asked[0].title,
              QString("Recording not started due to insufficient disk space."));
-    QVERIFY(c.control->link.StartedTasks().isEmpty());
+    QVERIFY(c.recorder().Link().StartedTasks().isEmpty());
 
-    free = 25.5;
+    c.tc.diskSpace.freeMb = 25.5;
     c.control->StartRecording(id, now, AutomationDate::AddSeconds(now, 60), description);
     QVERIFY(ctx.appStatus.Recording());
-    QCOMPARE(c.control->link.StartedTasks().size(), 1);
+    QCOMPARE(c.recorder().Link().StartedTasks().size(), 1);
     QTest::qWait(1500);
     c.control->HandleStopRecordingRequest(ctx.options.ConfirmStopManualRecording);
     QTRY_VERIFY_WITH_TIMEOUT(!ctx.appStatus.Recording(), 12000);
@@ -450,21 +441,19 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
 {
     Cycle c;
     AppContext& ctx = c.ctx();
-    ctx.recordingStatus.ProgramId = -1;
+    c.recorder().Status().ProgramId = -1;
     const quint8 extra[12] = {1, 0, 2, 0, 0, 0, 0x20, 0x01, 1, 0, 0x71, 0x05};
     c.control->ManualFormat.SetWaveFormatEx(85, 2, 22050, 8000, 1, 0, 12, extra);
     c.control->ManualFormat.ConvertToMP3 = true;
     c.control->ManualFormat.SaveMP3FileExtension = true;
-    c.control->FreeMegabytes = [](const QString&) {
-        return 100000.0;
-    };
+    c.tc.diskSpace.freeMb = 100000.0;
     const double from = At("12:00:00");
     c.tc.clock.Set(from);
     qint32 id = -1;
     QString description = "To convert";
     c.control->StartRecording(id, from, AutomationDate::AddSeconds(from, 60), description);
     QVERIFY(ctx.appStatus.Recording());
-    const std::optional<RecParms> parms = RecParms::Read(c.control->link.ParameterFile());
+    const std::optional<RecParms> parms = RecParms::Read(c.recorder().Link().ParameterFile());
     QVERIFY(parms);
     QCOMPARE(parms->wFormatTag, qint16(1));
     QCOMPARE(parms->nChannels, 2);
@@ -480,8 +469,8 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
 
     QCOMPARE(c.FilesInFolder(), QStringList{"060126_120000.WAV.TMP"});
     QVERIFY(c.Recordings().isEmpty());
-    QCOMPARE(c.control->Mp3ConvertQueue.size(), 1);
-    const clsConvertToMP3Request& request = *c.control->Mp3ConvertQueue.constFirst();
+    QCOMPARE(c.recorder().Conversion().Mp3ConvertQueue.size(), 1);
+    const clsConvertToMP3Request& request = *c.recorder().Conversion().Mp3ConvertQueue.constFirst();
     QCOMPARE(request.SourceFile, capture);
     QCOMPARE(request.DestinationFile, c.folder + "/060126_120000.MP3");
     QCOMPARE(request.SourceFormat.wFormatTag(), quint16(1));
@@ -496,6 +485,52 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
 
 // The sound server goes away during capture: the task reports it, the partial file is
 // deleted and no row is written.
+// The recording folder on a small file system of its own: the guard stops the recording
+// while the disk still holds its stop limit, and the recording ends as a good one, kept and
+// listed. The guard logs on each round until the end, which comes within a round or two.
+void TestRecordingCycle::diskGuardStopsAndKeepsTheRecording()
+{
+    Cycle c;
+    const QString small = c.tc.Root() + "/small";
+    QDir().mkpath(small);
+    if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=26m", "tmpfs", small}) != 0)
+        QSKIP("no small file system can be mounted here (needs root)");
+    const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {"-l", small}); });
+    c.folder = small;
+    c.ctx().options.DefaultRecordingDirectory = small;
+    c.ctx().options.StopRecMegsLeft = 25;
+    c.ctx().options.WarnRecMegsLeft = 25;
+
+    // 44.1 kHz 16-bit stereo: 1.5 Mbytes above the limit last about nine seconds.
+    QVariantHash row = Programs::Weekly("Concert", "10:00:02", "11:00:00", "0100000");
+    c.AddProgram(row);
+    QSqlQuery(c.ctx().database.db.Connection())
+        .exec("UPDATE Programs SET wfx_nChannels = 2, wfx_nAvgBytesPerSec = 176400, "
+              "wfx_nBlockAlign = 4");
+    c.ctx().database.DataPrograms.Requery();
+
+    QVERIFY(c.RecordOnce(At("10:00:01")));
+    QVERIFY(!c.recorder().Status().Failed);
+    const QString path = small + "/060126_100002.WAV";
+    QCOMPARE(c.FilesInFolder(), QStringList{"060126_100002.WAV"});
+    const double freeMb = QStorageInfo(small).bytesAvailable() / 1048576.0;
+    QVERIFY2(freeMb > 22.0, qPrintable(QString::number(freeMb)));
+    QCOMPARE(c.Recordings().size(), 1);
+    QCOMPARE(c.Recordings()[0].file, path);
+    double rms = 0, frequency = 0;
+    QVERIFY(ToneOf(path, rms, frequency));
+    QVERIFY2(rms > 0.1, qPrintable(QString::number(rms)));
+    // The recording ended well before its time, once the guard saw the limit.
+    const double seconds = QFileInfo(path).size() / 176400.0;
+    QVERIFY2(seconds > 4 && seconds < 14, qPrintable(QString::number(seconds)));
+
+    const QList<LogEntry> entries = c.Entries();
+    QVERIFY2(!entries.isEmpty() && entries.size() <= 2,
+             qPrintable(QString::number(entries.size())));
+    for (const LogEntry& e : entries)
+        QCOMPARE(e.message, QString("Recording stopped due to insufficient disk space."));
+}
+
 void TestRecordingCycle::captureErrorDeletesThePartialFile()
 {
     Cycle c;
@@ -508,7 +543,7 @@ void TestRecordingCycle::captureErrorDeletesThePartialFile()
     const QList<LogEntry> entries = c.Entries();
     QCOMPARE(entries.size(), 1);
     QCOMPARE(entries[0].type, 2);
-    QVERIFY(c.ctx().recordingStatus.Failed);
+    QVERIFY(c.recorder().Status().Failed);
     QVERIFY(c.FilesInFolder().isEmpty());
     QVERIFY(c.Recordings().isEmpty());
     // The window is still open: the occurrence is marked and is not started again.
@@ -516,7 +551,7 @@ void TestRecordingCycle::captureErrorDeletesThePartialFile()
     QCOMPARE(c.ProgramColumn(id, "RecordingCancelledEndDateAndTime").toDouble(), At("10:00:30"));
     for (int i = 0; i < 10; ++i) {
         c.tc.clock.AdvanceSeconds(0.25);
-        c.heartbeat->Timer1_Timer();
+        c.recorder().HeartbeatTimer().Timer1_Timer();
     }
     QCOMPARE(c.starts, 1);
     QVERIFY(!c.ctx().appStatus.Recording());
@@ -534,7 +569,7 @@ void TestRecordingCycle::noSoundServerMeansNoRecording()
     QVERIFY(c.RecordOnce(At("10:00:00")));
     QVERIFY(!c.Entries().isEmpty());
     QCOMPARE(c.Entries().constFirst().type, 2);
-    QVERIFY(c.ctx().recordingStatus.Failed);
+    QVERIFY(c.recorder().Status().Failed);
     QVERIFY(c.FilesInFolder().isEmpty());
     QVERIFY(c.Recordings().isEmpty());
     // The command not limited to good recordings runs after a failed one too.

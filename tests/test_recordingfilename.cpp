@@ -54,7 +54,8 @@ private slots:
         QString folder = "  /rec/shows  ";
         QString base, extension;
         const QString path =
-            NewRecordingFileName(*tc.ctx, user, prefix, suffix, folder, mp3, base, extension);
+            NewRecordingFileName(tc.ctx->Now(), tc.ctx->options.DefaultRecordFileNameFormat, user,
+                                 prefix, suffix, folder, mp3, base, extension);
         QCOMPARE(path, "/rec/shows/" + file);
         QCOMPARE(folder, QStringLiteral("/rec/shows/"));
         QCOMPARE(base + extension, file);
@@ -65,7 +66,8 @@ private slots:
         TestContext tc;
         QString folder = "/rec/";
         QString base, extension;
-        QCOMPARE(NewRecordingFileName(*tc.ctx, "x", "", "", folder, false, base, extension),
+        QCOMPARE(NewRecordingFileName(tc.ctx->Now(), tc.ctx->options.DefaultRecordFileNameFormat,
+                                      "x", "", "", folder, false, base, extension),
                  QStringLiteral("/rec/x.WAV"));
     }
 };

@@ -89,7 +89,7 @@ private slots:
     {
         ListFixture f;
         WriteWave(f.File("now.wav"));
-        f.tc.ctx->recordingStatus.FinalFile = f.File("now.wav");
+        f.tc.ctx->recorder.Status().FinalFile = f.File("now.wav");
         f.list.AddFileToRecordingsList(f.File("now.wav"));
         QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
     }

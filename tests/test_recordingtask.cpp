@@ -5,6 +5,7 @@
 #include "formats/CodecCatalogue.h"
 #include "formats/WaveFileChunks.h"
 #include "recording/RecParms.h"
+#include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
 
 #include <QFileInfo>
@@ -188,7 +189,8 @@ struct Rig {
     Rig()
     {
         tc.OpenDatabase();
-        link = std::make_unique<RecordingTaskLink>(*tc.ctx);
+        link = std::make_unique<RecordingTaskLink>(tc.ctx->log, tc.ctx->appStatus,
+                                                   tc.ctx->folders.runtimeFolder);
         link->SetTaskProgram(NIGHTREEL_REC);
         QObject::connect(link.get(), &RecordingTaskLink::StopRecording,
                          [this] { tc.ctx->appStatus.SetRecording(false); });
@@ -200,8 +202,6 @@ struct Rig {
     {
         parms.Write(link->ParameterFile());
         tc.ctx->appStatus.SetRecording(true);
-        tc.ctx->recordingStatus.StopRequested = false;
-        tc.ctx->recordingStatus.Failed = false;
         if (!link->ActivateNightreeltask())
             return false;
         const qint64 header = QFileInfo(parms.outputPath).size();
@@ -215,7 +215,7 @@ struct Rig {
     bool Stop()
     {
         QSignalSpy stopped(link.get(), &RecordingTaskLink::StopRecording);
-        link->RequestStop();
+        link->PostStop();
         return stopped.wait(5000) && link->tmrStopRecording.Interval() == 0;
     }
     bool WaitForExit(qint64 pid)
@@ -416,10 +416,10 @@ private slots:
         Rig rig;
         const QString path = rig.Path("lost.WAV");
         QVERIFY(rig.Start(Parms(path, 1, 1, 11025, 16, 0)));
-        QSignalSpy stopRecording(rig.link.get(), &RecordingTaskLink::StopRecording);
+        QSignalSpy taskError(rig.link.get(), &RecordingTaskLink::TaskError);
         m_pulse->Stop();
-        QVERIFY(stopRecording.wait(5000));
-        QVERIFY(rig.tc.ctx->recordingStatus.Failed);
+        QVERIFY(taskError.wait(5000));
+        ReportRecordingTaskError(rig.tc.ctx->log, taskError[0][0].toInt());
         QCOMPARE(LoggedMessages(rig.tc), QStringList{"Error occurred during recording process."});
         QVERIFY(rig.WaitForExit(rig.link->StartedTasks().last()));
         // What was recorded up to then is a finished file.

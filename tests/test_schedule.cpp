@@ -356,9 +356,9 @@ private slots:
         row["Frequency"] = frequency;
         row["Mon"] = -1; // 1 June 2026 is a Monday
         const qint64 id = tc.AddProgram(row);
-        tc.ctx->recordingStatus.EndTime = At(2026, 6, 1, "11:00:00");
-        tc.ctx->scheduler.CancelRecording(qint32(id));
-        tc.ctx->scheduler.CancelRecording(qint32(id + 100)); // no such row: nothing happens
+        const double end = At(2026, 6, 1, "11:00:00");
+        tc.ctx->scheduler.CancelRecording(qint32(id), end);
+        tc.ctx->scheduler.CancelRecording(qint32(id + 100), end); // no such row: nothing happens
         Recordset rs = tc.ctx->database.DataPrograms.recordset().Clone();
         QFETCH(bool, deleted);
         QCOMPARE(rs.RecordCount(), deleted ? 0 : 1);
@@ -371,6 +371,19 @@ private slots:
         // The occurrence dealt with is not found again; a weekly one's next week is.
         const Found f = Search(*tc.ctx, At(2026, 6, 1, "10:30:00"));
         QVERIFY(!f.found || f.start == At(2026, 6, 8, "10:00:00"));
+    }
+
+    // A search in the last half-second of Monday must take Monday's date and weekday
+    // alike, or Tuesday's program would be put a week later.
+    void aSearchJustBeforeMidnightFindsTomorrowsProgram()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.AddProgram(Programs::Weekly("Tuesday show", "08:00:00", "09:00:00", "0010000"));
+        tc.clock.Set(QDateTime(QDate(2026, 6, 1), QTime(23, 59, 59, 700)));
+        tc.ctx->scheduler.ScheduleNextRecording();
+        QVERIFY(tc.ctx->scheduler.next.NextProgramFound);
+        QCOMPARE(tc.ctx->scheduler.next.NextProgramStart, At(2026, 6, 2, "08:00:00"));
     }
 };
 

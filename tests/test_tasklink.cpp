@@ -31,12 +31,12 @@ struct Fixture {
         tc.OpenDatabase();
         qputenv("NIGHTREEL_FAKE_PLAN", plan.toUtf8());
         qputenv("NIGHTREEL_FAKE_LOG", (tc.Root() + "/fake.log").toUtf8());
-        link = std::make_unique<RecordingTaskLink>(*tc.ctx);
+        link = std::make_unique<RecordingTaskLink>(tc.ctx->log, tc.ctx->appStatus,
+                                                   tc.ctx->folders.runtimeFolder);
         link->SetTaskProgram(NIGHTREEL_FAKETASK);
         RecParms().Write(link->ParameterFile());
         // StopRecording as the system has it: it acts only while a recording runs.
         QObject::connect(link.get(), &RecordingTaskLink::StopRecording, [this] {
-            entriesAtStop << Entries().size();
             if (tc.ctx->appStatus.Recording()) {
                 ++stops;
                 tc.ctx->appStatus.SetRecording(false);
@@ -54,8 +54,6 @@ struct Fixture {
     bool StartRecording()
     {
         tc.ctx->appStatus.SetRecording(true);
-        tc.ctx->recordingStatus = clsRecordingStatus();
-        tc.ctx->recordingStatus.Description = "Evening news";
         return link->ActivateNightreeltask() && link->SendMessage(REC_MSG_START) == 0;
     }
     QList<Entry> Entries()
@@ -103,7 +101,6 @@ struct Fixture {
     TestContext tc;
     std::unique_ptr<RecordingTaskLink> link;
     int stops = 0;
-    QList<int> entriesAtStop;
 };
 
 } // namespace
@@ -288,18 +285,16 @@ private slots:
         QCOMPARE(f.Entries().first().details, QString("This may require Windows to be restarted."));
     }
 
-    void aTaskReportingAnErrorTwiceStopsOnceAndReportsOnce()
+    // Every report is handed on with its code; the recording control fails the recording
+    // on the first.
+    void aTaskReportingAnErrorTwiceIsHandedOnTwice()
     {
         Fixture f("afterstart=1046:1024+1046:1024");
-        QSignalSpy stopRecording(f.link.get(), &RecordingTaskLink::StopRecording);
+        QSignalSpy taskError(f.link.get(), &RecordingTaskLink::TaskError);
         QVERIFY(f.StartRecording());
-        QTRY_COMPARE(stopRecording.size(), 1);
-        QTest::qWait(300);
-        QCOMPARE(stopRecording.size(), 1);
-        QVERIFY(f.tc.ctx->recordingStatus.Failed);
-        QCOMPARE(f.Messages(), QStringList{"Error occurred during recording process."});
-        // The recording was stopped before the error was reported.
-        QCOMPARE(f.entriesAtStop, QList<int>{0});
+        QTRY_COMPARE(taskError.size(), 2);
+        QCOMPARE(taskError[0][0].toInt(), 1024);
+        QVERIFY(f.Messages().isEmpty());
     }
 
     void aStartRefusedIsTheTaskAnswer()
@@ -315,9 +310,7 @@ private slots:
         Fixture f("stop=1500");
         QSignalSpy stopRecording(f.link.get(), &RecordingTaskLink::StopRecording);
         QVERIFY(f.StartRecording());
-        f.link->RequestStop();
-        f.link->RequestStop();
-        QVERIFY(f.tc.ctx->recordingStatus.StopRequested);
+        f.link->PostStop();
         QCOMPARE(f.link->tmrStopRecording.Interval(), 10000);
         // The task is slow: the watchdog's tick comes first and stops the recording.
         f.link->tmrStopRecording_Timer();
@@ -336,7 +329,7 @@ private slots:
         QTest::addColumn<bool>("recording");
         QTest::addColumn<int>("ticks");
         QTest::addColumn<int>("misses");
-        QTest::addColumn<bool>("failed");
+        QTest::addColumn<bool>("givenUp");
         QTest::addColumn<int>("questions");
         QTest::newRow("answered") << "keepalive=1" << true << 5 << 0 << false << 5;
         // Two misses, then an answer: the count starts again from nothing.
@@ -352,9 +345,10 @@ private slots:
         QFETCH(bool, recording);
         QFETCH(int, ticks);
         QFETCH(int, misses);
-        QFETCH(bool, failed);
+        QFETCH(bool, givenUp);
         QFETCH(int, questions);
         Fixture f(plan);
+        QSignalSpy notResponding(f.link.get(), &RecordingTaskLink::TaskNotResponding);
         QVERIFY(f.StartRecording());
         f.tc.ctx->appStatus.SetRecording(recording);
         for (int i = 0; i < ticks; ++i) {
@@ -362,16 +356,7 @@ private slots:
             QTest::qWait(100);
         }
         QCOMPARE(f.link->KeepAliveMissCount, qint16(misses));
-        QCOMPARE(f.tc.ctx->recordingStatus.Failed, failed);
-        QCOMPARE(f.stops, failed ? 1 : 0);
-        if (failed) {
-            QCOMPARE(f.Messages(), QStringList{"No response from recording task."});
-            QVERIFY(f.Entries().first().details.endsWith(
-                "system restart. \rThe error occured during the following recording: "
-                "Evening news"));
-        } else {
-            QVERIFY(f.Messages().isEmpty());
-        }
+        QCOMPARE(notResponding.size(), givenUp ? 1 : 0);
         QCOMPARE(f.Received(REC_MSG_KEEPALIVE), questions);
     }
 
@@ -412,7 +397,7 @@ private slots:
         QFETCH(int, command);
         QFETCH(bool, toTray);
         TestContext tc;
-        RecordingTaskLink link(*tc.ctx);
+        RecordingTaskLink& link = tc.ctx->recorder.Link();
         QSignalSpy tray(&link, &RecordingTaskLink::MinimizeToTray);
         qint32 result = -1;
         QCOMPARE(link.sbcls1_WndProc(WM_SYSCOMMAND, command, 0, result), toTray);

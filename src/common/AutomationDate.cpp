@@ -30,9 +30,11 @@ double FromLinearMilliseconds(qint64 ms)
     return day >= 0 ? double(day) + fraction : double(day) - fraction;
 }
 
+// Truncated, like DatePart: every helper puts a moment into the same second and so the same
+// day.
 qint64 LinearSeconds(double date)
 {
-    return FloorDiv(LinearMilliseconds(date) + 500, 1000);
+    return FloorDiv(LinearMilliseconds(date), 1000);
 }
 
 int SecondOfDay(double date)

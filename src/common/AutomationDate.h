@@ -33,7 +33,7 @@ int Minute(double date);
 int Second(double date);
 
 // Whole-unit differences b - a counted as the system counts them: the number of unit
-// boundaries passed between the two moments, after rounding each to the second.
+// boundaries passed between the two moments, after truncating each to the second.
 qint64 SecondsBetween(double a, double b);
 qint64 MinutesBetween(double a, double b);
 qint64 HoursBetween(double a, double b);

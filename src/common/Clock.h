@@ -13,8 +13,13 @@ public:
 
 class SystemClock : public Clock {
 public:
+    // Whole seconds, as the system worked: a reading with milliseconds would let two
+    // helpers disagree on which day 23:59:59.7 belongs to.
     double Now() const override
     {
-        return AutomationDate::FromDateTime(QDateTime::currentDateTime());
+        const QDateTime now = QDateTime::currentDateTime();
+        const QTime time = now.time();
+        return AutomationDate::FromDateTime(
+            QDateTime(now.date(), QTime(time.hour(), time.minute(), time.second())));
     }
 };

@@ -27,3 +27,11 @@ template <typename Body> bool Trap(EventLog& log, const char* procedureName, Bod
     }
     return false;
 }
+
+// Runs each step in turn under one routine's trap: a failing step is reported and the next
+// still runs, as a routine that carries on after an error does.
+template <typename... Steps>
+void TrapEach(EventLog& log, const char* procedureName, Steps&&... steps)
+{
+    (Trap(log, procedureName, steps), ...);
+}

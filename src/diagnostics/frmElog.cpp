@@ -3,8 +3,8 @@
 #include "common/MessageBox.h"
 #include "common/Twips.h"
 #include "diagnostics/frmElogDetails.h"
+#include "gui/FormPlacement.h"
 #include "shell/AppContext.h"
-#include "shell/FormPlacement.h"
 #include "store/GridColumns.h"
 #include "store/RecordsetModel.h"
 

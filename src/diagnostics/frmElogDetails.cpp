@@ -1,7 +1,7 @@
 #include "diagnostics/frmElogDetails.h"
 
 #include "common/AutomationDate.h"
-#include "shell/FormPlacement.h"
+#include "gui/FormPlacement.h"
 #include "store/Options.h"
 
 #include <QFormLayout>

@@ -1,8 +1,8 @@
 #include "diagnostics/frmErrors.h"
 
 #include "diagnostics/frmElog.h"
+#include "gui/FormPlacement.h"
 #include "shell/AppContext.h"
-#include "shell/FormPlacement.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -6,8 +6,8 @@
 #include "formats/frmMP3Warning.h"
 #include "formats/frmMP3WarningNT.h"
 #include "formats/frmMp3RecordingFormatInfo.h"
+#include "gui/FormPlacement.h"
 #include "shell/AppContext.h"
-#include "shell/FormPlacement.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,8 +1,8 @@
 #include "options/frmSelectExistingRecordDirectory.h"
 
+#include "gui/FormPlacement.h"
 #include "options/FolderBrowser.h"
 #include "options/FolderPaths.h"
-#include "shell/FormPlacement.h"
 
 #include <QDir>
 #include <QLabel>

@@ -2,10 +2,10 @@
 
 #include "common/MessageBox.h"
 #include "diagnostics/Trap.h"
+#include "gui/FormPlacement.h"
 #include "options/FolderBrowser.h"
 #include "options/FolderPaths.h"
 #include "shell/AppContext.h"
-#include "shell/FormPlacement.h"
 
 #include <QApplication>
 #include <QDir>

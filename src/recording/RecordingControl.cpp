@@ -1,17 +1,26 @@
 #include "recording/RecordingControl.h"
 
 #include "common/AutomationDate.h"
+#include "common/Clock.h"
 #include "common/MessageBox.h"
 #include "common/RuntimeError.h"
+#include "common/clsAppStatus.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
+#include "platform/DiskSpace.h"
+#include "recording/ConversionQueue.h"
 #include "recording/RecParms.h"
 #include "recording/RecordingFileName.h"
 #include "recording/RecordingTaskErrors.h"
+#include "recording/RecordingTaskLink.h"
+#include "recording/clsRecordingStatus.h"
+#include "scheduling/Scheduler.h"
 #include "shell/AppContext.h"
-#include "shell/StatusBarPlus.h"
 #include "sideactions/LaunchCommands.h"
+#include "store/AppDatabase.h"
+#include "store/Options.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -57,53 +66,94 @@ QString WithClosingSeparator(const QString& folder)
 
 } // namespace
 
-RecordingControl::RecordingControl(AppContext& ctx, QObject* parent)
+RecordingControl::RecordingControl(AppContext& formats, const RecorderServices& services,
+                                   RecordingTaskLink& link, clsRecordingStatus& status,
+                                   ConversionQueue& conversion, QObject* parent)
     : QObject(parent)
-    , link(ctx)
-    , ManualFormat(ctx)
-    , Format(ctx)
-    , m_ctx(ctx)
+    , ManualFormat(formats)
+    , m_formats(formats)
+    , m_s(services)
+    , m_link(link)
+    , m_status(status)
+    , m_conversion(conversion)
+    , m_format(formats)
 {
-    FreeMegabytes = [](const QString& folder) {
-        return StatusBarPlus::GetRecDirDiskSpaceMb(folder).free;
-    };
-    connect(&link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
+    connect(&m_link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
+    connect(&m_link, &RecordingTaskLink::TaskError, this, &RecordingControl::OnTaskError);
+    connect(&m_link, &RecordingTaskLink::TaskNotResponding, this,
+            &RecordingControl::OnTaskNotResponding);
 }
 
 RecordingControl::~RecordingControl() = default;
 
 void RecordingControl::ExitAndClear()
 {
-    m_ctx.appStatus.SetRecording(false);
+    m_s.appStatus.SetRecording(false);
 }
 
-void RecordingControl::StartRecording(qint32& ProgramId, double StartTime, double EndTime,
-                                      QString& Description)
+void RecordingControl::OnTaskError(qint32 code)
 {
-    if (m_ctx.appStatus.Suspended())
+    // A task may report more than once; only the first report fails the recording. The
+    // report comes after the stop, as the system logged it.
+    if (m_status.Failed)
+        return;
+    m_status.Failed = true;
+    StopRecording();
+    ReportRecordingTaskError(m_s.log, code);
+}
+
+void RecordingControl::OnTaskNotResponding()
+{
+    Trap(m_s.log, "tmrKeepAlive_Timer", [&] {
+        if (m_status.Failed)
+            return;
+        m_s.log.LogEvent(
+            EventError, QStringLiteral("No response from recording task."),
+            QStringLiteral("Perform a test recording with a PCM recording format. If the error "
+                           "does not reoccur, there may have been a problem with the recording "
+                           "format.  Otherwise, the recording task may be locked and require a "
+                           "system restart. \rThe error occured during the following recording: ") +
+                m_status.Description);
+        m_status.Failed = true;
+        StopRecording();
+    });
+}
+
+void RecordingControl::RequestStop()
+{
+    if (m_status.StopRequested)
+        return;
+    m_status.StopRequested = true;
+    m_link.PostStop();
+}
+
+void RecordingControl::StartRecording(qint32 ProgramId, double StartTime, double EndTime,
+                                      const QString& Description)
+{
+    if (m_s.appStatus.Suspended())
         return;
     // First of all: the steps below let events run, and the heartbeat must see a recording.
-    m_ctx.appStatus.SetRecording(true);
-    m_ctx.recordingStatus.StopRequested = false;
+    m_s.appStatus.SetRecording(true);
+    m_status.StopRequested = false;
     // A failure leaves Recording set on purpose: the clock or the keep-alive ends it.
-    Trap(m_ctx.log, "StartRecording",
+    Trap(m_s.log, "StartRecording",
          [&] { StartRecordingSteps(ProgramId, StartTime, EndTime, Description); });
 }
 
-void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, double EndTime,
-                                           QString& Description)
+void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, double EndTime,
+                                           const QString& Description)
 {
-    clsRecordingStatus& status = m_ctx.recordingStatus;
+    clsRecordingStatus& status = m_status;
     const QString softwareName = SoftwareName();
-    QString folder = m_ctx.options.DefaultRecordingDirectory;
-    clsRecordingFormat chosen(m_ctx);
+    QString folder = m_s.options.DefaultRecordingDirectory;
+    clsRecordingFormat chosen(m_formats);
     QString description;
     QString userName;
     QString prefix;
     QString suffix;
 
     if (ProgramId != -1) {
-        Recordset programs = m_ctx.database.DataPrograms.recordset().Clone();
+        Recordset programs = m_s.database.DataPrograms.recordset().Clone();
         programs.FindFirst(QStringLiteral("Id = ") + QString::number(ProgramId));
         if (programs.NoMatch()) {
             ExitAndClear();
@@ -145,7 +195,7 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
         status.StreamingPlayerClose = kDoNotClose;
         status.HangupInternetConnection = false;
     } else {
-        m_ctx.messageBox.Show(
+        m_s.messageBox.Show(
             QStringLiteral("Error"),
             QStringLiteral("Invalid Recording Directory. Select a recording directory in Options."),
             MsgIcon::Exclamation, MsgButtons::Ok);
@@ -168,20 +218,21 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
     QString baseName;
     QString extension;
     QString finalFile;
-    ConvertRequest.reset();
+    m_convertRequest.reset();
     if (chosen.wFormatTag() != clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 || !chosen.ConvertToMP3) {
         status.ConvertToMP3 = false;
         const bool mp3Extension =
             chosen.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 &&
             chosen.SaveMP3FileExtension;
-        finalFile = NewRecordingFileName(m_ctx, userName, prefix, suffix, folder, mp3Extension,
-                                         baseName, extension);
+        finalFile =
+            NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat, userName,
+                                 prefix, suffix, folder, mp3Extension, baseName, extension);
         status.RecordingFile = finalFile;
         // An old recording of the same name is replaced without a question.
         QFile::remove(finalFile);
     } else {
         status.ConvertToMP3 = true;
-        pcmCapture = std::make_unique<clsRecordingFormat>(m_ctx);
+        pcmCapture = std::make_unique<clsRecordingFormat>(m_formats);
         pcmCapture->SetToPcm(chosen.nChannels(), chosen.nSamplesPerSec(), 16);
         capture = pcmCapture.get();
         // The MP3 and its PCM source exist side by side until the conversion ends.
@@ -189,12 +240,13 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
                              pcmCapture->CalcStorageMbytesSng(status.DurationSeconds));
         spaceNote = QStringLiteral("Note: Converted MP3 recordings require additional storage "
                                    "for the initial PCM wave file recording.\r\n");
-        finalFile = NewRecordingFileName(m_ctx, userName, prefix, suffix, folder,
+        finalFile = NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat,
+                                         userName, prefix, suffix, folder,
                                          chosen.SaveMP3FileExtension, baseName, extension);
         status.RecordingFile = folder + baseName + QStringLiteral(".WAV.TMP");
         QFile::remove(status.RecordingFile);
-        ConvertRequest = std::make_shared<clsConvertToMP3Request>(m_ctx);
-        clsConvertToMP3Request& request = *ConvertRequest;
+        m_convertRequest = std::make_shared<clsConvertToMP3Request>(m_formats);
+        clsConvertToMP3Request& request = *m_convertRequest;
         request.SourceFile = status.RecordingFile;
         request.DestinationFile = finalFile;
         request.SourceFormat.CopyFrom(*pcmCapture);
@@ -206,24 +258,24 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
         request.LaunchAppAfter = status.LaunchAppAfter;
         request.LaunchAfterOnlyIfOk = status.LaunchAfterOnlyIfOk;
     }
-    if (m_ctx.appStatus.Converting())
+    if (m_s.appStatus.Converting())
         spaceNote += QStringLiteral(" Additional space is also needed for any temporary PCM files "
                                     "that are currently being converted to MP3.");
 
     // Only a manual recording is refused for space; a scheduled one is left to the disk
     // guard, and a direct one needs just half a megabyte above the limit whatever its length.
-    const double freeMbytes = FreeMegabytes(folder);
-    const double required = double(m_ctx.options.StopRecMegsLeft) + spaceNeeded;
+    const double freeMbytes = m_s.diskSpace.GetRecDirDiskSpaceMb(folder).free;
+    const double required = double(m_s.options.StopRecMegsLeft) + spaceNeeded;
     if (ProgramId == -1 && required > freeMbytes) {
-        m_ctx.messageBox.Show(
+        m_s.messageBox.Show(
             QStringLiteral("Recording not started due to insufficient disk space."),
             QStringLiteral("The recording was not started since there is not enough disk space.  "
                            "Remove recordings from disk, change the recording directory to a "
                            "different disk drive, or shorten the recording time. ") +
                 spaceNote,
             MsgIcon::Exclamation, MsgButtons::Ok);
-        m_ctx.scheduler.CancelRecording(ProgramId);
-        m_ctx.scheduler.ScheduleNextRecording();
+        m_s.scheduler.CancelRecording(ProgramId, m_status.EndTime);
+        m_s.scheduler.ScheduleNextRecording();
         ExitAndClear();
         return;
     }
@@ -248,59 +300,57 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
     parms.extra = QByteArray(reinterpret_cast<const char*>(extra), parms.cbSize);
 
     // The keep-alive runs from before the parameter file is written.
-    link.KeepAliveMissCount = 0;
-    link.tmrKeepAlive.SetInterval(RecordingTaskLink::KeepAliveInterval);
+    m_link.StartKeepAlive();
 
     status.StartTime = StartTime;
     status.EndTime = EndTime;
     status.FinalFile = finalFile;
     status.Description = description;
     status.CompressionText = chosen.TextCompressionMethod;
-    Format.CopyFrom(chosen);
+    m_format.CopyFrom(chosen);
 
-    const QString parameterFile = link.ParameterFile();
+    const QString parameterFile = m_link.ParameterFile();
     QFile::remove(parameterFile);
     QCoreApplication::processEvents();
     parms.Write(parameterFile);
     QCoreApplication::processEvents();
 
     status.Failed = false;
-    if (!link.ActivateNightreeltask()) {
+    if (!m_link.ActivateNightreeltask()) {
         // The activation has logged why.
         status.Failed = true;
         StopRecording();
         return;
     }
-    link.KeepAliveMissCount = 0;
-    link.tmrKeepAlive.SetInterval(RecordingTaskLink::KeepAliveInterval);
+    m_link.StartKeepAlive();
 
     // The place where the program's before-profile of the mixer goes in, once the task is up
     // and right before capture: ActivateMixerProfile(status.MixerProfileBefore).
     QCoreApplication::processEvents();
 
-    const qint32 result = link.SendMessage(REC_MSG_START);
+    const qint32 result = m_link.SendMessage(REC_MSG_START);
     if (result >= 1) {
         status.Failed = true;
         StopRecording();
-        ReportRecordingTaskError(m_ctx.log, result);
+        ReportRecordingTaskError(m_s.log, result);
         return;
     }
 
     // The place where the tray's animation timer starts (tmrSystray at 500 ms).
-    m_ctx.appStatus.SetPaused(false);
+    m_s.appStatus.SetPaused(false);
     emit UpdateModeDisplay();
     // The place where the windows are noted after the link opened a streaming player, when
     // the program has an InternetLink and no StreamingPlayerClose title:
     // SnapshotWindowsAtRecordingStart().
-    if (m_ctx.options.ShowRecordingTimeInTaskBar)
+    if (m_s.options.ShowRecordingTimeInTaskBar)
         emit ShowRecordingStatusForm();
 }
 
 void RecordingControl::HandleStopRecordingRequest(bool Confirm)
 {
-    Trap(m_ctx.log, "HandleStopRecordingRequest", [&] {
-        const clsRecordingStatus& status = m_ctx.recordingStatus;
-        if (m_ctx.appStatus.Recording()) {
+    Trap(m_s.log, "HandleStopRecordingRequest", [&] {
+        const clsRecordingStatus& status = m_status;
+        if (m_s.appStatus.Recording()) {
             // A scheduled recording is never stopped without a question.
             if (Confirm || status.ProgramId != -1) {
                 const QString text =
@@ -309,47 +359,48 @@ void RecordingControl::HandleStopRecordingRequest(bool Confirm)
                                          "to MP3.  Are you sure you want to stop recording?")
                         : QStringLiteral("This will stop and save the recording in progress.  "
                                          "Are you sure you want to stop recording?");
-                if (m_ctx.messageBox.Show(QStringLiteral("Nightreel 2000"), text, MsgIcon::None,
-                                          MsgButtons::YesNo) != MsgResult::Yes)
+                if (m_s.messageBox.Show(QStringLiteral("Nightreel 2000"), text, MsgIcon::None,
+                                        MsgButtons::YesNo) != MsgResult::Yes)
                     return;
             }
-            // The recording may have ended while the question stood; the link then posts
+            // The recording may have ended while the question stood; the request then posts
             // nothing, or posts to a task that is gone.
-            link.RequestStop();
-        } else if (m_ctx.appStatus.Converting()) {
-            if (Confirm || !CurrentConvertRequest || !CurrentConvertRequest->ManualRecording) {
+            RequestStop();
+        } else if (m_s.appStatus.Converting()) {
+            const auto& current = m_conversion.CurrentConvertRequest;
+            if (Confirm || !current || !current->ManualRecording) {
                 // The three blanks in the second text are intended.
                 const QString text =
-                    Mp3ConvertQueue.isEmpty()
+                    m_conversion.Mp3ConvertQueue.isEmpty()
                         ? QStringLiteral("This will stop and save the MP3 conversion in progress. "
                                          " Are you sure you want to stop the MP3 conversion?")
                         : QStringLiteral("This will stop and save the MP3 conversion in progress "
                                          "and abort the remaining MP3 conversions in the queue.   "
                                          "Are you sure you want to stop the MP3 conversion?");
-                if (m_ctx.messageBox.Show(QStringLiteral("Nightreel 2000"), text, MsgIcon::Question,
-                                          MsgButtons::YesNo) != MsgResult::Yes)
+                if (m_s.messageBox.Show(QStringLiteral("Nightreel 2000"), text, MsgIcon::Question,
+                                        MsgButtons::YesNo) != MsgResult::Yes)
                     return;
             }
-            m_ctx.StopMp3Conversion = true;
+            m_conversion.StopMp3Conversion = true;
         }
     });
 }
 
 void RecordingControl::ToolbarPauseResume(const QString& Command)
 {
-    Trap(m_ctx.log, "ToolbarPauseResume", [&] {
-        const bool wasPaused = m_ctx.appStatus.Paused();
+    Trap(m_s.log, "ToolbarPauseResume", [&] {
+        const bool wasPaused = m_s.appStatus.Paused();
         const QString command = Command.toUpper();
         if (command == QStringLiteral("P"))
-            m_ctx.appStatus.SetPaused(true);
+            m_s.appStatus.SetPaused(true);
         else if (command == QStringLiteral("R"))
-            m_ctx.appStatus.SetPaused(false);
+            m_s.appStatus.SetPaused(false);
         else
-            m_ctx.appStatus.SetPaused(!wasPaused);
+            m_s.appStatus.SetPaused(!wasPaused);
         // The pause only changes what the task writes: the clock, the end, the disk guard
         // and the keep-alive all go on.
-        if (m_ctx.appStatus.Paused() != wasPaused)
-            link.SendMessage(REC_MSG_PAUSE_TOGGLE);
+        if (m_s.appStatus.Paused() != wasPaused)
+            m_link.SendMessage(REC_MSG_PAUSE_TOGGLE);
         emit UpdateModeDisplay();
     });
 }
@@ -357,16 +408,16 @@ void RecordingControl::ToolbarPauseResume(const QString& Command)
 void RecordingControl::StopRecording()
 {
     emit UnloadRecordingStatusForm();
-    if (!m_ctx.appStatus.Recording())
+    if (!m_s.appStatus.Recording())
         return;
     // A failure leaves Recording set until the next call.
-    Trap(m_ctx.log, "StopRecording", [&] { StopRecordingSteps(); });
+    Trap(m_s.log, "StopRecording", [&] { StopRecordingSteps(); });
 }
 
 void RecordingControl::StopRecordingSteps()
 {
-    clsRecordingStatus& status = m_ctx.recordingStatus;
-    link.tmrKeepAlive.SetInterval(0);
+    clsRecordingStatus& status = m_status;
+    m_link.StopKeepAlive();
     emit UpdateModeDisplay();
     // The task has closed the file; give the file system a moment. No events run here.
     QThread::msleep(250);
@@ -376,22 +427,22 @@ void RecordingControl::StopRecordingSteps()
                            : 0.0f;
     if (status.Failed) {
         QFile::remove(status.RecordingFile);
-        LaunchAfterRecording(m_ctx, false, status.LaunchAppAfter, status.LaunchAfterOnlyIfOk,
-                             status.FinalFile);
+        LaunchAfterRecording(m_s.log, m_s.launcher, false, status.LaunchAppAfter,
+                             status.LaunchAfterOnlyIfOk, status.FinalFile);
     } else if (size >= kLeastRecordingMbytes && status.ConvertToMP3) {
         // The conversion takes over: it writes the row and runs the launch after it.
-        if (ConvertRequest) {
-            ConvertRequest->EndTime = m_ctx.Now();
-            Mp3ConvertQueue.append(ConvertRequest);
+        if (m_convertRequest) {
+            m_convertRequest->EndTime = m_s.clock.Now();
+            m_conversion.Mp3ConvertQueue.append(m_convertRequest);
         }
     } else if (size >= kLeastRecordingMbytes) {
         // A failure here leaves the file on disk without a row; the after-actions go on.
-        DoEndOfRecordingStuff(status.Description, status.FinalFile, status.StartTime, m_ctx.Now(),
-                              status.CompressionText, Format);
-        LaunchAfterRecording(m_ctx, true, status.LaunchAppAfter, status.LaunchAfterOnlyIfOk,
-                             status.FinalFile);
+        DoEndOfRecordingStuff(status.Description, status.FinalFile, status.StartTime,
+                              m_s.clock.Now(), status.CompressionText, m_format);
+        LaunchAfterRecording(m_s.log, m_s.launcher, true, status.LaunchAppAfter,
+                             status.LaunchAfterOnlyIfOk, status.FinalFile);
     } else {
-        m_ctx.log.LogEvent(
+        m_s.log.LogEvent(
             EventError, QStringLiteral("Recording failed"),
             QStringLiteral("The following recording failed since no recording data was "
                            "written:\r\n") +
@@ -401,13 +452,13 @@ void RecordingControl::StopRecordingSteps()
                                "extending the time by a few seconds."));
         status.Failed = true;
         QFile::remove(status.RecordingFile);
-        LaunchAfterRecording(m_ctx, false, status.LaunchAppAfter, status.LaunchAfterOnlyIfOk,
-                             status.FinalFile);
+        LaunchAfterRecording(m_s.log, m_s.launcher, false, status.LaunchAppAfter,
+                             status.LaunchAfterOnlyIfOk, status.FinalFile);
     }
 
     // Manual recordings have no after-actions but the launch, which they never set.
     if (status.ProgramId != -1) {
-        m_ctx.scheduler.CancelRecording(status.ProgramId);
+        m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime);
         if (!status.InternetLink.trimmed().isEmpty()) {
             // The place where the streaming player is closed: CloseNewWindows() when
             // StreamingPlayerClose is empty, otherwise CloseWindowsByTitle(StreamingPlayerClose)
@@ -421,8 +472,8 @@ void RecordingControl::StopRecordingSteps()
     }
 
     status.FinalFile.clear();
-    m_ctx.appStatus.SetRecording(false);
-    m_ctx.scheduler.ScheduleNextRecording();
+    m_s.appStatus.SetRecording(false);
+    m_s.scheduler.ScheduleNextRecording();
     emit UpdateRecordingsButtonsAndMenus();
     emit UpdateModeDisplay();
 }
@@ -434,14 +485,14 @@ void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString
 {
     // The row's end is the file's time, not the end the caller saw.
     Q_UNUSED(EndTime);
-    Trap(m_ctx.log, "DoEndOfRecordingStuff", [&] {
+    Trap(m_s.log, "DoEndOfRecordingStuff", [&] {
         // The row describes what the file holds, so pauses and late starts show in its times.
         const float size = ModuleFileTime::GetFileSizeMbytes(File);
         const qint32 seconds = Format.CalcSecondsFromMbytes(size);
         const double end = ModuleFileTime::FileDateTime(File);
         const double start = AutomationDate::AddSeconds(end, -seconds);
 
-        Recordset& rs = m_ctx.database.DataRecordings.recordset();
+        Recordset& rs = m_s.database.DataRecordings.recordset();
         QString quoted = File;
         quoted.replace(u'\'', QStringLiteral("''"));
         rs.FindFirst(QStringLiteral("File = '") + quoted + u'\'');
@@ -464,6 +515,6 @@ void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString
             Mp3File::WriteId3Tag(File, Title, QString(), QString(), QString(),
                                  QStringLiteral("Nightreel 2000 Recording"), 12);
 
-        m_ctx.options.SaveRecentRecording(m_ctx.registry, File, Title, StartTime);
+        m_s.options.SaveRecentRecording(m_s.registry, File, Title, StartTime);
     });
 }

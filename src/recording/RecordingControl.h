@@ -1,28 +1,37 @@
 #pragma once
 
 #include "formats/clsRecordingFormat.h"
-#include "recording/RecordingTaskLink.h"
+#include "recording/RecorderServices.h"
 #include "recording/clsConvertToMP3Request.h"
 
 #include <QObject>
 #include <QString>
-#include <functional>
 #include <memory>
 
 class AppContext;
+class RecordingTaskLink;
+struct ConversionQueue;
+struct clsRecordingStatus;
 
 // The life of one recording, from a row of Programs (or a manual request) to a file and a
-// row of Recordings: the start, the user's stop and pause, the end with its after-actions.
-// It owns the link to the recording task; the main window shows what it signals.
+// row of Recordings: the start, the stop request, the user's pause, the end with its
+// after-actions. It is the one writer of the recording's status; the task link tells it
+// what the task says.
 class RecordingControl : public QObject {
     Q_OBJECT
 public:
-    explicit RecordingControl(AppContext& ctx, QObject* parent = nullptr);
+    RecordingControl(AppContext& formats, const RecorderServices& services, RecordingTaskLink& link,
+                     clsRecordingStatus& status, ConversionQueue& conversion,
+                     QObject* parent = nullptr);
     ~RecordingControl() override;
 
     // ProgramId is a row of Programs, or -1 for a manual recording; StartTime is the moment
     // of the call, EndTime the scheduled end. Description is read for a manual recording only.
-    void StartRecording(qint32& ProgramId, double StartTime, double EndTime, QString& Description);
+    void StartRecording(qint32 ProgramId, double StartTime, double EndTime,
+                        const QString& Description);
+    // The stop request of the clock, the user and the disk guard: posts the stop to the task
+    // once per recording and arms the watchdog; the task's answer or the watchdog ends it.
+    void RequestStop();
     // The user's stop: of the recording, or else of the running MP3 conversion.
     void HandleStopRecordingRequest(bool Confirm);
     // "P" pauses, "R" resumes, anything else toggles; in any case of letters.
@@ -34,23 +43,10 @@ public:
                                double EndTime, const QString& CompressionMethod,
                                const clsRecordingFormat& Format);
 
-    RecordingTaskLink link;
-
     // What the manual recording dialog leaves for StartRecording: the format and the
     // user's own file name.
     clsRecordingFormat ManualFormat;
     QString ManualFilenameUser;
-
-    // The recording in progress: the format the user chose and, for one to be converted,
-    // the request that the conversion queue takes when the capture is over.
-    clsRecordingFormat Format;
-    std::shared_ptr<clsConvertToMP3Request> ConvertRequest;
-    // Recordings waiting for their MP3 conversion, oldest first, and the one being converted.
-    Mp3ConvertQueueList Mp3ConvertQueue;
-    std::shared_ptr<clsConvertToMP3Request> CurrentConvertRequest;
-
-    // Free Mbytes of the file system that holds the folder; tests may put in their own.
-    std::function<double(const QString& folder)> FreeMegabytes;
 
 signals:
     void UpdateModeDisplay();
@@ -60,10 +56,20 @@ signals:
     void UnloadRecordingStatusForm();
 
 private:
-    void StartRecordingSteps(qint32& ProgramId, double StartTime, double EndTime,
-                             QString& Description);
+    void StartRecordingSteps(qint32 ProgramId, double StartTime, double EndTime,
+                             const QString& Description);
     void StopRecordingSteps();
     void ExitAndClear();
+    void OnTaskError(qint32 code);
+    void OnTaskNotResponding();
 
-    AppContext& m_ctx;
+    AppContext& m_formats;
+    RecorderServices m_s;
+    RecordingTaskLink& m_link;
+    clsRecordingStatus& m_status;
+    ConversionQueue& m_conversion;
+    // The recording in progress: the format the user chose and, for one to be converted,
+    // the request that the conversion queue takes when the capture is over.
+    clsRecordingFormat m_format;
+    std::shared_ptr<clsConvertToMP3Request> m_convertRequest;
 };

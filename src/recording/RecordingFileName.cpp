@@ -2,7 +2,6 @@
 
 #include "common/AutomationDate.h"
 #include "common/TextHelpers.h"
-#include "shell/AppContext.h"
 
 #include <QDir>
 
@@ -26,16 +25,16 @@ QString Stamp(double now, qint16 format)
 
 } // namespace
 
-QString NewRecordingFileName(const AppContext& ctx, const QString& userName, const QString& prefix,
-                             const QString& suffix, QString& folder, bool mp3Extension,
-                             QString& baseName, QString& extension)
+QString NewRecordingFileName(double now, qint16 stampFormat, const QString& userName,
+                             const QString& prefix, const QString& suffix, QString& folder,
+                             bool mp3Extension, QString& baseName, QString& extension)
 {
     folder = Text::Trim(folder);
     extension = mp3Extension ? QStringLiteral(".MP3") : QStringLiteral(".WAV");
     if (!Text::Trim(userName).isEmpty())
         baseName = userName;
     else
-        baseName = prefix + Stamp(ctx.Now(), ctx.options.DefaultRecordFileNameFormat) + suffix;
+        baseName = prefix + Stamp(now, stampFormat) + suffix;
     baseName = Text::Trim(baseName);
     if (!folder.endsWith(QDir::separator()))
         folder += QDir::separator();

@@ -1,9 +1,10 @@
 #include "recording/RecordingTaskLink.h"
 
 #include "common/TextHelpers.h"
+#include "common/clsAppStatus.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "recording/RecordingTaskErrors.h"
-#include "shell/AppContext.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -25,9 +26,12 @@ void Sleep(int milliseconds)
 
 } // namespace
 
-RecordingTaskLink::RecordingTaskLink(AppContext& ctx, QObject* parent)
+RecordingTaskLink::RecordingTaskLink(EventLog& log, const clsAppStatus& appStatus,
+                                     const QString& runtimeFolder, QObject* parent)
     : QObject(parent)
-    , m_ctx(ctx)
+    , m_log(log)
+    , m_appStatus(appStatus)
+    , m_runtimeFolder(runtimeFolder)
     , m_taskProgram(QCoreApplication::applicationDirPath() + QStringLiteral("/nightreel-rec"))
 {
     connect(&tmrKeepAlive, &IntervalTimer::timeout, this, &RecordingTaskLink::tmrKeepAlive_Timer);
@@ -38,9 +42,9 @@ RecordingTaskLink::RecordingTaskLink(AppContext& ctx, QObject* parent)
 
     // Only the owner may reach the socket; its folder is private to the owner as well.
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    const QString name = m_ctx.folders.runtimeFolder + QStringLiteral("/nightreel-%1-%2")
-                                                           .arg(QCoreApplication::applicationPid())
-                                                           .arg(++serverCount);
+    const QString name = m_runtimeFolder + QStringLiteral("/nightreel-%1-%2")
+                                               .arg(QCoreApplication::applicationPid())
+                                               .arg(++serverCount);
     QLocalServer::removeServer(name);
     m_server.listen(name);
 }
@@ -63,7 +67,7 @@ QString RecordingTaskLink::ServerName() const
 
 QString RecordingTaskLink::ParameterFile() const
 {
-    return m_ctx.folders.runtimeFolder + u'/' + QString::fromLatin1(ParameterFileName);
+    return m_runtimeFolder + u'/' + QString::fromLatin1(ParameterFileName);
 }
 
 void RecordingTaskLink::OnNewConnection()
@@ -204,7 +208,7 @@ void RecordingTaskLink::StartTask()
 bool RecordingTaskLink::ActivateNightreeltask()
 {
     bool activated = false;
-    Trap(m_ctx.log, "ActivateNightreeltask", [&] {
+    Trap(m_log, "ActivateNightreeltask", [&] {
         for (int attempt = 0; attempt <= 2; ++attempt) {
             // Only the last attempt reports; the first two failures are silent.
             const bool reporting = attempt == 2;
@@ -217,7 +221,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
                     Sleep(1000);
                     if (FindWindowA()) {
                         if (reporting)
-                            m_ctx.log.LogEvent(
+                            m_log.LogEvent(
                                 EventError, QStringLiteral("Error removing Recording Process."),
                                 QStringLiteral("This may require Windows to be restarted."));
                         failed = true;
@@ -235,7 +239,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
                                                     QEventLoop::WaitForMoreEvents);
                     if (m_timedOut) {
                         if (reporting)
-                            m_ctx.log.LogEvent(
+                            m_log.LogEvent(
                                 EventError, QStringLiteral("Error activating recording task."),
                                 QStringLiteral("Timeout occured.  Try restarting software or "
                                                "rebooting system. If problem persists try a "
@@ -245,7 +249,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
                     }
                     if (m_taskResponded && m_taskStatusCode != 0) {
                         if (reporting)
-                            ReportRecordingTaskError(m_ctx.log, m_taskStatusCode);
+                            ReportRecordingTaskError(m_log, m_taskStatusCode);
                         Post(FindWindowA(), WM_CLOSE);
                         failed = true;
                         break;
@@ -254,7 +258,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
                         if (!FindWindowA()) {
                             // This text differs from the one above by " -"; intended.
                             if (reporting)
-                                m_ctx.log.LogEvent(
+                                m_log.LogEvent(
                                     EventError, QStringLiteral("Error activating recording task."),
                                     QStringLiteral("Timeout occured.  - Try restarting software "
                                                    "or rebooting system. If problem persists try "
@@ -280,7 +284,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
 bool RecordingTaskLink::sbcls1_WndProc(quint32 msg, qint32 wParam, qint32 lParam, qint32& result)
 {
     bool handled = true;
-    Trap(m_ctx.log, "sbcls1_WndProc", [&] {
+    Trap(m_log, "sbcls1_WndProc", [&] {
         if (msg == WM_SYSCOMMAND && (wParam & ~15) != SC_MINIMIZE) {
             handled = false;
             return;
@@ -304,12 +308,7 @@ void RecordingTaskLink::Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint
         emit StopRecording();
         break;
     case REC_MSG_ERROR:
-        // A task may report more than once; only the first report fails the recording.
-        if (!m_ctx.recordingStatus.Failed) {
-            m_ctx.recordingStatus.Failed = true;
-            emit StopRecording();
-            ReportRecordingTaskError(m_ctx.log, lParam);
-        }
+        emit TaskError(lParam);
         break;
     case REC_MSG_KEEPALIVE:
         KeepAliveMissCount = 0;
@@ -325,50 +324,48 @@ void RecordingTaskLink::Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint
 
 void RecordingTaskLink::UnexpectedCode(qint64 number)
 {
-    m_ctx.log.LogEvent(EventError, QStringLiteral("Run Time Error"),
-                       QStringLiteral("Unexpected code from recording process.  Code=") +
-                           Text::Str(number) +
-                           QStringLiteral(" If problem persists, try a different recording "
-                                          "format or restarting Windows"));
+    m_log.LogEvent(EventError, QStringLiteral("Run Time Error"),
+                   QStringLiteral("Unexpected code from recording process.  Code=") +
+                       Text::Str(number) +
+                       QStringLiteral(" If problem persists, try a different recording "
+                                      "format or restarting Windows"));
     emit StopRecording();
 }
 
-void RecordingTaskLink::RequestStop()
+void RecordingTaskLink::PostStop()
 {
-    if (m_ctx.recordingStatus.StopRequested)
-        return;
     PostMessage(REC_MSG_STOP);
-    m_ctx.recordingStatus.StopRequested = true;
     tmrStopRecording.SetInterval(StopWatchdogInterval);
+}
+
+void RecordingTaskLink::StartKeepAlive()
+{
+    KeepAliveMissCount = 0;
+    tmrKeepAlive.SetInterval(KeepAliveInterval);
+}
+
+void RecordingTaskLink::StopKeepAlive()
+{
+    tmrKeepAlive.SetInterval(0);
 }
 
 void RecordingTaskLink::tmrKeepAlive_Timer()
 {
-    Trap(m_ctx.log, "tmrKeepAlive_Timer", [&] {
-        if (!m_ctx.appStatus.Recording())
+    Trap(m_log, "tmrKeepAlive_Timer", [&] {
+        if (!m_appStatus.Recording())
             return;
         if (KeepAliveMissCount < KeepAliveMaxMisses) {
             PostMessage(REC_MSG_KEEPALIVE);
             ++KeepAliveMissCount;
             return;
         }
-        if (m_ctx.recordingStatus.Failed)
-            return;
-        m_ctx.log.LogEvent(
-            EventError, QStringLiteral("No response from recording task."),
-            QStringLiteral("Perform a test recording with a PCM recording format. If the error "
-                           "does not reoccur, there may have been a problem with the recording "
-                           "format.  Otherwise, the recording task may be locked and require a "
-                           "system restart. \rThe error occured during the following recording: ") +
-                m_ctx.recordingStatus.Description);
-        m_ctx.recordingStatus.Failed = true;
-        emit StopRecording();
+        emit TaskNotResponding();
     });
 }
 
 void RecordingTaskLink::tmrStopRecording_Timer()
 {
-    Trap(m_ctx.log, "tmrStopRecording_Timer", [&] {
+    Trap(m_log, "tmrStopRecording_Timer", [&] {
         tmrStopRecording.SetInterval(0);
         emit StopRecording();
     });

@@ -9,8 +9,9 @@
 #include <QPointer>
 #include <list>
 
-class AppContext;
+class EventLog;
 class QLocalSocket;
+class clsAppStatus;
 
 // The scheduler's side of the recording task: the channel the task talks on, the task's
 // process and identity, the start-up hand-shake, the dispatch of what the task sends, the
@@ -22,7 +23,9 @@ class QLocalSocket;
 class RecordingTaskLink : public QObject {
     Q_OBJECT
 public:
-    explicit RecordingTaskLink(AppContext& ctx, QObject* parent = nullptr);
+    // The socket and the parameter file lie in the runtime folder.
+    RecordingTaskLink(EventLog& log, const clsAppStatus& appStatus, const QString& runtimeFolder,
+                      QObject* parent = nullptr);
     ~RecordingTaskLink() override;
 
     static constexpr int KeepAliveInterval = 30000;
@@ -49,9 +52,11 @@ public:
     qint32 SendMessage(quint32 msg);
     // A one-way message to the task found last; dropped when there is none.
     void PostMessage(quint32 msg);
-    // The stop request of the clock, the user and the disk guard: posts REC_MSG_STOP once
-    // per recording and arms the watchdog.
-    void RequestStop();
+    // Posts REC_MSG_STOP and arms the watchdog; the recording control decides when.
+    void PostStop();
+    // The keep-alive runs while a recording does, from a count of no misses.
+    void StartKeepAlive();
+    void StopKeepAlive();
 
     void tmrKeepAlive_Timer();
     void tmrStopRecording_Timer();
@@ -67,9 +72,13 @@ public:
     qint16 KeepAliveMissCount = 0;
 
 signals:
-    // StopRecording is due now (task stopped, task failed, no answer, watchdog). The receiver
-    // runs it before this returns: an error report of the task comes after it.
+    // StopRecording is due now (task stopped, an unexpected code, the watchdog). The
+    // receiver runs it before this returns.
     void StopRecording();
+    // The task reported a failure with its code (1046); it may report more than once.
+    void TaskError(qint32 code);
+    // Three keep-alive questions went unanswered.
+    void TaskNotResponding();
     // The main window was asked to minimise: it goes to the tray instead.
     void MinimizeToTray();
 
@@ -99,7 +108,9 @@ private:
     void UnexpectedCode(qint64 number);
     void Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint32& result);
 
-    AppContext& m_ctx;
+    EventLog& m_log;
+    const clsAppStatus& m_appStatus;
+    const QString m_runtimeFolder;
     QLocalServer m_server;
     QString m_taskProgram;
     std::list<Connection> m_connections;

@@ -1,10 +1,10 @@
 #include "scheduling/ProgramListGrid.h"
 
 #include "diagnostics/Trap.h"
+#include "gui/GridSelection.h"
 #include "scheduling/frmEnableDisablePrograms.h"
 #include "scheduling/frmProgram.h"
 #include "shell/AppContext.h"
-#include "shell/GridSelection.h"
 #include "shell/frmMain.h"
 #include "store/RecordsetModel.h"
 

@@ -264,7 +264,7 @@ void Scheduler::OfferRemovalOfExpiredPrograms()
     });
 }
 
-void Scheduler::CancelRecording(qint32 programId)
+void Scheduler::CancelRecording(qint32 programId, double recordingEndTime)
 {
     Trap(m_ctx.log, "CancelRecording", [&] {
         Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
@@ -280,8 +280,7 @@ void Scheduler::CancelRecording(qint32 programId)
         }
         rs.Edit();
         rs.SetValue(QStringLiteral("RecordingCancelled"), Field::FromBool(true));
-        rs.SetValue(QStringLiteral("RecordingCancelledEndDateAndTime"),
-                    m_ctx.recordingStatus.EndTime);
+        rs.SetValue(QStringLiteral("RecordingCancelledEndDateAndTime"), recordingEndTime);
         rs.Update();
     });
 }

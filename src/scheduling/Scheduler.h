@@ -52,7 +52,7 @@ public:
     void OfferRemovalOfExpiredPrograms();
     // Marks the program's occurrence that ends at the recording's scheduled end as dealt
     // with, or removes a one-time program when expired programs are to be removed.
-    void CancelRecording(qint32 programId);
+    void CancelRecording(qint32 programId, double recordingEndTime);
 
     NextProgram next;
 

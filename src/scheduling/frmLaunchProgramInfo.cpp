@@ -1,6 +1,6 @@
 #include "scheduling/frmLaunchProgramInfo.h"
 
-#include "shell/FormPlacement.h"
+#include "gui/FormPlacement.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

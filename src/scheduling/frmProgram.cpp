@@ -7,9 +7,9 @@
 #include "diagnostics/Trap.h"
 #include "formats/clsRecordingFormat.h"
 #include "formats/frmRecordFormat.h"
+#include "gui/FormPlacement.h"
 #include "scheduling/frmLaunchProgramInfo.h"
 #include "shell/AppContext.h"
-#include "shell/FormPlacement.h"
 
 #include <QCheckBox>
 #include <QDateEdit>

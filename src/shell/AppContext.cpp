@@ -7,6 +7,7 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , messageBox(seams.messageBox)
     , launcher(seams.launcher)
     , audioDevices(seams.audioDevices)
+    , diskSpace(seams.diskSpace)
     , folders(appFolders)
     , log(*this)
     , registry(*this)
@@ -15,6 +16,9 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , ProgramFormat(*this)
     , ProgramFormFormat(*this)
     , WfxDefault(*this)
+    , recorder(*this,
+               RecorderServices{log, clock, options, registry, appStatus, error, database,
+                                scheduler, messageBox, launcher, diskSpace, folders.runtimeFolder})
 {
 }
 

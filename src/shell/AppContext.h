@@ -1,11 +1,11 @@
 #pragma once
 
+#include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/clsError.h"
 #include "formats/clsRecordingFormat.h"
+#include "recording/Recorder.h"
 #include "scheduling/Scheduler.h"
-#include "shell/clsAppStatus.h"
-#include "shell/clsRecordingStatus.h"
 #include "store/AppDatabase.h"
 #include "store/AppFolders.h"
 #include "store/Options.h"
@@ -13,6 +13,7 @@
 
 class AudioDevices;
 class Clock;
+class DiskSpace;
 class MessageBoxPresenter;
 class ProcessLauncher;
 
@@ -22,10 +23,12 @@ struct Seams {
     MessageBoxPresenter& messageBox;
     ProcessLauncher& launcher;
     AudioDevices& audioDevices;
+    DiskSpace& diskSpace;
 };
 
-// What the system holds for the whole run, owned in one place and handed to whoever needs
-// it. Tests build a fresh one over temporary folders.
+// The composition root: what the system holds for the whole run, built in the entry
+// routine (tests build a fresh one over temporary folders). Each part is handed the few
+// others it uses; nothing below the shell sees the context itself.
 class AppContext {
 public:
     AppContext(const Seams& seams, const AppFolders& folders);
@@ -38,6 +41,7 @@ public:
     MessageBoxPresenter& messageBox;
     ProcessLauncher& launcher;
     AudioDevices& audioDevices;
+    DiskSpace& diskSpace;
     const AppFolders folders;
 
     clsError error;
@@ -45,7 +49,6 @@ public:
     RegKeys registry;
     Options options;
     clsAppStatus appStatus;
-    clsRecordingStatus recordingStatus;
     AppDatabase database;
     Scheduler scheduler;
     // The format of the program being handled, the working copy that the dialogs show and
@@ -53,8 +56,5 @@ public:
     clsRecordingFormat ProgramFormat;
     clsRecordingFormat ProgramFormFormat;
     clsRecordingFormat WfxDefault;
-    // False until the end of the first activation: the timers idle until then.
-    bool appReady = false;
-    // Asks the running MP3 conversion to stop at its next step.
-    bool StopMp3Conversion = false;
+    Recorder recorder;
 };

@@ -13,24 +13,18 @@
 
 MainFormController::MainFormController(AppContext& ctx, QObject* parent)
     : QObject(parent)
-    , heartbeat(ctx)
     , m_ctx(ctx)
 {
-}
-
-QString MainFormController::ParameterFile() const
-{
-    return m_ctx.folders.runtimeFolder + QStringLiteral("/RECPARMS.TMP");
 }
 
 void MainFormController::Form_Load()
 {
     Trap(m_ctx.log, "Main Form Load", [&] {
-        m_ctx.appReady = false;
+        m_ctx.appStatus.SetReady(false);
         InitializeVariables();
         m_ctx.options.GetOptions(m_ctx.registry);
         // A crashed run may have left its parameter file.
-        QFile::remove(ParameterFile());
+        QFile::remove(m_ctx.recorder.Link().ParameterFile());
     });
 }
 
@@ -39,26 +33,24 @@ void MainFormController::InitializeVariables()
     m_ctx.scheduler.next = NextProgram();
     if (m_ctx.audioDevices.CountCaptureSources() < 1)
         m_ctx.error.SetNoAudioRecordDevice(true);
-    m_ctx.StopMp3Conversion = false;
+    m_ctx.recorder.Conversion().StopMp3Conversion = false;
 }
 
 void MainFormController::InitializeForFirstActivation(const FolderChooser& chooser)
 {
-    Trap(m_ctx.log, "Main Form Load", [&] {
-        m_ctx.database.InitializeControls();
-        CheckDefaultRecordingDirectory(chooser);
-        GetWfxDefault(m_ctx);
-        m_ctx.scheduler.ScheduleNextRecording();
-        heartbeat.Start();
-    });
+    // Each step carries on after a failure of the one before: above all the heartbeat
+    // must start, or nothing would ever be recorded.
+    TrapEach(
+        m_ctx.log, "Main Form Load", [&] { m_ctx.database.InitializeControls(); },
+        [&] { CheckDefaultRecordingDirectory(chooser); }, [&] { GetWfxDefault(m_ctx); },
+        [&] { m_ctx.scheduler.ScheduleNextRecording(); }, [&] { m_ctx.recorder.Start(); });
 }
 
 void MainFormController::FinishFirstActivation()
 {
-    Trap(m_ctx.log, "Main Form Load", [&] {
-        m_ctx.scheduler.OfferRemovalOfExpiredPrograms();
-        m_ctx.appReady = true;
-    });
+    TrapEach(
+        m_ctx.log, "Main Form Load", [&] { m_ctx.scheduler.OfferRemovalOfExpiredPrograms(); },
+        [&] { m_ctx.appStatus.SetReady(true); });
 }
 
 void MainFormController::CheckDefaultRecordingDirectory(const FolderChooser& chooser)
@@ -131,9 +123,9 @@ bool MainFormController::QueryUnload(bool closedBySystem)
 
 void MainFormController::Form_Unload()
 {
-    heartbeat.Timer1.SetInterval(0);
+    m_ctx.recorder.Stop();
     m_ctx.database.CloseAll();
-    QFile::remove(ParameterFile());
+    QFile::remove(m_ctx.recorder.Link().ParameterFile());
 }
 
 void MainFormController::mnuCompactDb_Click()

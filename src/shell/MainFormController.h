@@ -1,7 +1,5 @@
 #pragma once
 
-#include "shell/Heartbeat.h"
-
 #include <QObject>
 #include <functional>
 
@@ -32,9 +30,6 @@ public:
 
     void mnuCompactDb_Click();
     void mnuRestoreOriginalDb_Click();
-
-    QString ParameterFile() const;
-    Heartbeat heartbeat;
 
 signals:
     // The program list and the recordings list may have changed as a whole.

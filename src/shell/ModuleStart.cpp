@@ -5,6 +5,7 @@
 #include "common/TextHelpers.h"
 #include "formats/FileRowPreview.h"
 #include "platform/AudioDevices.h"
+#include "platform/DiskSpace.h"
 #include "shell/AppContext.h"
 #include "shell/WidgetMessageBox.h"
 #include "shell/frmMain.h"
@@ -46,7 +47,9 @@ int Inspect(int argc, char* argv[])
     WidgetMessageBox messageBox;
     DetachedProcessLauncher launcher;
     PulseAudioDevices audioDevices;
-    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices}, AppFolders::ForCurrentUser());
+    StorageDiskSpace diskSpace;
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace},
+                   AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx, QString::fromLocal8Bit(argv[2]), out);
 }
@@ -67,6 +70,7 @@ int Main(int argc, char* argv[])
     WidgetMessageBox messageBox;
     DetachedProcessLauncher launcher;
     PulseAudioDevices audioDevices;
+    StorageDiskSpace diskSpace;
     const AppFolders folders = AppFolders::ForCurrentUser();
 
     QLockFile instanceLock(folders.runtimeFolder + QStringLiteral("/nightreel.lock"));
@@ -77,7 +81,7 @@ int Main(int argc, char* argv[])
     }
 
     folders.InstallDatabaseOnFirstRun();
-    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices}, folders);
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace}, folders);
     bool showSplash = true;
     Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),
                           ctx.options.HiddenWindowStatupMode, false);

@@ -6,14 +6,13 @@
 #include "diagnostics/Trap.h"
 #include "diagnostics/frmElog.h"
 #include "diagnostics/frmErrors.h"
+#include "gui/GridSelection.h"
 #include "options/frmSelectExistingRecordDirectory.h"
 #include "options/frmSelectRecordDirectory.h"
 #include "scheduling/ProgramListGrid.h"
 #include "shell/AppContext.h"
-#include "shell/GridSelection.h"
 #include "shell/Icons.h"
 #include "shell/ModeDisplay.h"
-#include "shell/StatusBarPlus.h"
 #include "shell/frmAbout.h"
 #include "shell/frmRecordingStatus.h"
 #include "store/GridColumns.h"
@@ -155,42 +154,31 @@ void frmMain::ConnectCommands()
         UpdateRecordingsButtonsAndMenus();
     });
     ConnectRecordingCommands();
-    Heartbeat& heartbeat = m_controller.heartbeat;
-    connect(&heartbeat, &Heartbeat::UpdateStatusBarPlus, this, &frmMain::UpdateStatusBarPlus);
-    connect(&heartbeat, &Heartbeat::StopRecordingDue, this, &frmMain::StopRecordingRequested);
-    ConnectRecordingControl();
-    connect(&heartbeat, &Heartbeat::PurgeDue, this, [this] {
+    ConnectRecorder();
+}
+
+// The window observes the recorder and forwards the user's commands to it.
+void frmMain::ConnectRecorder()
+{
+    Recorder& recorder = m_ctx.recorder;
+    connect(&recorder, &Recorder::StatusBarUpdated, this, &frmMain::ShowStatusBar);
+    connect(&recorder, &Recorder::PurgeDue, this, [this] {
         RecordingsList(m_ctx).Purge();
         AfterRecordingsChange();
     });
-}
-
-void frmMain::ConnectRecordingControl()
-{
-    RecordingControl& recording = m_recordingControl;
-    connect(&m_controller.heartbeat, &Heartbeat::StartRecordingDue, &recording,
-            [&recording](qint32 programId, double start, double end, const QString& description) {
-                QString text = description;
-                recording.StartRecording(programId, start, end, text);
-            });
-    // The clock, the disk guard and the user's confirmed stop all end in one stop request.
-    connect(this, &frmMain::StopRecordingRequested, &recording.link,
-            &RecordingTaskLink::RequestStop);
-    connect(&recording, &RecordingControl::UpdateModeDisplay, this, &frmMain::UpdateModeDisplay);
-    connect(&recording, &RecordingControl::UpdateRecordingsButtonsAndMenus, this,
+    connect(&recorder, &Recorder::UpdateModeDisplay, this, &frmMain::UpdateModeDisplay);
+    connect(&recorder, &Recorder::UpdateRecordingsButtonsAndMenus, this,
             &frmMain::UpdateRecordingsButtonsAndMenus);
-    connect(&recording, &RecordingControl::ShowRecordingStatusForm, this,
-            &frmMain::ShowRecordingStatusForm);
-    connect(&recording, &RecordingControl::UnloadRecordingStatusForm, this,
+    connect(&recorder, &Recorder::ShowRecordingStatusForm, this, &frmMain::ShowRecordingStatusForm);
+    connect(&recorder, &Recorder::UnloadRecordingStatusForm, this,
             [this] { m_recordingStatusForm.reset(); });
-    connect(&recording.link, &RecordingTaskLink::MinimizeToTray, this, &frmMain::HideToTray);
+    connect(&recorder, &Recorder::MinimizeToTray, this, &frmMain::HideToTray);
     for (const char* name : {"ToolbarMain.Stop", "mnuStopCurrentRecording"})
-        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
-            m_recordingControl.HandleStopRecordingRequest(m_ctx.options.ConfirmStopManualRecording);
-        });
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
+                [this] { m_ctx.recorder.StopCommand(m_ctx.options.ConfirmStopManualRecording); });
     for (const char* name : {"ToolbarMain.Pause", "mnuPauseRecording"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
-                [this] { m_recordingControl.ToolbarPauseResume(QStringLiteral("T")); });
+                [this] { m_ctx.recorder.PauseCommand(QStringLiteral("T")); });
 }
 
 void frmMain::showEvent(QShowEvent* event)
@@ -233,7 +221,7 @@ void frmMain::UpdateModeDisplay()
     ModeDisplay::Extra extra;
     extra.recentRecordingExists = !m_ctx.options.RecentRecordingFilename.isEmpty() &&
                                   QFileInfo(m_ctx.options.RecentRecordingFilename).isFile();
-    extra.elapsedRemainingText = StatusBarPlus::ElapsedRemainingText(m_ctx);
+    extra.elapsedRemainingText = m_ctx.recorder.StatusBar().ElapsedRemainingText();
     const ModeDisplay d = ModeDisplay::Compute(m_ctx, extra);
     const auto action = [this](const QString& name) {
         return ui.Action(name);
@@ -276,14 +264,18 @@ void frmMain::UpdateModeDisplay()
 
 void frmMain::UpdateStatusBarPlus()
 {
-    const StatusBarPlus::Update u = StatusBarPlus::Run(m_ctx, QString());
+    m_ctx.recorder.UpdateStatusBarPlus();
+}
+
+void frmMain::ShowStatusBar(const StatusBarPlus::Update& u)
+{
     if (!u.modeToolTip.isEmpty())
         ui.ModeStatus->setToolTip(u.modeToolTip);
     if (m_ctx.appStatus.Converting())
         SetIfChanged(ui.ModeStatus, u.modeText);
     if (m_ctx.appStatus.Recording() && m_recordingStatusForm) {
         if (m_ctx.options.ShowRecordingTimeInTaskBar)
-            m_recordingStatusForm->setWindowTitle(StatusBarPlus::ElapsedText(m_ctx));
+            m_recordingStatusForm->setWindowTitle(m_ctx.recorder.StatusBar().ElapsedText());
         else
             m_recordingStatusForm.reset();
     }
@@ -293,8 +285,6 @@ void frmMain::UpdateStatusBarPlus()
     SetIfChanged(ui.DateStatus,
                  QLocale().toString(AutomationDate::ToDateTime(now).date(), QLocale::ShortFormat));
     SetIfChanged(ui.TimeStatus, Options::TimeText(AutomationDate::TimePart(now)));
-    if (u.postStop)
-        emit StopRecordingRequested();
 }
 
 void frmMain::ShowRecordingStatusForm()
@@ -302,13 +292,13 @@ void frmMain::ShowRecordingStatusForm()
     if (!m_ctx.options.ShowRecordingTimeInTaskBar)
         return;
     m_recordingStatusForm = std::make_unique<frmRecordingStatus>();
-    m_recordingStatusForm->setWindowTitle(StatusBarPlus::ElapsedText(m_ctx));
+    m_recordingStatusForm->setWindowTitle(m_ctx.recorder.StatusBar().ElapsedText());
     m_recordingStatusForm->showMinimized();
 }
 
 void frmMain::UpdateProgramsButtonsAndMenus()
 {
-    if (!m_ctx.appReady)
+    if (!m_ctx.appStatus.Ready())
         return;
     const bool rows = m_programsModel->rowCount() > 0;
     for (const char* name :
@@ -320,7 +310,7 @@ void frmMain::UpdateProgramsButtonsAndMenus()
 
 void frmMain::UpdateRecordingsButtonsAndMenus()
 {
-    if (!m_ctx.appReady)
+    if (!m_ctx.appStatus.Ready())
         return;
     const bool rows = m_recordingsModel->rowCount() > 0;
     for (const char* name :

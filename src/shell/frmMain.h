@@ -1,7 +1,7 @@
 #pragma once
 
 #include "diagnostics/clsError.h"
-#include "recording/RecordingControl.h"
+#include "recording/StatusBarPlus.h"
 #include "shell/MainFormController.h"
 #include "shell/frmMainUi.h"
 
@@ -27,6 +27,7 @@ public:
     // The first activation: database, schedule, heartbeat, and the application made ready.
     void FirstActivate();
     void UpdateModeDisplay();
+    // Runs a round of the status bar and its disk guard now, as after a change of a list.
     void UpdateStatusBarPlus();
     void UpdateProgramsButtonsAndMenus();
     void UpdateRecordingsButtonsAndMenus();
@@ -36,12 +37,7 @@ public:
     void ShowRecordingStatusForm();
 
     MainFormController& Controller() { return m_controller; }
-    RecordingControl& Recording() { return m_recordingControl; }
     frmMainUi ui;
-
-signals:
-    // The recording is to stop: by the clock or by the disk guard.
-    void StopRecordingRequested();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -51,7 +47,8 @@ protected:
 private:
     void ConnectCommands();
     void ConnectRecordingCommands();
-    void ConnectRecordingControl();
+    void ConnectRecorder();
+    void ShowStatusBar(const StatusBarPlus::Update& update);
     // The commands of the recordings list, each trapped under the system's name.
     void RecordingsPlay();
     void ShowRecordingDetails();
@@ -79,7 +76,6 @@ private:
 
     AppContext& m_ctx;
     MainFormController m_controller;
-    RecordingControl m_recordingControl{m_ctx};
     RecordsetModel* m_programsModel = nullptr;
     RecordsetModel* m_recordingsModel = nullptr;
     QSystemTrayIcon* m_tray = nullptr;

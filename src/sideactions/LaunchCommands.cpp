@@ -2,8 +2,8 @@
 
 #include "common/ProcessLauncher.h"
 #include "common/TextHelpers.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
-#include "shell/AppContext.h"
 
 #include <QDir>
 
@@ -109,18 +109,18 @@ QString InterpretCommand(EventLog& log, const QString& command, const QString& f
     return result;
 }
 
-void LaunchAfterRecording(AppContext& ctx, bool recordingOk, const QString& command, bool onlyIfOk,
-                          const QString& fileName)
+void LaunchAfterRecording(EventLog& log, ProcessLauncher& launcher, bool recordingOk,
+                          const QString& command, bool onlyIfOk, const QString& fileName)
 {
     if (Text::Trim(command).isEmpty() || (!recordingOk && onlyIfOk))
         return;
-    const QString expanded = InterpretCommand(ctx.log, command, fileName);
-    if (ctx.launcher.StartDetached(expanded))
+    const QString expanded = InterpretCommand(log, command, fileName);
+    if (launcher.StartDetached(expanded))
         return;
     // One letter differs from the text of the launch ahead of a recording; both stand.
-    ctx.log.LogEvent(EventWarning, QStringLiteral("Invalid Launch Application command"),
-                     QStringLiteral("The command to launch an application is invalid.  Check "
-                                    "the file paths and that the application exists.\r\n"
-                                    "Command= ") +
-                         expanded);
+    log.LogEvent(EventWarning, QStringLiteral("Invalid Launch Application command"),
+                 QStringLiteral("The command to launch an application is invalid.  Check "
+                                "the file paths and that the application exists.\r\n"
+                                "Command= ") +
+                     expanded);
 }

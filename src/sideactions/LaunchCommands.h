@@ -2,8 +2,8 @@
 
 #include <QString>
 
-class AppContext;
 class EventLog;
+class ProcessLauncher;
 
 // The path helpers the launches rest on. Folders are split at the native separator.
 // The directory up to and including its last separator; "" without one.
@@ -23,5 +23,5 @@ QString InterpretCommand(EventLog& log, const QString& command, const QString& f
 
 // Starts the command of a program after its recording, with the recording's file name put
 // into it; a command that can't be started is logged.
-void LaunchAfterRecording(AppContext& ctx, bool recordingOk, const QString& command, bool onlyIfOk,
-                          const QString& fileName);
+void LaunchAfterRecording(EventLog& log, ProcessLauncher& launcher, bool recordingOk,
+                          const QString& command, bool onlyIfOk, const QString& fileName);

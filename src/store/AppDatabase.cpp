@@ -35,13 +35,6 @@ constexpr AddedColumn kAddedProgramColumns[] = {
     {"LaunchAfterOnlyIfOk", "INTEGER"},
 };
 
-// Runs each step in turn; a failing one is reported and the next still runs.
-template <typename... Steps>
-void EachStepReported(EventLog& log, const char* name, Steps&&... steps)
-{
-    (Trap(log, name, steps), ...);
-}
-
 template <typename... Steps> void EachStepSilently(Steps&&... steps)
 {
     auto silently = [](auto&& step) {
@@ -71,7 +64,7 @@ QString AppDatabase::DatabaseFile() const
 
 void AppDatabase::InitializeControls()
 {
-    EachStepReported(
+    TrapEach(
         m_ctx.log, kInitializeControls, [&] { db.Open(DatabaseFile()); },
         [&] { UpgradeProgramsTable(); }, [&] { OpenRecordsets(); },
         [&] { DataPrograms.SetRecordset(rsPrograms); },
@@ -82,11 +75,14 @@ void AppDatabase::InitializeControls()
 
 void AppDatabase::UpgradeProgramsTable()
 {
+    // Each column on its own: one that can't be added is reported and the next is tried.
     for (const AddedColumn& column : kAddedProgramColumns) {
-        const QString name = QString::fromLatin1(column.name);
-        if (!db.TableHasColumn(QStringLiteral("Programs"), name))
-            db.Execute(QStringLiteral("ALTER TABLE [Programs] ADD COLUMN [%1] %2")
-                           .arg(name, QString::fromLatin1(column.type)));
+        Trap(m_ctx.log, kInitializeControls, [&] {
+            const QString name = QString::fromLatin1(column.name);
+            if (!db.TableHasColumn(QStringLiteral("Programs"), name))
+                db.Execute(QStringLiteral("ALTER TABLE [Programs] ADD COLUMN [%1] %2")
+                               .arg(name, QString::fromLatin1(column.type)));
+        });
     }
 }
 

@@ -51,7 +51,8 @@ QString DataFieldOf(const QList<GridColumn>& columns, const QString& caption)
 
 QString SortStatement(const QString& table, const QString& field, bool ascending)
 {
-    return QStringLiteral("SELECT * FROM [%1] ORDER BY [%2]%3")
+    // Text sorts without case, as the old database sorted it; other kinds ignore NOCASE.
+    return QStringLiteral("SELECT * FROM [%1] ORDER BY [%2] COLLATE NOCASE%3")
         .arg(table, field, ascending ? QStringLiteral(" ASC") : QStringLiteral(" DESC"));
 }
 

@@ -18,7 +18,7 @@ const QList<GridColumn>& Programs();
 const QList<GridColumn>& Recordings();
 const QList<GridColumn>& EventLog();
 QString DataFieldOf(const QList<GridColumn>& columns, const QString& caption);
-// "SELECT * FROM [table] ORDER BY [field] ASC" or " DESC".
+// "SELECT * FROM [table] ORDER BY [field] COLLATE NOCASE ASC" or " DESC".
 QString SortStatement(const QString& table, const QString& field, bool ascending);
 
 } // namespace GridColumns

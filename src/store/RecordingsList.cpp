@@ -41,7 +41,7 @@ RecordingsList::RecordingsList(AppContext& ctx)
 bool RecordingsList::IsExcluded(const QString& path) const
 {
     // The file being recorded is not a finished recording yet.
-    const QString finalFile = m_ctx.recordingStatus.FinalFile;
+    const QString finalFile = m_ctx.recorder.Status().FinalFile;
     return !finalFile.isEmpty() && Comparable(finalFile) == Comparable(path);
 }
 

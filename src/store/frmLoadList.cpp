@@ -2,8 +2,8 @@
 
 #include "common/MessageBox.h"
 #include "diagnostics/Trap.h"
+#include "gui/FormPlacement.h"
 #include "shell/AppContext.h"
-#include "shell/FormPlacement.h"
 #include "store/SavedLists.h"
 
 #include <QCheckBox>

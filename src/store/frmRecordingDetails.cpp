@@ -1,6 +1,6 @@
 #include "store/frmRecordingDetails.h"
 
-#include "shell/FormPlacement.h"
+#include "gui/FormPlacement.h"
 #include "store/Options.h"
 #include "store/RecordingsList.h"
 #include "store/Recordset.h"

@@ -4,8 +4,8 @@
 #include "common/PathHelpers.h"
 #include "common/TextHelpers.h"
 #include "diagnostics/Trap.h"
+#include "gui/FormPlacement.h"
 #include "shell/AppContext.h"
-#include "shell/FormPlacement.h"
 #include "store/SavedLists.h"
 
 #include <QComboBox>

@@ -5,16 +5,33 @@
 #include "TestClock.h"
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
+#include "platform/DiskSpace.h"
 #include "shell/AppContext.h"
 
 #include <QTemporaryDir>
 #include <memory>
+#include <optional>
 
 // A sound system with as many capture sources as the test says.
 class FakeAudioDevices : public AudioDevices {
 public:
     int CountCaptureSources() override { return sources; }
     int sources = 1;
+};
+
+// The real file systems, unless the test names the free megabytes it wants seen.
+class TestDiskSpace : public StorageDiskSpace {
+public:
+    std::optional<double> freeMb;
+
+protected:
+    DiskSpaceMb Measure(const QString& folder) override
+    {
+        DiskSpaceMb d = StorageDiskSpace::Measure(folder);
+        if (freeMb)
+            d.free = *freeMb;
+        return d;
+    }
 };
 
 // A fresh application context over a temporary folder: its own data and runtime folders,
@@ -38,5 +55,6 @@ public:
     ScriptedMessageBox messageBox;
     RecordingLauncher launcher;
     FakeAudioDevices audioDevices;
+    TestDiskSpace diskSpace;
     std::unique_ptr<AppContext> ctx;
 };

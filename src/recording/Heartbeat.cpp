@@ -1,9 +1,14 @@
-#include "shell/Heartbeat.h"
+#include "recording/Heartbeat.h"
 
 #include "common/AutomationDate.h"
+#include "common/Clock.h"
 #include "common/ProcessLauncher.h"
+#include "common/clsAppStatus.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
-#include "shell/AppContext.h"
+#include "recording/clsRecordingStatus.h"
+#include "scheduling/Scheduler.h"
+#include "store/Options.h"
 
 #include <limits>
 
@@ -26,9 +31,17 @@ bool LaunchDue(double now, double launchTime, double lastLaunch)
 
 } // namespace
 
-Heartbeat::Heartbeat(AppContext& ctx, QObject* parent)
+Heartbeat::Heartbeat(Clock& clock, EventLog& log, Options& options, ProcessLauncher& launcher,
+                     Scheduler& scheduler, clsAppStatus& appStatus,
+                     clsRecordingStatus& recordingStatus, QObject* parent)
     : QObject(parent)
-    , m_ctx(ctx)
+    , m_clock(clock)
+    , m_log(log)
+    , m_options(options)
+    , m_launcher(launcher)
+    , m_scheduler(scheduler)
+    , m_appStatus(appStatus)
+    , m_recordingStatus(recordingStatus)
     , m_lastLinkLaunch(AutomationDate::LongAgo())
     , m_lastAppLaunch(AutomationDate::LongAgo())
     , m_lastPurge(AutomationDate::LongAgo())
@@ -38,26 +51,26 @@ Heartbeat::Heartbeat(AppContext& ctx, QObject* parent)
 
 void Heartbeat::Timer1_Timer()
 {
-    if (!m_ctx.appReady)
+    if (!m_appStatus.Ready())
         return;
     // No tick may arrive while this one waits or lets events run.
     Timer1.SetInterval(0);
-    if (Trap(m_ctx.log, "Timer1_Timer", [this] { Tick(); }))
+    if (Trap(m_log, "Timer1_Timer", [this] { Tick(); }))
         Timer1.SetInterval(TickInterval);
 }
 
 void Heartbeat::Tick()
 {
-    const double now = m_ctx.Now();
+    const double now = m_clock.Now();
     qint64 secondsSinceLastTick = AutomationDate::SecondsBetween(m_lastTickTime, now);
     if (secondsSinceLastTick < std::numeric_limits<qint32>::min() ||
         secondsSinceLastTick > std::numeric_limits<qint32>::max())
         secondsSinceLastTick = 0;
     m_lastTickTime = now;
 
-    Scheduler& scheduler = m_ctx.scheduler;
+    Scheduler& scheduler = m_scheduler;
     const NextProgram& next = scheduler.next;
-    const bool recording = m_ctx.appStatus.Recording();
+    const bool recording = m_appStatus.Recording();
     // A clock that was set or a machine that slept; while recording the end just comes later.
     if (std::abs(secondsSinceLastTick) > kClockJumpSeconds && !recording)
         scheduler.ScheduleNextRecording();
@@ -75,19 +88,18 @@ void Heartbeat::Tick()
         LaunchDue(now, next.NextAppLaunchTime, m_lastAppLaunch))
         LaunchAppPrior(now);
 
-    if (m_ctx.appStatus.Recording()) {
-        clsRecordingStatus& status = m_ctx.recordingStatus;
+    if (m_appStatus.Recording()) {
+        clsRecordingStatus& status = m_recordingStatus;
         if (!status.NextProgramScheduled &&
             now > AutomationDate::AddSeconds(status.EndTime, -kStopLeadSeconds)) {
             scheduler.ScheduleNextRecording();
             status.NextProgramScheduled = true;
         }
-        if (now > status.EndTime && !status.StopRequested) {
+        // The receiver's stop request sets StopRequested; it is the only writer.
+        if (now > status.EndTime && !status.StopRequested)
             emit StopRecordingDue();
-            status.StopRequested = true;
-        }
     }
-    if (!m_ctx.appStatus.Recording() && next.NextProgramFound) {
+    if (!m_appStatus.Recording() && next.NextProgramFound) {
         if (now > next.NextProgramEnd)
             scheduler.ScheduleNextRecording();
         if (next.NextProgramFound && now >= next.NextProgramStart && now < next.NextProgramEnd)
@@ -95,7 +107,7 @@ void Heartbeat::Tick()
                                    next.NextProgramDescription);
     }
 
-    if (m_ctx.options.PurgeRecordings &&
+    if (m_options.PurgeRecordings &&
         AutomationDate::HoursBetween(m_lastPurge, now) > kPurgeEveryHours)
         Purge(now);
 
@@ -105,24 +117,24 @@ void Heartbeat::Tick()
 void Heartbeat::LaunchAppPrior(double now)
 {
     m_lastAppLaunch = now;
-    const QString command = m_ctx.scheduler.next.NextLaunchAppPrior;
+    const QString command = m_scheduler.next.NextLaunchAppPrior;
     // The command runs as it stands: no file name is put into it ahead of a recording.
-    if (!m_ctx.launcher.StartDetached(command))
-        m_ctx.log.LogEvent(
+    if (!m_launcher.StartDetached(command))
+        m_log.LogEvent(
             EventWarning, QStringLiteral("Invalid Launch Application command"),
             QStringLiteral("The command to launch an application is invalid.  Check the file "
                            "paths and that the applications exists.\r\nCommand= ") +
                 command);
-    m_ctx.scheduler.next.NextAppLaunchTime = AutomationDate::Never();
+    m_scheduler.next.NextAppLaunchTime = AutomationDate::Never();
 }
 
 void Heartbeat::Purge(double now)
 {
     // Within five minutes from the purge time; the span does not wrap over midnight.
     const double timeOfDay = AutomationDate::TimePart(now);
-    const double purgeTime = m_ctx.options.PurgeTime;
+    const double purgeTime = m_options.PurgeTime;
     if (timeOfDay < purgeTime || timeOfDay > purgeTime + kPurgeSpan)
         return;
     emit PurgeDue();
-    m_lastPurge = m_ctx.Now();
+    m_lastPurge = m_clock.Now();
 }

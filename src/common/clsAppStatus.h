@@ -21,6 +21,10 @@ public:
     bool Suspended() const { return m_suspended; }
     bool Maintenance() const { return m_maintenance; }
     void SetMaintenance(bool value) { Set(m_maintenance, value); }
+    // The application-ready flag: false until the end of the first activation; the timers
+    // idle until then. Not a mode: it repaints nothing.
+    bool Ready() const { return m_ready; }
+    void SetReady(bool value) { m_ready = value; }
 
     // The Suspend command: ends a suspension, or starts one once the user agrees; refused
     // while recording or converting.
@@ -39,4 +43,5 @@ private:
     bool m_recording = false;
     bool m_suspended = false;
     bool m_maintenance = false;
+    bool m_ready = false;
 };

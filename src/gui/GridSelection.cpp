@@ -1,4 +1,4 @@
-#include "shell/GridSelection.h"
+#include "gui/GridSelection.h"
 
 #include "store/RecordsetModel.h"
 

@@ -1,4 +1,4 @@
-#include "shell/clsAppStatus.h"
+#include "common/clsAppStatus.h"
 
 #include "common/MessageBox.h"
 

@@ -4,7 +4,13 @@
 
 #include <QObject>
 
-class AppContext;
+class Clock;
+class EventLog;
+class Options;
+class ProcessLauncher;
+class Scheduler;
+class clsAppStatus;
+struct clsRecordingStatus;
 
 // Timer1, the heartbeat: four times a second it compares the clock with the occurrence the
 // scheduler worked out and decides every scheduled event: the link and the application
@@ -13,7 +19,9 @@ class AppContext;
 class Heartbeat : public QObject {
     Q_OBJECT
 public:
-    explicit Heartbeat(AppContext& ctx, QObject* parent = nullptr);
+    Heartbeat(Clock& clock, EventLog& log, Options& options, ProcessLauncher& launcher,
+              Scheduler& scheduler, clsAppStatus& appStatus, clsRecordingStatus& recordingStatus,
+              QObject* parent = nullptr);
 
     static constexpr int TickInterval = 250;
 
@@ -28,7 +36,7 @@ signals:
     void SnapshotWindowsBeforeLink();
     void OpenInternetLink(const QString& link);
     void StartRecordingDue(qint32 programId, double start, double end, const QString& description);
-    // Post the stop request to the recording task and start its watchdog.
+    // The clock has passed the recording's end: the receiver makes the stop request.
     void StopRecordingDue();
     // Purge the recording folder; the receiver refreshes the list if anything went.
     void PurgeDue();
@@ -39,7 +47,13 @@ private:
     void LaunchAppPrior(double now);
     void Purge(double now);
 
-    AppContext& m_ctx;
+    Clock& m_clock;
+    EventLog& m_log;
+    Options& m_options;
+    ProcessLauncher& m_launcher;
+    Scheduler& m_scheduler;
+    clsAppStatus& m_appStatus;
+    clsRecordingStatus& m_recordingStatus;
     double m_lastTickTime = 0.0;
     double m_lastLinkLaunch;
     double m_lastAppLaunch;

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "recording/ConversionQueue.h"
+#include "recording/Heartbeat.h"
+#include "recording/RecorderServices.h"
+#include "recording/RecordingControl.h"
+#include "recording/RecordingTaskLink.h"
+#include "recording/StatusBarPlus.h"
+#include "recording/clsRecordingStatus.h"
+
+#include <QObject>
+
+class AppContext;
+
+// The running recorder: the heartbeat, the recording control, the link to the recording
+// task, the disk guard and the conversion queue, wired together. The main window observes
+// its signals and forwards the user's commands; a test builds the very same object.
+class Recorder : public QObject {
+    Q_OBJECT
+public:
+    Recorder(AppContext& formats, const RecorderServices& services, QObject* parent = nullptr);
+
+    // The heartbeat starts at the end of the first activation and stops at the unload.
+    void Start();
+    void Stop();
+
+    // The user's commands.
+    void StopCommand(bool confirm) { m_control.HandleStopRecordingRequest(confirm); }
+    void PauseCommand(const QString& command) { m_control.ToolbarPauseResume(command); }
+
+    // One round of the status bar and the disk guard: on every tick and after list changes.
+    void UpdateStatusBarPlus();
+
+    clsRecordingStatus& Status() { return m_status; }
+    ConversionQueue& Conversion() { return m_conversion; }
+    RecordingTaskLink& Link() { return m_link; }
+    RecordingControl& Control() { return m_control; }
+    Heartbeat& HeartbeatTimer() { return m_heartbeat; }
+    const StatusBarPlus& StatusBar() const { return m_statusBar; }
+
+signals:
+    void StatusBarUpdated(const StatusBarPlus::Update& update);
+    void UpdateModeDisplay();
+    void UpdateRecordingsButtonsAndMenus();
+    void ShowRecordingStatusForm();
+    void UnloadRecordingStatusForm();
+    // The task was asked to minimise the main window: it goes to the tray instead.
+    void MinimizeToTray();
+    // The daily purge is due; the list's owner runs it.
+    void PurgeDue();
+
+private:
+    void OpenInternetLink(const QString& link);
+
+    RecorderServices m_s;
+    clsRecordingStatus m_status;
+    ConversionQueue m_conversion;
+    RecordingTaskLink m_link;
+    RecordingControl m_control;
+    Heartbeat m_heartbeat;
+    StatusBarPlus m_statusBar;
+};

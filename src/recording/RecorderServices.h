@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+class AppDatabase;
+class Clock;
+class DiskSpace;
+class EventLog;
+class MessageBoxPresenter;
+class Options;
+class ProcessLauncher;
+class RegKeys;
+class Scheduler;
+class clsAppStatus;
+class clsError;
+
+// What the recorder and its parts use of the rest of the system, handed in by whoever
+// composes the program (the application context, or a test).
+struct RecorderServices {
+    EventLog& log;
+    Clock& clock;
+    Options& options;
+    RegKeys& registry;
+    clsAppStatus& appStatus;
+    clsError& error;
+    AppDatabase& database;
+    Scheduler& scheduler;
+    MessageBoxPresenter& messageBox;
+    ProcessLauncher& launcher;
+    DiskSpace& diskSpace;
+    // The socket to the recording task and its parameter file lie here.
+    QString runtimeFolder;
+};

@@ -1,0 +1,119 @@
+#include "recording/StatusBarPlus.h"
+
+#include "common/AutomationDate.h"
+#include "common/Clock.h"
+#include "common/clsAppStatus.h"
+#include "diagnostics/EventLog.h"
+#include "diagnostics/clsError.h"
+#include "recording/ConversionQueue.h"
+#include "recording/clsRecordingStatus.h"
+#include "store/Options.h"
+
+namespace {
+
+const QString kDiskStopMessage =
+    QStringLiteral("Recording stopped due to insufficient disk space.");
+
+QString OneDecimal(double value)
+{
+    return QString::number(value, 'f', 1);
+}
+
+QString SecondsOrMinutes(double from, double to, const QString& what)
+{
+    const qint64 seconds = std::max<qint64>(0, AutomationDate::SecondsBetween(from, to));
+    if (seconds >= 120)
+        return QString::number(AutomationDate::MinutesBetween(from, to)) +
+               QStringLiteral(" minutes ") + what;
+    return QString::number(seconds) + QStringLiteral(" seconds ") + what;
+}
+
+} // namespace
+
+StatusBarPlus::StatusBarPlus(Clock& clock, EventLog& log, const Options& options,
+                             const clsAppStatus& appStatus, clsError& error,
+                             const clsRecordingStatus& recordingStatus, ConversionQueue& conversion,
+                             DiskSpace& diskSpace)
+    : m_clock(clock)
+    , m_log(log)
+    , m_options(options)
+    , m_appStatus(appStatus)
+    , m_error(error)
+    , m_recordingStatus(recordingStatus)
+    , m_conversion(conversion)
+    , m_diskSpace(diskSpace)
+{
+}
+
+QString StatusBarPlus::ElapsedText() const
+{
+    const qint64 seconds =
+        AutomationDate::SecondsBetween(m_recordingStatus.StartTime, m_clock.Now());
+    const auto two = [](qint64 n) {
+        return QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0'));
+    };
+    const qint64 h = seconds / 3600, m = seconds / 60 % 60, s = seconds % 60;
+    if (h > 0)
+        return two(h) + u':' + two(m) + u':' + two(s);
+    if (m > 0)
+        return two(m) + u':' + two(s);
+    return two(s);
+}
+
+QString StatusBarPlus::ElapsedRemainingText() const
+{
+    const double now = m_clock.Now();
+    return SecondsOrMinutes(m_recordingStatus.StartTime, now, QStringLiteral("elapsed")) +
+           QStringLiteral(", ") +
+           SecondsOrMinutes(now, m_recordingStatus.EndTime, QStringLiteral("remaining"));
+}
+
+StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText)
+{
+    const bool folderKnown = !m_error.InvalidRecordingDirectory();
+    return Run(convertingText,
+               folderKnown ? m_diskSpace.GetRecDirDiskSpaceMb(m_options.DefaultRecordingDirectory)
+                           : DiskSpaceMb());
+}
+
+StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText, const DiskSpaceMb& disk)
+{
+    Update u;
+    const bool recording = m_appStatus.Recording();
+    if (recording)
+        u.modeToolTip = ElapsedRemainingText();
+    else if (m_appStatus.Converting())
+        u.modeText = convertingText;
+    if (m_error.InvalidRecordingDirectory())
+        return u;
+
+    const qint16 stopLimit = m_options.StopRecMegsLeft;
+    if (disk.free + 0.5 < stopLimit) {
+        m_error.SetDiskLowStopRecording(true);
+        if (recording) {
+            u.postStop = true;
+            // Logged on every round until the recording has ended, as the system did.
+            m_log.LogEvent(EventError, kDiskStopMessage,
+                           QStringLiteral("Recording Description: ") +
+                               m_recordingStatus.Description +
+                               QStringLiteral("\r\nRemove recordings from disk or change the "
+                                              "recording directory to a different disk drive."));
+        }
+        if (m_appStatus.Converting()) {
+            m_log.LogEvent(
+                EventError,
+                QStringLiteral("MP3 conversion stopped due to insufficient disk space."),
+                QStringLiteral("Remove recordings from disk or change the default recording "
+                               "directory to a different disk drive."));
+            m_conversion.StopMp3Conversion = true;
+        }
+    } else {
+        m_error.SetDiskLowStopRecording(false);
+    }
+    m_error.SetDiskLowWarn(disk.free < m_options.WarnRecMegsLeft);
+
+    u.diskText = QStringLiteral("Disk Space Used: ") + OneDecimal(disk.usedPercent) + u'%';
+    u.diskToolTip = OneDecimal(disk.usedPercent) + QStringLiteral("% used, ") +
+                    OneDecimal(disk.free) + QStringLiteral(" Megabytes remaining");
+    return u;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/DiskSpace.h"
+
+#include <QString>
+
+class Clock;
+class EventLog;
+class Options;
+class clsAppStatus;
+class clsError;
+struct ConversionQueue;
+struct clsRecordingStatus;
+
+// The live figures of the status bar and the guard against a full disk, run on every tick
+// of the heartbeat and after changes of the lists.
+class StatusBarPlus {
+public:
+    StatusBarPlus(Clock& clock, EventLog& log, const Options& options,
+                  const clsAppStatus& appStatus, clsError& error,
+                  const clsRecordingStatus& recordingStatus, ConversionQueue& conversion,
+                  DiskSpace& diskSpace);
+
+    struct Update {
+        // Set when the mode panel's tip or text is to change.
+        QString modeToolTip;
+        QString modeText;
+        QString diskText;
+        QString diskToolTip;
+        // The disk guard asks for the recording to stop; the stop request posts only once.
+        bool postStop = false;
+    };
+
+    // One round: disk figures, both disk conditions and their log entries, and the stop
+    // asked for while recording on a nearly full disk.
+    Update Run(const QString& convertingText);
+    // The same with the disk figures given.
+    Update Run(const QString& convertingText, const DiskSpaceMb& disk);
+
+    // "hh:mm:ss", "mm:ss" or "ss" since the recording began.
+    QString ElapsedText() const;
+    // "5 minutes elapsed, 25 minutes remaining"; both from the clock, so a pause counts.
+    QString ElapsedRemainingText() const;
+
+private:
+    Clock& m_clock;
+    EventLog& m_log;
+    const Options& m_options;
+    const clsAppStatus& m_appStatus;
+    clsError& m_error;
+    const clsRecordingStatus& m_recordingStatus;
+    ConversionQueue& m_conversion;
+    DiskSpace& m_diskSpace;
+};
