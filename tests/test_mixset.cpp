@@ -1,0 +1,346 @@
+// The mixer library as the program uses it: loaded by name from the build folder, driving a
+// PulseAudio server of the test's own; what it changes is read back with pactl.
+#include "PulseFixture.h"
+#include "mixset.h"
+
+#include <QElapsedTimer>
+#include <QLibrary>
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QTest>
+#include <csignal>
+#include <memory>
+
+namespace {
+
+// The raw volume of each channel, by position, as pactl shows it.
+using Volumes = QMap<QString, uint>;
+
+bool Pactl(const QStringList& args, QByteArray* output = nullptr)
+{
+    QProcess pactl;
+    pactl.start("pactl", args);
+    if (!pactl.waitForFinished(10000) || pactl.exitStatus() != QProcess::NormalExit ||
+        pactl.exitCode() != 0)
+        return false;
+    if (output)
+        *output = pactl.readAllStandardOutput().trimmed();
+    return true;
+}
+
+// kind is "sink" or "source".
+Volumes VolumesOf(const QString& kind, const QString& name)
+{
+    QByteArray text;
+    Pactl({"get-" + kind + "-volume", name}, &text);
+    Volumes volumes;
+    static const QRegularExpression channel("([a-z0-9-]+): (\\d+) /");
+    for (const auto& match : channel.globalMatch(QString::fromUtf8(text)))
+        volumes[match.captured(1)] = match.captured(2).toUInt();
+    return volumes;
+}
+
+bool MutedOf(const QString& kind, const QString& name)
+{
+    QByteArray text;
+    Pactl({"get-" + kind + "-mute", name}, &text);
+    return text == "Mute: yes";
+}
+
+QByteArray DefaultOf(const QString& kind)
+{
+    QByteArray name;
+    Pactl({"get-default-" + kind}, &name);
+    return name;
+}
+
+const QByteArray Header = "nightreel-mixer-profile 1\n";
+
+} // namespace
+
+class TestMixset : public QObject {
+    Q_OBJECT
+
+    // Resolved by name, as the program does.
+    QLibrary m_library{QStringLiteral(MIXSET_DIR "/mixset")};
+    int (*Load)(const char*) = nullptr;
+    int (*Save)(const char*) = nullptr;
+    int (*GetMaster)() = nullptr;
+    int (*SetMaster)(int) = nullptr;
+
+    // One server for all cases, as starting and stopping one takes seconds; init() puts its
+    // mixer back to where the fixture starts it.
+    std::unique_ptr<PulseFixture> m_pulse;
+    QString m_secondSink; // the module of the second null sink, while loaded
+    QTemporaryDir m_files;
+
+    QByteArray PathOf(const QString& name) const
+    {
+        return QFile::encodeName(m_files.filePath(name));
+    }
+
+    void LoadSecondSink()
+    {
+        QByteArray module;
+        QVERIFY(Pactl({"load-module", "module-null-sink", "sink_name=second"}, &module));
+        m_secondSink = QString::fromUtf8(module);
+    }
+
+    void UnloadSecondSink()
+    {
+        QVERIFY(Pactl({"unload-module", m_secondSink}));
+        m_secondSink.clear();
+    }
+
+    // A second sink made the default, at 20 % / 90 %; recsink at 90 %.
+    void MakeSecondSinkDefault()
+    {
+        LoadSecondSink();
+        QVERIFY(Pactl({"set-default-sink", "second"}));
+        QVERIFY(Pactl({"set-sink-volume", "second", "20%", "90%"}));
+        QVERIFY(Pactl({"set-sink-volume", "recsink", "90%"}));
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
+        Load = reinterpret_cast<int (*)(const char*)>(m_library.resolve("LoadMixerFile"));
+        Save = reinterpret_cast<int (*)(const char*)>(m_library.resolve("SaveMixerFile"));
+        GetMaster = reinterpret_cast<int (*)()>(m_library.resolve("GetMasterVolume"));
+        SetMaster = reinterpret_cast<int (*)(int)>(m_library.resolve("SetMasterVolume"));
+        QVERIFY(Load && Save && GetMaster && SetMaster);
+    }
+
+    void init()
+    {
+        if (!m_pulse)
+            m_pulse = std::make_unique<PulseFixture>();
+        QVERIFY2(m_pulse->Running(), "the test's own PulseAudio server did not start");
+        if (!m_secondSink.isEmpty())
+            UnloadSecondSink();
+        QVERIFY(Pactl({"set-sink-volume", "recsink", "100%"}));
+        QVERIFY(Pactl({"set-source-volume", "recmic", "100%"}));
+        QVERIFY(Pactl({"set-source-mute", "recmic", "0"}));
+        QVERIFY(Pactl({"set-default-sink", "recsink"}));
+        QVERIFY(Pactl({"set-default-source", "recmic"}));
+    }
+
+    void cleanupTestCase() { m_pulse.reset(); }
+
+    void savedMixerComesBackExactly_data()
+    {
+        QTest::addColumn<bool>("secondSinkGone");
+        QTest::newRow("every device still there") << false;
+        QTest::newRow("the second sink unplugged since") << true;
+    }
+
+    void savedMixerComesBackExactly()
+    {
+        QFETCH(bool, secondSinkGone);
+        LoadSecondSink();
+        QVERIFY(Pactl({"set-source-volume", "recmic", "30%", "70%"}));
+        QVERIFY(Pactl({"set-source-mute", "recmic", "1"}));
+        QVERIFY(Pactl({"set-sink-volume", "recsink", "45%", "55%"}));
+        QVERIFY(Pactl({"set-default-sink", "second"}));
+        const Volumes mic = VolumesOf("source", "recmic");
+        const Volumes speakers = VolumesOf("sink", "recsink");
+        QCOMPARE(mic.size(), 2);
+        QVERIFY(mic.first() != mic.last());
+
+        const QByteArray profile = PathOf("evening.mxr");
+        QCOMPARE(Save(profile), MIXSET_OK);
+
+        QVERIFY(Pactl({"set-source-volume", "recmic", "100%"}));
+        QVERIFY(Pactl({"set-source-mute", "recmic", "0"}));
+        QVERIFY(Pactl({"set-sink-volume", "recsink", "100%"}));
+        QVERIFY(Pactl({"set-default-sink", "recsink"}));
+        QVERIFY(Pactl({"set-default-source", "recsink.monitor"}));
+        if (secondSinkGone)
+            UnloadSecondSink();
+
+        QCOMPARE(Load(profile), MIXSET_OK);
+        QCOMPARE(VolumesOf("source", "recmic"), mic);
+        QVERIFY(MutedOf("source", "recmic"));
+        QCOMPARE(VolumesOf("sink", "recsink"), speakers);
+        QCOMPARE(DefaultOf("sink"), secondSinkGone ? "recsink" : "second");
+        QCOMPARE(DefaultOf("source"), "recmic");
+    }
+
+    // Profiles written by hand to the documented format; recmic starts at 100 %, unmuted.
+    void handWrittenProfile_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<Volumes>("mic");
+        QTest::addColumn<bool>("muted");
+        QTest::newRow("escaped name")
+            << QByteArray("source rec%6Dic front-left,front-right - 1 1000 2000\n") << 0
+            << Volumes{{"front-left", 1000}, {"front-right", 2000}} << true;
+        QTest::newRow("devices not there are skipped")
+            << QByteArray("card no%20such%20card output:stereo\n"
+                          "sink gone front-left - 0 5\n"
+                          "source recmic front-left,front-right - 0 3000 4000\n"
+                          "default-sink gone\ndefault-source gone.monitor\n")
+            << 0 << Volumes{{"front-left", 3000}, {"front-right", 4000}} << false;
+        QTest::newRow("channels matched by position")
+            << QByteArray("source recmic front-right,front-left - 0 1000 2000\n") << 0
+            << Volumes{{"front-left", 2000}, {"front-right", 1000}} << false;
+        QTest::newRow("a port the device lacks is refused, the rest applied")
+            << QByteArray("source recmic front-left,front-right line-in 1 5000 6000\n")
+            << int(MIXSET_ERR_OPERATION_FAILED)
+            << Volumes{{"front-left", 5000}, {"front-right", 6000}} << true;
+    }
+
+    void handWrittenProfile()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(int, result);
+        QFETCH(Volumes, mic);
+        QFETCH(bool, muted);
+        QFile file(m_files.filePath("by hand.mxr"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(Header + body);
+        file.close();
+
+        QCOMPARE(Load(QFile::encodeName(file.fileName())), result);
+        QCOMPARE(VolumesOf("source", "recmic"), mic);
+        QCOMPARE(MutedOf("source", "recmic"), muted);
+        QCOMPARE(DefaultOf("sink"), "recsink");
+    }
+
+    void badFileChangesNothing_data()
+    {
+        const QByteArray good = Header + "source recmic front-left,front-right - 1 1000 1000\n";
+        QTest::addColumn<QByteArray>("content"); // null: no file at all
+        QTest::addColumn<bool>("folder");
+        QTest::addColumn<int>("result");
+        QTest::newRow("missing") << QByteArray() << false << int(MIXSET_ERR_FILE_UNREADABLE);
+        QTest::newRow("a folder") << QByteArray() << true << int(MIXSET_ERR_FILE_UNREADABLE);
+        QTest::newRow("empty") << QByteArray("") << false << int(MIXSET_ERR_FILE_MALFORMED);
+        QTest::newRow("a later version") << QByteArray(good).replace("profile 1", "profile 2")
+                                         << false << int(MIXSET_ERR_FILE_MALFORMED);
+        QTest::newRow("a volume short, after a good line")
+            << good + "source recsink.monitor front-left,front-right - 0 7\n"
+            << false << int(MIXSET_ERR_FILE_MALFORMED);
+        QTest::newRow("volume out of range") << good + "sink recsink mono - 0 4294967295\n"
+                                             << false << int(MIXSET_ERR_FILE_MALFORMED);
+        QTest::newRow("broken escape") << good + "default-sink rec%7\n"
+                                       << false << int(MIXSET_ERR_FILE_MALFORMED);
+        QTest::newRow("unescaped tab") << good + "default-sink rec\tsink\n"
+                                       << false << int(MIXSET_ERR_FILE_MALFORMED);
+    }
+
+    void badFileChangesNothing()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, folder);
+        QFETCH(int, result);
+        const QString path = m_files.filePath("bad.mxr");
+        QDir(path).removeRecursively();
+        QFile::remove(path);
+        if (folder) {
+            QVERIFY(QDir().mkpath(path));
+        } else if (!content.isNull()) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(content);
+        }
+        const Volumes mic = VolumesOf("source", "recmic");
+
+        QCOMPARE(Load(QFile::encodeName(path)), result);
+        QCOMPARE(VolumesOf("source", "recmic"), mic);
+        QVERIFY(!MutedOf("source", "recmic"));
+    }
+
+    void masterVolumeReadsTheDefaultSink_data()
+    {
+        QTest::addColumn<QStringList>("set");
+        QTest::addColumn<int>("percent");
+        QTest::newRow("37 %") << QStringList{"37%"} << 37;
+        QTest::newRow("the first channel stands for all") << QStringList{"37%", "80%"} << 37;
+        QTest::newRow("amplified") << QStringList{"150%"} << 150;
+        QTest::newRow("silent") << QStringList{"0%"} << 0;
+    }
+
+    void masterVolumeReadsTheDefaultSink()
+    {
+        QFETCH(QStringList, set);
+        QFETCH(int, percent);
+        MakeSecondSinkDefault();
+        QVERIFY(Pactl(QStringList{"set-sink-volume", "@DEFAULT_SINK@"} + set));
+        QCOMPARE(GetMaster(), percent);
+    }
+
+    void masterVolumeSetsEveryChannelClamped_data()
+    {
+        QTest::addColumn<int>("percent");
+        QTest::addColumn<uint>("raw");
+        QTest::newRow("150 is the maximum") << 150 << 65536u; // the normal volume, 100 %
+        QTest::newRow("-5 is silence") << -5 << 0u;
+        QTest::newRow("42 %") << 42 << 27525u; // 0.42 * 65536, rounded
+    }
+
+    void masterVolumeSetsEveryChannelClamped()
+    {
+        QFETCH(int, percent);
+        QFETCH(uint, raw);
+        MakeSecondSinkDefault();
+        const Volumes other = VolumesOf("sink", "recsink");
+
+        QCOMPARE(SetMaster(percent), 1);
+        QCOMPARE(VolumesOf("sink", "second"), (Volumes{{"front-left", raw}, {"front-right", raw}}));
+        QCOMPARE(VolumesOf("sink", "recsink"), other);
+    }
+
+    void saveIntoMissingFolderFails()
+    {
+        QCOMPARE(Save(PathOf("gone/evening.mxr")), MIXSET_ERR_WRITE_FAILED);
+    }
+
+    // A stopped server refuses at once; a frozen one (the process stopped) never answers, and
+    // every call must give up on its own rather than hang the recording that called it.
+    void noServerFailsWithoutHanging_data()
+    {
+        QTest::addColumn<bool>("frozen");
+        QTest::addColumn<int>("withinMs");
+        QTest::newRow("stopped") << false << 1000;
+        QTest::newRow("frozen") << true << 4 * (MIXSET_TIMEOUT_MS + 1000);
+    }
+
+    void noServerFailsWithoutHanging()
+    {
+        QFETCH(bool, frozen);
+        QFETCH(int, withinMs);
+        const QByteArray profile = PathOf("saved.mxr");
+        const QByteArray unsaved = PathOf("unsaved.mxr");
+        QCOMPARE(Save(profile), MIXSET_OK);
+        QFile pidFile(m_pulse->Folder() + "/pulse/pid");
+        QVERIFY(pidFile.open(QIODevice::ReadOnly));
+        const pid_t server = pid_t(pidFile.readAll().trimmed().toInt());
+        QVERIFY(server > 0);
+        if (frozen)
+            QCOMPARE(::kill(server, SIGSTOP), 0);
+        else
+            m_pulse->Stop();
+        // The next case gets a server of its own.
+        const auto thaw = qScopeGuard([&] {
+            if (frozen)
+                ::kill(server, SIGCONT);
+            m_secondSink.clear();
+            m_pulse.reset();
+        });
+
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(GetMaster(), -1);
+        QCOMPARE(SetMaster(50), 0);
+        QCOMPARE(Load(profile), MIXSET_ERR_NO_SERVER);
+        QCOMPARE(Save(unsaved), MIXSET_ERR_NO_SERVER);
+        QVERIFY2(timer.elapsed() < withinMs, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY(!QFile::exists(QFile::decodeName(unsaved)));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMixset)
+#include "test_mixset.moc"
