@@ -56,7 +56,7 @@ private slots:
         tc.OpenDatabase();
         LogEntries(tc, {"One", "Two"});
         QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 2);
-        frmElog form(*tc.ctx, nullptr);
+        frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
         QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
         QVERIFY(!tc.ctx->error.Indication().buttonVisible);
@@ -70,7 +70,7 @@ private slots:
         TestContext tc;
         tc.OpenDatabase();
         LogEntries(tc, {"Old"});
-        frmElog form(*tc.ctx, nullptr);
+        frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
         QVERIFY(QTest::qWaitForWindowActive(&form));
         LogEntries(tc, {"New"});
@@ -84,7 +84,7 @@ private slots:
         TestContext tc;
         tc.OpenDatabase();
         {
-            frmElog form(*tc.ctx, nullptr);
+            frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
             form.show();
             form.findChild<QAction*>("mnuExit")->trigger();
         }
@@ -112,7 +112,7 @@ private slots:
         tc.OpenDatabase();
         LogEntries(tc, {"a", "b", "c"});
         tc.ctx->error.SetElogFull(true);
-        frmElog form(*tc.ctx, nullptr);
+        frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
         Grid(form)->selectRow(1);
         tc.messageBox.answers = {answer};
@@ -147,7 +147,7 @@ private slots:
         tc.clock.Set(QDateTime(QDate(2026, 3, 14), QTime(21, 5, 9)));
         tc.ctx->log.LogEvent(qint16(type), "The headline", "Line one\r\nLine two");
         LogEntries(tc, {"Later"});
-        frmElog form(*tc.ctx, nullptr);
+        frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
         Grid(form)->setCurrentIndex(Grid(form)->model()->index(1, 1));
         QHash<QString, QString> shown;
@@ -174,7 +174,7 @@ private slots:
         TestContext tc;
         tc.OpenDatabase();
         LogEntries(tc, {"a", "b", "c"});
-        frmElog form(*tc.ctx, nullptr);
+        frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
         QVERIFY(QTest::qWaitForWindowActive(&form));
         Grid(form)->selectRow(2);
@@ -194,7 +194,7 @@ private slots:
         TestContext tc;
         tc.OpenDatabase();
         LogEntries(tc, {"a", "b", "c"});
-        frmElog form(*tc.ctx, nullptr);
+        frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
         auto* corner = Grid(form)->findChild<QAbstractButton*>();
         QVERIFY(corner);
@@ -219,7 +219,7 @@ private slots:
         TestContext tc;
         tc.OpenDatabase();
         {
-            frmElog form(*tc.ctx, nullptr);
+            frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
             QCOMPARE(form.size(), QSize(500, 333));
             form.show();
             form.move(40, 60);
@@ -240,7 +240,7 @@ private slots:
         QCOMPARE(Setting(tc, "ElogFormHeight"), QString("6000"));
         QCOMPARE(Setting(tc, "ElogFormCol0Width"), QString("450"));
         QCOMPARE(Setting(tc, "ElogFormCol1Width"), QString("2250"));
-        frmElog again(*tc.ctx, nullptr);
+        frmElog again(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         QCOMPARE(again.size(), QSize(600, 400));
         QCOMPARE(Grid(again)->columnWidth(1), 150);
     }

@@ -75,7 +75,7 @@ private slots:
         QFETCH(QString, text);
         TestContext tc;
         SetConditions(tc.ctx->error, conditions);
-        frmErrors form(*tc.ctx, nullptr);
+        frmErrors form(tc.ctx->error, tc.ctx->database, tc.ctx->registry, tc.messageBox, nullptr);
         QCOMPARE(form.windowTitle(), QString("Errors/Warnings"));
         QCOMPARE(ShownConditions(form), text);
     }
@@ -104,7 +104,7 @@ private slots:
         for (int i = 0; i < unviewed; ++i)
             tc.ctx->log.LogEvent(EventWarning, "Something", "");
         tc.ctx->error.SetElogFull(full);
-        frmErrors form(*tc.ctx, nullptr);
+        frmErrors form(tc.ctx->error, tc.ctx->database, tc.ctx->registry, tc.messageBox, nullptr);
         QFETCH(QString, label);
         QCOMPARE(form.findChild<QLabel*>("lblNumErrors")->text(), label);
         QFETCH(bool, viewEnabled);
@@ -117,7 +117,7 @@ private slots:
         tc.OpenDatabase();
         tc.ctx->log.LogEvent(EventError, "First", "");
         tc.ctx->log.LogEvent(EventError, "Second", "");
-        frmErrors form(*tc.ctx, nullptr);
+        frmErrors form(tc.ctx->error, tc.ctx->database, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
         QString shownTitle;
         WhenModalOpens([&](QDialog* dialog) {

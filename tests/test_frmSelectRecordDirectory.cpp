@@ -70,7 +70,7 @@ private slots:
                 QVERIFY(QDir(root).mkpath(folder));
             }
         }
-        frmSelectRecordDirectory form(*tc.ctx, nullptr, root);
+        frmSelectRecordDirectory form(tc.ctx->log, tc.messageBox, nullptr, root);
         form.show();
         form.findChild<QLineEdit*>("txtPath")->setText(Expand(typed, root));
         tc.messageBox.answers = answers;
@@ -102,7 +102,8 @@ private slots:
             dialog->findChild<QLineEdit*>("txtPath")->setText(tc.Root());
             dialog->findChild<QPushButton*>("btnCancel")->click();
         });
-        chosen = frmSelectRecordDirectory::Choose(*tc.ctx, nullptr, tc.Root() + "/recordings");
+        chosen = frmSelectRecordDirectory::Choose(tc.ctx->log, tc.messageBox, nullptr,
+                                                  tc.Root() + "/recordings");
         QCOMPARE(chosen, QString());
     }
 
@@ -110,15 +111,16 @@ private slots:
     {
         TestContext tc;
         WhenModalOpens([](QDialog* dialog) { dialog->findChild<QPushButton*>("btnOK")->click(); });
-        QCOMPARE(frmSelectRecordDirectory::Choose(*tc.ctx, nullptr, tc.Root() + "/"),
-                 tc.Root() + "/");
+        QCOMPARE(
+            frmSelectRecordDirectory::Choose(tc.ctx->log, tc.messageBox, nullptr, tc.Root() + "/"),
+            tc.Root() + "/");
     }
 
     void aMissingProposedFolderIsShownAsItStands()
     {
         TestContext tc;
         const QString proposed = tc.Root() + "/not/yet/there";
-        frmSelectRecordDirectory form(*tc.ctx, nullptr, proposed);
+        frmSelectRecordDirectory form(tc.ctx->log, tc.messageBox, nullptr, proposed);
         auto* txtPath = form.findChild<QLineEdit*>("txtPath");
         QCOMPARE(txtPath->text(), proposed);
         QCOMPARE(txtPath->selectedText(), proposed);

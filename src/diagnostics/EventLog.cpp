@@ -1,15 +1,19 @@
 #include "diagnostics/EventLog.h"
 
+#include "common/Clock.h"
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
-#include "shell/AppContext.h"
+#include "diagnostics/clsError.h"
+#include "store/AppDatabase.h"
 
 #include <QLoggingCategory>
 
 Q_LOGGING_CATEGORY(lcEventLog, "nightreel.eventlog")
 
-EventLog::EventLog(AppContext& ctx)
-    : m_ctx(ctx)
+EventLog::EventLog(AppDatabase& database, clsError& error, const Clock& clock)
+    : m_database(database)
+    , m_error(error)
+    , m_clock(clock)
 {
 }
 
@@ -20,20 +24,20 @@ void EventLog::LogEvent(qint16 type, const QString& message, const QString& deta
     else
         qCWarning(lcEventLog).noquote() << message << '|' << details;
     try {
-        Recordset& rs = m_ctx.database.ElogRecordset();
+        Recordset& rs = m_database.ElogRecordset();
         const int count = CountEventLogRows();
         // Counted before the insert: the row that makes 951 does not yet fill the log.
-        m_ctx.error.SetElogFull(count >= FullAt);
+        m_error.SetElogFull(count >= FullAt);
         if (count >= LimitRows)
             return;
         rs.AddNew();
         rs.SetValue(QStringLiteral("Type"), type);
-        rs.SetValue(QStringLiteral("DateAndTime"), m_ctx.Now());
+        rs.SetValue(QStringLiteral("DateAndTime"), m_clock.Now());
         rs.SetValue(QStringLiteral("Message"), message);
         rs.SetValue(QStringLiteral("Details"), details);
         rs.Update();
         if (type != EventInformation)
-            m_ctx.error.NewElogMsgAdded();
+            m_error.NewElogMsgAdded();
     } catch (const std::exception&) {
         // A failure to log can't be logged; the caller goes on.
     }
@@ -41,7 +45,7 @@ void EventLog::LogEvent(qint16 type, const QString& message, const QString& deta
 
 int EventLog::CountEventLogRows()
 {
-    Recordset clone = m_ctx.database.ElogRecordset().Clone();
+    Recordset clone = m_database.ElogRecordset().Clone();
     if (clone.IsEOF())
         return 0;
     clone.MoveLast();

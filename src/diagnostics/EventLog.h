@@ -2,8 +2,10 @@
 
 #include <QString>
 
-class AppContext;
+class AppDatabase;
+class Clock;
 class RuntimeError;
+class clsError;
 
 enum EventType : qint16 { EventInformation = 0, EventWarning = 1, EventError = 2 };
 
@@ -11,7 +13,9 @@ enum EventType : qint16 { EventInformation = 0, EventWarning = 1, EventError = 2
 // diagnostic output, so that what happens while the database is unusable is not lost.
 class EventLog {
 public:
-    explicit EventLog(AppContext& ctx);
+    // The log lives in the database; its fill state and unviewed entries go to the error
+    // state.
+    EventLog(AppDatabase& database, clsError& error, const Clock& clock);
 
     static constexpr int FullAt = 951;
     static constexpr int LimitRows = 1000;
@@ -25,5 +29,7 @@ public:
 private:
     int CountEventLogRows();
 
-    AppContext& m_ctx;
+    AppDatabase& m_database;
+    clsError& m_error;
+    const Clock& m_clock;
 };

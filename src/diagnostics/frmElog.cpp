@@ -2,11 +2,13 @@
 
 #include "common/MessageBox.h"
 #include "common/Twips.h"
+#include "diagnostics/clsError.h"
 #include "diagnostics/frmElogDetails.h"
 #include "gui/FormPlacement.h"
-#include "shell/AppContext.h"
+#include "store/AppDatabase.h"
 #include "store/GridColumns.h"
 #include "store/RecordsetModel.h"
+#include "store/RegKeys.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -68,9 +70,13 @@ protected:
 
 } // namespace
 
-frmElog::frmElog(AppContext& ctx, QWidget* owner)
+frmElog::frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
+                 MessageBoxPresenter& messageBox, QWidget* owner)
     : QDialog(owner)
-    , m_ctx(ctx)
+    , m_database(database)
+    , m_error(error)
+    , m_registry(registry)
+    , m_messageBox(messageBox)
 {
     setObjectName(QStringLiteral("frmElog"));
     setWindowTitle(QStringLiteral("Error Log"));
@@ -96,7 +102,7 @@ frmElog::frmElog(AppContext& ctx, QWidget* owner)
 
     m_grid = new QTableView(this);
     m_grid->setObjectName(QStringLiteral("DBGridLog"));
-    m_model = new RecordsetModel(m_ctx.database.DataElog, GridColumns::EventLog(), this);
+    m_model = new RecordsetModel(m_database.DataElog, GridColumns::EventLog(), this);
     m_grid->setModel(m_model);
     m_grid->setItemDelegateForColumn(kTypeColumn, new TypePictureDelegate(m_grid));
     m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -156,10 +162,10 @@ frmElog::frmElog(AppContext& ctx, QWidget* owner)
     m_remove->setEnabled(false);
     m_mnuDetails->setEnabled(false);
     m_mnuRemove->setEnabled(false);
-    m_ctx.error.ElogViewed();
+    m_error.ElogViewed();
     try {
-        m_ctx.database.ElogRecordset();
-        m_ctx.database.DataElog.SetRecordSource(GridColumns::SortStatement(
+        m_database.ElogRecordset();
+        m_database.DataElog.SetRecordSource(GridColumns::SortStatement(
             QStringLiteral("EventLog"),
             GridColumns::DataFieldOf(GridColumns::EventLog(), QStringLiteral("Date/Time")), false));
         RefreshDataElog();
@@ -173,14 +179,14 @@ frmElog::frmElog(AppContext& ctx, QWidget* owner)
 
 frmElog::~frmElog()
 {
-    m_ctx.error.SetElogVisible(false);
+    m_error.SetElogVisible(false);
 }
 
 int frmElog::ReadSetting(const char* name, int defaultValue) const
 {
     bool ok = false;
     const int value =
-        m_ctx.registry.GetSetting(QStringLiteral("Settings"), QLatin1String(name), QString())
+        m_registry.GetSetting(QStringLiteral("Settings"), QLatin1String(name), QString())
             .trimmed()
             .toInt(&ok);
     return ok ? value : defaultValue;
@@ -203,8 +209,8 @@ void frmElog::SaveSettings()
         return;
     // The window's outer corner and its inner size: what is stored comes back unchanged.
     auto save = [this](const char* name, int pixels) {
-        m_ctx.registry.SaveSetting(QStringLiteral("Settings"), QLatin1String(name),
-                                   QString::number(Twips::FromPixels(pixels)));
+        m_registry.SaveSetting(QStringLiteral("Settings"), QLatin1String(name),
+                               QString::number(Twips::FromPixels(pixels)));
     };
     save("ElogFormTop", y());
     save("ElogFormLeft", x());
@@ -217,13 +223,13 @@ void frmElog::SaveSettings()
 void frmElog::done(int result)
 {
     SaveSettings();
-    m_ctx.error.SetElogVisible(false);
+    m_error.SetElogVisible(false);
     QDialog::done(result);
 }
 
 void frmElog::showEvent(QShowEvent* event)
 {
-    m_ctx.error.SetElogVisible(true);
+    m_error.SetElogVisible(true);
     QDialog::showEvent(event);
 }
 
@@ -231,7 +237,7 @@ void frmElog::hideEvent(QHideEvent* event)
 {
     // A minimised log still counts as on screen; only a real hide ends that.
     if (!event->spontaneous())
-        m_ctx.error.SetElogVisible(false);
+        m_error.SetElogVisible(false);
     QDialog::hideEvent(event);
 }
 
@@ -252,7 +258,7 @@ void frmElog::FormActivate()
     // Coming back from the details keeps the grid as it was, so the selected row stays.
     if (!m_returnFromDetails) {
         RefreshDataElog();
-        m_ctx.error.ElogViewed();
+        m_error.ElogViewed();
     }
     m_returnFromDetails = false;
 }
@@ -287,7 +293,7 @@ void frmElog::RefreshDataElog()
 {
     m_refreshing = true;
     try {
-        m_ctx.database.DataElog.Refresh();
+        m_database.DataElog.Refresh();
     } catch (const std::exception&) {
         // The log can't report a failure to read itself; the grid keeps what it shows.
     }
@@ -387,19 +393,19 @@ void frmElog::ShowElogDetails()
 void frmElog::RemoveElogItems()
 {
     const MsgResult answer =
-        m_ctx.messageBox.Show(QStringLiteral("Remove All Error Log Entries"),
-                              QStringLiteral("This will clear the error log. Proceed?"),
-                              MsgIcon::None, MsgButtons::YesNo);
+        m_messageBox.Show(QStringLiteral("Remove All Error Log Entries"),
+                          QStringLiteral("This will clear the error log. Proceed?"), MsgIcon::None,
+                          MsgButtons::YesNo);
     if (answer == MsgResult::Yes) {
         try {
             RefreshDataElog();
-            m_ctx.database.db.Execute(QStringLiteral("DELETE FROM [EventLog]"));
+            m_database.db.Execute(QStringLiteral("DELETE FROM [EventLog]"));
             RefreshDataElog();
         } catch (const std::exception&) {
             // A log that can't be cleared stays as it is; there is nowhere to report it.
         }
     }
     // Also on No: the full condition stays hidden until the next entry recounts the rows.
-    m_ctx.error.SetElogFull(false);
+    m_error.SetElogFull(false);
     UpdateElogButtons();
 }

@@ -2,13 +2,16 @@
 
 #include <QDialog>
 
-class AppContext;
+class AppDatabase;
+class MessageBoxPresenter;
 class QAction;
 class QMenu;
 class QTableView;
 class QTimer;
 class QToolBar;
 class RecordsetModel;
+class RegKeys;
+class clsError;
 
 // The event log, newest entry on top. Bringing it to the front counts as having viewed the
 // log: the unviewed count goes back to 0 and entries logged while it is on screen add none.
@@ -16,7 +19,8 @@ class RecordsetModel;
 class frmElog : public QDialog {
     Q_OBJECT
 public:
-    frmElog(AppContext& ctx, QWidget* owner);
+    frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
+            MessageBoxPresenter& messageBox, QWidget* owner);
     ~frmElog() override;
 
     // The current row (the first one if none was chosen) in frmElogDetails, modally.
@@ -47,7 +51,10 @@ private:
     void ToggleSelectAll();
     bool GridMousePress(QMouseEvent* event);
 
-    AppContext& m_ctx;
+    AppDatabase& m_database;
+    clsError& m_error;
+    RegKeys& m_registry;
+    MessageBoxPresenter& m_messageBox;
     QWidget* m_coolBar;
     QToolBar* m_toolbar;
     QAction* m_details;

@@ -1,8 +1,8 @@
 #include "diagnostics/frmErrors.h"
 
+#include "diagnostics/clsError.h"
 #include "diagnostics/frmElog.h"
 #include "gui/FormPlacement.h"
-#include "shell/AppContext.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -54,9 +54,13 @@ QString ErrorListText(const clsError& error)
 
 } // namespace
 
-frmErrors::frmErrors(AppContext& ctx, QWidget* owner)
+frmErrors::frmErrors(clsError& error, AppDatabase& database, RegKeys& registry,
+                     MessageBoxPresenter& messageBox, QWidget* owner)
     : QDialog(owner)
-    , m_ctx(ctx)
+    , m_error(error)
+    , m_database(database)
+    , m_registry(registry)
+    , m_messageBox(messageBox)
     , m_txtbxErrors(new QPlainTextEdit)
     , m_lblNumErrors(new QLabel)
     , m_btnViewElog(new QPushButton(QStringLiteral("&View Error Log")))
@@ -94,7 +98,7 @@ frmErrors::frmErrors(AppContext& ctx, QWidget* owner)
 
 void frmErrors::RefreshErrorList()
 {
-    const clsError& error = m_ctx.error;
+    const clsError& error = m_error;
     m_txtbxErrors->setPlainText(ErrorListText(error));
     if (error.UnviewedElogErrors()) {
         const int count = error.NumUnviewedElogErrors();
@@ -113,7 +117,7 @@ void frmErrors::RefreshErrorList()
 
 void frmErrors::btnViewElog_Click()
 {
-    frmElog elog(m_ctx, this);
+    frmElog elog(m_database, m_error, m_registry, m_messageBox, this);
     elog.exec();
     RefreshErrorList();
 }

@@ -2,7 +2,10 @@
 
 #include <QDialog>
 
-class AppContext;
+class AppDatabase;
+class MessageBoxPresenter;
+class RegKeys;
+class clsError;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -11,7 +14,9 @@ class QPushButton;
 class frmErrors : public QDialog {
     Q_OBJECT
 public:
-    frmErrors(AppContext& ctx, QWidget* owner);
+    // The database, settings and message boxes are the event log form's, opened from here.
+    frmErrors(clsError& error, AppDatabase& database, RegKeys& registry,
+              MessageBoxPresenter& messageBox, QWidget* owner);
 
     // Fills the list of present conditions and the unviewed count from clsError.
     void RefreshErrorList();
@@ -19,7 +24,10 @@ public:
 private:
     void btnViewElog_Click();
 
-    AppContext& m_ctx;
+    clsError& m_error;
+    AppDatabase& m_database;
+    RegKeys& m_registry;
+    MessageBoxPresenter& m_messageBox;
     QPlainTextEdit* m_txtbxErrors;
     QLabel* m_lblNumErrors;
     QPushButton* m_btnViewElog;

@@ -1,11 +1,11 @@
 #include "options/frmSelectRecordDirectory.h"
 
 #include "common/MessageBox.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "gui/FormPlacement.h"
 #include "options/FolderBrowser.h"
 #include "options/FolderPaths.h"
-#include "shell/AppContext.h"
 
 #include <QApplication>
 #include <QDir>
@@ -26,10 +26,11 @@ public:
 
 } // namespace
 
-frmSelectRecordDirectory::frmSelectRecordDirectory(AppContext& ctx, QWidget* owner,
-                                                   const QString& proposed)
+frmSelectRecordDirectory::frmSelectRecordDirectory(EventLog& log, MessageBoxPresenter& messageBox,
+                                                   QWidget* owner, const QString& proposed)
     : QDialog(owner)
-    , m_ctx(ctx)
+    , m_log(log)
+    , m_messageBox(messageBox)
     , m_browser(new FolderBrowser(this))
     , m_txtPath(new QLineEdit)
 {
@@ -63,9 +64,10 @@ frmSelectRecordDirectory::frmSelectRecordDirectory(AppContext& ctx, QWidget* own
     m_txtPath->setFocus();
 }
 
-QString frmSelectRecordDirectory::Choose(AppContext& ctx, QWidget* owner, const QString& proposed)
+QString frmSelectRecordDirectory::Choose(EventLog& log, MessageBoxPresenter& messageBox,
+                                         QWidget* owner, const QString& proposed)
 {
-    frmSelectRecordDirectory form(ctx, owner, proposed);
+    frmSelectRecordDirectory form(log, messageBox, owner, proposed);
     form.exec();
     return form.SelectedRecordingFolder();
 }
@@ -82,7 +84,7 @@ void frmSelectRecordDirectory::dirDirs_Change(const QString& folder)
 void frmSelectRecordDirectory::btnOK_Click()
 {
     WaitCursor wait;
-    Trap(m_ctx.log, "Select Recording Folder btnOk_Click", [this] { OkClicked(); });
+    Trap(m_log, "Select Recording Folder btnOk_Click", [this] { OkClicked(); });
 }
 
 void frmSelectRecordDirectory::OkClicked()
@@ -90,10 +92,10 @@ void frmSelectRecordDirectory::OkClicked()
     m_selectedRecordingFolder.clear();
     QString path;
     if (!FolderPaths::FullPathName(m_txtPath->text(), path)) {
-        m_ctx.messageBox.Show(QStringLiteral("Invalid Recording Directory"),
-                              QStringLiteral("A valid Recording folder is required.") +
-                                  QStringLiteral(" Reselect directory or cancel."),
-                              MsgIcon::Exclamation, MsgButtons::Ok);
+        m_messageBox.Show(QStringLiteral("Invalid Recording Directory"),
+                          QStringLiteral("A valid Recording folder is required.") +
+                              QStringLiteral(" Reselect directory or cancel."),
+                          MsgIcon::Exclamation, MsgButtons::Ok);
         return;
     }
     if (FolderPaths::FolderListingFinds(path)) {
@@ -101,10 +103,10 @@ void frmSelectRecordDirectory::OkClicked()
         accept();
         return;
     }
-    const MsgResult answer = m_ctx.messageBox.Show(
-        QStringLiteral("Create Folder"),
-        QStringLiteral("Folder ") + path + QStringLiteral(" does not exist.  Create it?"),
-        MsgIcon::None, MsgButtons::YesNo);
+    const MsgResult answer = m_messageBox.Show(QStringLiteral("Create Folder"),
+                                               QStringLiteral("Folder ") + path +
+                                                   QStringLiteral(" does not exist.  Create it?"),
+                                               MsgIcon::None, MsgButtons::YesNo);
     if (answer != MsgResult::Yes)
         return;
     path = FolderPaths::WithClosingSeparator(path.trimmed());
@@ -113,10 +115,10 @@ void frmSelectRecordDirectory::OkClicked()
         accept();
         return;
     }
-    m_ctx.messageBox.Show(QStringLiteral("Can not create folder"),
-                          QStringLiteral("Media may be full or read-only.") +
-                              QStringLiteral(" Reselect drive and directory."),
-                          MsgIcon::Exclamation, MsgButtons::Ok);
+    m_messageBox.Show(QStringLiteral("Can not create folder"),
+                      QStringLiteral("Media may be full or read-only.") +
+                          QStringLiteral(" Reselect drive and directory."),
+                      MsgIcon::Exclamation, MsgButtons::Ok);
 }
 
 void frmSelectRecordDirectory::btnCancel_Click()

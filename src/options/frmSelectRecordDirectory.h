@@ -2,19 +2,22 @@
 
 #include <QDialog>
 
-class AppContext;
+class EventLog;
 class FolderBrowser;
+class MessageBoxPresenter;
 class QLineEdit;
 
 // Asks for the recording folder and offers to create it when it does not exist.
 class frmSelectRecordDirectory : public QDialog {
     Q_OBJECT
 public:
-    frmSelectRecordDirectory(AppContext& ctx, QWidget* owner, const QString& proposed);
+    frmSelectRecordDirectory(EventLog& log, MessageBoxPresenter& messageBox, QWidget* owner,
+                             const QString& proposed);
 
     // Shows the form modally with the proposed folder; returns the chosen folder, or an
     // empty text when the user cancelled.
-    static QString Choose(AppContext& ctx, QWidget* owner, const QString& proposed);
+    static QString Choose(EventLog& log, MessageBoxPresenter& messageBox, QWidget* owner,
+                          const QString& proposed);
 
     // Empty unless OK accepted a folder.
     QString SelectedRecordingFolder() const { return m_selectedRecordingFolder; }
@@ -25,7 +28,8 @@ private:
     void btnCancel_Click();
     void dirDirs_Change(const QString& folder);
 
-    AppContext& m_ctx;
+    EventLog& m_log;
+    MessageBoxPresenter& m_messageBox;
     FolderBrowser* m_browser;
     QLineEdit* m_txtPath;
     QString m_selectedRecordingFolder;

@@ -143,8 +143,12 @@ void frmMain::ConnectCommands()
     on(QStringLiteral("mnuHelpHomePage"), [this] { ShowHelp(QStringLiteral("contact")); });
     on(QStringLiteral("ToolbarMain.Help"), [this] { ShowHelp(QString()); });
     on(QStringLiteral("ToolbarMain.Error"), [this] { ToolbarError_Click(); });
-    on(QStringLiteral("mnuErrors"), [this] { frmErrors(m_ctx, this).exec(); });
-    on(QStringLiteral("mnuViewErrorLog"), [this] { frmElog(m_ctx, this).exec(); });
+    on(QStringLiteral("mnuErrors"), [this] {
+        frmErrors(m_ctx.error, m_ctx.database, m_ctx.registry, m_ctx.messageBox, this).exec();
+    });
+    on(QStringLiteral("mnuViewErrorLog"), [this] {
+        frmElog(m_ctx.database, m_ctx.error, m_ctx.registry, m_ctx.messageBox, this).exec();
+    });
     on(QStringLiteral("mnuHelpAbout"), [this] { frmAbout(m_ctx, this).exec(); });
     connect(ui.SSTab1, &QTabWidget::currentChanged, this, &frmMain::SSTab1_Click);
     connect(&m_ctx.appStatus, &clsAppStatus::Update, this, &frmMain::UpdateModeDisplay);
@@ -194,7 +198,7 @@ void frmMain::FirstActivate()
         return;
     m_firstActivation = false;
     m_controller.InitializeForFirstActivation([this](const QString& proposed) {
-        return frmSelectRecordDirectory::Choose(m_ctx, this, proposed);
+        return frmSelectRecordDirectory::Choose(m_ctx.log, m_ctx.messageBox, this, proposed);
     });
     SSTab1_Click(ui.SSTab1->currentIndex());
     UpdateStatusBarPlus();
@@ -551,9 +555,9 @@ void frmMain::ApplyErrorIndication(const ErrorIndication& indication)
 void frmMain::ToolbarError_Click()
 {
     if (m_ctx.error.AnyCurrentErrorsOrWarnings())
-        frmErrors(m_ctx, this).exec();
+        frmErrors(m_ctx.error, m_ctx.database, m_ctx.registry, m_ctx.messageBox, this).exec();
     else
-        frmElog(m_ctx, this).exec();
+        frmElog(m_ctx.database, m_ctx.error, m_ctx.registry, m_ctx.messageBox, this).exec();
 }
 
 void frmMain::ShowHelp(const QString& anchor)

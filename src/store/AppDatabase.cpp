@@ -2,8 +2,9 @@
 
 #include "common/FileHelpers.h"
 #include "common/MessageBox.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
-#include "shell/AppContext.h"
+#include "diagnostics/clsError.h"
 #include "store/GridColumns.h"
 
 #include <QFile>
@@ -48,24 +49,28 @@ template <typename... Steps> void EachStepSilently(Steps&&... steps)
 
 } // namespace
 
-AppDatabase::AppDatabase(AppContext& ctx)
+AppDatabase::AppDatabase(const AppFolders& folders, EventLog& log, clsError& error,
+                         MessageBoxPresenter& messageBox)
     : DataPrograms(db)
     , DataRecordings(db)
     , DataInfo(db)
     , DataElog(db)
-    , m_ctx(ctx)
+    , m_folders(folders)
+    , m_log(log)
+    , m_error(error)
+    , m_messageBox(messageBox)
 {
 }
 
 QString AppDatabase::DatabaseFile() const
 {
-    return m_ctx.folders.DatabaseFile();
+    return m_folders.DatabaseFile();
 }
 
 void AppDatabase::InitializeControls()
 {
     TrapEach(
-        m_ctx.log, kInitializeControls, [&] { db.Open(DatabaseFile()); },
+        m_log, kInitializeControls, [&] { db.Open(DatabaseFile()); },
         [&] { UpgradeProgramsTable(); }, [&] { OpenRecordsets(); },
         [&] { DataPrograms.SetRecordset(rsPrograms); },
         [&] { DataRecordings.SetRecordset(rsRecordings); }, [&] { DataInfo.SetRecordset(rsInfo); },
@@ -77,7 +82,7 @@ void AppDatabase::UpgradeProgramsTable()
 {
     // Each column on its own: one that can't be added is reported and the next is tried.
     for (const AddedColumn& column : kAddedProgramColumns) {
-        Trap(m_ctx.log, kInitializeControls, [&] {
+        Trap(m_log, kInitializeControls, [&] {
             const QString name = QString::fromLatin1(column.name);
             if (!db.TableHasColumn(QStringLiteral("Programs"), name))
                 db.Execute(QStringLiteral("ALTER TABLE [Programs] ADD COLUMN [%1] %2")
@@ -123,7 +128,7 @@ void AppDatabase::UnloadElog()
 
 void AppDatabase::CheckDatabaseMissing()
 {
-    m_ctx.error.SetDatabaseMissing(!FileExistsOrClear(DatabaseFile()));
+    m_error.SetDatabaseMissing(!FileExistsOrClear(DatabaseFile()));
 }
 
 void AppDatabase::CloseAll()
@@ -135,7 +140,7 @@ void AppDatabase::CloseAll()
 Recordset& AppDatabase::ElogRecordset()
 {
     if (!m_elogBound) {
-        m_ctx.error.ElogViewed();
+        m_error.ElogViewed();
         DataElog.SetRecordset(rsEventLog);
         DataElog.SetRecordSource(GridColumns::SortStatement(
             QStringLiteral("EventLog"),
@@ -151,7 +156,7 @@ void AppDatabase::CompactDatabase()
     try {
         CloseRecordsetsAndDatabase();
         UnloadElog();
-        const QString target = m_ctx.folders.TempDatabaseFile();
+        const QString target = m_folders.TempDatabaseFile();
         if (QFile::exists(target) && !QFile::remove(target))
             throw RuntimeError(ErrorNumber::PathFileAccess,
                                QStringLiteral("Path/File access error"));
@@ -169,7 +174,7 @@ void AppDatabase::CompactDatabase()
         DataInfo.SetRecordset(rsInfo);
         DataRecordings.SetRecordset(rsRecordings);
     } catch (const RuntimeError& error) {
-        m_ctx.messageBox.Show(
+        m_messageBox.Show(
             QStringLiteral("Nightreel 2000 Error"),
             QStringLiteral("Compact Database failed.  The following error occured: ") +
                 error.Text(),
@@ -180,7 +185,7 @@ void AppDatabase::CompactDatabase()
 void AppDatabase::RestoreOriginalDatabase()
 {
     EachStepSilently(
-        [&] { m_ctx.error.ElogViewed(); },
+        [&] { m_error.ElogViewed(); },
         [&] {
             CloseRecordsetsAndDatabase();
             UnloadElog();

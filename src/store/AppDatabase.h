@@ -1,17 +1,21 @@
 #pragma once
 
+#include "store/AppFolders.h"
 #include "store/DataControl.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 
-class AppContext;
+class EventLog;
+class MessageBoxPresenter;
+class clsError;
 
 // The open database of the run: the file, one recordset per table, and the data controls
 // that the grids show. Holds the start-up steps, the sort of the grids, compaction and the
 // restore of the empty original.
 class AppDatabase {
 public:
-    explicit AppDatabase(AppContext& ctx);
+    AppDatabase(const AppFolders& folders, EventLog& log, clsError& error,
+                MessageBoxPresenter& messageBox);
 
     // The database steps of the first activation: open, upgrade, bind, sort. Each step
     // that fails is logged and the next one runs, so a missing or damaged file does not
@@ -51,6 +55,9 @@ private:
     void CloseRecordsetsAndDatabase();
     void UnloadElog();
 
-    AppContext& m_ctx;
+    const AppFolders m_folders;
+    EventLog& m_log;
+    clsError& m_error;
+    MessageBoxPresenter& m_messageBox;
     bool m_elogBound = false;
 };

@@ -1,6 +1,6 @@
 #include "store/RegKeys.h"
 
-#include "shell/AppContext.h"
+#include "diagnostics/EventLog.h"
 
 #include <QSettings>
 #include <QStringList>
@@ -12,8 +12,8 @@ const QString kApplication = QStringLiteral("Nightreel");
 
 } // namespace
 
-RegKeys::RegKeys(AppContext& ctx)
-    : m_ctx(ctx)
+RegKeys::RegKeys(EventLog& log)
+    : m_log(log)
 {
 }
 
@@ -41,8 +41,8 @@ void RegKeys::SaveSetting(const QString& section, const QString& name, const QSt
     settings.endGroup();
     settings.sync();
     if (settings.status() != QSettings::NoError)
-        m_ctx.log.LogEvent(EventError, QStringLiteral("Error saving setting in registry."),
-                           section + u' ' + name + u' ' + value);
+        m_log.LogEvent(EventError, QStringLiteral("Error saving setting in registry."),
+                       section + u' ' + name + u' ' + value);
 }
 
 void RegKeys::DeleteSetting(const QString& section, const QString& name)

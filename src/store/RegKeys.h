@@ -2,7 +2,7 @@
 
 #include <QString>
 
-class AppContext;
+class EventLog;
 
 // The settings store: named text values in sections, kept per user through QSettings under
 // the organisation "Larkmoor Systems" and the application "Nightreel". Every value is
@@ -13,7 +13,7 @@ class AppContext;
 // path (as tests make) is seen at the next call.
 class RegKeys {
 public:
-    explicit RegKeys(AppContext& ctx);
+    explicit RegKeys(EventLog& log);
 
     // The stored text as it is, untrimmed. An absent value and an empty one both give
     // defaultValue; a value saved empty is stored as one blank, so readers that trim see it
@@ -26,5 +26,5 @@ public:
     void DeleteSetting(const QString& section, const QString& name);
 
 private:
-    AppContext& m_ctx;
+    EventLog& m_log;
 };
