@@ -118,11 +118,6 @@ private slots:
         QTest::newRow("delete from disk")
             << erase << true << MsgResult::Yes << "Remove Recordings From Disk" << eraseText
             << MsgIcon::Question << 1 << 1;
-        QTest::newRow("delete from disk, no")
-            << erase << true << MsgResult::No << "Remove Recordings From Disk" << eraseText
-            << MsgIcon::Question << 3 << 3;
-        QTest::newRow("delete with nothing selected") << erase << false << MsgResult::Yes << ""
-                                                      << "" << MsgIcon::None << 3 << 3;
         QTest::newRow("clear, whatever is selected")
             << clear << false << MsgResult::Yes << "Clear Recordings List" << clearText
             << MsgIcon::None << 0 << 3;
