@@ -5,7 +5,6 @@
 
 class AppDatabase;
 class EventLog;
-class MessageBoxPresenter;
 class Options;
 class RecordingsList;
 
@@ -18,7 +17,7 @@ public:
                            MessageBoxPresenter& messageBox, const Options& options,
                            RecordingsListView& view);
 
-    // The single-row commands: on the current row, else on the first selected one.
+    // The single-row commands, on the view's CommandRow.
     void RecordingsPlay();
     void ShowRecordingDetails();
     void ExploreRecording();
