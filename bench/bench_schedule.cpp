@@ -48,16 +48,9 @@ double MedianMilliseconds(AppContext& ctx, int runs)
 {
     std::vector<double> times;
     for (int i = 0; i < runs; ++i) {
-        qint32 id = 0, avg = 0;
-        qint16 linkDelay = 0, launchDelay = 0;
-        double start = 0, end = 0;
-        bool hangup = false;
-        QString description, link, launch, before, after, close;
         QElapsedTimer timer;
         timer.start();
-        ctx.scheduler.DetermineNextProgramToSchedule(false, ctx.Now(), id, description, start, end,
-                                                     avg, link, linkDelay, launch, launchDelay,
-                                                     before, after, close, hangup);
+        ctx.scheduler.DetermineNextProgramToSchedule(false, ctx.Now());
         times.push_back(timer.nsecsElapsed() / 1e6);
     }
     std::sort(times.begin(), times.end());

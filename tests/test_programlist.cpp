@@ -333,7 +333,7 @@ private slots:
         for (int d = 0; d < 7 && !days.isEmpty(); ++d)
             q.days[d] = days.at(d) == u'1';
         QString description;
-        QCOMPARE(ProgramEditor::ProgramingConflict(*f.tc.ctx, q, description), conflict);
+        QCOMPARE(ProgramEditor::ProgramingConflict(f.tc.ctx->database, q, description), conflict);
         QCOMPARE(description, conflict ? QString("Other") : QString());
     }
 };

@@ -1,7 +1,6 @@
 #include "Programs.h"
-#include "TestContext.h"
+#include "RecordingsListFixture.h"
 #include "store/ListFile.h"
-#include "store/RecordingsList.h"
 #include "store/SavedLists.h"
 
 #include <QDir>
@@ -55,19 +54,7 @@ QStringList ListedFiles(AppContext& ctx)
     return files;
 }
 
-struct ListFixture {
-    ListFixture()
-    {
-        tc.OpenDatabase();
-        QDir().mkpath(Folder());
-        tc.ctx->options.DefaultRecordingDirectory = Folder();
-    }
-    QString Folder() const { return tc.Root() + "/rec"; }
-    QString File(const QString& name) const { return Folder() + "/" + name; }
-
-    TestContext tc;
-    RecordingsList list{*tc.ctx};
-};
+using ListFixture = RecordingsListFixture;
 
 } // namespace
 

@@ -8,24 +8,9 @@ using Programs::At;
 
 namespace {
 
-struct Found {
-    bool found = false;
-    qint32 id = -7;
-    QString description;
-    double start = -1, end = -1;
-    QString link = "untouched", launch, before, after, close;
-    qint16 linkDelay = -1, launchDelay = -1;
-    bool hangup = true;
-};
-
-Found Search(AppContext& ctx, double reference, bool readOnly = false)
+std::optional<ProgramOccurrence> Search(AppContext& ctx, double reference, bool readOnly = false)
 {
-    Found f;
-    qint32 avg = 0;
-    f.found = ctx.scheduler.DetermineNextProgramToSchedule(
-        readOnly, reference, f.id, f.description, f.start, f.end, avg, f.link, f.linkDelay,
-        f.launch, f.launchDelay, f.before, f.after, f.close, f.hangup);
-    return f;
+    return ctx.scheduler.DetermineNextProgramToSchedule(readOnly, reference);
 }
 
 QVariant Column(AppContext& ctx, qint64 id, const QString& column)
@@ -60,13 +45,13 @@ private slots:
         TestContext tc;
         tc.OpenDatabase();
         tc.AddProgram(Programs::Weekly("Late show", "23:00:00", "01:00:00", "0100000"));
-        const Found f = Search(*tc.ctx, reference);
-        QVERIFY(f.found);
-        QCOMPARE(f.description, QStringLiteral("Late show"));
+        const auto f = Search(*tc.ctx, reference);
+        QVERIFY(f);
+        QCOMPARE(f->description, QStringLiteral("Late show"));
         QFETCH(double, start);
-        QCOMPARE(f.start, start);
+        QCOMPARE(f->startDateTime, start);
         QFETCH(double, end);
-        QCOMPARE(f.end, end);
+        QCOMPARE(f->endDateTime, end);
     }
 
     // Stopped at 10:20 on Wednesday: the cancellation holds until after 11:00.
@@ -95,9 +80,9 @@ private slots:
         row["RecordingCancelledEndDateAndTime"] = At(2026, 6, 3, "11:00:00");
         const qint64 id = tc.AddProgram(row);
         QFETCH(bool, readOnly);
-        const Found f = Search(*tc.ctx, reference, readOnly);
+        const auto f = Search(*tc.ctx, reference, readOnly);
         QFETCH(double, start);
-        QCOMPARE(f.start, start);
+        QCOMPARE(f->startDateTime, start);
         QFETCH(bool, stillCancelled);
         QCOMPARE(Field::ToBool(Column(*tc.ctx, id, "RecordingCancelled")), stillCancelled);
     }
@@ -110,7 +95,8 @@ private slots:
         row["RecordingCancelled"] = -1;
         row["RecordingCancelledEndDateAndTime"] = At(2026, 6, 3, "10:00:00");
         tc.AddProgram(row);
-        QCOMPARE(Search(*tc.ctx, At(2026, 6, 3, "09:00:00")).start, At(2026, 6, 10, "10:00:00"));
+        QCOMPARE(Search(*tc.ctx, At(2026, 6, 3, "09:00:00"))->startDateTime,
+                 At(2026, 6, 10, "10:00:00"));
     }
 
     void equalStartsGoByTheGridsOrder_data()
@@ -134,7 +120,7 @@ private slots:
         db.DataPrograms.SetRecordSource("SELECT * FROM [Programs] ORDER BY [DescriptionText] " +
                                         order);
         db.DataPrograms.Refresh();
-        QCOMPARE(Search(*tc.ctx, At(2026, 6, 1, "12:00:00")).description, winner);
+        QCOMPARE(Search(*tc.ctx, At(2026, 6, 1, "12:00:00"))->description, winner);
     }
 
     void aRunningOccurrenceBeatsAnEarlierStartingOneLater()
@@ -144,7 +130,7 @@ private slots:
         tc.AddProgram(Programs::Weekly("Running", "09:00:00", "12:00:00", "0100000"));
         tc.AddProgram(Programs::Weekly("Soon", "11:00:00", "11:30:00", "0100000"));
         tc.ctx->database.SortDbgrids();
-        QCOMPARE(Search(*tc.ctx, At(2026, 6, 1, "10:00:00")).description,
+        QCOMPARE(Search(*tc.ctx, At(2026, 6, 1, "10:00:00"))->description,
                  QStringLiteral("Running"));
     }
 
@@ -169,20 +155,20 @@ private slots:
         row["RecordingCancelled"] = cancelled;
         tc.AddProgram(row);
         QFETCH(double, reference);
-        const Found f = Search(*tc.ctx, reference);
+        const auto f = Search(*tc.ctx, reference);
         QFETCH(bool, found);
-        QCOMPARE(f.found, found);
-        if (f.found)
-            QCOMPARE(f.end, At(2027, 1, 1, "01:00:00"));
+        QCOMPARE(f.has_value(), found);
+        if (f)
+            QCOMPARE(f->endDateTime, At(2027, 1, 1, "01:00:00"));
     }
 
-    void nothingToScheduleLeavesTheOutputsAlone_data()
+    void nothingToScheduleClearsTheNextProgram_data()
     {
         QTest::addColumn<bool>("disabledRow");
         QTest::newRow("empty table") << false;
         QTest::newRow("all disabled") << true;
     }
-    void nothingToScheduleLeavesTheOutputsAlone()
+    void nothingToScheduleClearsTheNextProgram()
     {
         TestContext tc;
         tc.OpenDatabase();
@@ -195,10 +181,7 @@ private slots:
             row["RecordingCancelledEndDateAndTime"] = At(2026, 5, 1, "11:00:00");
             id = tc.AddProgram(row);
         }
-        const Found f = Search(*tc.ctx, At(2026, 6, 1, "12:00:00"));
-        QVERIFY(!f.found);
-        QCOMPARE(f.id, -7);
-        QCOMPARE(f.link, QStringLiteral("untouched"));
+        QVERIFY(!Search(*tc.ctx, At(2026, 6, 1, "12:00:00")));
         // The cancellation test comes before the enabled test.
         if (id)
             QVERIFY(!Field::ToBool(Column(*tc.ctx, id, "RecordingCancelled")));
@@ -224,14 +207,14 @@ private slots:
             old.remove(added);
         old["HangupInternetConnection"] = QVariant();
         tc.AddProgram(old);
-        Found f = Search(*tc.ctx, At(2026, 6, 1, "12:00:00"));
-        QVERIFY(f.found);
-        QCOMPARE(f.description, QStringLiteral("Old"));
-        QCOMPARE(f.close, QStringLiteral("DO_NOT_CLOSE"));
-        QCOMPARE(f.link, QString());
-        QCOMPARE(f.linkDelay, qint16(0));
-        QCOMPARE(f.launchDelay, qint16(0));
-        QVERIFY(!f.hangup);
+        auto f = Search(*tc.ctx, At(2026, 6, 1, "12:00:00"));
+        QVERIFY(f);
+        QCOMPARE(f->description, QStringLiteral("Old"));
+        QCOMPARE(f->streamingPlayerClose, QStringLiteral("DO_NOT_CLOSE"));
+        QCOMPARE(f->internetLink, QString());
+        QCOMPARE(f->internetLinkDelay, qint16(0));
+        QCOMPARE(f->launchAppDelay, qint16(0));
+        QVERIFY(!f->hangupInternetConnection);
 
         // What the start does with a one-time row of NULLs: the trap names the routine.
         tc.AddProgram({{"Frequency", 0}});
@@ -249,8 +232,8 @@ private slots:
         tc.AddProgram(damaged);
         LogCapture capture;
         f = Search(*tc.ctx, At(2026, 6, 1, "12:00:00"));
-        QVERIFY(f.found);
-        QCOMPARE(f.description, QStringLiteral("Old"));
+        QVERIFY(f);
+        QCOMPARE(f->description, QStringLiteral("Old"));
         QVERIFY(capture.Contains("Module: DetermineNextProgramToSchedule"));
     }
 
@@ -369,8 +352,8 @@ private slots:
                      At(2026, 6, 1, "11:00:00"));
         }
         // The occurrence dealt with is not found again; a weekly one's next week is.
-        const Found f = Search(*tc.ctx, At(2026, 6, 1, "10:30:00"));
-        QVERIFY(!f.found || f.start == At(2026, 6, 8, "10:00:00"));
+        const auto f = Search(*tc.ctx, At(2026, 6, 1, "10:30:00"));
+        QVERIFY(!f || f->startDateTime == At(2026, 6, 8, "10:00:00"));
     }
 
     // A search in the last half-second of Monday must take Monday's date and weekday

@@ -137,7 +137,7 @@ ProgramFormValues ReadProgramRow(AppContext& ctx, Recordset& rs)
     return v;
 }
 
-bool ProgramingConflict(AppContext& ctx, const ConflictQuery& query, QString& description)
+bool ProgramingConflict(AppDatabase& database, const ConflictQuery& query, QString& description)
 {
     description.clear();
     clsWeekdays mine;
@@ -146,7 +146,7 @@ bool ProgramingConflict(AppContext& ctx, const ConflictQuery& query, QString& de
     else
         mine.Weekdays(query.days, query.startTime, query.endTime);
 
-    Recordset rs = ctx.database.DataPrograms.recordset().Clone();
+    Recordset rs = database.DataPrograms.recordset().Clone();
     if (rs.RecordCount() < 1)
         return false;
     for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {

@@ -5,6 +5,7 @@
 #include <array>
 
 class AppContext;
+class AppDatabase;
 class Recordset;
 
 // One program as the program editor holds it: what FillProgramFormFromDb puts into the
@@ -83,7 +84,7 @@ struct ConflictQuery {
 
 // True when an enabled program other than the one being edited overlaps the query; the
 // first such program's Description is given back.
-bool ProgramingConflict(AppContext& ctx, const ConflictQuery& query, QString& description);
+bool ProgramingConflict(AppDatabase& database, const ConflictQuery& query, QString& description);
 
 enum class UpdateMode { AddNew, Edit };
 

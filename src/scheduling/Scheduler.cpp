@@ -109,14 +109,10 @@ Scheduler::Scheduler(AppContext& ctx)
 {
 }
 
-bool Scheduler::DetermineNextProgramToSchedule(
-    bool readOnly, double referenceDate, qint32& programId, QString& description,
-    double& startDateTime, double& endDateTime, qint32& avgBytesPerSec, QString& internetLink,
-    qint16& internetLinkDelay, QString& launchAppPrior, qint16& launchAppDelay,
-    QString& mixerProfileBefore, QString& mixerProfileAfter, QString& streamingPlayerClose,
-    bool& hangupInternetConnection)
+std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool readOnly,
+                                                                           double referenceDate)
 {
-    bool found = false;
+    std::optional<ProgramOccurrence> best;
     Trap(m_ctx.log, "DetermineNextProgramToSchedule", [&] {
         double bestStart = AutomationDate::Never();
         const double longAgo = AutomationDate::LongAgo();
@@ -176,43 +172,53 @@ bool Scheduler::DetermineNextProgramToSchedule(
                 end = OneTimeEnd(rs, c);
             }
             if (end > referenceDate && start < bestStart) {
-                found = true;
                 bestStart = start;
-                startDateTime = start;
-                endDateTime = end;
-                programId = rs.Value(c.id).toInt();
-                description = rs.Value(c.description).toString();
-                avgBytesPerSec = rs.Value(c.avgBytesPerSec).toInt();
-                internetLink = rs.Value(c.internetLink).toString();
-                internetLinkDelay = DelayColumnValue(rs.Value(c.internetLinkDelay));
-                launchAppPrior = TrimmedOr(rs.Value(c.launchAppPrior), QString());
-                launchAppDelay = DelayColumnValue(rs.Value(c.launchAppDelay));
-                mixerProfileBefore = TrimmedOr(rs.Value(c.mixerProfileBefore), QString());
-                mixerProfileAfter = TrimmedOr(rs.Value(c.mixerProfileAfter), QString());
-                streamingPlayerClose = TrimmedOr(rs.Value(c.streamingPlayerClose), kDoNotClose);
-                hangupInternetConnection = Field::ToBool(rs.Value(c.hangup));
+                // Taken value by value into the one result: a row that fails part way ends
+                // the search as found, with the values it got to.
+                ProgramOccurrence& o = best ? *best : best.emplace();
+                o.startDateTime = start;
+                o.endDateTime = end;
+                o.programId = rs.Value(c.id).toInt();
+                o.description = rs.Value(c.description).toString();
+                o.avgBytesPerSec = rs.Value(c.avgBytesPerSec).toInt();
+                o.internetLink = rs.Value(c.internetLink).toString();
+                o.internetLinkDelay = DelayColumnValue(rs.Value(c.internetLinkDelay));
+                o.launchAppPrior = TrimmedOr(rs.Value(c.launchAppPrior), QString());
+                o.launchAppDelay = DelayColumnValue(rs.Value(c.launchAppDelay));
+                o.mixerProfileBefore = TrimmedOr(rs.Value(c.mixerProfileBefore), QString());
+                o.mixerProfileAfter = TrimmedOr(rs.Value(c.mixerProfileAfter), QString());
+                o.streamingPlayerClose = TrimmedOr(rs.Value(c.streamingPlayerClose), kDoNotClose);
+                o.hangupInternetConnection = Field::ToBool(rs.Value(c.hangup));
             }
         }
     });
-    return found;
+    return best;
 }
 
 void Scheduler::ScheduleNextRecording()
 {
     Trap(m_ctx.log, "ScheduleNextRecording", [&] {
-        qint32 avgBytesPerSec = 0;
+        const std::optional<ProgramOccurrence> found =
+            DetermineNextProgramToSchedule(false, m_ctx.Now());
         NextProgram& n = next;
-        if (!DetermineNextProgramToSchedule(
-                false, m_ctx.Now(), n.NextProgramId, n.NextProgramDescription, n.NextProgramStart,
-                n.NextProgramEnd, avgBytesPerSec, n.NextInternetLink, n.NextInternetLinkDelay,
-                n.NextLaunchAppPrior, n.NextLaunchAppDelay, n.NextMixerProfileBefore,
-                n.NextMixerProfileAfter, n.NextStreamingPlayerClose,
-                n.NextHangupInternetConnection)) {
+        if (!found) {
             n.NextProgramFound = false;
             n.NextLinkLaunchTime = AutomationDate::Never();
             n.NextAppLaunchTime = AutomationDate::Never();
             return;
         }
+        n.NextProgramId = found->programId;
+        n.NextProgramDescription = found->description;
+        n.NextProgramStart = found->startDateTime;
+        n.NextProgramEnd = found->endDateTime;
+        n.NextInternetLink = found->internetLink;
+        n.NextInternetLinkDelay = found->internetLinkDelay;
+        n.NextLaunchAppPrior = found->launchAppPrior;
+        n.NextLaunchAppDelay = found->launchAppDelay;
+        n.NextMixerProfileBefore = found->mixerProfileBefore;
+        n.NextMixerProfileAfter = found->mixerProfileAfter;
+        n.NextStreamingPlayerClose = found->streamingPlayerClose;
+        n.NextHangupInternetConnection = found->hangupInternetConnection;
         n.NextProgramFound = true;
         if (n.NextInternetLink.isEmpty()) {
             n.NextLinkLaunchTime = AutomationDate::Never();

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "scheduling/ProgramOccurrence.h"
+
 #include <QObject>
 #include <QString>
+#include <optional>
 
 class AppContext;
 
@@ -39,15 +42,9 @@ public:
     // occurrence with the earliest start whose end lies after the reference date. An
     // occurrence already running beats every later one; of equal starts the earlier row
     // wins. With readOnly false, lapsed cancellations of weekly programs are cleared.
-    // The outputs are left untouched when nothing is found.
-    bool DetermineNextProgramToSchedule(bool readOnly, double referenceDate, qint32& programId,
-                                        QString& description, double& startDateTime,
-                                        double& endDateTime, qint32& avgBytesPerSec,
-                                        QString& internetLink, qint16& internetLinkDelay,
-                                        QString& launchAppPrior, qint16& launchAppDelay,
-                                        QString& mixerProfileBefore, QString& mixerProfileAfter,
-                                        QString& streamingPlayerClose,
-                                        bool& hangupInternetConnection);
+    // Nothing when no program has an occurrence to come.
+    std::optional<ProgramOccurrence> DetermineNextProgramToSchedule(bool readOnly,
+                                                                    double referenceDate);
     void ScheduleNextRecording();
     void OfferRemovalOfExpiredPrograms();
     // Marks the program's occurrence that ends at the recording's scheduled end as dealt

@@ -2,12 +2,12 @@
 
 #include "common/AutomationDate.h"
 #include "common/MessageBox.h"
-#include "common/PathHelpers.h"
 #include "common/TextHelpers.h"
 #include "diagnostics/Trap.h"
 #include "formats/clsRecordingFormat.h"
 #include "formats/frmRecordFormat.h"
 #include "gui/FormPlacement.h"
+#include "scheduling/ProgramValidator.h"
 #include "scheduling/frmLaunchProgramInfo.h"
 #include "shell/AppContext.h"
 
@@ -31,8 +31,6 @@
 #include <algorithm>
 
 namespace {
-
-const QString kForbiddenList = QStringLiteral("\\ / : * ? \" < > | ");
 
 // The arrows beside a delay box: they step the number in the box within 0..120.
 QWidget* MakeUpDown(QLineEdit* buddy)
@@ -632,93 +630,46 @@ void frmProgram::btnInfo_Click()
     info.exec();
 }
 
-bool frmProgram::ProgramingConflict(QString& description)
+ProgramCheckValues frmProgram::CheckValues() const
 {
-    ProgramEditor::ConflictQuery query;
-    query.oneTime = OptionOneTimeOrDaily[0]->isChecked();
-    query.oneTimeDay = AutomationDate::FromDate(dtpkrOnceDate->date());
-    query.startTime = TimeValue(dtpkrStartTime);
-    query.endTime = TimeValue(dtpkrEndTime);
+    ProgramCheckValues v;
+    ProgramEditor::ConflictQuery& when = v.schedule;
+    when.oneTime = OptionOneTimeOrDaily[0]->isChecked();
+    when.oneTimeDay = AutomationDate::FromDate(dtpkrOnceDate->date());
+    when.startTime = TimeValue(dtpkrStartTime);
+    when.endTime = TimeValue(dtpkrEndTime);
     for (int d = 0; d < 7; ++d)
-        query.days[d] = CheckDaysOfWeek[d]->isChecked();
-    query.editingExisting = EditingExisting;
-    query.editProgramId = EditProgramId;
-    return ProgramEditor::ProgramingConflict(m_ctx, query, description);
+        when.days[d] = CheckDaysOfWeek[d]->isChecked();
+    when.editingExisting = EditingExisting;
+    when.editProgramId = EditProgramId;
+    v.enabled = CheckEnabled->isChecked();
+    v.description = TextProgramDescription->text();
+    v.userFilename = optUserFilename->isChecked();
+    v.filenameUser = txtUserFilename->text();
+    v.prefixChecked = chkPrefix->isChecked();
+    v.prefix = txtPrefix->text();
+    v.suffixChecked = chkSuffix->isChecked();
+    v.suffix = txtSuffix->text();
+    return v;
 }
 
 bool frmProgram::CommandOkChecks()
 {
-    const auto warn = [this](const QString& title, const QString& text) {
-        m_ctx.messageBox.Show(title, text, MsgIcon::Exclamation, MsgButtons::Ok);
-        return false;
-    };
-    const bool daily = OptionOneTimeOrDaily[1]->isChecked();
-    if (daily && std::none_of(CheckDaysOfWeek.begin(), CheckDaysOfWeek.end(),
-                              [](const QCheckBox* day) { return day->isChecked(); }))
-        return warn(QStringLiteral("No days selected"),
-                    QStringLiteral("At least one day needs to be selected."));
-    if (optUserFilename->isChecked()) {
-        const QString name = txtUserFilename->text();
-        if (InvalidFilenameCharacters(name))
-            return warn(QStringLiteral("Invalid Filename"),
-                        QStringLiteral("The filename cannot contain any of the following "
-                                       "characters:\n") +
-                            kForbiddenList);
-        QString base = Text::Trim(name);
-        const QString upper = base.toUpper();
-        if (upper.endsWith(QStringLiteral(".MP3")) || upper.endsWith(QStringLiteral(".WAV")))
-            base.chop(4);
-        if (Text::Trim(base).isEmpty())
-            return warn(QStringLiteral("Invalid Filename"), QStringLiteral("Invalid Filename"));
-    }
-    if (optDefaultFilename->isChecked()) {
-        if (chkPrefix->isChecked() && InvalidFilenameCharacters(txtPrefix->text()))
-            return warn(QStringLiteral("Invalid Filename Prefix"),
-                        QStringLiteral("The filename prefix cannot contain any of the following "
-                                       "characters:\n") +
-                            kForbiddenList);
-        if (chkSuffix->isChecked() && InvalidFilenameCharacters(txtSuffix->text()))
-            return warn(QStringLiteral("Invalid Filename Suffix"),
-                        QStringLiteral("The filename suffix cannot contain any of the following "
-                                       "characters:\n") +
-                            kForbiddenList);
-    }
-    if (Text::Trim(TextProgramDescription->text()).isEmpty()) {
-        warn(QStringLiteral("Program description required"),
-             QStringLiteral("Please enter a program description."));
-        if (TextProgramDescription->isEnabled())
-            TextProgramDescription->setFocus();
+    const ProgramValidator validator(m_ctx.database, m_ctx.clock, m_ctx.options);
+    if (const auto failed = validator.FirstFailedCheck(CheckValues())) {
+        m_ctx.messageBox.Show(failed->title, failed->text, MsgIcon::Exclamation, MsgButtons::Ok);
+        auto* focus =
+            failed->focusControl.isEmpty() ? nullptr : findChild<QWidget*>(failed->focusControl);
+        if (focus && focus->isEnabled())
+            focus->setFocus();
         return false;
     }
-    // Edits too: a one-time program whose time has passed can't be saved until moved.
-    if (OptionOneTimeOrDaily[0]->isChecked() &&
-        AutomationDate::FromDate(dtpkrOnceDate->date()) + TimeValue(dtpkrStartTime) < m_ctx.Now())
-        return warn(QStringLiteral("Invalid date and time"),
-                    QStringLiteral("The scheduled date and time must be later than the current "
-                                   "time."));
-    // Only an enabled program is refused for a conflict; a disabled one may be saved in
-    // conflict and enabled later without a test.
-    QString other;
-    if (ProgramingConflict(other) && CheckEnabled->isChecked())
-        return warn(QStringLiteral("Schedule Conflict"),
-                    QStringLiteral("There is a scheduling conflict with another program. Please "
-                                   "modify the recording time or remove/disable the conflicting "
-                                   "program.\n\nConflicting Program Description: ") +
-                        other);
+    // The size limit is the recording format's own check; it tells the user itself.
     if (CheckFor2GbLimit(m_ctx, m_ctx.ProgramFormFormat, DurationSeconds))
         return false;
-    if (m_ctx.options.ConfirmLongRecordings &&
-        DurationSeconds > qint32(m_ctx.options.LongRecordingHours) * 3600) {
-        const MsgResult answer = m_ctx.messageBox.Show(
-            QStringLiteral("Long Recording Confirmation"),
-            QStringLiteral("A recording longer than ") +
-                QString::number(m_ctx.options.LongRecordingHours) +
-                QStringLiteral(" hours is programmed.  Save this programming? "),
-            MsgIcon::None, MsgButtons::YesNo);
-        if (answer != MsgResult::Yes)
-            return false;
-    }
-    return true;
+    const auto question = validator.LongRecordingQuestion(DurationSeconds);
+    return !question || m_ctx.messageBox.Show(question->title, question->text, MsgIcon::None,
+                                              MsgButtons::YesNo) == MsgResult::Yes;
 }
 
 void frmProgram::CopyFormValues()

@@ -8,6 +8,7 @@
 #include <functional>
 
 class AppContext;
+struct ProgramCheckValues;
 class QCheckBox;
 class QDateEdit;
 class QGroupBox;
@@ -44,7 +45,6 @@ public:
     void FillProgramForm(const ProgramFormValues& values);
 
     void CalcTimeDuration();
-    bool ProgramingConflict(QString& description);
     void DoFilenameEnables();
     void DoLaunchPriorEnables();
     void DoLaunchAfterEnables();
@@ -75,6 +75,7 @@ private:
     void btnTestUrl_Click();
     void btnInfo_Click();
     void CommandOk_Click();
+    ProgramCheckValues CheckValues() const;
     bool CommandOkChecks();
     void CopyFormValues();
     void CommandCancel_Click();

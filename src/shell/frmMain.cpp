@@ -6,29 +6,22 @@
 #include "diagnostics/Trap.h"
 #include "diagnostics/frmElog.h"
 #include "diagnostics/frmErrors.h"
-#include "gui/GridSelection.h"
-#include "options/frmSelectExistingRecordDirectory.h"
 #include "options/frmSelectRecordDirectory.h"
 #include "scheduling/ProgramListGrid.h"
 #include "shell/AppContext.h"
 #include "shell/Icons.h"
 #include "shell/ModeDisplay.h"
+#include "shell/RecordingsListGrid.h"
 #include "shell/frmAbout.h"
 #include "shell/frmRecordingStatus.h"
 #include "store/GridColumns.h"
-#include "store/RecordingsList.h"
 #include "store/RecordsetModel.h"
-#include "store/frmLoadList.h"
-#include "store/frmRecordingDetails.h"
-#include "store/frmSaveList.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -166,10 +159,7 @@ void frmMain::ConnectRecorder()
 {
     Recorder& recorder = m_ctx.recorder;
     connect(&recorder, &Recorder::StatusBarUpdated, this, &frmMain::ShowStatusBar);
-    connect(&recorder, &Recorder::PurgeDue, this, [this] {
-        RecordingsList(m_ctx).Purge();
-        AfterRecordingsChange();
-    });
+    connect(&recorder, &Recorder::PurgeDue, this, [this] { m_recordingsList->Commands().Purge(); });
     connect(&recorder, &Recorder::UpdateModeDisplay, this, &frmMain::UpdateModeDisplay);
     connect(&recorder, &Recorder::UpdateRecordingsButtonsAndMenus, this,
             &frmMain::UpdateRecordingsButtonsAndMenus);
@@ -356,191 +346,36 @@ void frmMain::DBGridRecordings_HeadClick(int column)
 
 void frmMain::ConnectRecordingCommands()
 {
-    const auto on = [this](const QString& name, auto slot) {
-        connect(ui.Action(name), &QAction::triggered, this, slot);
+    m_recordingsList = new RecordingsListGrid(m_ctx, *this);
+    RecordingsListCommands* commands = &m_recordingsList->Commands();
+    const auto on = [this, commands](const char* name, void (RecordingsListCommands::*command)()) {
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
+                [commands, command] { (commands->*command)(); });
     };
-    on(QStringLiteral("mnuRecordingsPlay"), [this] { RecordingsPlay(); });
-    on(QStringLiteral("ToolbarRecordings.Play"), [this] { RecordingsPlay(); });
-    on(QStringLiteral("mnuRecordingsRemove"), [this] { DeleteSelectedRecordingsFromDisk(); });
-    on(QStringLiteral("ToolbarRecordings.Delete"), [this] { DeleteSelectedRecordingsFromDisk(); });
-    on(QStringLiteral("mnuDetails"), [this] { ShowRecordingDetails(); });
-    on(QStringLiteral("ToolbarRecordings.Details"), [this] { ShowRecordingDetails(); });
-    on(QStringLiteral("mnuRecordingsExplore"), [this] { ExploreRecording(); });
-    on(QStringLiteral("mnuRecordingsCopyFilename"), [this] { CopyRecordingFilename(); });
-    on(QStringLiteral("mnuAddFileToList"), [this] { AddFileToList(); });
-    on(QStringLiteral("mnuAddFolderToList"), [this] { AddFolderToList(); });
-    on(QStringLiteral("ToolbarRecordings.add_to_list"),
-       [this] { ui.mnuManageRecordingList->popup(QCursor::pos()); });
-    on(QStringLiteral("mnuRecordingsRemoveFromList"),
-       [this] { RemoveSelectedRecordingsFromList(); });
-    on(QStringLiteral("ToolbarRecordings.remove_from_list"),
-       [this] { RemoveSelectedRecordingsFromList(); });
-    on(QStringLiteral("mnuClearList"), [this] { ClearRecordingsList(); });
-    on(QStringLiteral("ToolbarRecordings.clear_list"), [this] { ClearRecordingsList(); });
-    on(QStringLiteral("mnuLoadList"), [this] {
-        frmLoadList::Open(m_ctx, this);
-        AfterRecordingsChange();
-    });
-    on(QStringLiteral("ToolbarRecordings.load_list"), [this] {
-        frmLoadList::Open(m_ctx, this);
-        AfterRecordingsChange();
-    });
-    on(QStringLiteral("mnuSaveList"), [this] { frmSaveList(m_ctx, this).exec(); });
-    on(QStringLiteral("ToolbarRecordings.save_list"), [this] { frmSaveList(m_ctx, this).exec(); });
-    on(QStringLiteral("mnuRecordingsSelectAll"), [this] { ui.DBGridRecordings->selectAll(); });
-    QTableView* grid = ui.DBGridRecordings;
-    GridSelection::MakeCornerToggle(grid);
-    connect(grid, &QTableView::doubleClicked, this, [this] { RecordingsPlay(); });
-    connect(grid, &QWidget::customContextMenuRequested, this, [this, grid](const QPoint& at) {
-        const QModelIndex index = grid->indexAt(at);
-        if (!index.isValid())
-            return;
-        grid->setCurrentIndex(index);
-        ui.mnuRecordings->popup(grid->viewport()->mapToGlobal(at));
-    });
-}
-
-bool frmMain::RecordingCommandRow(Recordset& rs) const
-{
-    const qint64 row = GridSelection::CommandRow(ui.DBGridRecordings, m_recordingsModel);
-    if (row < 0)
-        return false;
-    rs = m_ctx.database.DataRecordings.recordset().Clone();
-    rs.SetBookmark(row);
-    return true;
-}
-
-void frmMain::AfterRecordingsChange()
-{
-    UpdateRecordingsButtonsAndMenus();
-    UpdateStatusBarPlus();
-}
-
-void frmMain::RecordingsPlay()
-{
-    Trap(m_ctx.log, "RecordingsPlay", [&] {
-        Recordset rs;
-        if (!RecordingCommandRow(rs))
-            return;
-        if (!QFileInfo(rs.Value(QStringLiteral("File")).toString()).isFile())
-            m_ctx.messageBox.Show(
-                QStringLiteral("Recording file not found"),
-                QStringLiteral("This recording was not found on disk.  The disk file may have "
-                               "deleted or moved.  If this file was on removable media verify "
-                               "that the recording is on the media. It is also possible that "
-                               "the disk drive letters may have been changed by the operating "
-                               "system after system reboot."),
-                MsgIcon::Exclamation, MsgButtons::Ok);
-    });
-}
-
-void frmMain::ShowRecordingDetails()
-{
-    Trap(m_ctx.log, "ShowRecordingDetails", [&] {
-        Recordset rs;
-        if (!RecordingCommandRow(rs))
-            return;
-        frmRecordingDetails(rs, this).exec();
-    });
-}
-
-void frmMain::ExploreRecording()
-{
-    Trap(m_ctx.log, "ExploreRecording", [&] {
-        Recordset rs;
-        if (!RecordingCommandRow(rs))
-            return;
-        QDesktopServices::openUrl(
-            QUrl::fromLocalFile(QFileInfo(rs.Value(QStringLiteral("File")).toString()).path()));
-    });
-}
-
-void frmMain::CopyRecordingFilename()
-{
-    Trap(m_ctx.log, "CopyRecordingFilename", [&] {
-        Recordset rs;
-        if (!RecordingCommandRow(rs))
-            return;
-        QGuiApplication::clipboard()->clear();
-        QGuiApplication::clipboard()->setText(rs.Value(QStringLiteral("File")).toString());
-    });
-}
-
-void frmMain::AddFileToList()
-{
-    Trap(m_ctx.log, "mnuAddFileToList_Click", [&] {
-        const QString file = QFileDialog::getOpenFileName(
-            this, QString(), QString(),
-            QStringLiteral("WAV and MP3 files (*.wav *.mp3 *.WAV *.MP3);;WAV files (*.wav "
-                           "*.WAV);;MP3 files (*.mp3 *.MP3)"));
-        if (!file.isEmpty())
-            RecordingsList(m_ctx).AddFileToRecordingsList(file);
-    });
-    AfterRecordingsChange();
-}
-
-void frmMain::AddFolderToList()
-{
-    Trap(m_ctx.log, "mnuAddFolderToList_Click", [&] {
-        const QString folder =
-            frmSelectExistingRecordDirectory::Choose(this, m_ctx.options.DefaultRecordingDirectory);
-        if (!folder.isEmpty())
-            RecordingsList(m_ctx).AddFolderToRecordingsList(folder);
-    });
-    AfterRecordingsChange();
-}
-
-void frmMain::RemoveSelectedRecordingsFromList()
-{
-    Trap(m_ctx.log, "RemoveSelectedRecordingsFromList", [&] {
-        const QList<qint64> rows =
-            GridSelection::Bookmarks(ui.DBGridRecordings, m_recordingsModel, true);
-        if (rows.isEmpty())
-            return;
-        if (m_ctx.messageBox.Show(
-                QStringLiteral("Remove Selected Recordings From List"),
-                QStringLiteral("The selected recordings will be removed from the recording "
-                               "list.  The recordings will not be deleted from disk. Proceed?"),
-                MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
-            return;
-        RecordingsList(m_ctx).RemoveFromList(rows);
-        ui.DBGridRecordings->clearSelection();
-    });
-    AfterRecordingsChange();
-}
-
-void frmMain::DeleteSelectedRecordingsFromDisk()
-{
-    Trap(m_ctx.log, "DeleteSelectedRecordingsFromDisk", [&] {
-        const QList<qint64> rows =
-            GridSelection::Bookmarks(ui.DBGridRecordings, m_recordingsModel, true);
-        if (rows.isEmpty())
-            return;
-        if (m_ctx.messageBox.Show(QStringLiteral("Remove Recordings From Disk"),
-                                  QStringLiteral("This will remove recordings PERMANENTLY from "
-                                                 "disk. Are you sure you want to delete the "
-                                                 "selected recordings?"),
-                                  MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
-            return;
-        RecordingsList(m_ctx).DeleteFromDisk(rows);
-        ui.DBGridRecordings->clearSelection();
-        UpdateModeDisplay();
-    });
-    AfterRecordingsChange();
-}
-
-void frmMain::ClearRecordingsList()
-{
-    Trap(m_ctx.log, "ClearRecordingsList", [&] {
-        if (m_ctx.messageBox.Show(
-                QStringLiteral("Clear Recordings List"),
-                QStringLiteral("All recordings will removed from the recording list.  The "
-                               "recordings will not be deleted from disk. Proceed?"),
-                MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
-            return;
-        RecordingsList(m_ctx).ClearRecordingsList();
-    });
-    AfterRecordingsChange();
+    on("mnuRecordingsPlay", &RecordingsListCommands::RecordingsPlay);
+    on("ToolbarRecordings.Play", &RecordingsListCommands::RecordingsPlay);
+    on("mnuRecordingsRemove", &RecordingsListCommands::DeleteSelectedRecordingsFromDisk);
+    on("ToolbarRecordings.Delete", &RecordingsListCommands::DeleteSelectedRecordingsFromDisk);
+    on("mnuDetails", &RecordingsListCommands::ShowRecordingDetails);
+    on("ToolbarRecordings.Details", &RecordingsListCommands::ShowRecordingDetails);
+    on("mnuRecordingsExplore", &RecordingsListCommands::ExploreRecording);
+    on("mnuRecordingsCopyFilename", &RecordingsListCommands::CopyRecordingFilename);
+    on("mnuAddFileToList", &RecordingsListCommands::AddFileToList);
+    on("mnuAddFolderToList", &RecordingsListCommands::AddFolderToList);
+    on("mnuRecordingsRemoveFromList", &RecordingsListCommands::RemoveSelectedRecordingsFromList);
+    on("ToolbarRecordings.remove_from_list",
+       &RecordingsListCommands::RemoveSelectedRecordingsFromList);
+    on("mnuClearList", &RecordingsListCommands::ClearRecordingsList);
+    on("ToolbarRecordings.clear_list", &RecordingsListCommands::ClearRecordingsList);
+    on("mnuLoadList", &RecordingsListCommands::LoadList);
+    on("ToolbarRecordings.load_list", &RecordingsListCommands::LoadList);
+    on("mnuSaveList", &RecordingsListCommands::SaveList);
+    on("ToolbarRecordings.save_list", &RecordingsListCommands::SaveList);
+    on("mnuRecordingsSelectAll", &RecordingsListCommands::SelectAll);
+    connect(ui.Action(QStringLiteral("ToolbarRecordings.add_to_list")), &QAction::triggered, this,
+            [this] { ui.mnuManageRecordingList->popup(QCursor::pos()); });
+    connect(ui.DBGridRecordings, &QTableView::doubleClicked, this,
+            [commands] { commands->RecordingsPlay(); });
 }
 
 void frmMain::ApplyErrorIndication(const ErrorIndication& indication)

@@ -11,9 +11,9 @@
 class AppContext;
 class QMenu;
 class QSystemTrayIcon;
-class Recordset;
 class RecordsetModel;
 class ProgramListGrid;
+class RecordingsListGrid;
 class frmRecordingStatus;
 
 // The main window: the two lists, the commands, the mode display and the status bar. It
@@ -49,19 +49,6 @@ private:
     void ConnectRecordingCommands();
     void ConnectRecorder();
     void ShowStatusBar(const StatusBarPlus::Update& update);
-    // The commands of the recordings list, each trapped under the system's name.
-    void RecordingsPlay();
-    void ShowRecordingDetails();
-    void ExploreRecording();
-    void CopyRecordingFilename();
-    void AddFileToList();
-    void AddFolderToList();
-    void RemoveSelectedRecordingsFromList();
-    void DeleteSelectedRecordingsFromDisk();
-    void ClearRecordingsList();
-    void AfterRecordingsChange();
-    // The row a single-row command of the recordings list works on, on a clone.
-    bool RecordingCommandRow(Recordset& rs) const;
     void CreateTray();
     void BindGrids();
     void GetFormRegSettings();
@@ -89,4 +76,6 @@ private:
     bool m_recordingsSortAscending = false;
     // The program commands and the ways into them from menus, toolbar and grid.
     ProgramListGrid* m_programList = nullptr;
+    // The recordings grid as its commands see it; ConnectRecordingCommands wires the actions.
+    RecordingsListGrid* m_recordingsList = nullptr;
 };

@@ -1,0 +1,92 @@
+#include "scheduling/ProgramValidator.h"
+
+#include "common/Clock.h"
+#include "common/PathHelpers.h"
+#include "common/TextHelpers.h"
+#include "store/Options.h"
+
+#include <algorithm>
+
+namespace {
+
+const QString kForbiddenList = QStringLiteral("\\ / : * ? \" < > | ");
+
+std::optional<ProgramCheckMessage> Refused(const QString& title, const QString& text,
+                                           const QString& focusControl = QString())
+{
+    return ProgramCheckMessage{title, text, focusControl};
+}
+
+} // namespace
+
+ProgramValidator::ProgramValidator(AppDatabase& database, const Clock& clock,
+                                   const Options& options)
+    : m_database(database)
+    , m_clock(clock)
+    , m_options(options)
+{
+}
+
+std::optional<ProgramCheckMessage>
+ProgramValidator::FirstFailedCheck(const ProgramCheckValues& v) const
+{
+    const ProgramEditor::ConflictQuery& when = v.schedule;
+    if (!when.oneTime && std::none_of(when.days.begin(), when.days.end(), [](bool d) { return d; }))
+        return Refused(QStringLiteral("No days selected"),
+                       QStringLiteral("At least one day needs to be selected."));
+    if (v.userFilename) {
+        if (InvalidFilenameCharacters(v.filenameUser))
+            return Refused(QStringLiteral("Invalid Filename"),
+                           QStringLiteral("The filename cannot contain any of the following "
+                                          "characters:\n") +
+                               kForbiddenList);
+        QString base = Text::Trim(v.filenameUser);
+        const QString upper = base.toUpper();
+        if (upper.endsWith(QStringLiteral(".MP3")) || upper.endsWith(QStringLiteral(".WAV")))
+            base.chop(4);
+        if (Text::Trim(base).isEmpty())
+            return Refused(QStringLiteral("Invalid Filename"), QStringLiteral("Invalid Filename"));
+    } else {
+        if (v.prefixChecked && InvalidFilenameCharacters(v.prefix))
+            return Refused(QStringLiteral("Invalid Filename Prefix"),
+                           QStringLiteral("The filename prefix cannot contain any of the "
+                                          "following characters:\n") +
+                               kForbiddenList);
+        if (v.suffixChecked && InvalidFilenameCharacters(v.suffix))
+            return Refused(QStringLiteral("Invalid Filename Suffix"),
+                           QStringLiteral("The filename suffix cannot contain any of the "
+                                          "following characters:\n") +
+                               kForbiddenList);
+    }
+    if (Text::Trim(v.description).isEmpty())
+        return Refused(QStringLiteral("Program description required"),
+                       QStringLiteral("Please enter a program description."),
+                       QStringLiteral("TextProgramDescription"));
+    // Edits too: a one-time program whose time has passed can't be saved until moved.
+    if (when.oneTime && when.oneTimeDay + when.startTime < m_clock.Now())
+        return Refused(QStringLiteral("Invalid date and time"),
+                       QStringLiteral("The scheduled date and time must be later than the "
+                                      "current time."));
+    // Only an enabled program is refused for a conflict; a disabled one may be saved in
+    // conflict and enabled later without a test.
+    QString other;
+    if (ProgramEditor::ProgramingConflict(m_database, when, other) && v.enabled)
+        return Refused(QStringLiteral("Schedule Conflict"),
+                       QStringLiteral("There is a scheduling conflict with another program. "
+                                      "Please modify the recording time or remove/disable the "
+                                      "conflicting program.\n\nConflicting Program "
+                                      "Description: ") +
+                           other);
+    return std::nullopt;
+}
+
+std::optional<ProgramCheckMessage> ProgramValidator::LongRecordingQuestion(qint32 seconds) const
+{
+    if (!m_options.ConfirmLongRecordings || seconds <= qint32(m_options.LongRecordingHours) * 3600)
+        return std::nullopt;
+    return ProgramCheckMessage{QStringLiteral("Long Recording Confirmation"),
+                               QStringLiteral("A recording longer than ") +
+                                   QString::number(m_options.LongRecordingHours) +
+                                   QStringLiteral(" hours is programmed.  Save this programming? "),
+                               QString()};
+}

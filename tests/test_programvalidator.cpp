@@ -1,0 +1,184 @@
+#include "Programs.h"
+#include "TestContext.h"
+#include "scheduling/ProgramValidator.h"
+
+#include <QTest>
+#include <functional>
+
+using Programs::At;
+using Edit = std::function<void(ProgramCheckValues&)>;
+Q_DECLARE_METATYPE(Edit)
+
+namespace {
+
+const QString kForbidden = "cannot contain any of the following characters:\n\\ / : * ? \" < > | ";
+
+// A new program as the editor opens it at noon on Monday 1 June 2026: one time, an hour
+// from now, described, with the default file name.
+ProgramCheckValues NewProgram()
+{
+    ProgramCheckValues v;
+    v.schedule.oneTime = true;
+    v.schedule.oneTimeDay = At(2026, 6, 1, "00:00:00");
+    v.schedule.startTime = Programs::TimeOfDay("13:00:00");
+    v.schedule.endTime = Programs::TimeOfDay("14:00:00");
+    v.description = "Show";
+    return v;
+}
+
+void Weekly(ProgramCheckValues& v, const QString& days)
+{
+    v.schedule.oneTime = false;
+    for (int d = 0; d < 7; ++d)
+        v.schedule.days[d] = days.at(d) == u'1';
+}
+
+} // namespace
+
+class TestProgramValidator : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theFirstBrokenRuleIsReported_data()
+    {
+        QTest::addColumn<Edit>("edit");
+        QTest::addColumn<bool>("rival");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("focus");
+        QTest::newRow("a week without days, before the missing description")
+            << Edit([](ProgramCheckValues& v) {
+                   Weekly(v, "0000000");
+                   v.description.clear();
+               })
+            << false << "No days selected"
+            << "At least one day needs to be selected."
+            << "";
+        QTest::newRow("a forbidden character in the user's name, before the description")
+            << Edit([](ProgramCheckValues& v) {
+                   v.userFilename = true;
+                   v.filenameUser = "a:b";
+                   v.description.clear();
+               })
+            << false << "Invalid Filename"
+            << "The filename " + kForbidden << "";
+        QTest::newRow("a user's name of nothing but an extension")
+            << Edit([](ProgramCheckValues& v) {
+                   v.userFilename = true;
+                   v.filenameUser = " .WaV ";
+               })
+            << false << "Invalid Filename"
+            << "Invalid Filename"
+            << "";
+        QTest::newRow("the user's name leaves the prefix out") << Edit([](ProgramCheckValues& v) {
+            v.userFilename = true;
+            v.filenameUser = "show.mp3";
+            v.prefixChecked = true;
+            v.prefix = "a*";
+        }) << false << ""
+                                                               << ""
+                                                               << "";
+        QTest::newRow("a prefix") << Edit([](ProgramCheckValues& v) {
+            v.prefixChecked = true;
+            v.prefix = "a*";
+        }) << false << "Invalid Filename Prefix"
+                                  << "The filename prefix " + kForbidden << "";
+        QTest::newRow("an unchecked prefix counts for nothing")
+            << Edit([](ProgramCheckValues& v) { v.prefix = "a*"; }) << false << ""
+            << ""
+            << "";
+        QTest::newRow("a suffix") << Edit([](ProgramCheckValues& v) {
+            v.suffixChecked = true;
+            v.suffix = "<x";
+        }) << false << "Invalid Filename Suffix"
+                                  << "The filename suffix " + kForbidden << "";
+        QTest::newRow("a blank description")
+            << Edit([](ProgramCheckValues& v) { v.description = "   "; }) << false
+            << "Program description required"
+            << "Please enter a program description."
+            << "TextProgramDescription";
+        QTest::newRow("a one-time start in the past, before the conflict")
+            << Edit([](ProgramCheckValues& v) {
+                   v.schedule.startTime = Programs::TimeOfDay("11:59:59");
+               })
+            << true << "Invalid date and time"
+            << "The scheduled date and time must be later than the current time."
+            << "";
+        QTest::newRow("a weekly start before now is next week's")
+            << Edit([](ProgramCheckValues& v) {
+                   Weekly(v, "0100000");
+                   v.schedule.startTime = Programs::TimeOfDay("11:00:00");
+               })
+            << false << ""
+            << ""
+            << "";
+        QTest::newRow("a conflict with an enabled program")
+            << Edit([](ProgramCheckValues&) {}) << true << "Schedule Conflict"
+            << "There is a scheduling conflict with another program. Please modify the recording "
+               "time or remove/disable the conflicting program.\n\nConflicting Program "
+               "Description: Rival"
+            << "";
+        QTest::newRow("a disabled program is saved in conflict")
+            << Edit([](ProgramCheckValues& v) { v.enabled = false; }) << true << ""
+            << ""
+            << "";
+    }
+    void theFirstBrokenRuleIsReported()
+    {
+        QFETCH(Edit, edit);
+        QFETCH(bool, rival);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+        QFETCH(QString, focus);
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
+        if (rival) {
+            tc.AddProgram(
+                Programs::OneTime("Rival", At(2026, 6, 1, "00:00:00"), "13:30:00", "14:30:00"));
+            tc.ctx->database.DataPrograms.Requery();
+        }
+        ProgramCheckValues values = NewProgram();
+        edit(values);
+        const ProgramValidator validator(tc.ctx->database, tc.clock, tc.ctx->options);
+
+        const auto failed = validator.FirstFailedCheck(values);
+        QCOMPARE(failed.has_value(), !title.isEmpty());
+        if (!failed)
+            return;
+        QCOMPARE(failed->title, title);
+        QCOMPARE(failed->text, text);
+        QCOMPARE(failed->focusControl, focus);
+    }
+
+    void longRecordingsAreConfirmed_data()
+    {
+        QTest::addColumn<bool>("confirm");
+        QTest::addColumn<int>("seconds");
+        QTest::addColumn<bool>("asked");
+        QTest::newRow("exactly the limit") << true << 3 * 3600 << false;
+        QTest::newRow("a second more") << true << 3 * 3600 + 1 << true;
+        QTest::newRow("not wanted") << false << 10 * 3600 << false;
+    }
+    void longRecordingsAreConfirmed()
+    {
+        QFETCH(bool, confirm);
+        QFETCH(int, seconds);
+        QFETCH(bool, asked);
+        TestContext tc;
+        tc.ctx->options.ConfirmLongRecordings = confirm;
+        tc.ctx->options.LongRecordingHours = 3;
+        const ProgramValidator validator(tc.ctx->database, tc.clock, tc.ctx->options);
+
+        const auto question = validator.LongRecordingQuestion(seconds);
+        QCOMPARE(question.has_value(), asked);
+        if (question) {
+            QCOMPARE(question->title, QStringLiteral("Long Recording Confirmation"));
+            QCOMPARE(question->text, QStringLiteral("A recording longer than 3 hours is "
+                                                    "programmed.  Save this programming? "));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProgramValidator)
+#include "test_programvalidator.moc"
