@@ -1,11 +1,14 @@
 #include "scheduling/Scheduler.h"
 
 #include "common/AutomationDate.h"
+#include "common/Clock.h"
 #include "common/MessageBox.h"
 #include "common/TextHelpers.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "scheduling/ModuleUtility.h"
-#include "shell/AppContext.h"
+#include "store/AppDatabase.h"
+#include "store/Options.h"
 
 #include <array>
 
@@ -104,8 +107,13 @@ NextProgram::NextProgram()
 {
 }
 
-Scheduler::Scheduler(AppContext& ctx)
-    : m_ctx(ctx)
+Scheduler::Scheduler(const Clock& clock, AppDatabase& database, EventLog& log,
+                     MessageBoxPresenter& messageBox, const Options& options)
+    : m_clock(clock)
+    , m_database(database)
+    , m_log(log)
+    , m_messageBox(messageBox)
+    , m_options(options)
 {
 }
 
@@ -113,11 +121,11 @@ std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool 
                                                                            double referenceDate)
 {
     std::optional<ProgramOccurrence> best;
-    Trap(m_ctx.log, "DetermineNextProgramToSchedule", [&] {
+    Trap(m_log, "DetermineNextProgramToSchedule", [&] {
         double bestStart = AutomationDate::Never();
         const double longAgo = AutomationDate::LongAgo();
         // The clone keeps the order of the programs grid: its sort is the tie-break.
-        Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
+        Recordset rs = m_database.DataPrograms.recordset().Clone();
         if (rs.IsEOF() || RecordsetCount(rs) < 1)
             return;
         const ProgramColumns c(rs);
@@ -197,9 +205,9 @@ std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool 
 
 void Scheduler::ScheduleNextRecording()
 {
-    Trap(m_ctx.log, "ScheduleNextRecording", [&] {
+    Trap(m_log, "ScheduleNextRecording", [&] {
         const std::optional<ProgramOccurrence> found =
-            DetermineNextProgramToSchedule(false, m_ctx.Now());
+            DetermineNextProgramToSchedule(false, m_clock.Now());
         NextProgram& n = next;
         if (!found) {
             n.NextProgramFound = false;
@@ -239,22 +247,22 @@ void Scheduler::ScheduleNextRecording()
 
 void Scheduler::OfferRemovalOfExpiredPrograms()
 {
-    Trap(m_ctx.log, "OfferRemovalOfExpiredPrograms", [&] {
-        if (!m_ctx.options.RemoveExpiredPrograms)
+    Trap(m_log, "OfferRemovalOfExpiredPrograms", [&] {
+        if (!m_options.RemoveExpiredPrograms)
             return;
-        Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
+        Recordset rs = m_database.DataPrograms.recordset().Clone();
         if (rs.IsEOF())
             return;
         const ProgramColumns c(rs);
         const auto expired = [&] {
-            return IsOneTime(rs.Value(c.frequency)) && m_ctx.Now() > OneTimeEnd(rs, c);
+            return IsOneTime(rs.Value(c.frequency)) && m_clock.Now() > OneTimeEnd(rs, c);
         };
         bool any = false;
         for (rs.MoveFirst(); !rs.IsEOF() && !any; rs.MoveNext())
             any = expired();
         if (!any)
             return;
-        const MsgResult answer = m_ctx.messageBox.Show(
+        const MsgResult answer = m_messageBox.Show(
             QStringLiteral("Missed recordings"),
             QStringLiteral("Nightreel 2000 has determined that some of the one-time recordings "
                            "were not performed since the scheduled recording time is prior to "
@@ -266,21 +274,20 @@ void Scheduler::OfferRemovalOfExpiredPrograms()
             if (expired())
                 rs.Delete();
         }
-        m_ctx.database.DataPrograms.Requery();
+        m_database.DataPrograms.Requery();
     });
 }
 
 void Scheduler::CancelRecording(qint32 programId, double recordingEndTime)
 {
-    Trap(m_ctx.log, "CancelRecording", [&] {
-        Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
+    Trap(m_log, "CancelRecording", [&] {
+        Recordset rs = m_database.DataPrograms.recordset().Clone();
         rs.FindFirst(QStringLiteral("Id = ") + QString::number(programId));
         if (rs.NoMatch())
             return;
-        if (IsOneTime(rs.Value(QStringLiteral("Frequency"))) &&
-            m_ctx.options.RemoveExpiredPrograms) {
+        if (IsOneTime(rs.Value(QStringLiteral("Frequency"))) && m_options.RemoveExpiredPrograms) {
             rs.Delete();
-            m_ctx.database.DataPrograms.Requery();
+            m_database.DataPrograms.Requery();
             emit ProgramListChanged();
             return;
         }

@@ -6,7 +6,11 @@
 #include <QString>
 #include <optional>
 
-class AppContext;
+class AppDatabase;
+class Clock;
+class EventLog;
+class MessageBoxPresenter;
+class Options;
 
 // The one occurrence due next, as the last search left it. The heartbeat only compares the
 // clock with these.
@@ -36,7 +40,8 @@ struct NextProgram {
 class Scheduler : public QObject {
     Q_OBJECT
 public:
-    explicit Scheduler(AppContext& ctx);
+    Scheduler(const Clock& clock, AppDatabase& database, EventLog& log,
+              MessageBoxPresenter& messageBox, const Options& options);
 
     // Scans every row of the program list, in the order of the programs grid, for the
     // occurrence with the earliest start whose end lies after the reference date. An
@@ -58,5 +63,9 @@ signals:
     void ProgramListChanged();
 
 private:
-    AppContext& m_ctx;
+    const Clock& m_clock;
+    AppDatabase& m_database;
+    EventLog& m_log;
+    MessageBoxPresenter& m_messageBox;
+    const Options& m_options;
 };
