@@ -48,6 +48,7 @@ private:
     void ConnectCommands();
     void ConnectRecordingCommands();
     void ConnectRecorder();
+    void ConnectMixer();
     void ShowStatusBar(const StatusBarPlus::Update& update);
     // The commands of the recordings list, each trapped under the system's name.
     void RecordingsPlay();
