@@ -230,7 +230,7 @@ private slots:
         QFETCH(QStringList, set);
         QFETCH(int, percent);
         MakeSecondSinkDefault();
-        QVERIFY(Pactl(QStringList{"set-sink-volume", "@DEFAULT_SINK@"} + set));
+        QVERIFY(Run(QStringList{"set-sink-volume", "@DEFAULT_SINK@"} + set));
         QCOMPARE(GetMaster(), percent);
     }
 
