@@ -1,5 +1,6 @@
 // The mixer library as the program uses it: loaded by name from the build folder, driving a
 // PulseAudio server of the test's own; what it changes is read back with pactl.
+#include "Pactl.h"
 #include "PulseFixture.h"
 #include "mixset.h"
 
@@ -11,48 +12,9 @@
 #include <csignal>
 #include <memory>
 
+using namespace Pactl;
+
 namespace {
-
-// The raw volume of each channel, by position, as pactl shows it.
-using Volumes = QMap<QString, uint>;
-
-bool Pactl(const QStringList& args, QByteArray* output = nullptr)
-{
-    QProcess pactl;
-    pactl.start("pactl", args);
-    if (!pactl.waitForFinished(10000) || pactl.exitStatus() != QProcess::NormalExit ||
-        pactl.exitCode() != 0)
-        return false;
-    if (output)
-        *output = pactl.readAllStandardOutput().trimmed();
-    return true;
-}
-
-// kind is "sink" or "source".
-Volumes VolumesOf(const QString& kind, const QString& name)
-{
-    QByteArray text;
-    Pactl({"get-" + kind + "-volume", name}, &text);
-    Volumes volumes;
-    static const QRegularExpression channel("([a-z0-9-]+): (\\d+) /");
-    for (const auto& match : channel.globalMatch(QString::fromUtf8(text)))
-        volumes[match.captured(1)] = match.captured(2).toUInt();
-    return volumes;
-}
-
-bool MutedOf(const QString& kind, const QString& name)
-{
-    QByteArray text;
-    Pactl({"get-" + kind + "-mute", name}, &text);
-    return text == "Mute: yes";
-}
-
-QByteArray DefaultOf(const QString& kind)
-{
-    QByteArray name;
-    Pactl({"get-default-" + kind}, &name);
-    return name;
-}
 
 const QByteArray Header = "nightreel-mixer-profile 1\n";
 
@@ -82,13 +44,13 @@ class TestMixset : public QObject {
     void LoadSecondSink()
     {
         QByteArray module;
-        QVERIFY(Pactl({"load-module", "module-null-sink", "sink_name=second"}, &module));
+        QVERIFY(Run({"load-module", "module-null-sink", "sink_name=second"}, &module));
         m_secondSink = QString::fromUtf8(module);
     }
 
     void UnloadSecondSink()
     {
-        QVERIFY(Pactl({"unload-module", m_secondSink}));
+        QVERIFY(Run({"unload-module", m_secondSink}));
         m_secondSink.clear();
     }
 
@@ -96,9 +58,9 @@ class TestMixset : public QObject {
     void MakeSecondSinkDefault()
     {
         LoadSecondSink();
-        QVERIFY(Pactl({"set-default-sink", "second"}));
-        QVERIFY(Pactl({"set-sink-volume", "second", "20%", "90%"}));
-        QVERIFY(Pactl({"set-sink-volume", "recsink", "90%"}));
+        QVERIFY(Run({"set-default-sink", "second"}));
+        QVERIFY(Run({"set-sink-volume", "second", "20%", "90%"}));
+        QVERIFY(Run({"set-sink-volume", "recsink", "90%"}));
     }
 
 private slots:
@@ -119,11 +81,11 @@ private slots:
         QVERIFY2(m_pulse->Running(), "the test's own PulseAudio server did not start");
         if (!m_secondSink.isEmpty())
             UnloadSecondSink();
-        QVERIFY(Pactl({"set-sink-volume", "recsink", "100%"}));
-        QVERIFY(Pactl({"set-source-volume", "recmic", "100%"}));
-        QVERIFY(Pactl({"set-source-mute", "recmic", "0"}));
-        QVERIFY(Pactl({"set-default-sink", "recsink"}));
-        QVERIFY(Pactl({"set-default-source", "recmic"}));
+        QVERIFY(Run({"set-sink-volume", "recsink", "100%"}));
+        QVERIFY(Run({"set-source-volume", "recmic", "100%"}));
+        QVERIFY(Run({"set-source-mute", "recmic", "0"}));
+        QVERIFY(Run({"set-default-sink", "recsink"}));
+        QVERIFY(Run({"set-default-source", "recmic"}));
     }
 
     void cleanupTestCase() { m_pulse.reset(); }
@@ -139,10 +101,10 @@ private slots:
     {
         QFETCH(bool, secondSinkGone);
         LoadSecondSink();
-        QVERIFY(Pactl({"set-source-volume", "recmic", "30%", "70%"}));
-        QVERIFY(Pactl({"set-source-mute", "recmic", "1"}));
-        QVERIFY(Pactl({"set-sink-volume", "recsink", "45%", "55%"}));
-        QVERIFY(Pactl({"set-default-sink", "second"}));
+        QVERIFY(Run({"set-source-volume", "recmic", "30%", "70%"}));
+        QVERIFY(Run({"set-source-mute", "recmic", "1"}));
+        QVERIFY(Run({"set-sink-volume", "recsink", "45%", "55%"}));
+        QVERIFY(Run({"set-default-sink", "second"}));
         const Volumes mic = VolumesOf("source", "recmic");
         const Volumes speakers = VolumesOf("sink", "recsink");
         QCOMPARE(mic.size(), 2);
@@ -151,11 +113,11 @@ private slots:
         const QByteArray profile = PathOf("evening.mxr");
         QCOMPARE(Save(profile), MIXSET_OK);
 
-        QVERIFY(Pactl({"set-source-volume", "recmic", "100%"}));
-        QVERIFY(Pactl({"set-source-mute", "recmic", "0"}));
-        QVERIFY(Pactl({"set-sink-volume", "recsink", "100%"}));
-        QVERIFY(Pactl({"set-default-sink", "recsink"}));
-        QVERIFY(Pactl({"set-default-source", "recsink.monitor"}));
+        QVERIFY(Run({"set-source-volume", "recmic", "100%"}));
+        QVERIFY(Run({"set-source-mute", "recmic", "0"}));
+        QVERIFY(Run({"set-sink-volume", "recsink", "100%"}));
+        QVERIFY(Run({"set-default-sink", "recsink"}));
+        QVERIFY(Run({"set-default-source", "recsink.monitor"}));
         if (secondSinkGone)
             UnloadSecondSink();
 
@@ -268,7 +230,7 @@ private slots:
         QFETCH(QStringList, set);
         QFETCH(int, percent);
         MakeSecondSinkDefault();
-        QVERIFY(Pactl(QStringList{"set-sink-volume", "@DEFAULT_SINK@"} + set));
+        QVERIFY(Run(QStringList{"set-sink-volume", "@DEFAULT_SINK@"} + set));
         QCOMPARE(GetMaster(), percent);
     }
 

@@ -2,12 +2,14 @@
 // recording task capturing from a PulseAudio server of the test's own: the start by the
 // heartbeat, the file's name, the end by the clock, the row, the occurrence's mark, the
 // next occurrence, the launch after the recording, and the ways a recording fails.
+#include "Pactl.h"
 #include "ProgramListFixture.h"
 #include "Programs.h"
 #include "PulseFixture.h"
 #include "TestContext.h"
 #include "formats/ModuleFileTime.h"
 #include "recording/RecParms.h"
+#include "sideactions/MixerProfiles.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,6 +22,7 @@
 #include <QSqlQuery>
 #include <QStorageInfo>
 #include <QTest>
+#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -27,12 +30,6 @@ namespace {
 
 // Monday, 1 June 2026.
 const QDate kDay(2026, 6, 1);
-
-struct LogEntry {
-    int type;
-    QString message;
-    QString details;
-};
 
 struct RecordingRow {
     QString title;
@@ -57,11 +54,11 @@ QVariantHash WithPcmFormat(QVariantHash row)
     return row;
 }
 
-// The level and the rough frequency of a wave file, as sox measures them.
-bool ToneOf(const QString& path, double& rms, double& frequency)
+// The level and the rough frequency of a wave file, as sox measures them, from skip seconds on.
+bool ToneOf(const QString& path, double& rms, double& frequency, double skip = 0.0)
 {
     QProcess sox;
-    sox.start("sox", {path, "-n", "stat"});
+    sox.start("sox", {path, "-n", "trim", QString::number(skip), "stat"});
     if (!sox.waitForFinished(10000))
         return false;
     const QString out = QString::fromUtf8(sox.readAllStandardError());
@@ -129,15 +126,7 @@ public:
         return false;
     }
 
-    QList<LogEntry> Entries() const
-    {
-        QList<LogEntry> entries;
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        q.exec("SELECT Type, Message, Details FROM EventLog ORDER BY ID");
-        while (q.next())
-            entries.append({q.value(0).toInt(), q.value(1).toString(), q.value(2).toString()});
-        return entries;
-    }
+    QList<LogEntry> Entries() const { return tc.LogEntries(); }
 
     QList<RecordingRow> Recordings() const
     {
@@ -188,6 +177,9 @@ private slots:
     void manualRecordingNeedsHalfAMegabyteAboveTheLimit();
     void recordingToConvertCapturesPcmAndQueuesIt();
     void diskGuardStopsAndKeepsTheRecording();
+    void mixerProfilesAroundTheRecording();
+    void refusedProfileStillRecords();
+    // The last two stop the sound server.
     void captureErrorDeletesThePartialFile();
     void noSoundServerMeansNoRecording();
 
@@ -576,6 +568,77 @@ void TestRecordingCycle::noSoundServerMeansNoRecording()
     QCOMPARE(c.tc.launcher.started.size(), 1);
     QVERIFY(c.tc.launcher.started[0].startsWith("/usr/bin/after 060126_1000"));
     QCOMPARE(c.ProgramColumn(id, "RecordingCancelled").toInt(), -1);
+}
+
+// The before-profile sets the recording source right before capture (software volume is
+// cubic: 50 % is 18.06 dB down) and the after-profile follows the recording; a program with
+// only an after-profile leaves the mixer alone.
+void TestRecordingCycle::mixerProfilesAroundTheRecording()
+{
+    Cycle c;
+    MixerProfiles& profiles = c.ctx().mixerProfiles;
+    Pactl::Volumes seventy;
+    for (const char* percent : {"50", "70"}) {
+        QVERIFY(Pactl::Run({"set-source-volume", "recmic", QString(percent) + "%"}));
+        QCOMPARE(profiles.SaveMixerProfile(percent, c.tc.messageBox),
+                 MixerProfiles::SaveOutcome::Added);
+        seventy = Pactl::VolumesOf("source", "recmic");
+    }
+    QVERIFY(Pactl::Run({"set-source-volume", "recmic", "100%"}));
+    const Pactl::Volumes full = Pactl::VolumesOf("source", "recmic");
+
+    QVariantHash row = Programs::Weekly("After only", "10:00:01", "10:00:04", "0100000");
+    row.insert("MixerProfileAfter", "70");
+    c.AddProgram(row);
+    QVERIFY(c.RecordOnce(At("10:00:00")));
+    QCOMPARE(Pactl::VolumesOf("source", "recmic"), full);
+
+    row = Programs::Weekly("Half", "10:01:01", "10:01:04", "0100000");
+    row.insert({{"MixerProfileBefore", " 50 "}, {"MixerProfileAfter", "70"}});
+    c.AddProgram(row);
+    c.starts = 0;
+    QVERIFY(c.RecordOnce(At("10:01:00")));
+    QCOMPARE(c.starts, 1);
+    QCOMPARE(Pactl::VolumesOf("source", "recmic"), seventy);
+    QVERIFY(c.Entries().isEmpty());
+
+    const QList<RecordingRow> rows = c.Recordings();
+    QCOMPARE(rows.size(), 2);
+    double fullRms = 0, halfRms = 0, frequency = 0;
+    QVERIFY(ToneOf(rows[0].file, fullRms, frequency, 0.5));
+    QVERIFY(ToneOf(rows[1].file, halfRms, frequency, 0.5));
+    QVERIFY2(frequency > 900 && frequency < 1100, qPrintable(QString::number(frequency)));
+    const double db = 20.0 * std::log10(halfRms / fullRms);
+    qInfo("the source at 50 %%: %.2f dB", db);
+    QVERIFY2(std::abs(db + 18.06) <= 0.5, qPrintable(QString::number(db)));
+}
+
+// A profile the server refuses in part is logged with the library's number; the recording
+// goes on.
+void TestRecordingCycle::refusedProfileStillRecords()
+{
+    Cycle c;
+    MixerProfiles& profiles = c.ctx().mixerProfiles;
+    QDir().mkpath(profiles.Folder());
+    QFile file(profiles.PathOf("Line in"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("nightreel-mixer-profile 1\n"
+               "source recmic front-left,front-right line-in 0 65536 65536\n");
+    file.close();
+    QVariantHash row = Programs::Weekly("Refused", "10:00:01", "10:00:04", "0100000");
+    row.insert("MixerProfileBefore", "Line in");
+    c.AddProgram(row);
+    QVERIFY(c.RecordOnce(At("10:00:00")));
+
+    const QList<LogEntry> entries = c.Entries();
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries[0].type, 1);
+    QCOMPARE(entries[0].message, QString("Error activating mixer profile"));
+    QCOMPARE(entries[0].details, QString("Error number = 4"));
+    QCOMPARE(c.Recordings().size(), 1);
+    double rms = 0, frequency = 0;
+    QVERIFY(ToneOf(c.Recordings()[0].file, rms, frequency));
+    QVERIFY2(rms > 0.1, qPrintable(QString::number(rms)));
 }
 
 QTEST_GUILESS_MAIN(TestRecordingCycle)

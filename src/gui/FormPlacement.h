@@ -32,4 +32,11 @@ inline void PlaceAtMainForm(QWidget* form, QWidget* owner, int offsetTwips)
         form->move(OffsetFromMainForm(owner, offsetTwips));
 }
 
+// The same with offsets of their own across and down.
+inline void PlaceAtMainForm(QWidget* form, QWidget* owner, int leftTwips, int topTwips)
+{
+    if (QWidget* main = MainForm(owner))
+        form->move(main->pos() + QPoint(Twips::ToPixels(leftTwips), Twips::ToPixels(topTwips)));
+}
+
 } // namespace FormPlacement

@@ -7,6 +7,7 @@ class Clock;
 class DiskSpace;
 class EventLog;
 class MessageBoxPresenter;
+class MixerProfiles;
 class Options;
 class ProcessLauncher;
 class RegKeys;
@@ -28,6 +29,7 @@ struct RecorderServices {
     MessageBoxPresenter& messageBox;
     ProcessLauncher& launcher;
     DiskSpace& diskSpace;
+    MixerProfiles& mixerProfiles;
     // The socket to the recording task and its parameter file lie here.
     QString runtimeFolder;
 };

@@ -4,6 +4,7 @@
 #include "common/Clock.h"
 #include "common/MessageBox.h"
 #include "common/RuntimeError.h"
+#include "common/TextHelpers.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
@@ -19,6 +20,7 @@
 #include "scheduling/Scheduler.h"
 #include "shell/AppContext.h"
 #include "sideactions/LaunchCommands.h"
+#include "sideactions/MixerProfiles.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
 
@@ -324,8 +326,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     }
     m_link.StartKeepAlive();
 
-    // The place where the program's before-profile of the mixer goes in, once the task is up
-    // and right before capture: ActivateMixerProfile(status.MixerProfileBefore).
+    // The mixer is set once the task is up and right before capture, never earlier.
+    if (!Text::Trim(status.MixerProfileBefore).isEmpty())
+        m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileBefore);
     QCoreApplication::processEvents();
 
     const qint32 result = m_link.SendMessage(REC_MSG_START);
@@ -466,9 +469,10 @@ void RecordingControl::StopRecordingSteps()
             // The place where the dial-up line is hung up when HangupInternetConnection is set:
             // HangUpConnections().
         }
-        // Intended: the test is on the before-profile, so an after-profile alone never applies.
-        // The place where the after-profile goes in when MixerProfileBefore is set:
-        // ActivateMixerProfile(status.MixerProfileAfter).
+        // Intended: the test is on the before-profile, so an after-profile alone never applies;
+        // an empty after-profile names no file and changes nothing.
+        if (!Text::Trim(status.MixerProfileBefore).isEmpty())
+            m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileAfter);
     }
 
     status.FinalFile.clear();

@@ -8,17 +8,20 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , launcher(seams.launcher)
     , audioDevices(seams.audioDevices)
     , diskSpace(seams.diskSpace)
+    , mixer(seams.mixer)
     , folders(appFolders)
     , log(database, error, clock)
     , registry(log)
     , database(folders, log, error, messageBox)
     , scheduler(clock, database, log, messageBox, options)
+    , mixerProfiles(log, mixer, folders.dataFolder + QStringLiteral("/mixer"))
     , ProgramFormat(*this)
     , ProgramFormFormat(*this)
     , WfxDefault(*this)
     , recorder(*this,
                RecorderServices{log, clock, options, registry, appStatus, error, database,
-                                scheduler, messageBox, launcher, diskSpace, folders.runtimeFolder})
+                                scheduler, messageBox, launcher, diskSpace, mixerProfiles,
+                                folders.runtimeFolder})
 {
 }
 

@@ -6,6 +6,7 @@
 #include "formats/clsRecordingFormat.h"
 #include "recording/Recorder.h"
 #include "scheduling/Scheduler.h"
+#include "sideactions/MixerProfiles.h"
 #include "store/AppDatabase.h"
 #include "store/AppFolders.h"
 #include "store/Options.h"
@@ -15,6 +16,7 @@ class AudioDevices;
 class Clock;
 class DiskSpace;
 class MessageBoxPresenter;
+class Mixer;
 class ProcessLauncher;
 
 // The seams that tests replace; everything else in the context is real.
@@ -24,6 +26,7 @@ struct Seams {
     ProcessLauncher& launcher;
     AudioDevices& audioDevices;
     DiskSpace& diskSpace;
+    Mixer& mixer;
 };
 
 // The composition root: what the system holds for the whole run, built in the entry
@@ -42,6 +45,7 @@ public:
     ProcessLauncher& launcher;
     AudioDevices& audioDevices;
     DiskSpace& diskSpace;
+    Mixer& mixer;
     const AppFolders folders;
 
     clsError error;
@@ -51,6 +55,8 @@ public:
     clsAppStatus appStatus;
     AppDatabase database;
     Scheduler scheduler;
+    // The profiles in the data folder's "mixer".
+    MixerProfiles mixerProfiles;
     // The format of the program being handled, the working copy that the dialogs show and
     // change, and the default format of the Info row.
     clsRecordingFormat ProgramFormat;

@@ -6,6 +6,7 @@
 #include "formats/FileRowPreview.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
+#include "platform/Mixer.h"
 #include "shell/AppContext.h"
 #include "shell/WidgetMessageBox.h"
 #include "shell/frmMain.h"
@@ -48,7 +49,8 @@ int Inspect(int argc, char* argv[])
     DetachedProcessLauncher launcher;
     PulseAudioDevices audioDevices;
     StorageDiskSpace diskSpace;
-    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace},
+    MixsetMixer mixer;
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer},
                    AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx, QString::fromLocal8Bit(argv[2]), out);
@@ -71,6 +73,7 @@ int Main(int argc, char* argv[])
     DetachedProcessLauncher launcher;
     PulseAudioDevices audioDevices;
     StorageDiskSpace diskSpace;
+    MixsetMixer mixer;
     const AppFolders folders = AppFolders::ForCurrentUser();
 
     QLockFile instanceLock(folders.runtimeFolder + QStringLiteral("/nightreel.lock"));
@@ -81,7 +84,7 @@ int Main(int argc, char* argv[])
     }
 
     folders.InstallDatabaseOnFirstRun();
-    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace}, folders);
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer}, folders);
     bool showSplash = true;
     Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),
                           ctx.options.HiddenWindowStatupMode, false);

@@ -14,6 +14,8 @@
 #include "shell/RecordingsListGrid.h"
 #include "shell/frmAbout.h"
 #include "shell/frmRecordingStatus.h"
+#include "sideactions/LaunchMixer.h"
+#include "sideactions/frmMixerProfiles.h"
 #include "store/GridColumns.h"
 #include "store/RecordsetModel.h"
 
@@ -152,6 +154,19 @@ void frmMain::ConnectCommands()
     });
     ConnectRecordingCommands();
     ConnectRecorder();
+    ConnectMixer();
+}
+
+// The mixer application for adjusting by hand, and the profiles.
+void frmMain::ConnectMixer()
+{
+    for (const char* name : {"mnuToolsMixer", "ToolbarMain.Mixer"})
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
+            LaunchMixer(m_ctx.log, m_ctx.launcher, m_ctx.options.MixerFilePath);
+        });
+    connect(ui.Action(QStringLiteral("mnuMixerProfiles")), &QAction::triggered, this, [this] {
+        frmMixerProfiles(m_ctx.mixerProfiles, m_ctx.log, m_ctx.messageBox, this).exec();
+    });
 }
 
 // The window observes the recorder and forwards the user's commands to it.

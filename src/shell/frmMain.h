@@ -48,6 +48,7 @@ private:
     void ConnectCommands();
     void ConnectRecordingCommands();
     void ConnectRecorder();
+    void ConnectMixer();
     void ShowStatusBar(const StatusBarPlus::Update& update);
     void CreateTray();
     void BindGrids();

@@ -9,8 +9,8 @@ TestContext::TestContext()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
     const AppFolders folders = AppFolders::Under(m_dir.path());
     folders.InstallDatabaseOnFirstRun();
-    ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace},
-                                       folders);
+    ctx = std::make_unique<AppContext>(
+        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer}, folders);
 }
 
 TestContext::~TestContext()
@@ -36,6 +36,16 @@ qint64 TestContext::AddProgram(const QVariantHash& columns)
         rs.SetValue(it.key(), it.value());
     rs.Update();
     return rs.LastModified();
+}
+
+QList<LogEntry> TestContext::LogEntries() const
+{
+    QList<LogEntry> entries;
+    QSqlQuery q(ctx->database.db.Connection());
+    q.exec("SELECT Type, Message, Details FROM EventLog ORDER BY ID");
+    while (q.next())
+        entries.append({q.value(0).toInt(), q.value(1).toString(), q.value(2).toString()});
+    return entries;
 }
 
 int TestContext::CountRows(const QString& table) const

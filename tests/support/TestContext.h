@@ -6,6 +6,7 @@
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
+#include "platform/Mixer.h"
 #include "shell/AppContext.h"
 
 #include <QTemporaryDir>
@@ -34,6 +35,13 @@ protected:
     }
 };
 
+// One row of the event log.
+struct LogEntry {
+    int type;
+    QString message;
+    QString details;
+};
+
 // A fresh application context over a temporary folder: its own data and runtime folders,
 // its own settings file, the empty database in place, and the test seams.
 class TestContext {
@@ -47,6 +55,8 @@ public:
     qint64 AddProgram(const QVariantHash& columns);
     // Rows of a table, counted in the file itself.
     int CountRows(const QString& table) const;
+    // The rows of the event log, oldest first.
+    QList<LogEntry> LogEntries() const;
     QString Root() const { return m_dir.path(); }
     QString SettingsFile() const;
 
@@ -56,5 +66,7 @@ public:
     RecordingLauncher launcher;
     FakeAudioDevices audioDevices;
     TestDiskSpace diskSpace;
+    // The real mixer library of this build, talking to whatever server the test points at.
+    MixsetMixer mixer{QStringLiteral(NIGHTREEL_MIXSET_DIR)};
     std::unique_ptr<AppContext> ctx;
 };

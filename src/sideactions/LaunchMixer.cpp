@@ -1,0 +1,31 @@
+#include "sideactions/LaunchMixer.h"
+
+#include "common/ProcessLauncher.h"
+#include "diagnostics/EventLog.h"
+
+namespace {
+
+// The launcher splits a command line into words; quoted whole, the path stays one word
+// (a quote inside is tripled, the splitter's way of writing a literal quote).
+QString AsOneWord(QString path)
+{
+    path.replace(u'"', QStringLiteral("\"\"\""));
+    return u'"' + path + u'"';
+}
+
+} // namespace
+
+void LaunchMixer(EventLog& log, ProcessLauncher& launcher, const QString& mixerPath)
+{
+    if (launcher.StartDetached(AsOneWord(mixerPath)))
+        return;
+    log.LogEvent(
+        EventError, QStringLiteral("Mixer Control Not Found"),
+        QStringLiteral("Install the Microsoft Windows mixer or a 3rd party mixer.  To install "
+                       "the Windows mixer, run the Control Panel, doubleclick on the "
+                       "Add/Remove Programs icon, select the Windows Setup tab, doubleclick on "
+                       "the Multimedia component, and select Volume Control.\r\n"
+                       "To install a 3rd party mixer, bring up the Options form from the "
+                       "View/Options menu, select the Advanced tab, and press the Modify mixer "
+                       "control button."));
+}

@@ -1,0 +1,269 @@
+// The two forms of the mixer profiles over a profile folder of the test's own: what they list,
+// which entry they select after each command, what they ask, where they open, how they look.
+#include "ModalDialogs.h"
+#include "PulseFixture.h"
+#include "TestContext.h"
+#include "common/Twips.h"
+#include "sideactions/frmAddMixerProfile.h"
+#include "sideactions/frmMixerProfiles.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QTest>
+#include <memory>
+
+namespace {
+
+QStringList Texts(const QListWidget* list)
+{
+    QStringList texts;
+    for (int row = 0; row < list->count(); ++row)
+        texts << list->item(row)->text();
+    return texts;
+}
+
+QString Selected(const QListWidget* list)
+{
+    const auto items = list->selectedItems();
+    return items.isEmpty() ? QString() : items.first()->text();
+}
+
+const QByteArray kProfile = "nightreel-mixer-profile 1\n";
+
+} // namespace
+
+class TestFrmMixerProfiles : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestContext> m_tc;
+    std::unique_ptr<QWidget> m_main;
+
+    MixerProfiles& Profiles() { return m_tc->ctx->mixerProfiles; }
+
+    // Profile files in the folder; an empty content makes a file of no length.
+    void MakeProfiles(const QStringList& names, const QByteArray& content = kProfile)
+    {
+        QDir().mkpath(Profiles().Folder());
+        for (const QString& name : names) {
+            QFile file(Profiles().PathOf(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(content);
+        }
+    }
+
+    std::unique_ptr<frmMixerProfiles> Open()
+    {
+        return std::make_unique<frmMixerProfiles>(Profiles(), m_tc->ctx->log, m_tc->messageBox,
+                                                  m_main.get());
+    }
+
+    template <typename T> static T* Child(QWidget* form, const char* name)
+    {
+        return form->findChild<T*>(QString::fromLatin1(name));
+    }
+
+private slots:
+    void init()
+    {
+        m_tc = std::make_unique<TestContext>();
+        m_tc->OpenDatabase();
+        m_main = std::make_unique<QWidget>();
+        m_main->move(100, 80);
+    }
+
+    void cleanup()
+    {
+        m_main.reset();
+        m_tc.reset();
+    }
+
+    void loadListsAndSelectsTheFirst_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("none") << QStringList{} << false;
+        QTest::newRow("sorted by name") << QStringList{"night", "Evening", "morning"} << true;
+    }
+
+    void loadListsAndSelectsTheFirst()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(bool, enabled);
+        MakeProfiles(files);
+        QDir().mkpath(Profiles().Folder());
+        QFile other(Profiles().Folder() + "/notes.txt"); // not a profile
+        QVERIFY(other.open(QIODevice::WriteOnly));
+        other.write("x");
+        const auto form = Open();
+        auto* list = Child<QListWidget>(form.get(), "lstMixerProfiles");
+        QStringList sorted = files;
+        sorted.sort(Qt::CaseInsensitive);
+        QCOMPARE(Texts(list), sorted);
+        QCOMPARE(Selected(list), sorted.value(0));
+        QCOMPARE(Child<QPushButton>(form.get(), "btnActivate")->isEnabled(), enabled);
+        QCOMPARE(Child<QPushButton>(form.get(), "btnRemove")->isEnabled(), enabled);
+        QCOMPARE(Child<QPushButton>(form.get(), "btnAdd")->isEnabled(), true);
+    }
+
+    void removeSelects_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("selected");
+        QTest::newRow("the first of three") << QStringList{"A", "B", "C"} << 0 << "B";
+        QTest::newRow("the second") << QStringList{"A", "B", "C"} << 1 << "A";
+        QTest::newRow("the last") << QStringList{"A", "B", "C"} << 2 << "B";
+        QTest::newRow("the only one") << QStringList{"A"} << 0 << "";
+    }
+
+    void removeSelects()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(int, row);
+        QFETCH(QString, selected);
+        MakeProfiles(files);
+        const auto form = Open();
+        auto* list = Child<QListWidget>(form.get(), "lstMixerProfiles");
+        list->setCurrentRow(row);
+        m_tc->messageBox.answers = {MsgResult::Yes};
+        form->btnRemove_Click();
+
+        QCOMPARE(m_tc->messageBox.asked.size(), 1);
+        QCOMPARE(m_tc->messageBox.asked[0].title, QString("Remove mixer profile"));
+        QCOMPARE(m_tc->messageBox.asked[0].text,
+                 QString("The selected mixer profile will be permanently removed. Proceed?"));
+        QCOMPARE(m_tc->messageBox.asked[0].icon, MsgIcon::Question);
+        QVERIFY(!QFile::exists(Profiles().PathOf(files[row])));
+        files.removeAt(row);
+        QCOMPARE(Texts(list), files);
+        QCOMPARE(Profiles().Names(), files);
+        QCOMPARE(Selected(list), selected);
+        QCOMPARE(Child<QPushButton>(form.get(), "btnRemove")->isEnabled(), !files.isEmpty());
+        QCOMPARE(Child<QPushButton>(form.get(), "btnActivate")->isEnabled(), !files.isEmpty());
+    }
+
+    // Without a selection the two buttons go grey and ask nothing; No changes nothing.
+    void noSelectionOrNo_data()
+    {
+        QTest::addColumn<bool>("remove");
+        QTest::newRow("activate") << false;
+        QTest::newRow("remove") << true;
+    }
+
+    void noSelectionOrNo()
+    {
+        QFETCH(bool, remove);
+        MakeProfiles({"A", "B"}, QByteArray());
+        const auto form = Open();
+        auto* list = Child<QListWidget>(form.get(), "lstMixerProfiles");
+        const auto click = [&] {
+            remove ? form->btnRemove_Click() : form->btnActivate_Click();
+        };
+        click();
+        QCOMPARE(m_tc->messageBox.asked.size(), 1);
+        QCOMPARE(Texts(list), QStringList({"A", "B"}));
+        QVERIFY(QFile::exists(Profiles().PathOf("A")));
+
+        list->clearSelection();
+        click();
+        QCOMPARE(m_tc->messageBox.asked.size(), 1);
+        QVERIFY(!Child<QPushButton>(form.get(), "btnActivate")->isEnabled());
+        QVERIFY(!Child<QPushButton>(form.get(), "btnRemove")->isEnabled());
+    }
+
+    // Yes activates the selected profile: an empty one is deleted by the activation, and
+    // stays listed until the form is opened again.
+    void activateAsksThenActivates()
+    {
+        MakeProfiles({"Empty"}, QByteArray());
+        const auto form = Open();
+        m_tc->messageBox.answers = {MsgResult::Yes};
+        form->btnActivate_Click();
+        QCOMPARE(m_tc->messageBox.asked.size(), 1);
+        QCOMPARE(m_tc->messageBox.asked[0].title, QString("Activate mixer profile"));
+        QCOMPARE(m_tc->messageBox.asked[0].text,
+                 QString("The Windows mixer settings will be set according to the selected mixer "
+                         "profile. Proceed?"));
+        QCOMPARE(m_tc->messageBox.asked[0].buttons, MsgButtons::YesNo);
+        QVERIFY(!QFile::exists(Profiles().PathOf("Empty")));
+        QCOMPARE(Texts(Child<QListWidget>(form.get(), "lstMixerProfiles")), QStringList{"Empty"});
+    }
+
+    // Saving through the add form, opened by Add: a new name (trimmed) joins the list and is
+    // selected as the first when nothing was; an existing name answered No keeps the form and
+    // the file.
+    void addThroughTheForm()
+    {
+        PulseFixture pulse;
+        QVERIFY(pulse.Running());
+        MakeProfiles({"Old"});
+        const auto form = Open();
+        auto* list = Child<QListWidget>(form.get(), "lstMixerProfiles");
+        list->clearSelection();
+
+        bool keptOpen = false;
+        WhenModalOpens([&](QDialog* dialog) {
+            // A failed check leaves the lambda: the form must not stay open.
+            const auto close = qScopeGuard([dialog] {
+                if (dialog->isVisible())
+                    dialog->reject();
+            });
+            auto* combo = Child<QComboBox>(dialog, "Combo1");
+            QCOMPARE(combo->currentText(), QString());
+            QCOMPARE(combo->count(), 1);
+            QCOMPARE(dialog->focusWidget(), combo);
+            combo->setCurrentText("Old");
+            m_tc->messageBox.answers = {MsgResult::No};
+            Child<QPushButton>(dialog, "frmSave")->click();
+            keptOpen = dialog->isVisible();
+            combo->setCurrentText("   Late show");
+            Child<QPushButton>(dialog, "frmSave")->click();
+        });
+        form->btnAdd_Click();
+
+        QVERIFY(keptOpen);
+        QCOMPARE(m_tc->messageBox.asked.size(), 1);
+        QCOMPARE(m_tc->messageBox.asked[0].title, QString("Overwrite profile"));
+        QFile old(Profiles().PathOf("Old"));
+        QVERIFY(old.open(QIODevice::ReadOnly));
+        QCOMPARE(old.readAll(), kProfile);
+        QCOMPARE(Texts(list), QStringList({"Old", "Late show"}));
+        QVERIFY(QFile(Profiles().PathOf("Late show")).size() > kProfile.size());
+        QCOMPARE(Selected(list), QString("Old"));
+        QVERIFY(Child<QPushButton>(form.get(), "btnActivate")->isEnabled());
+    }
+
+    void placesAtTheMainForm()
+    {
+        const auto form = Open();
+        QCOMPARE(form->pos(), m_main->pos() + QPoint(Twips::ToPixels(250), Twips::ToPixels(250)));
+        QListWidget list;
+        frmAddMixerProfile add(Profiles(), m_tc->ctx->log, m_tc->messageBox, list, form.get());
+        QCOMPARE(add.pos(), m_main->pos() + QPoint(Twips::ToPixels(500), Twips::ToPixels(350)));
+        QCOMPARE(form->windowTitle(), QString("Mixer Profiles"));
+        QCOMPARE(add.windowTitle(), QString("Add Mixer Profile"));
+    }
+
+    // Pictures of both forms for a look by eye, when NIGHTREEL_GRABS names a folder.
+    void grabs()
+    {
+        const QString folder = qEnvironmentVariable("NIGHTREEL_GRABS");
+        if (folder.isEmpty())
+            QSKIP("NIGHTREEL_GRABS is not set");
+        MakeProfiles({"Evening radio", "Late show", "Morning"});
+        const auto form = Open();
+        form->show();
+        QVERIFY(form->grab().save(folder + "/frmMixerProfiles.png"));
+        frmAddMixerProfile add(Profiles(), m_tc->ctx->log, m_tc->messageBox,
+                               *Child<QListWidget>(form.get(), "lstMixerProfiles"), form.get());
+        add.show();
+        QVERIFY(add.grab().save(folder + "/frmAddMixerProfile.png"));
+    }
+};
+
+QTEST_MAIN(TestFrmMixerProfiles)
+#include "test_frmMixerProfiles.moc"

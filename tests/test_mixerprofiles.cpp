@@ -1,0 +1,339 @@
+// The mixer profiles, the master volume and the mixer application as the program uses them:
+// the real mixer library against a PulseAudio server of the test's own, read back with pactl.
+#include "Pactl.h"
+#include "PulseFixture.h"
+#include "TestContext.h"
+#include "common/ProcessLauncher.h"
+#include "sideactions/LaunchMixer.h"
+#include "sideactions/Volume.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <memory>
+
+using namespace Pactl;
+
+namespace {
+
+QList<LogEntry> Entries(const TestContext& tc)
+{
+    return tc.LogEntries();
+}
+
+// Points the process at a server that is not there while it lives.
+class NoServer {
+public:
+    NoServer()
+        : m_saved(qgetenv("PULSE_SERVER"))
+    {
+        qputenv("PULSE_SERVER", "unix:/nonexistent/pulse/native");
+    }
+    ~NoServer() { qputenv("PULSE_SERVER", m_saved); }
+
+private:
+    QByteArray m_saved;
+};
+
+void WriteFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+const QString kNotFoundDetails =
+    "Install the Microsoft Windows mixer or a 3rd party mixer.  To install the Windows mixer, "
+    "run the Control Panel, doubleclick on the Add/Remove Programs icon, select the Windows "
+    "Setup tab, doubleclick on the Multimedia component, and select Volume Control.\r\nTo "
+    "install a 3rd party mixer, bring up the Options form from the View/Options menu, select "
+    "the Advanced tab, and press the Modify mixer control button.";
+
+} // namespace
+
+class TestMixerProfiles : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<PulseFixture> m_pulse;
+    std::unique_ptr<TestContext> m_tc;
+    QString m_secondSink;
+
+    MixerProfiles& Profiles() { return m_tc->ctx->mixerProfiles; }
+
+private slots:
+    void initTestCase()
+    {
+        m_pulse = std::make_unique<PulseFixture>();
+        QVERIFY2(m_pulse->Running(), "the test's own PulseAudio server did not start");
+    }
+
+    // A fresh context and the server as the fixture starts it.
+    void init()
+    {
+        m_tc = std::make_unique<TestContext>();
+        m_tc->OpenDatabase();
+        if (!m_secondSink.isEmpty()) {
+            QVERIFY(Run({"unload-module", m_secondSink}));
+            m_secondSink.clear();
+        }
+        QVERIFY(Run({"set-sink-volume", "recsink", "100%"}));
+        QVERIFY(Run({"set-source-volume", "recmic", "100%"}));
+        QVERIFY(Run({"set-source-mute", "recmic", "0"}));
+        QVERIFY(Run({"set-default-sink", "recsink"}));
+        QVERIFY(Run({"set-default-source", "recmic"}));
+    }
+
+    void cleanup() { m_tc.reset(); }
+    void cleanupTestCase() { m_pulse.reset(); }
+
+    // What the form's Save writes, activation puts back: raw volumes, mute, both defaults.
+    void savedProfileIsActivatedExactly()
+    {
+        QByteArray module;
+        QVERIFY(Run({"load-module", "module-null-sink", "sink_name=second"}, &module));
+        m_secondSink = QString::fromUtf8(module);
+        QVERIFY(Run({"set-source-volume", "recmic", "30%", "70%"}));
+        QVERIFY(Run({"set-source-mute", "recmic", "1"}));
+        QVERIFY(Run({"set-default-sink", "second"}));
+        const Volumes mic = VolumesOf("source", "recmic");
+
+        QCOMPARE(Profiles().SaveMixerProfile("  Late show ", m_tc->messageBox),
+                 MixerProfiles::SaveOutcome::Added);
+        QVERIFY(QFile::exists(m_tc->ctx->folders.dataFolder + "/mixer/Late show.mxr"));
+        QCOMPARE(Profiles().Names(), QStringList{"Late show"});
+
+        QVERIFY(Run({"set-source-volume", "recmic", "100%"}));
+        QVERIFY(Run({"set-source-mute", "recmic", "0"}));
+        QVERIFY(Run({"set-default-sink", "recsink"}));
+        QVERIFY(Run({"set-default-source", "recsink.monitor"}));
+
+        Profiles().ActivateMixerProfile(" Late show");
+        QCOMPARE(VolumesOf("source", "recmic"), mic);
+        QVERIFY(MutedOf("source", "recmic"));
+        QCOMPARE(DefaultOf("sink"), "second");
+        QCOMPARE(DefaultOf("source"), "recmic");
+        QVERIFY(Entries(*m_tc).isEmpty());
+        QVERIFY(m_tc->messageBox.asked.isEmpty());
+    }
+
+    // A profile that is missing or empty is no error; one the library refuses is logged with
+    // its number; a library that can't be loaded is the routine's run-time error.
+    void activationFailures_data()
+    {
+        QTest::addColumn<QByteArray>("content"); // empty: a file of no length
+        QTest::addColumn<bool>("serverGone");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("details");
+        QTest::newRow("empty file") << QByteArray() << false << QString() << QString();
+        QTest::newRow("server gone")
+            << QByteArray("nightreel-mixer-profile 1\n") << true << "Error activating mixer profile"
+            << "Error number = 1";
+        QTest::newRow("not a profile")
+            << QByteArray("garbage\n") << false << "Error activating mixer profile"
+            << "Error number = 3";
+    }
+
+    void activationFailures()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, serverGone);
+        QFETCH(QString, message);
+        QFETCH(QString, details);
+        QDir().mkpath(Profiles().Folder());
+        WriteFile(Profiles().PathOf("Broken"), content);
+        QCOMPARE(Profiles().Names(), QStringList{"Broken"});
+        {
+            std::optional<NoServer> noServer;
+            if (serverGone)
+                noServer.emplace();
+            Profiles().ActivateMixerProfile("Broken");
+        }
+        const QList<LogEntry> entries = Entries(*m_tc);
+        if (message.isEmpty()) {
+            QVERIFY(entries.isEmpty());
+            QVERIFY(!QFile::exists(Profiles().PathOf("Broken")));
+            return;
+        }
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(entries[0].type, 1);
+        QCOMPARE(entries[0].message, message);
+        QCOMPARE(entries[0].details, details);
+        QVERIFY(QFile::exists(Profiles().PathOf("Broken")));
+    }
+
+    void missingLibraryIsTrapped()
+    {
+        MixsetMixer absent(m_tc->Root() + "/no library here");
+        MixerProfiles profiles(m_tc->ctx->log, absent, Profiles().Folder());
+        QDir().mkpath(profiles.Folder());
+        WriteFile(profiles.PathOf("Any"), "nightreel-mixer-profile 1\n");
+        profiles.ActivateMixerProfile("Any");
+        QCOMPARE(Volume::GetVolume(m_tc->ctx->log, absent), -1);
+        QVERIFY(!Volume::SetVolume(m_tc->ctx->log, absent, 50));
+        const QList<LogEntry> entries = Entries(*m_tc);
+        QCOMPARE(entries.size(), 3);
+        const QStringList routines{"Activate Mixer Profile", "GetVolume", "SetVolume"};
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(entries[i].message, QString("Nightreel 2000 Runtime Error"));
+            QVERIFY2(entries[i].details.contains("Module: " + routines[i]),
+                     qPrintable(entries[i].details));
+        }
+    }
+
+    // The name typed is checked before anything is written; an existing profile is replaced
+    // only when the user agrees.
+    void saveRules_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QList<MsgResult>>("answers");
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<int>("outcome");
+        QTest::newRow("bad character")
+            << "a/b" << QList<MsgResult>{}
+            << "The mixer profile name cannot contain any of the following characters:\r\n"
+               "\\ / : * ? \" < > | "
+            << int(MixerProfiles::SaveOutcome::Kept);
+        QTest::newRow("blank") << "   " << QList<MsgResult>{}
+                               << "The mixer profile name cannot be blank"
+                               << int(MixerProfiles::SaveOutcome::Kept);
+        QTest::newRow("existing, No") << " Old" << QList<MsgResult>{MsgResult::No}
+                                      << "Are you sure you want to overwrite existing profile "
+                                         "with same name?"
+                                      << int(MixerProfiles::SaveOutcome::Kept);
+        QTest::newRow("existing, Yes") << "Old " << QList<MsgResult>{MsgResult::Yes}
+                                       << "Are you sure you want to overwrite existing profile "
+                                          "with same name?"
+                                       << int(MixerProfiles::SaveOutcome::Overwritten);
+    }
+
+    void saveRules()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QList<MsgResult>, answers);
+        QFETCH(QString, asked);
+        QFETCH(int, outcome);
+        QDir().mkpath(Profiles().Folder());
+        const QByteArray old = "nightreel-mixer-profile 1\n";
+        WriteFile(Profiles().PathOf("Old"), old);
+        m_tc->messageBox.answers = answers;
+
+        QCOMPARE(int(Profiles().SaveMixerProfile(typed, m_tc->messageBox)), outcome);
+        QCOMPARE(m_tc->messageBox.asked.size(), 1);
+        QCOMPARE(m_tc->messageBox.asked[0].text, asked);
+        QFile file(Profiles().PathOf("Old"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const bool replaced = file.readAll() != old;
+        QCOMPARE(replaced, outcome == int(MixerProfiles::SaveOutcome::Overwritten));
+        QCOMPARE(Profiles().Names(), QStringList{"Old"});
+    }
+
+    void saveWithoutServerIsLogged()
+    {
+        NoServer noServer;
+        QCOMPARE(Profiles().SaveMixerProfile("Night", m_tc->messageBox),
+                 MixerProfiles::SaveOutcome::Failed);
+        const QList<LogEntry> entries = Entries(*m_tc);
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(entries[0].type, 1);
+        QCOMPARE(entries[0].message, QString("Error saving mixer profile"));
+        QCOMPARE(entries[0].details, QString("Error number = 1"));
+        QVERIFY(m_tc->messageBox.asked.isEmpty());
+    }
+
+    void masterVolume_data()
+    {
+        QTest::addColumn<QStringList>("before"); // pactl's volumes of the default sink
+        QTest::addColumn<int>("read");
+        QTest::addColumn<int>("set");   // -1: no SetVolume
+        QTest::addColumn<int>("after"); // per cent of every channel after SetVolume
+        QTest::newRow("reads 37") << QStringList{"37%"} << 37 << -1 << -1;
+        QTest::newRow("reads the first channel") << QStringList{"20%", "80%"} << 20 << -1 << -1;
+        QTest::newRow("amplified reads the top") << QStringList{"150%"} << 100 << -1 << -1;
+        QTest::newRow("150 sets the normal volume")
+            << QStringList{"20%", "80%"} << 20 << 150 << 100;
+        QTest::newRow("-5 sets silence") << QStringList{"50%"} << 50 << -5 << 0;
+        QTest::newRow("every channel alike") << QStringList{"20%", "80%"} << 20 << 60 << 60;
+    }
+
+    void masterVolume()
+    {
+        QFETCH(QStringList, before);
+        QFETCH(int, read);
+        QFETCH(int, set);
+        QFETCH(int, after);
+        QVERIFY(Run(QStringList{"set-sink-volume", "recsink"} + before));
+        EventLog& log = m_tc->ctx->log;
+        QCOMPARE(Volume::GetVolume(log, m_tc->mixer), read);
+        if (set != -1) {
+            QVERIFY(Volume::SetVolume(log, m_tc->mixer, set));
+            const Volumes volumes = VolumesOf("sink", "recsink");
+            QCOMPARE(volumes.size(), 2);
+            for (uint channel : volumes)
+                QVERIFY2(std::abs(double(channel) - after * 65536 / 100.0) <= 1.0,
+                         qPrintable(QString::number(channel)));
+        }
+        QVERIFY(Entries(*m_tc).isEmpty());
+    }
+
+    void noServerChangesNothing()
+    {
+        QVERIFY(Run({"set-sink-volume", "recsink", "42%"}));
+        const Volumes volumes = VolumesOf("sink", "recsink");
+        {
+            NoServer noServer;
+            QCOMPARE(Volume::GetVolume(m_tc->ctx->log, m_tc->mixer), -1);
+            QVERIFY(!Volume::SetVolume(m_tc->ctx->log, m_tc->mixer, 80));
+        }
+        QCOMPARE(VolumesOf("sink", "recsink"), volumes);
+        QVERIFY(Entries(*m_tc).isEmpty());
+    }
+
+    // The mixer path is one program, blanks and quotes included; one that can't be started
+    // is logged and nothing is shown.
+    void launchMixer_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("executable");
+        QTest::newRow("blanks in the path") << "sound mixer --tab 3" << true;
+        QTest::newRow("a quote in the path") << "my \"mixer\"" << true;
+        QTest::newRow("not executable") << "mixer" << false;
+        QTest::newRow("gone") << "" << false;
+    }
+
+    void launchMixer()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, executable);
+        const QString folder = m_tc->Root() + "/mixer app";
+        QDir().mkpath(folder);
+        const QString program = folder + "/" + (name.isEmpty() ? "vanished" : name);
+        const QString ran = m_tc->Root() + "/ran";
+        if (!name.isEmpty()) {
+            WriteFile(program, ("#!/bin/sh\necho \"$#\" > '" + ran + "'\n").toUtf8());
+            if (executable)
+                QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
+        }
+        DetachedProcessLauncher launcher;
+        LaunchMixer(m_tc->ctx->log, launcher, program);
+
+        const QList<LogEntry> entries = Entries(*m_tc);
+        QVERIFY(m_tc->messageBox.asked.isEmpty());
+        if (executable) {
+            QVERIFY(entries.isEmpty());
+            // The script writes how many arguments it was given: none.
+            const auto written = [&] {
+                QFile file(ran);
+                return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+            };
+            QTRY_COMPARE_WITH_TIMEOUT(written(), QByteArray("0"), 5000);
+            return;
+        }
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(entries[0].type, 2);
+        QCOMPARE(entries[0].message, QString("Mixer Control Not Found"));
+        QCOMPARE(entries[0].details, kNotFoundDetails);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMixerProfiles)
+#include "test_mixerprofiles.moc"
