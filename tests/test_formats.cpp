@@ -11,7 +11,7 @@ const QString kSection = QStringLiteral("Settings");
 
 QByteArray Mp3Extra(const QByteArray& record)
 {
-    return record.mid(CodecCatalogue::WaveFormatExSize);
+    return record.mid(WaveFormatRecord::Size);
 }
 
 void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
@@ -181,8 +181,7 @@ private slots:
         copy.CopyFrom(source);
         QCOMPARE(copy.Record(), source.Record());
         QCOMPARE(copy.nSamplesPerSec(), 32000u);
-        QCOMPARE(QByteArray(reinterpret_cast<const char*>(copy.byteWfxExtraPtr()), 12),
-                 Mp3Extra(source.Record()));
+        QCOMPARE(copy.WaveFormat().extra, Mp3Extra(source.Record()));
         QCOMPARE(copy.TextCompressionMethod, source.TextCompressionMethod);
         QVERIFY(copy.ConvertToMP3);
         QVERIFY(!copy.SaveMP3FileExtension);

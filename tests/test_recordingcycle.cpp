@@ -6,10 +6,11 @@
 #include "Programs.h"
 #include "PulseFixture.h"
 #include "TestContext.h"
+#include "formats/CodecCatalogue.h"
 #include "formats/ModuleFileTime.h"
-#include "recording/RecParms.h"
 #include "recording/RecordingControl.h"
 #include "shell/Heartbeat.h"
+#include "taskcontract/RecParms.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -466,10 +467,7 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
     QVERIFY(ctx.appStatus.Recording());
     const std::optional<RecParms> parms = RecParms::Read(c.control->link.ParameterFile());
     QVERIFY(parms);
-    QCOMPARE(parms->wFormatTag, qint16(1));
-    QCOMPARE(parms->nChannels, 2);
-    QCOMPARE(parms->nSamplesPerSec, 22050);
-    QCOMPARE(parms->nBitsPerSample, 16);
+    QCOMPARE(parms->format.Encode(), CodecCatalogue::PcmRecord(2, 22050, 16));
     const QString capture = c.folder + "/060126_120000.WAV.TMP";
     QCOMPARE(parms->outputPath, capture);
 

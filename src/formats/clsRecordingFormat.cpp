@@ -9,14 +9,13 @@
 #include "shell/AppContext.h"
 #include "store/Recordset.h"
 
-#include <QtEndian>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 
 namespace {
 
-constexpr int RecordSize = CodecCatalogue::WaveFormatExSize;
+constexpr int RecordSize = WaveFormatRecord::Size;
 
 QString BoolText(bool value)
 {
@@ -65,54 +64,36 @@ void clsRecordingFormat::Initialize(qint32 maxSize)
     nMaxExtraBytes = qint16(std::min<qint32>(maxSize - RecordSize, 256));
 }
 
-const quint8* clsRecordingFormat::wfxPtr()
-{
-    return m_wfx.data();
-}
-
-const quint8* clsRecordingFormat::byteWfxExtraPtr()
-{
-    return m_byteWfxExtra.data();
-}
-
 QByteArray clsRecordingFormat::Record() const
 {
-    return QByteArray(reinterpret_cast<const char*>(m_block.data()), RecordSize + m_cbSize);
+    return QByteArray(reinterpret_cast<const char*>(m_block.data()), RecordSize + m_wfx.cbSize);
+}
+
+void clsRecordingFormat::FitExtraBytes()
+{
+    m_wfx.extra = m_wfx.extra.left(m_wfx.cbSize).leftJustified(m_wfx.cbSize, '\0');
 }
 
 // Fields to block: the 18 bytes and cbSize extra bytes.
 void clsRecordingFormat::WriteBlock()
 {
-    uchar* p = m_wfx.data();
-    qToLittleEndian<quint16>(m_wFormatTag, p);
-    qToLittleEndian<quint16>(m_nChannels, p + 2);
-    qToLittleEndian<quint32>(m_nSamplesPerSec, p + 4);
-    qToLittleEndian<quint32>(m_nAvgBytesPerSec, p + 8);
-    qToLittleEndian<quint16>(m_nBlockAlign, p + 12);
-    qToLittleEndian<quint16>(m_nBitsPerSample, p + 14);
-    qToLittleEndian<quint16>(m_cbSize, p + 16);
-    if (m_block.size() < size_t(RecordSize + m_cbSize))
+    const QByteArray record = m_wfx.Encode();
+    if (m_block.size() < size_t(record.size()))
         throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Format block too small"));
-    std::memcpy(m_block.data(), m_wfx.data(), RecordSize);
-    std::memcpy(m_block.data() + RecordSize, m_byteWfxExtra.data(), m_cbSize);
+    std::memcpy(m_block.data(), record.constData(), size_t(record.size()));
 }
 
 // Block to fields. A cbSize beyond the block's room (a foreign wave file's format chunk)
 // is cut to that room and written back, so that the two copies still agree.
 void clsRecordingFormat::DecodeBlock()
 {
-    if (m_block.size() < size_t(RecordSize))
+    const std::optional<WaveFormatRecord> decoded = WaveFormatRecord::Decode(
+        QByteArray(reinterpret_cast<const char*>(m_block.data()), qsizetype(m_block.size())));
+    if (!decoded)
         throw RuntimeError(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
-    const uchar* p = m_block.data();
-    m_wFormatTag = qFromLittleEndian<quint16>(p);
-    m_nChannels = qFromLittleEndian<quint16>(p + 2);
-    m_nSamplesPerSec = qFromLittleEndian<quint32>(p + 4);
-    m_nAvgBytesPerSec = qFromLittleEndian<quint32>(p + 8);
-    m_nBlockAlign = qFromLittleEndian<quint16>(p + 12);
-    m_nBitsPerSample = qFromLittleEndian<quint16>(p + 14);
-    m_cbSize = std::min<quint16>(qFromLittleEndian<quint16>(p + 16), quint16(nMaxExtraBytes));
-    m_byteWfxExtra.fill(0);
-    std::memcpy(m_byteWfxExtra.data(), p + RecordSize, m_cbSize);
+    m_wfx = *decoded;
+    m_wfx.cbSize = std::min<quint16>(m_wfx.cbSize, quint16(nMaxExtraBytes));
+    FitExtraBytes();
     WriteBlock();
 }
 
@@ -124,15 +105,16 @@ void clsRecordingFormat::SetWaveFormatEx(quint16 wFormatTag, quint16 nChannels,
     Trap(m_ctx.log, "SetWaveFormatEx", [&] {
         if (cbSize > quint16(nMaxExtraBytes))
             throw RuntimeError(9, QStringLiteral("Subscript out of range"));
-        m_wFormatTag = wFormatTag;
-        m_nChannels = nChannels;
-        m_nSamplesPerSec = nSamplesPerSec;
-        m_nAvgBytesPerSec = nAvgBytesPerSec;
-        m_nBlockAlign = nBlockAlign;
-        m_nBitsPerSample = nBitsPerSample;
-        m_cbSize = cbSize;
+        m_wfx.wFormatTag = wFormatTag;
+        m_wfx.nChannels = nChannels;
+        m_wfx.nSamplesPerSec = nSamplesPerSec;
+        m_wfx.nAvgBytesPerSec = nAvgBytesPerSec;
+        m_wfx.nBlockAlign = nBlockAlign;
+        m_wfx.nBitsPerSample = nBitsPerSample;
+        m_wfx.cbSize = cbSize;
         if (cbSize > 0 && extra)
-            std::memcpy(m_byteWfxExtra.data(), extra, cbSize);
+            m_wfx.extra = QByteArray(reinterpret_cast<const char*>(extra), cbSize);
+        FitExtraBytes();
         WriteBlock();
         CalculateTextCompressionMethodString();
     });
@@ -141,12 +123,12 @@ void clsRecordingFormat::SetWaveFormatEx(quint16 wFormatTag, quint16 nChannels,
 void clsRecordingFormat::SetToPcmPhoneQuality()
 {
     Trap(m_ctx.log, "SetToPcmPhoneQuality", [&] {
-        m_wFormatTag = WAVE_FORMAT_PCM;
-        m_nChannels = 1;
-        m_nSamplesPerSec = 11025;
-        m_nAvgBytesPerSec = 11025;
-        m_nBlockAlign = 1;
-        m_nBitsPerSample = 8;
+        m_wfx.wFormatTag = WAVE_FORMAT_PCM;
+        m_wfx.nChannels = 1;
+        m_wfx.nSamplesPerSec = 11025;
+        m_wfx.nAvgBytesPerSec = 11025;
+        m_wfx.nBlockAlign = 1;
+        m_wfx.nBitsPerSample = 8;
         WriteBlock();
         CalculateTextCompressionMethodString();
     });
@@ -155,12 +137,12 @@ void clsRecordingFormat::SetToPcmPhoneQuality()
 void clsRecordingFormat::SetToPcm(quint16 nChannels, quint32 nSamplesPerSec, quint16 nBitsPerSample)
 {
     Trap(m_ctx.log, "SetToPcm", [&] {
-        m_wFormatTag = WAVE_FORMAT_PCM;
-        m_nChannels = nChannels;
-        m_nSamplesPerSec = nSamplesPerSec;
-        m_nBitsPerSample = nBitsPerSample;
-        m_nBlockAlign = quint16(Text::RoundHalfEven(double(nChannels) * nBitsPerSample / 8.0));
-        m_nAvgBytesPerSec = quint32(m_nBlockAlign) * nSamplesPerSec;
+        m_wfx.wFormatTag = WAVE_FORMAT_PCM;
+        m_wfx.nChannels = nChannels;
+        m_wfx.nSamplesPerSec = nSamplesPerSec;
+        m_wfx.nBitsPerSample = nBitsPerSample;
+        m_wfx.nBlockAlign = quint16(Text::RoundHalfEven(double(nChannels) * nBitsPerSample / 8.0));
+        m_wfx.nAvgBytesPerSec = quint32(m_wfx.nBlockAlign) * nSamplesPerSec;
         WriteBlock();
         CalculateTextCompressionMethodString();
     });
@@ -169,7 +151,7 @@ void clsRecordingFormat::SetToPcm(quint16 nChannels, quint32 nSamplesPerSec, qui
 void clsRecordingFormat::CopyFrom(const clsRecordingFormat& other)
 {
     Trap(m_ctx.log, "CopyFrom", [&] {
-        const size_t count = std::min(m_block.size(), size_t(RecordSize + other.m_cbSize));
+        const size_t count = std::min(m_block.size(), size_t(RecordSize + other.m_wfx.cbSize));
         std::memcpy(m_block.data(), other.m_block.data(), count);
         DecodeBlock();
         TextCompressionMethod = other.TextCompressionMethod;
@@ -191,7 +173,7 @@ QString clsRecordingFormat::GetFormatTagDetailsString()
 {
     QString text;
     Trap(m_ctx.log, "GetFormatTagDetailsString", [&] {
-        if (!CodecCatalogue::FormatTagName(m_wFormatTag, text))
+        if (!CodecCatalogue::FormatTagName(m_wfx.wFormatTag, text))
             text = QStringLiteral("ERROR");
     });
     return text;
@@ -212,7 +194,7 @@ void clsRecordingFormat::CalculateTextCompressionMethodString()
     Trap(m_ctx.log, "CalculateTextCompressionMethodString", [&] {
         TextCompressionMethod = GetFormatTagDetailsString() + u' ' + GetFormatDetailsString();
         TextCompressionMethodShort = TextCompressionMethod;
-        if (m_wFormatTag == WAVE_FORMAT_MPEGLAYER3) {
+        if (m_wfx.wFormatTag == WAVE_FORMAT_MPEGLAYER3) {
             TextCompressionMethod += QStringLiteral("   (");
             TextCompressionMethod +=
                 ConvertToMP3 ? QStringLiteral("Record in PCM format and convert to MP3; ")
@@ -226,15 +208,13 @@ void clsRecordingFormat::CalculateTextCompressionMethodString()
 
 QByteArray clsRecordingFormat::StoredExtraBytes() const
 {
-    QByteArray bytes(reinterpret_cast<const char*>(m_byteWfxExtra.data()), m_cbSize);
-    bytes.append('\0');
-    return bytes;
+    return m_wfx.extra + '\0';
 }
 
 void clsRecordingFormat::SaveDefaultFormatInfo()
 {
     Trap(m_ctx.log, "SaveDefaultFormatInfo", [&] {
-        if (m_wFormatTag != WAVE_FORMAT_MPEGLAYER3) {
+        if (m_wfx.wFormatTag != WAVE_FORMAT_MPEGLAYER3) {
             SaveMP3FileExtension = true;
             ConvertToMP3 = RunsOnWindows9x;
         }
@@ -255,13 +235,13 @@ void clsRecordingFormat::SaveDefaultFormatInfo()
         rs.SetValue(QStringLiteral("VersionMajor"), NIGHTREEL_VERSION_MAJOR);
         rs.SetValue(QStringLiteral("VersionMinor"), NIGHTREEL_VERSION_MINOR);
         rs.SetValue(QStringLiteral("VersionRev"), NIGHTREEL_VERSION_REV);
-        rs.SetValue(QStringLiteral("wfxdflt_wFormatTag"), m_wFormatTag);
-        rs.SetValue(QStringLiteral("wfxdflt_nChannels"), m_nChannels);
-        rs.SetValue(QStringLiteral("wfxdflt_nSamplesPerSec"), m_nSamplesPerSec);
-        rs.SetValue(QStringLiteral("wfxdflt_nAvgBytesPerSec"), m_nAvgBytesPerSec);
-        rs.SetValue(QStringLiteral("wfxdflt_nBlockAlign"), m_nBlockAlign);
-        rs.SetValue(QStringLiteral("wfxdflt_nBitsPerSample"), m_nBitsPerSample);
-        rs.SetValue(QStringLiteral("wfxdflt_cbSize"), m_cbSize);
+        rs.SetValue(QStringLiteral("wfxdflt_wFormatTag"), m_wfx.wFormatTag);
+        rs.SetValue(QStringLiteral("wfxdflt_nChannels"), m_wfx.nChannels);
+        rs.SetValue(QStringLiteral("wfxdflt_nSamplesPerSec"), m_wfx.nSamplesPerSec);
+        rs.SetValue(QStringLiteral("wfxdflt_nAvgBytesPerSec"), m_wfx.nAvgBytesPerSec);
+        rs.SetValue(QStringLiteral("wfxdflt_nBlockAlign"), m_wfx.nBlockAlign);
+        rs.SetValue(QStringLiteral("wfxdflt_nBitsPerSample"), m_wfx.nBitsPerSample);
+        rs.SetValue(QStringLiteral("wfxdflt_cbSize"), m_wfx.cbSize);
         rs.AppendChunk(QStringLiteral("wfxdfltExtra"), StoredExtraBytes());
         rs.Update();
     });
@@ -292,16 +272,10 @@ qint16 clsRecordingFormat::ReadDefaultFormatInfo()
         const int cb = RequireValue(rs, QStringLiteral("wfxdflt_cbSize")).toInt();
 
         if (cb >= 0 && cb <= nMaxExtraBytes) {
-            m_wFormatTag = tag;
-            m_nChannels = channels;
-            m_nSamplesPerSec = rate;
-            m_nAvgBytesPerSec = avg;
-            m_nBlockAlign = align;
-            m_nBitsPerSample = bits;
-            m_cbSize = quint16(cb);
-            const QByteArray extra = rs.GetChunk(QStringLiteral("wfxdfltExtra"), 0, cb);
-            m_byteWfxExtra.fill(0);
-            std::memcpy(m_byteWfxExtra.data(), extra.constData(), size_t(extra.size()));
+            m_wfx = {
+                tag,   channels, rate,        avg,
+                align, bits,     quint16(cb), rs.GetChunk(QStringLiteral("wfxdfltExtra"), 0, cb)};
+            FitExtraBytes();
         } else {
             // A row made for compression drivers with larger formats than this machine
             // has. This object can't hold its extra bytes, so it keeps the cbSize it had
@@ -345,13 +319,13 @@ void clsRecordingFormat::ReadFormat(Recordset& rs)
 
 void clsRecordingFormat::WriteFormat(Recordset& rs) const
 {
-    rs.SetValue(QStringLiteral("wfx_wFormatTag"), m_wFormatTag);
-    rs.SetValue(QStringLiteral("wfx_nChannels"), m_nChannels);
-    rs.SetValue(QStringLiteral("wfx_nSamplesPerSec"), m_nSamplesPerSec);
-    rs.SetValue(QStringLiteral("wfx_nAvgBytesPerSec"), m_nAvgBytesPerSec);
-    rs.SetValue(QStringLiteral("wfx_nBlockAlign"), m_nBlockAlign);
-    rs.SetValue(QStringLiteral("wfx_nBitsPerSample"), m_nBitsPerSample);
-    rs.SetValue(QStringLiteral("wfx_cbSize"), m_cbSize);
+    rs.SetValue(QStringLiteral("wfx_wFormatTag"), m_wfx.wFormatTag);
+    rs.SetValue(QStringLiteral("wfx_nChannels"), m_wfx.nChannels);
+    rs.SetValue(QStringLiteral("wfx_nSamplesPerSec"), m_wfx.nSamplesPerSec);
+    rs.SetValue(QStringLiteral("wfx_nAvgBytesPerSec"), m_wfx.nAvgBytesPerSec);
+    rs.SetValue(QStringLiteral("wfx_nBlockAlign"), m_wfx.nBlockAlign);
+    rs.SetValue(QStringLiteral("wfx_nBitsPerSample"), m_wfx.nBitsPerSample);
+    rs.SetValue(QStringLiteral("wfx_cbSize"), m_wfx.cbSize);
     clsProgramFlags flags;
     flags.SetConvertToMP3(ConvertToMP3);
     flags.SetSaveMP3FileExtension(SaveMP3FileExtension);
@@ -364,7 +338,7 @@ float clsRecordingFormat::CalcStorageMbytesSng(qint32 Seconds) const
 {
     float mbytes = 0.0f;
     Trap(m_ctx.log, "CalcStorageMbytesSng", [&] {
-        const float perSecond = float(m_nAvgBytesPerSec) / 1024.0f / 1024.0f;
+        const float perSecond = float(m_wfx.nAvgBytesPerSec) / 1024.0f / 1024.0f;
         mbytes = float(double(perSecond) * double(Seconds));
     });
     return mbytes;
@@ -374,9 +348,9 @@ qint32 clsRecordingFormat::CalcSecondsFromMbytes(float Mbytes) const
 {
     qint32 seconds = 0;
     Trap(m_ctx.log, "CalcSecondsFromMbytes", [&] {
-        if (m_nAvgBytesPerSec == 0)
+        if (m_wfx.nAvgBytesPerSec == 0)
             return;
-        const float exact = Mbytes * 1024.0f * 1024.0f / float(m_nAvgBytesPerSec);
+        const float exact = Mbytes * 1024.0f * 1024.0f / float(m_wfx.nAvgBytesPerSec);
         const float rounded = std::nearbyint(exact);
         if (!(rounded >= -2147483648.0f && rounded < 2147483648.0f))
             throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "taskcontract/WaveFormatRecord.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QtGlobal>
-#include <array>
 #include <vector>
 
 class AppContext;
@@ -24,8 +25,8 @@ public:
     clsRecordingFormat& operator=(const clsRecordingFormat&) = delete;
     ~clsRecordingFormat();
 
-    static constexpr quint16 WAVE_FORMAT_PCM = 1;
-    static constexpr quint16 WAVE_FORMAT_MPEGLAYER3 = 85;
+    static constexpr quint16 WAVE_FORMAT_PCM = WaveFormatRecord::TagPcm;
+    static constexpr quint16 WAVE_FORMAT_MPEGLAYER3 = WaveFormatRecord::TagMpegLayer3;
 
     // Capacity for extra bytes: the block size less the 18 bytes of the record.
     qint16 nMaxExtraBytes = 0;
@@ -41,17 +42,15 @@ public:
 
     void Initialize(qint32 maxSize);
 
-    quint16 cbSize() const { return m_cbSize; }
-    quint16 wFormatTag() const { return m_wFormatTag; }
-    quint16 nChannels() const { return m_nChannels; }
-    quint32 nSamplesPerSec() const { return m_nSamplesPerSec; }
-    quint32 nAvgBytesPerSec() const { return m_nAvgBytesPerSec; }
-    quint16 nBlockAlign() const { return m_nBlockAlign; }
-    quint16 nBitsPerSample() const { return m_nBitsPerSample; }
-    // The decoded 18 bytes, little-endian as on disk.
-    const quint8* wfxPtr();
-    // The decoded extra bytes; room for 256.
-    const quint8* byteWfxExtraPtr();
+    quint16 cbSize() const { return m_wfx.cbSize; }
+    quint16 wFormatTag() const { return m_wfx.wFormatTag; }
+    quint16 nChannels() const { return m_wfx.nChannels; }
+    quint32 nSamplesPerSec() const { return m_wfx.nSamplesPerSec; }
+    quint32 nAvgBytesPerSec() const { return m_wfx.nAvgBytesPerSec; }
+    quint16 nBlockAlign() const { return m_wfx.nBlockAlign; }
+    quint16 nBitsPerSample() const { return m_wfx.nBitsPerSample; }
+    // The decoded record; its extra holds the cbSize extra bytes.
+    const WaveFormatRecord& WaveFormat() const { return m_wfx; }
     // The block: the whole record with its extra bytes, MwfxSize() bytes long.
     quint8* mwfx() { return m_block.data(); }
     int MwfxSize() const { return int(m_block.size()); }
@@ -94,18 +93,12 @@ public:
 private:
     void WriteBlock();
     void DecodeBlock();
+    // Keeps the extra bytes at cbSize: cut, or filled up with zeros.
+    void FitExtraBytes();
 
     AppContext& m_ctx;
     std::vector<quint8> m_block;
-    quint16 m_wFormatTag = 0;
-    quint16 m_nChannels = 0;
-    quint32 m_nSamplesPerSec = 0;
-    quint32 m_nAvgBytesPerSec = 0;
-    quint16 m_nBlockAlign = 0;
-    quint16 m_nBitsPerSample = 0;
-    quint16 m_cbSize = 0;
-    std::array<quint8, 18> m_wfx{};
-    std::array<quint8, 256> m_byteWfxExtra{};
+    WaveFormatRecord m_wfx;
 };
 
 // The rules that differ for Windows 95 and 98 take their "any other Windows" branch here.

@@ -6,12 +6,12 @@
 #include "diagnostics/Trap.h"
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
-#include "recording/RecParms.h"
 #include "recording/RecordingFileName.h"
 #include "recording/RecordingTaskErrors.h"
 #include "shell/AppContext.h"
 #include "shell/StatusBarPlus.h"
 #include "sideactions/LaunchCommands.h"
+#include "taskcontract/RecParms.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -235,17 +235,7 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
                       Options::TimeText(AutomationDate::TimePart(StartTime));
     parms.outputPath = status.RecordingFile;
     parms.lengthSeconds = status.DurationSeconds;
-    parms.wFormatTag = qint16(capture->wFormatTag());
-    parms.nChannels = capture->nChannels();
-    parms.nSamplesPerSec = qint32(capture->nSamplesPerSec());
-    parms.nAvgBytesPerSec = qint32(capture->nAvgBytesPerSec());
-    parms.nBlockAlign = capture->nBlockAlign();
-    parms.nBitsPerSample = capture->nBitsPerSample();
-    parms.cbSize = capture->cbSize();
-    if (parms.cbSize > 256)
-        throw RuntimeError(9, QStringLiteral("Subscript out of range"));
-    const quint8* extra = const_cast<clsRecordingFormat*>(capture)->byteWfxExtraPtr();
-    parms.extra = QByteArray(reinterpret_cast<const char*>(extra), parms.cbSize);
+    parms.format = capture->WaveFormat();
 
     // The keep-alive runs from before the parameter file is written.
     link.KeepAliveMissCount = 0;

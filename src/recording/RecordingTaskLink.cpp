@@ -4,6 +4,7 @@
 #include "diagnostics/Trap.h"
 #include "recording/RecordingTaskErrors.h"
 #include "shell/AppContext.h"
+#include "taskcontract/RecParms.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -63,7 +64,7 @@ QString RecordingTaskLink::ServerName() const
 
 QString RecordingTaskLink::ParameterFile() const
 {
-    return m_ctx.folders.runtimeFolder + u'/' + QString::fromLatin1(ParameterFileName);
+    return RecParms::PathIn(m_ctx.folders.runtimeFolder);
 }
 
 void RecordingTaskLink::OnNewConnection()

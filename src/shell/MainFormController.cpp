@@ -7,6 +7,7 @@
 #include "platform/AudioDevices.h"
 #include "scheduling/ModuleUtility.h"
 #include "shell/AppContext.h"
+#include "taskcontract/RecParms.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,7 +21,7 @@ MainFormController::MainFormController(AppContext& ctx, QObject* parent)
 
 QString MainFormController::ParameterFile() const
 {
-    return m_ctx.folders.runtimeFolder + QStringLiteral("/RECPARMS.TMP");
+    return RecParms::PathIn(m_ctx.folders.runtimeFolder);
 }
 
 void MainFormController::Form_Load()
