@@ -180,7 +180,7 @@ void TestRecordingControl::stopRequest()
     ctx.recordingStatus.ProgramId = programId;
     ctx.recordingStatus.ConvertToMP3 = convert;
     for (int i = 0; i < queued; ++i)
-        f.control->Mp3ConvertQueue.append(std::make_shared<clsConvertToMP3Request>(ctx));
+        f.control->Mp3ConvertQueue.append(std::make_shared<clsConvertToMP3Request>());
     f.tc.messageBox.answers << (answerYes ? MsgResult::Yes : MsgResult::No);
 
     f.control->HandleStopRecordingRequest(confirm);

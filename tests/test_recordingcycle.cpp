@@ -452,8 +452,8 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
     Cycle c;
     AppContext& ctx = c.ctx();
     ctx.recordingStatus.ProgramId = -1;
-    const quint8 extra[12] = {1, 0, 2, 0, 0, 0, 0x20, 0x01, 1, 0, 0x71, 0x05};
-    c.control->ManualFormat.SetWaveFormatEx(85, 2, 22050, 8000, 1, 0, 12, extra);
+    c.control->ManualFormat.SetWaveFormatEx(
+        ctx.log, WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(2, 22050, 64)).value());
     c.control->ManualFormat.ConvertToMP3 = true;
     c.control->ManualFormat.SaveMP3FileExtension = true;
     c.control->FreeMegabytes = [](const QString&) {

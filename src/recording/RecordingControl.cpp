@@ -4,6 +4,7 @@
 #include "common/MessageBox.h"
 #include "common/RuntimeError.h"
 #include "diagnostics/Trap.h"
+#include "formats/FormatStore.h"
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
 #include "recording/RecordingFileName.h"
@@ -60,8 +61,6 @@ QString WithClosingSeparator(const QString& folder)
 RecordingControl::RecordingControl(AppContext& ctx, QObject* parent)
     : QObject(parent)
     , link(ctx)
-    , ManualFormat(ctx)
-    , Format(ctx)
     , m_ctx(ctx)
 {
     FreeMegabytes = [](const QString& folder) {
@@ -96,7 +95,7 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
     clsRecordingStatus& status = m_ctx.recordingStatus;
     const QString softwareName = SoftwareName();
     QString folder = m_ctx.options.DefaultRecordingDirectory;
-    clsRecordingFormat chosen(m_ctx);
+    clsRecordingFormat chosen;
     QString description;
     QString userName;
     QString prefix;
@@ -133,7 +132,7 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
         userName = TextColumn(programs, QStringLiteral("FilenameUser"), false);
         prefix = TextColumn(programs, QStringLiteral("FilenamePrefix"), false);
         suffix = TextColumn(programs, QStringLiteral("FilenameSuffix"), false);
-        chosen.ReadFormat(programs);
+        ReadFormat(m_ctx.log, chosen, programs);
     } else if (!folder.isEmpty()) {
         description = Description;
         chosen.CopyFrom(ManualFormat);
@@ -181,7 +180,7 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
         QFile::remove(finalFile);
     } else {
         status.ConvertToMP3 = true;
-        pcmCapture = std::make_unique<clsRecordingFormat>(m_ctx);
+        pcmCapture = std::make_unique<clsRecordingFormat>();
         pcmCapture->SetToPcm(chosen.nChannels(), chosen.nSamplesPerSec(), 16);
         capture = pcmCapture.get();
         // The MP3 and its PCM source exist side by side until the conversion ends.
@@ -193,7 +192,7 @@ void RecordingControl::StartRecordingSteps(qint32& ProgramId, double StartTime, 
                                          chosen.SaveMP3FileExtension, baseName, extension);
         status.RecordingFile = folder + baseName + QStringLiteral(".WAV.TMP");
         QFile::remove(status.RecordingFile);
-        ConvertRequest = std::make_shared<clsConvertToMP3Request>(m_ctx);
+        ConvertRequest = std::make_shared<clsConvertToMP3Request>();
         clsConvertToMP3Request& request = *ConvertRequest;
         request.SourceFile = status.RecordingFile;
         request.DestinationFile = finalFile;
@@ -427,7 +426,7 @@ void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString
     Trap(m_ctx.log, "DoEndOfRecordingStuff", [&] {
         // The row describes what the file holds, so pauses and late starts show in its times.
         const float size = ModuleFileTime::GetFileSizeMbytes(File);
-        const qint32 seconds = Format.CalcSecondsFromMbytes(size);
+        const qint32 seconds = Format.CalcSecondsFromMbytes(m_ctx.log, size);
         const double end = ModuleFileTime::FileDateTime(File);
         const double start = AutomationDate::AddSeconds(end, -seconds);
 

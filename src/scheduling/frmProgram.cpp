@@ -705,7 +705,7 @@ bool frmProgram::CommandOkChecks()
                                    "modify the recording time or remove/disable the conflicting "
                                    "program.\n\nConflicting Program Description: ") +
                         other);
-    if (CheckFor2GbLimit(m_ctx, m_ctx.ProgramFormFormat, DurationSeconds))
+    if (CheckFor2GbLimit(m_ctx.messageBox, m_ctx.ProgramFormFormat, DurationSeconds))
         return false;
     if (m_ctx.options.ConfirmLongRecordings &&
         DurationSeconds > qint32(m_ctx.options.LongRecordingHours) * 3600) {

@@ -12,9 +12,7 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , registry(*this)
     , database(*this)
     , scheduler(*this)
-    , ProgramFormat(*this)
-    , ProgramFormFormat(*this)
-    , WfxDefault(*this)
+    , defaultFormats(log, registry, options, database.DataInfo)
 {
 }
 

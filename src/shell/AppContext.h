@@ -2,6 +2,7 @@
 
 #include "diagnostics/EventLog.h"
 #include "diagnostics/clsError.h"
+#include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
 #include "scheduling/Scheduler.h"
 #include "shell/clsAppStatus.h"
@@ -53,6 +54,8 @@ public:
     clsRecordingFormat ProgramFormat;
     clsRecordingFormat ProgramFormFormat;
     clsRecordingFormat WfxDefault;
+    // Where WfxDefault is read from and saved to.
+    DefaultFormatStore defaultFormats;
     // False until the end of the first activation: the timers idle until then.
     bool appReady = false;
     // Asks the running MP3 conversion to stop at its next step.

@@ -48,7 +48,7 @@ void MainFormController::InitializeForFirstActivation(const FolderChooser& choos
     Trap(m_ctx.log, "Main Form Load", [&] {
         m_ctx.database.InitializeControls();
         CheckDefaultRecordingDirectory(chooser);
-        GetWfxDefault(m_ctx);
+        m_ctx.defaultFormats.GetWfxDefault(m_ctx.WfxDefault);
         m_ctx.scheduler.ScheduleNextRecording();
         heartbeat.Start();
     });
@@ -163,7 +163,7 @@ void MainFormController::mnuRestoreOriginalDb_Click()
     m_ctx.database.CheckDatabaseMissing();
     emit ListsReplaced();
     // The new Info row holds the format in force, not that of the empty file.
-    m_ctx.WfxDefault.SaveDefaultFormatInfo();
+    m_ctx.defaultFormats.SaveDefaultFormatInfo(m_ctx.WfxDefault);
     m_ctx.scheduler.ScheduleNextRecording();
     m_ctx.appStatus.SetMaintenance(false);
 }
