@@ -10,7 +10,7 @@
 // reads it once from there.
 struct RecParms {
     static constexpr const char* FileName = "RECPARMS.TMP";
-    // The file in that folder.
+    // The path of the parameter file in that folder.
     static QString PathIn(const QString& folder);
 
     QString softwareName;
