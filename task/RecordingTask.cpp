@@ -1,6 +1,6 @@
 #include "RecordingTask.h"
 
-#include "recording/RecordingTaskErrors.h"
+#include "taskcontract/TaskErrors.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -17,12 +17,9 @@ constexpr int FragmentMilliseconds = 100;
 constexpr int ReadyWaitMilliseconds = 2000;
 // A killed task loses at most this much of the header's account of the data.
 constexpr int HeaderUpdateMilliseconds = 2000;
-constexpr qint32 Mp3FormatTag = 85;
-constexpr qint32 PcmFormatTag = 1;
-
-bool IsDialogRate(qint32 rate)
+bool IsDialogRate(quint32 rate)
 {
-    for (qint32 r : {8000, 11025, 12000, 16000, 22050, 24000, 32000, 44100, 48000}) {
+    for (quint32 r : {8000, 11025, 12000, 16000, 22050, 24000, 32000, 44100, 48000}) {
         if (r == rate)
             return true;
     }
@@ -101,22 +98,21 @@ int RecordingTask::Prepare()
 {
     const QString folder = QFileInfo(m_serverName).absolutePath();
     bool opened = false;
-    const std::optional<RecParms> parms =
-        RecParms::Read(folder + u'/' + QString::fromLatin1(ParameterFileName), &opened);
+    const std::optional<RecParms> parms = RecParms::Read(RecParms::PathIn(folder), &opened);
     if (!opened)
         return TaskError::ParameterFileLocked;
     if (!parms)
         return TaskError::ParameterFileBad;
     m_parms = *parms;
 
-    const RecParms& p = m_parms;
-    if (p.nChannels < 1 || p.nChannels > 2 || !IsDialogRate(p.nSamplesPerSec))
+    const WaveFormatRecord& f = m_parms.format;
+    if (f.nChannels < 1 || f.nChannels > 2 || !IsDialogRate(f.nSamplesPerSec))
         return TaskError::BadFormat;
-    if (p.wFormatTag == PcmFormatTag) {
-        if ((p.nBitsPerSample != 8 && p.nBitsPerSample != 16) ||
-            p.nBlockAlign != p.nChannels * p.nBitsPerSample / 8)
+    if (f.wFormatTag == WaveFormatRecord::TagPcm) {
+        if ((f.nBitsPerSample != 8 && f.nBitsPerSample != 16) ||
+            f.nBlockAlign != f.nChannels * f.nBitsPerSample / 8)
             return TaskError::BadFormat;
-    } else if (p.wFormatTag == Mp3FormatTag) {
+    } else if (f.wFormatTag == WaveFormatRecord::TagMpegLayer3) {
         m_mp3 = true;
         if (const int code = OpenEncoder())
             return code;
@@ -126,8 +122,8 @@ int RecordingTask::Prepare()
 
     if (const int code = OpenCapture())
         return code;
-    const bool bareMp3 = m_mp3 && p.outputPath.toUpper().endsWith(QLatin1String(".MP3"));
-    if (const int code = m_file.Create(p, bareMp3))
+    const bool bareMp3 = m_mp3 && m_parms.outputPath.toUpper().endsWith(QLatin1String(".MP3"));
+    if (const int code = m_file.Create(m_parms, bareMp3))
         return code;
     m_sinceHeaderUpdate.start();
     return 0;
@@ -138,11 +134,12 @@ int RecordingTask::OpenEncoder()
     m_lame = lame_init();
     if (!m_lame)
         return TaskError::OutOfMemory;
-    lame_set_num_channels(m_lame, m_parms.nChannels);
-    lame_set_in_samplerate(m_lame, m_parms.nSamplesPerSec);
-    lame_set_out_samplerate(m_lame, m_parms.nSamplesPerSec);
-    lame_set_brate(m_lame, m_parms.nAvgBytesPerSec * 8 / 1000);
-    lame_set_mode(m_lame, m_parms.nChannels == 1 ? MONO : JOINT_STEREO);
+    const WaveFormatRecord& f = m_parms.format;
+    lame_set_num_channels(m_lame, f.nChannels);
+    lame_set_in_samplerate(m_lame, int(f.nSamplesPerSec));
+    lame_set_out_samplerate(m_lame, int(f.nSamplesPerSec));
+    lame_set_brate(m_lame, qint32(f.nAvgBytesPerSec) * 8 / 1000);
+    lame_set_mode(m_lame, f.nChannels == 1 ? MONO : JOINT_STEREO);
     lame_set_VBR(m_lame, vbr_off);
     // The stream is written as it comes; there is no going back for a VBR header.
     lame_set_bWriteVbrTag(m_lame, 0);
@@ -156,10 +153,10 @@ int RecordingTask::OpenCapture()
 {
     pa_sample_spec& sampleSpec = m_spec;
     // An MP3 recording is captured as 16-bit PCM and encoded on the way to disk.
-    const bool eightBit = !m_mp3 && m_parms.nBitsPerSample == 8;
+    const bool eightBit = !m_mp3 && m_parms.format.nBitsPerSample == 8;
     sampleSpec.format = eightBit ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE;
-    sampleSpec.channels = uint8_t(m_parms.nChannels);
-    sampleSpec.rate = uint32_t(m_parms.nSamplesPerSec);
+    sampleSpec.channels = uint8_t(m_parms.format.nChannels);
+    sampleSpec.rate = m_parms.format.nSamplesPerSec;
     m_frameBytes = pa_frame_size(&sampleSpec);
 
     // Without a fragment size the server hands over audio in chunks of about two seconds.
@@ -302,7 +299,7 @@ int RecordingTask::Store(const char* pcm, size_t bytes)
     m_mp3Buffer.resize(size_t(1.25 * frames + 7200));
     const auto* samples = reinterpret_cast<const short*>(pcm);
     const int encoded =
-        m_parms.nChannels == 2
+        m_parms.format.nChannels == 2
             ? lame_encode_buffer_interleaved(m_lame, const_cast<short*>(samples), frames,
                                              m_mp3Buffer.data(), int(m_mp3Buffer.size()))
             : lame_encode_buffer(m_lame, samples, samples, frames, m_mp3Buffer.data(),

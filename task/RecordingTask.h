@@ -1,8 +1,8 @@
 #pragma once
 
 #include "WaveFile.h"
-#include "recording/RecParms.h"
-#include "recording/TaskProtocol.h"
+#include "taskcontract/RecParms.h"
+#include "taskcontract/TaskProtocol.h"
 
 #include <QElapsedTimer>
 #include <QLocalSocket>

@@ -1,6 +1,6 @@
 #include "WaveFile.h"
 
-#include "recording/RecordingTaskErrors.h"
+#include "taskcontract/TaskErrors.h"
 
 #include <QtEndian>
 
@@ -53,31 +53,23 @@ int WaveFile::Create(const RecParms& parms, bool bareMp3)
         return 0;
 
     if (!WriteChunkHeader("RIFF", 0) || !Write("WAVE", 4))
-        return 1014;
+        return TaskError::RiffChunkFailed;
     m_riffSizeAt = 4;
 
-    QByteArray format(18, '\0');
-    qToLittleEndian<quint16>(quint16(parms.wFormatTag), format.data());
-    qToLittleEndian<quint16>(quint16(parms.nChannels), format.data() + 2);
-    qToLittleEndian<quint32>(quint32(parms.nSamplesPerSec), format.data() + 4);
-    qToLittleEndian<quint32>(quint32(parms.nAvgBytesPerSec), format.data() + 8);
-    qToLittleEndian<quint16>(quint16(parms.nBlockAlign), format.data() + 12);
-    qToLittleEndian<quint16>(quint16(parms.nBitsPerSample), format.data() + 14);
-    qToLittleEndian<quint16>(quint16(parms.cbSize), format.data() + 16);
-    format += parms.extra;
+    QByteArray format = parms.format.Encode();
     const quint32 formatSize = quint32(format.size());
     if (formatSize % 2)
         format.append('\0');
     if (!WriteChunkHeader("fmt ", formatSize))
-        return 1015;
+        return TaskError::FormatChunkFailed;
     if (!Write(format.constData(), size_t(format.size())))
-        return 1016;
+        return TaskError::FormatDataFailed;
 
     if (!WriteChunkHeader("fact", 4))
-        return 1017;
+        return TaskError::FactChunkFailed;
     m_factAt = std::ftell(m_file);
     if (!Write("\0\0\0\0", 4))
-        return 1018;
+        return TaskError::FactDataFailed;
 
     const auto textSize = [](const QString& text) {
         const quint32 size = quint32(text.toLocal8Bit().size() + 1);
@@ -86,19 +78,19 @@ int WaveFile::Create(const RecParms& parms, bool bareMp3)
     const quint32 listSize =
         4 + textSize(parms.softwareName) + textSize(parms.description) + textSize(parms.startText);
     if (!WriteChunkHeader("LIST", listSize) || !Write("INFO", 4))
-        return 1030;
+        return TaskError::ListChunkFailed;
     if (!WriteTextChunk("ISFT", parms.softwareName))
-        return 1022;
+        return TaskError::SoftwareTextFailed;
     if (!WriteTextChunk("INAM", parms.description))
-        return 1023;
+        return TaskError::SubjectNameTextFailed;
     if (!WriteTextChunk("ICRD", parms.startText))
-        return 1034;
+        return TaskError::SubjectDateTextFailed;
 
     if (!WriteChunkHeader("data", 0))
-        return 1019;
+        return TaskError::DataChunkFailed;
     m_dataStart = std::ftell(m_file);
     m_dataSizeAt = m_dataStart - 4;
-    return UpdateHeader() == 0 ? 0 : 1019;
+    return UpdateHeader() == 0 ? 0 : TaskError::DataChunkFailed;
 }
 
 int WaveFile::Append(const void* bytes, size_t length)
@@ -113,13 +105,13 @@ int WaveFile::Append(const void* bytes, size_t length)
 int WaveFile::UpdateHeader()
 {
     if (m_bareMp3)
-        return std::fflush(m_file) == 0 ? 0 : 1035;
+        return std::fflush(m_file) == 0 ? 0 : TaskError::FlushFailed;
     const quint32 dataSize = quint32(m_dataBytes);
     const quint32 riffSize = quint32(m_dataStart - 8) + dataSize + dataSize % 2;
     const bool ok = WriteAt(m_riffSizeAt, riffSize) && WriteAt(m_factAt, m_frames) &&
                     WriteAt(m_dataSizeAt, dataSize) && std::fseek(m_file, 0, SEEK_END) == 0 &&
                     std::fflush(m_file) == 0;
-    return ok ? 0 : 1035;
+    return ok ? 0 : TaskError::FlushFailed;
 }
 
 int WaveFile::Close()

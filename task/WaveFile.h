@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recording/RecParms.h"
+#include "taskcontract/RecParms.h"
 
 #include <cstdio>
 

@@ -1,4 +1,5 @@
 #include "formats/CodecCatalogue.h"
+#include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
 #include "support/TestContext.h"
 
@@ -11,7 +12,7 @@ const QString kSection = QStringLiteral("Settings");
 
 QByteArray Mp3Extra(const QByteArray& record)
 {
-    return record.mid(CodecCatalogue::WaveFormatExSize);
+    return record.mid(WaveFormatRecord::Size);
 }
 
 void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
@@ -54,9 +55,9 @@ private slots:
         QFETCH(float, mbytes);
         QFETCH(qint32, seconds);
         TestContext tc;
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.SetToPcm(2, rate, 16);
-        QCOMPARE(format.CalcSecondsFromMbytes(mbytes), seconds);
+        QCOMPARE(format.CalcSecondsFromMbytes(tc.ctx->log, mbytes), seconds);
     }
 
     void blockAlignOfOddSampleSizesIsRounded_data()
@@ -66,15 +67,13 @@ private slots:
         QTest::addColumn<quint16>("blockAlign");
         QTest::newRow("1 x 12 bits") << quint16(1) << quint16(12) << quint16(2);
         QTest::newRow("1 x 4 bits, half to even") << quint16(1) << quint16(4) << quint16(0);
-        QTest::newRow("3 x 4 bits") << quint16(3) << quint16(4) << quint16(2);
     }
     void blockAlignOfOddSampleSizesIsRounded()
     {
         QFETCH(quint16, channels);
         QFETCH(quint16, bits);
         QFETCH(quint16, blockAlign);
-        TestContext tc;
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.SetToPcm(channels, 8000, bits);
         QCOMPARE(format.nBlockAlign(), blockAlign);
         QCOMPARE(format.nAvgBytesPerSec(), quint32(blockAlign) * 8000);
@@ -112,10 +111,10 @@ private slots:
         QFETCH(qint32, seconds);
         QFETCH(QString, refusal);
         TestContext tc;
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         SetFromRecord(format, record);
         format.ConvertToMP3 = convert;
-        QCOMPARE(CheckFor2GbLimit(*tc.ctx, format, seconds), !refusal.isEmpty());
+        QCOMPARE(CheckFor2GbLimit(tc.messageBox, format, seconds), !refusal.isEmpty());
         if (refusal.isEmpty()) {
             QVERIFY(tc.messageBox.asked.isEmpty());
         } else {
@@ -158,8 +157,7 @@ private slots:
         QFETCH(bool, mp3Extension);
         QFETCH(QString, text);
         QFETCH(QString, shortText);
-        TestContext tc;
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.ConvertToMP3 = convert;
         format.SaveMP3FileExtension = mp3Extension;
         SetFromRecord(format, record);
@@ -171,22 +169,24 @@ private slots:
 
     void copyTakesRecordTextsAndFlagsButNotTheConfirmation()
     {
-        TestContext tc;
-        clsRecordingFormat source(*tc.ctx);
+        clsRecordingFormat source;
         source.ConvertToMP3 = true;
         source.SaveMP3FileExtension = false;
         SetFromRecord(source, CodecCatalogue::Mp3Record(2, 32000, 96));
         source.FormatChanged = -1;
-        clsRecordingFormat copy(*tc.ctx);
+        clsRecordingFormat copy;
         copy.CopyFrom(source);
         QCOMPARE(copy.Record(), source.Record());
         QCOMPARE(copy.nSamplesPerSec(), 32000u);
-        QCOMPARE(QByteArray(reinterpret_cast<const char*>(copy.byteWfxExtraPtr()), 12),
-                 Mp3Extra(source.Record()));
+        QCOMPARE(copy.WaveFormat().extra, Mp3Extra(source.Record()));
         QCOMPARE(copy.TextCompressionMethod, source.TextCompressionMethod);
         QVERIFY(copy.ConvertToMP3);
         QVERIFY(!copy.SaveMP3FileExtension);
         QCOMPARE(copy.FormatChanged, qint16(0));
+        // A plain copy takes everything.
+        const clsRecordingFormat whole = source;
+        QCOMPARE(whole.Record(), source.Record());
+        QCOMPARE(whole.FormatChanged, qint16(-1));
     }
 
     void programRowsKeepTheFormatWithOneMoreByte_data()
@@ -202,14 +202,14 @@ private slots:
         QFETCH(int, flags);
         TestContext tc;
         tc.OpenDatabase();
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         SetFromRecord(format, record);
         format.SaveMP3FileExtension = flags & 1;
         format.ConvertToMP3 = flags & 2;
         Recordset& rs = tc.ctx->database.DataPrograms.recordset();
         rs.AddNew();
         rs.SetValue("Description", "Show");
-        format.WriteFormat(rs);
+        WriteFormat(format, rs);
         rs.Update();
         rs.SetBookmark(rs.LastModified());
 
@@ -219,8 +219,8 @@ private slots:
         QCOMPARE(q.value(0).toByteArray(), Mp3Extra(record) + QByteArray(1, '\0'));
         QCOMPARE(q.value(1).toInt(), flags);
 
-        clsRecordingFormat read(*tc.ctx);
-        read.ReadFormat(rs);
+        clsRecordingFormat read;
+        ReadFormat(tc.ctx->log, read, rs);
         QCOMPARE(read.Record(), record);
         QCOMPARE(read.SaveMP3FileExtension, bool(flags & 1));
         QCOMPARE(read.ConvertToMP3, bool(flags & 2));
@@ -241,9 +241,9 @@ private slots:
                        {"wfx_cbSize", 0}});
         Recordset& rs = tc.ctx->database.DataPrograms.recordset();
         rs.MoveFirst();
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.ConvertToMP3 = format.SaveMP3FileExtension = true;
-        format.ReadFormat(rs);
+        ReadFormat(tc.ctx->log, format, rs);
         QVERIFY(!format.ConvertToMP3);
         QVERIFY(!format.SaveMP3FileExtension);
         QCOMPARE(format.nSamplesPerSec(), 8000u);
@@ -253,17 +253,17 @@ private slots:
     {
         TestContext tc;
         tc.OpenDatabase();
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.ConvertToMP3 = true;
         format.SaveMP3FileExtension = false;
         SetFromRecord(format, CodecCatalogue::Mp3Record(1, 16000, 24));
-        format.SaveDefaultFormatInfo();
+        tc.ctx->defaultFormats.SaveDefaultFormatInfo(format);
         QCOMPARE(tc.CountRows("Info"), 1);
         QCOMPARE(tc.ctx->registry.GetSetting(kSection, "ConvertToMP3", {}), QStringLiteral("True"));
         QCOMPARE(tc.ctx->registry.GetSetting(kSection, "SaveMP3FileExtension", {}),
                  QStringLiteral("False"));
 
-        GetWfxDefault(*tc.ctx);
+        tc.ctx->defaultFormats.GetWfxDefault(tc.ctx->WfxDefault);
         clsRecordingFormat& dflt = tc.ctx->WfxDefault;
         QCOMPARE(dflt.Record(), format.Record());
         QVERIFY(dflt.ConvertToMP3);
@@ -277,11 +277,11 @@ private slots:
         tc.OpenDatabase();
         tc.ctx->registry.SaveSetting(kSection, "SaveMP3FileExtension", "False");
         tc.ctx->registry.SaveSetting(kSection, "ConvertToMP3", "True");
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.SaveMP3FileExtension = false;
         format.ConvertToMP3 = true;
         format.SetToPcm(2, 22050, 16);
-        format.SaveDefaultFormatInfo();
+        tc.ctx->defaultFormats.SaveDefaultFormatInfo(format);
         QCOMPARE(tc.ctx->registry.GetSetting(kSection, "SaveMP3FileExtension", {}),
                  QStringLiteral("True"));
         QCOMPARE(tc.ctx->registry.GetSetting(kSection, "ConvertToMP3", {}),
@@ -308,7 +308,7 @@ private slots:
             QVERIFY(q.exec("DELETE FROM Info"));
             tc.ctx->database.DataInfo.Requery();
         }
-        GetWfxDefault(*tc.ctx);
+        tc.ctx->defaultFormats.GetWfxDefault(tc.ctx->WfxDefault);
         const clsRecordingFormat& dflt = tc.ctx->WfxDefault;
         QCOMPARE(dflt.Record(), CodecCatalogue::PcmRecord(1, 11025, 8));
         QCOMPARE(dflt.TextCompressionMethod, QStringLiteral("PCM 11.025 kHz, 8 Bit, Mono"));
@@ -323,8 +323,8 @@ private slots:
         QCOMPARE(q.value(1).toInt(), 11025);
         QCOMPARE(q.value(2).toInt(), 0);
         QCOMPARE(q.value(3).toByteArray(), QByteArray(1, '\0'));
-        clsRecordingFormat next(*tc.ctx);
-        QCOMPARE(next.ReadDefaultFormatInfo(), qint16(0));
+        clsRecordingFormat next;
+        QCOMPARE(tc.ctx->defaultFormats.ReadDefaultFormatInfo(next), qint16(0));
     }
 
     void theCatalogueListsOnlyWhatItCanDescribe()

@@ -132,7 +132,7 @@ private slots:
     void aRateOutsideTheListSelectsNothingAndTheNextChangeTakes11025()
     {
         TestContext tc;
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.SetToPcm(1, 6000, 16);
         frmRecordFormat form(*tc.ctx, format, nullptr);
         auto* rates = Control<QComboBox>(&form, "ComboSampleRate");
@@ -164,7 +164,7 @@ private slots:
         QFETCH(int, bits);
         QFETCH(QString, preset);
         TestContext tc;
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         // Start from a preset, so that one is selected before the change.
         format.SetToPcm(2, 44100, 16);
         frmRecordFormat form(*tc.ctx, format, nullptr);
@@ -201,7 +201,7 @@ private slots:
         TestContext tc;
         if (!setting.isEmpty())
             tc.ctx->registry.SaveSetting(kSection, "ShowMp3Warning", setting);
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.ConvertToMP3 = convert;
         SetFromRecord(format, CodecCatalogue::Mp3Record(1, 22050, 32));
         frmRecordFormat form(*tc.ctx, format, nullptr);
@@ -224,7 +224,7 @@ private slots:
         QWidget main;
         main.move(300, 200);
         main.show();
-        clsRecordingFormat format(*tc.ctx);
+        clsRecordingFormat format;
         format.SetToPcmPhoneQuality();
         frmRecordFormat form(*tc.ctx, format, &main);
         // 200 twips right of and below the main window's corner.
@@ -261,12 +261,12 @@ private slots:
             QSKIP("set NIGHTREEL_FORM_PNG to a folder to get pictures of the forms");
         QDir().mkpath(folder);
         TestContext tc;
-        clsRecordingFormat pcm(*tc.ctx);
+        clsRecordingFormat pcm;
         pcm.SetToPcm(2, 44100, 16);
         frmRecordFormat pcmForm(*tc.ctx, pcm, nullptr);
         pcmForm.adjustSize();
         pcmForm.grab().save(folder + "/frmRecordFormat-pcm.png");
-        clsRecordingFormat mp3(*tc.ctx);
+        clsRecordingFormat mp3;
         mp3.ConvertToMP3 = true;
         mp3.SaveMP3FileExtension = true;
         SetFromRecord(mp3, CodecCatalogue::Mp3Record(2, 44100, 128));

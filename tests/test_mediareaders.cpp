@@ -241,8 +241,8 @@ private slots:
         ModuleFileTime::SetFileDateTime(path, FileDate());
         RecordingRow row;
         QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
-        QVERIFY(!MediaReaders::ReadNightreelCompressedWave(*tc.ctx, path, row));
-        QVERIFY(MediaReaders::ReadOtherWave(*tc.ctx, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelCompressedWave(path, row));
+        QVERIFY(MediaReaders::ReadOtherWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("tone.wav"));
         QCOMPARE(row.CompressionMethod, format);
         QCOMPARE(row.EndTime, FileDate());
@@ -300,7 +300,7 @@ private slots:
         const QString path = WriteFile(tc.Root(), "news.wav", wave);
         RecordingRow row;
         QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
-        QVERIFY(MediaReaders::ReadNightreelCompressedWave(*tc.ctx, path, row));
+        QVERIFY(MediaReaders::ReadNightreelCompressedWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("News "));
         QCOMPARE(row.CompressionMethod,
                  QStringLiteral("MPEG Layer-3 128 kBit/s, 44,100 Hz, Stereo"));
@@ -338,7 +338,7 @@ private slots:
             WriteFile(tc.Root(), "foreign.wav", NightreelWave(FileDate(), "SoundTool 5"));
         RecordingRow row;
         QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
-        QVERIFY(!MediaReaders::ReadNightreelCompressedWave(*tc.ctx, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelCompressedWave(path, row));
         QVERIFY(MediaReaders::ReadRecordingRow(*tc.ctx, path, row));
         QCOMPARE(row.Title, QStringLiteral("foreign.wav"));
         QCOMPARE(AutomationDate::SecondsBetween(row.StartTime, row.EndTime), qint64(10));

@@ -184,8 +184,7 @@ void TestRecordingControl::stopRequest()
     f.recorder.Status().ProgramId = programId;
     f.recorder.Status().ConvertToMP3 = convert;
     for (int i = 0; i < queued; ++i)
-        f.recorder.Conversion().Mp3ConvertQueue.append(
-            std::make_shared<clsConvertToMP3Request>(ctx));
+        f.recorder.Conversion().Mp3ConvertQueue.append(std::make_shared<clsConvertToMP3Request>());
     f.tc.messageBox.answers << (answerYes ? MsgResult::Yes : MsgResult::No);
 
     f.control->HandleStopRecordingRequest(confirm);

@@ -7,9 +7,10 @@
 #include "Programs.h"
 #include "PulseFixture.h"
 #include "TestContext.h"
+#include "formats/CodecCatalogue.h"
 #include "formats/ModuleFileTime.h"
-#include "recording/RecParms.h"
 #include "sideactions/MixerProfiles.h"
+#include "taskcontract/RecParms.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -434,8 +435,8 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
     Cycle c;
     AppContext& ctx = c.ctx();
     c.recorder().Status().ProgramId = -1;
-    const quint8 extra[12] = {1, 0, 2, 0, 0, 0, 0x20, 0x01, 1, 0, 0x71, 0x05};
-    c.control->ManualFormat.SetWaveFormatEx(85, 2, 22050, 8000, 1, 0, 12, extra);
+    c.control->ManualFormat.SetWaveFormatEx(
+        ctx.log, WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(2, 22050, 64)).value());
     c.control->ManualFormat.ConvertToMP3 = true;
     c.control->ManualFormat.SaveMP3FileExtension = true;
     c.tc.diskSpace.freeMb = 100000.0;
@@ -447,10 +448,7 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
     QVERIFY(ctx.appStatus.Recording());
     const std::optional<RecParms> parms = RecParms::Read(c.recorder().Link().ParameterFile());
     QVERIFY(parms);
-    QCOMPARE(parms->wFormatTag, qint16(1));
-    QCOMPARE(parms->nChannels, 2);
-    QCOMPARE(parms->nSamplesPerSec, 22050);
-    QCOMPARE(parms->nBitsPerSample, 16);
+    QCOMPARE(parms->format.Encode(), CodecCatalogue::PcmRecord(2, 22050, 16));
     const QString capture = c.folder + "/060126_120000.WAV.TMP";
     QCOMPARE(parms->outputPath, capture);
 

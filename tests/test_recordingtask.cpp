@@ -4,9 +4,9 @@
 #include "TestContext.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/WaveFileChunks.h"
-#include "recording/RecParms.h"
 #include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
+#include "taskcontract/RecParms.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -142,7 +142,8 @@ bool ProcessAlive(qint64 pid)
     return ::kill(pid_t(pid), 0) == 0;
 }
 
-RecParms Parms(const QString& output, qint16 tag, int channels, int rate, int bits, int kbps)
+// The parameters of a recording in the format of the record, as the scheduler writes them.
+RecParms Parms(const QString& output, const QByteArray& record)
 {
     RecParms p;
     p.softwareName = "Nightreel 2000 1.0";
@@ -150,27 +151,7 @@ RecParms Parms(const QString& output, qint16 tag, int channels, int rate, int bi
     p.startText = "06/01/2026 12:00:00";
     p.outputPath = output;
     p.lengthSeconds = 60;
-    p.wFormatTag = tag;
-    p.nChannels = channels;
-    p.nSamplesPerSec = rate;
-    if (tag == 85) {
-        p.nBitsPerSample = 0;
-        p.nBlockAlign = 1;
-        p.nAvgBytesPerSec = kbps * 1000 / 8;
-        p.cbSize = 12;
-        // MPEGLAYER3WAVEFORMAT: id 1, flags 2, block size, frames per block 1, delay 1393.
-        QByteArray extra(12, '\0');
-        qToLittleEndian<quint16>(1, extra.data());
-        qToLittleEndian<quint32>(2, extra.data() + 2);
-        qToLittleEndian<quint16>(quint16(144 * kbps * 1000 / rate), extra.data() + 6);
-        qToLittleEndian<quint16>(1, extra.data() + 8);
-        qToLittleEndian<quint16>(1393, extra.data() + 10);
-        p.extra = extra;
-    } else {
-        p.nBitsPerSample = bits;
-        p.nBlockAlign = channels * bits / 8;
-        p.nAvgBytesPerSec = p.nBlockAlign * rate;
-    }
+    p.format = WaveFormatRecord::Decode(record).value();
     return p;
 }
 
@@ -268,7 +249,10 @@ private slots:
         QFETCH(int, kbps);
         Rig rig;
         const QString path = rig.Path(file);
-        const RecParms parms = Parms(path, qint16(tag), channels, rate, bits, kbps);
+        const QByteArray record = tag == WaveFormatRecord::TagMpegLayer3
+                                      ? CodecCatalogue::Mp3Record(channels, rate, kbps)
+                                      : CodecCatalogue::PcmRecord(channels, rate, bits);
+        const RecParms parms = Parms(path, record);
         QVERIFY(rig.Start(parms));
         QTest::qWait(2000);
         QVERIFY(rig.Stop());
@@ -304,18 +288,16 @@ private slots:
             QCOMPARE(read.software, parms.softwareName);
             QCOMPARE(read.title, parms.description);
             QCOMPARE(read.created, parms.startText);
-            QCOMPARE(int(wave.U16("fmt ", 0)), tag);
-            QCOMPARE(int(wave.U16("fmt ", 2)), channels);
-            QCOMPARE(int(wave.U32("fmt ", 4)), rate);
-            QCOMPARE(int(wave.U16("fmt ", 16)), parms.cbSize);
-            QCOMPARE(wave.bytes.mid(wave.Find("fmt ")->offset + 18, parms.cbSize), parms.extra);
+            // The task writes the very record of the scheduler's format, extra bytes and all.
+            const WaveLayout::Chunk* fmt = wave.Find("fmt ");
+            QCOMPARE(wave.bytes.mid(fmt->offset, fmt->size), record);
             const WaveLayout::Chunk* data = wave.Find("data");
             QVERIFY(data);
             QCOMPARE(data->offset + data->size + data->size % 2, wave.bytes.size());
             const double seconds = double(wave.U32("fact")) / rate;
             QVERIFY2(seconds > 1.7 && seconds < 2.6, qPrintable(QString::number(seconds)));
             if (tag == 1) {
-                QCOMPARE(data->size, wave.U32("fact") * quint32(parms.nBlockAlign));
+                QCOMPARE(data->size, wave.U32("fact") * parms.format.nBlockAlign);
                 QCOMPARE(Soxi("-r", path), QString::number(rate));
                 QCOMPARE(Soxi("-c", path), QString::number(channels));
                 QCOMPARE(Soxi("-b", path), QString::number(bits));
@@ -338,7 +320,7 @@ private slots:
     {
         Rig rig;
         const QString path = rig.Path("paused.WAV");
-        QVERIFY(rig.Start(Parms(path, 1, 1, 8000, 16, 0)));
+        QVERIFY(rig.Start(Parms(path, CodecCatalogue::PcmRecord(1, 8000, 16))));
         QTest::qWait(1000);
         QCOMPARE(rig.link->SendMessage(REC_MSG_PAUSE_TOGGLE), 0);
         QTest::qWait(1500);
@@ -357,7 +339,7 @@ private slots:
     {
         Rig rig;
         const QString path = rig.Path("killed.WAV");
-        const RecParms parms = Parms(path, 1, 2, 16000, 16, 0);
+        const RecParms parms = Parms(path, CodecCatalogue::PcmRecord(2, 16000, 16));
         QVERIFY(rig.Start(parms));
         QTest::qWait(3000);
         const qint64 pid = rig.link->StartedTasks().last();
@@ -369,10 +351,10 @@ private slots:
         QVERIFY(data);
         const qint64 onDisk = wave.bytes.size() - data->offset;
         // The header tells the data of its last update: some, and no more than is there.
-        QVERIFY(data->size >= quint32(parms.nAvgBytesPerSec));
+        QVERIFY(data->size >= parms.format.nAvgBytesPerSec);
         QVERIFY(data->size <= onDisk);
-        QVERIFY(onDisk - data->size < 3 * parms.nAvgBytesPerSec);
-        QCOMPARE(data->size, wave.U32("fact") * quint32(parms.nBlockAlign));
+        QVERIFY(onDisk - data->size < 3 * parms.format.nAvgBytesPerSec);
+        QCOMPARE(data->size, wave.U32("fact") * parms.format.nBlockAlign);
         QCOMPARE(qint64(wave.riffSize), data->offset - 8 + data->size);
         QCOMPARE(Soxi("-s", path), QString::number(wave.U32("fact")));
     }
@@ -381,7 +363,7 @@ private slots:
     {
         Rig rig;
         const QString path = rig.Path("orphan.WAV");
-        QVERIFY(rig.Start(Parms(path, 1, 1, 11025, 8, 0)));
+        QVERIFY(rig.Start(Parms(path, CodecCatalogue::PcmRecord(1, 11025, 8))));
         QTest::qWait(1200);
         const qint64 pid = rig.link->StartedTasks().last();
         rig.link.reset();
@@ -397,7 +379,8 @@ private slots:
         Rig rig;
         const QByteArray server = qgetenv("PULSE_SERVER");
         qputenv("PULSE_SERVER", ("unix:" + rig.tc.Root() + "/no-such-server").toUtf8());
-        Parms(rig.Path("none.WAV"), 1, 1, 11025, 8, 0).Write(rig.link->ParameterFile());
+        Parms(rig.Path("none.WAV"), CodecCatalogue::PcmRecord(1, 11025, 8))
+            .Write(rig.link->ParameterFile());
         QElapsedTimer elapsed;
         elapsed.start();
         const bool activated = rig.link->ActivateNightreeltask();
@@ -415,7 +398,7 @@ private slots:
     {
         Rig rig;
         const QString path = rig.Path("lost.WAV");
-        QVERIFY(rig.Start(Parms(path, 1, 1, 11025, 16, 0)));
+        QVERIFY(rig.Start(Parms(path, CodecCatalogue::PcmRecord(1, 11025, 16))));
         QSignalSpy taskError(rig.link.get(), &RecordingTaskLink::TaskError);
         m_pulse->Stop();
         QVERIFY(taskError.wait(5000));

@@ -2,9 +2,9 @@
 // attempts, removal of an old task, what the task sends during a recording, the keep-alive
 // and the stop watchdog. Also the error catalogue and the parameter file.
 #include "TestContext.h"
-#include "recording/RecParms.h"
 #include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
+#include "taskcontract/RecParms.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -163,14 +163,19 @@ private slots:
 
     void parameterFile_data()
     {
+        QTest::addColumn<int>("tag");
+        QTest::addColumn<QString>("tagLine");
         QTest::addColumn<int>("cbSize");
         QTest::addColumn<int>("lines");
-        QTest::newRow("PCM, no extra bytes") << 0 << 12;
-        QTest::newRow("MP3, 12 extra bytes") << 12 << 24;
-        QTest::newRow("the most the buffer holds") << 256 << 268;
+        QTest::newRow("PCM, no extra bytes") << 1 << " 1 " << 0 << 12;
+        QTest::newRow("MP3, 12 extra bytes") << 85 << " 85 " << 12 << 24;
+        // The tag is a signed 16-bit number in the file.
+        QTest::newRow("the most the buffer holds, a high tag") << 65534 << "-2 " << 256 << 268;
     }
     void parameterFile()
     {
+        QFETCH(int, tag);
+        QFETCH(QString, tagLine);
         QFETCH(int, cbSize);
         QFETCH(int, lines);
         TestContext tc;
@@ -180,10 +185,11 @@ private slots:
         p.startText = "06/01/2026 23:00:00";
         p.outputPath = tc.Root() + "/Jazz.WAV";
         p.lengthSeconds = 3600;
-        p.nSamplesPerSec = 44100;
-        p.cbSize = cbSize;
+        p.format.wFormatTag = quint16(tag);
+        p.format.nSamplesPerSec = 44100;
+        p.format.cbSize = quint16(cbSize);
         for (int i = 0; i < cbSize; ++i)
-            p.extra.append(char(i * 7));
+            p.format.extra.append(char(i * 7));
         const QString path = tc.ctx->folders.runtimeFolder + "/RECPARMS.TMP";
         QFile::remove(path);
         p.Write(path);
@@ -195,6 +201,7 @@ private slots:
         QCOMPARE(written.size(), lines);
         // Numbers in the run time's print form: a sign place and a trailing blank.
         QCOMPARE(written.at(4), QString(" 3600 "));
+        QCOMPARE(written.at(5), tagLine);
         QCOMPARE(written.at(7), QString(" 44100 "));
         QCOMPARE(written.at(11), " " + QString::number(cbSize) + " ");
 
@@ -204,15 +211,14 @@ private slots:
         QCOMPARE(read->description, QString("Jazz at night"));
         QCOMPARE(read->outputPath, p.outputPath);
         QCOMPARE(read->startText, p.startText);
-        QCOMPARE(read->nSamplesPerSec, 44100);
-        QCOMPARE(read->extra, p.extra);
+        QCOMPARE(read->format, p.format);
     }
 
     void anOversizedFormatCannotBeWritten()
     {
         TestContext tc;
         RecParms p;
-        p.cbSize = 257;
+        p.format.cbSize = 257;
         QVERIFY_THROWS_EXCEPTION(RuntimeError, p.Write(tc.Root() + "/RECPARMS.TMP"));
     }
 

@@ -8,45 +8,6 @@ namespace CodecCatalogue {
 
 namespace {
 
-struct Record {
-    quint16 formatTag = 0;
-    quint16 channels = 0;
-    quint32 samplesPerSec = 0;
-    quint32 avgBytesPerSec = 0;
-    quint16 blockAlign = 0;
-    quint16 bitsPerSample = 0;
-    quint16 cbSize = 0;
-};
-
-bool Decode(const QByteArray& bytes, Record& r)
-{
-    if (bytes.size() < WaveFormatExSize)
-        return false;
-    const uchar* p = reinterpret_cast<const uchar*>(bytes.constData());
-    r.formatTag = qFromLittleEndian<quint16>(p);
-    r.channels = qFromLittleEndian<quint16>(p + 2);
-    r.samplesPerSec = qFromLittleEndian<quint32>(p + 4);
-    r.avgBytesPerSec = qFromLittleEndian<quint32>(p + 8);
-    r.blockAlign = qFromLittleEndian<quint16>(p + 12);
-    r.bitsPerSample = qFromLittleEndian<quint16>(p + 14);
-    r.cbSize = qFromLittleEndian<quint16>(p + 16);
-    return true;
-}
-
-QByteArray Encode(const Record& r)
-{
-    QByteArray bytes(WaveFormatExSize, '\0');
-    uchar* p = reinterpret_cast<uchar*>(bytes.data());
-    qToLittleEndian<quint16>(r.formatTag, p);
-    qToLittleEndian<quint16>(r.channels, p + 2);
-    qToLittleEndian<quint32>(r.samplesPerSec, p + 4);
-    qToLittleEndian<quint32>(r.avgBytesPerSec, p + 8);
-    qToLittleEndian<quint16>(r.blockAlign, p + 12);
-    qToLittleEndian<quint16>(r.bitsPerSample, p + 14);
-    qToLittleEndian<quint16>(r.cbSize, p + 16);
-    return bytes;
-}
-
 // MPEG 1 takes the three upper rates, MPEG 2 the middle ones, MPEG 2.5 the lowest.
 QList<int> Mp3BitRates(quint32 samplesPerSec)
 {
@@ -73,10 +34,10 @@ const QList<quint32>& SampleRates()
 bool FormatTagName(quint16 formatTag, QString& name)
 {
     switch (formatTag) {
-    case WaveFormatPcm:
+    case WaveFormatRecord::TagPcm:
         name = QStringLiteral("PCM");
         return true;
-    case WaveFormatMpegLayer3:
+    case WaveFormatRecord::TagMpegLayer3:
         name = QStringLiteral("MPEG Layer-3");
         return true;
     default:
@@ -86,31 +47,34 @@ bool FormatTagName(quint16 formatTag, QString& name)
 
 bool FormatDescription(const QByteArray& record, QString& description)
 {
-    Record r;
-    if (!Decode(record, r) || r.channels < 1 || r.channels > 2 || r.samplesPerSec == 0)
+    const std::optional<WaveFormatRecord> decoded = WaveFormatRecord::Decode(record);
+    if (!decoded)
+        return false;
+    const WaveFormatRecord& r = *decoded;
+    if (r.nChannels < 1 || r.nChannels > 2 || r.nSamplesPerSec == 0)
         return false;
     const QLocale c = QLocale::c();
-    if (r.formatTag == WaveFormatPcm) {
-        if (r.bitsPerSample != 8 && r.bitsPerSample != 16)
+    if (r.wFormatTag == WaveFormatRecord::TagPcm) {
+        if (r.nBitsPerSample != 8 && r.nBitsPerSample != 16)
             return false;
-        if (r.blockAlign != r.channels * r.bitsPerSample / 8 ||
-            r.avgBytesPerSec != quint32(r.blockAlign) * r.samplesPerSec)
+        if (r.nBlockAlign != r.nChannels * r.nBitsPerSample / 8 ||
+            r.nAvgBytesPerSec != quint32(r.nBlockAlign) * r.nSamplesPerSec)
             return false;
-        description = c.toString(r.samplesPerSec / 1000.0, 'f', 3) + QStringLiteral(" kHz, ") +
-                      QString::number(r.bitsPerSample) + QStringLiteral(" Bit, ") +
-                      ChannelsText(r.channels);
+        description = c.toString(r.nSamplesPerSec / 1000.0, 'f', 3) + QStringLiteral(" kHz, ") +
+                      QString::number(r.nBitsPerSample) + QStringLiteral(" Bit, ") +
+                      ChannelsText(r.nChannels);
         return true;
     }
-    if (r.formatTag == WaveFormatMpegLayer3) {
+    if (r.wFormatTag == WaveFormatRecord::TagMpegLayer3) {
         if (r.cbSize < Mp3ExtraBytes || record.size() < MaxFormatSize() ||
-            !SampleRates().contains(r.samplesPerSec))
+            !SampleRates().contains(r.nSamplesPerSec))
             return false;
-        const int kbits = int(r.avgBytesPerSec * 8 / 1000);
-        if (r.avgBytesPerSec * 8 % 1000 != 0 || !Mp3BitRates(r.samplesPerSec).contains(kbits))
+        const int kbits = int(r.nAvgBytesPerSec * 8 / 1000);
+        if (r.nAvgBytesPerSec * 8 % 1000 != 0 || !Mp3BitRates(r.nSamplesPerSec).contains(kbits))
             return false;
         description = QString::number(kbits) + QStringLiteral(" kBit/s, ") +
-                      QLocale(QLocale::English).toString(r.samplesPerSec) +
-                      QStringLiteral(" Hz, ") + ChannelsText(r.channels);
+                      QLocale(QLocale::English).toString(r.nSamplesPerSec) +
+                      QStringLiteral(" Hz, ") + ChannelsText(r.nChannels);
         return true;
     }
     return false;
@@ -118,39 +82,38 @@ bool FormatDescription(const QByteArray& record, QString& description)
 
 QByteArray PcmRecord(quint16 channels, quint32 samplesPerSec, quint16 bitsPerSample)
 {
-    Record r;
-    r.formatTag = WaveFormatPcm;
-    r.channels = channels;
-    r.samplesPerSec = samplesPerSec;
-    r.blockAlign = quint16(channels * bitsPerSample / 8);
-    r.avgBytesPerSec = r.blockAlign * samplesPerSec;
-    r.bitsPerSample = bitsPerSample;
-    return Encode(r);
+    WaveFormatRecord r;
+    r.wFormatTag = WaveFormatRecord::TagPcm;
+    r.nChannels = channels;
+    r.nSamplesPerSec = samplesPerSec;
+    r.nBlockAlign = quint16(channels * bitsPerSample / 8);
+    r.nAvgBytesPerSec = r.nBlockAlign * samplesPerSec;
+    r.nBitsPerSample = bitsPerSample;
+    return r.Encode();
 }
 
 QByteArray Mp3Record(quint16 channels, quint32 samplesPerSec, int kbitsPerSec)
 {
-    Record r;
-    r.formatTag = WaveFormatMpegLayer3;
-    r.channels = channels;
-    r.samplesPerSec = samplesPerSec;
-    r.avgBytesPerSec = quint32(kbitsPerSec) * 1000 / 8;
-    r.blockAlign = 1;
-    r.bitsPerSample = 0;
+    WaveFormatRecord r;
+    r.wFormatTag = WaveFormatRecord::TagMpegLayer3;
+    r.nChannels = channels;
+    r.nSamplesPerSec = samplesPerSec;
+    r.nAvgBytesPerSec = quint32(kbitsPerSec) * 1000 / 8;
+    r.nBlockAlign = 1;
+    r.nBitsPerSample = 0;
     r.cbSize = Mp3ExtraBytes;
-    QByteArray bytes = Encode(r);
     // A frame holds 1152 samples in MPEG 1 and 576 below it.
     const quint32 samplesPerFrame = samplesPerSec >= 32000 ? 1152 : 576;
     const quint16 blockSize =
         quint16(samplesPerFrame / 8 * quint32(kbitsPerSec) * 1000 / samplesPerSec);
-    uchar extra[Mp3ExtraBytes];
+    r.extra = QByteArray(Mp3ExtraBytes, '\0');
+    uchar* extra = reinterpret_cast<uchar*>(r.extra.data());
     qToLittleEndian<quint16>(1, extra);     // id: MPEG
     qToLittleEndian<quint32>(2, extra + 2); // flags: padding off
     qToLittleEndian<quint16>(blockSize, extra + 6);
     qToLittleEndian<quint16>(1, extra + 8);     // frames per block
     qToLittleEndian<quint16>(1393, extra + 10); // codec delay in samples
-    bytes.append(reinterpret_cast<const char*>(extra), Mp3ExtraBytes);
-    return bytes;
+    return r.Encode();
 }
 
 QList<QByteArray> RecordingFormats()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "taskcontract/WaveFormatRecord.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -12,10 +14,6 @@
 // and MPEG Layer-3 at the bit rates its MPEG version allows.
 namespace CodecCatalogue {
 
-constexpr quint16 WaveFormatPcm = 1;
-constexpr quint16 WaveFormatMpegLayer3 = 85;
-// The record without extra bytes.
-constexpr int WaveFormatExSize = 18;
 // An MP3 wave format carries 12 extra bytes: id, flags, block size, frames per block and
 // codec delay.
 constexpr int Mp3ExtraBytes = 12;
@@ -23,7 +21,7 @@ constexpr int Mp3ExtraBytes = 12;
 // The largest record of any format listed: the MP3 one.
 constexpr int MaxFormatSize()
 {
-    return WaveFormatExSize + Mp3ExtraBytes;
+    return WaveFormatRecord::Size + Mp3ExtraBytes;
 }
 
 // The tag's name ("PCM", "MPEG Layer-3"); false for a tag this catalogue does not know.

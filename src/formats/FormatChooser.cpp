@@ -8,13 +8,13 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <QtEndian>
 #include <cstring>
 
 namespace {
 quint16 TagOf(const QByteArray& record)
 {
-    return record.size() >= 2 ? qFromLittleEndian<quint16>(record.constData()) : 0;
+    const std::optional<WaveFormatRecord> decoded = WaveFormatRecord::Decode(record);
+    return decoded ? decoded->wFormatTag : 0;
 }
 } // namespace
 
@@ -88,16 +88,16 @@ QByteArray FormatChooser::SelectedRecord() const
 int FormatChooser::Choose(QWidget* owner, quint8* pwfx, int cbwfx)
 {
     const QByteArray current(reinterpret_cast<const char*>(pwfx), cbwfx);
-    FormatChooser chooser(
-        current.left(CodecCatalogue::WaveFormatExSize + qFromLittleEndian<quint16>(pwfx + 16)),
-        owner);
+    const std::optional<WaveFormatRecord> record = WaveFormatRecord::Decode(current);
+    FormatChooser chooser(record ? current.left(WaveFormatRecord::Size + record->cbSize) : current,
+                          owner);
     if (chooser.exec() != QDialog::Accepted)
         return 1;
-    const QByteArray record = chooser.SelectedRecord();
-    if (record.isEmpty())
+    const QByteArray selected = chooser.SelectedRecord();
+    if (selected.isEmpty())
         return 1;
-    if (record.size() > cbwfx)
+    if (selected.size() > cbwfx)
         return 2;
-    std::memcpy(pwfx, record.constData(), size_t(record.size()));
+    std::memcpy(pwfx, selected.constData(), size_t(selected.size()));
     return 0;
 }

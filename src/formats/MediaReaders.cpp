@@ -84,14 +84,14 @@ namespace MediaReaders {
 bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row)
 {
     WaveFileChunks chunks;
-    clsRecordingFormat format(ctx);
+    clsRecordingFormat format;
     if (!StartWaveRow(path, WaveFileChunk::ReadNightreelWave, chunks, format, row))
         return false;
     double created = 0.0;
     if (!Options::ParseDateText(chunks.created, created))
         return false;
     row.Title = chunks.title;
-    const qint32 seconds = format.CalcSecondsFromMbytes(row.Size);
+    const qint32 seconds = format.CalcSecondsFromMbytes(ctx.log, row.Size);
     row.StartTime = AutomationDate::AddSeconds(row.EndTime, -seconds);
 
     // A file stamped before a change of daylight saving time lies an hour off the start
@@ -108,10 +108,10 @@ bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row)
     return true;
 }
 
-bool ReadNightreelCompressedWave(AppContext& ctx, const QString& path, RecordingRow& row)
+bool ReadNightreelCompressedWave(const QString& path, RecordingRow& row)
 {
     WaveFileChunks chunks;
-    clsRecordingFormat format(ctx);
+    clsRecordingFormat format;
     if (!StartWaveRow(path, WaveFileChunk::ReadNightreelCompressedWave, chunks, format, row))
         return false;
     row.Title = chunks.title;
@@ -125,10 +125,10 @@ bool ReadNightreelCompressedWave(AppContext& ctx, const QString& path, Recording
     return true;
 }
 
-bool ReadOtherWave(AppContext& ctx, const QString& path, RecordingRow& row)
+bool ReadOtherWave(const QString& path, RecordingRow& row)
 {
     WaveFileChunks chunks;
-    clsRecordingFormat format(ctx);
+    clsRecordingFormat format;
     if (!StartWaveRow(path, WaveFileChunk::ReadOtherWave, chunks, format, row))
         return false;
     const float perSecond = format.CalcStorageMbytesSng(1);
@@ -161,8 +161,8 @@ bool ReadRecordingRow(AppContext& ctx, const QString& path, RecordingRow& row)
 {
     const QString suffix = QFileInfo(Text::Trim(path)).suffix().toUpper();
     if (suffix == QLatin1String("WAV"))
-        return ReadNightreelWave(ctx, path, row) || ReadNightreelCompressedWave(ctx, path, row) ||
-               ReadOtherWave(ctx, path, row);
+        return ReadNightreelWave(ctx, path, row) || ReadNightreelCompressedWave(path, row) ||
+               ReadOtherWave(path, row);
     if (suffix == QLatin1String("MP3"))
         return ReadMp3(path, row);
     return false;
@@ -181,7 +181,7 @@ void AddNightreelWaveToList(AppContext& ctx, const QString& path, bool& found)
 void AddNightreelCompressedWaveToList(AppContext& ctx, const QString& path, bool& found)
 {
     RecordingRow row;
-    found = MediaReaders::ReadNightreelCompressedWave(ctx, path, row);
+    found = MediaReaders::ReadNightreelCompressedWave(path, row);
     if (found)
         AddRow(ctx, row);
 }
@@ -189,7 +189,7 @@ void AddNightreelCompressedWaveToList(AppContext& ctx, const QString& path, bool
 void AddOtherWaveToList(AppContext& ctx, const QString& path)
 {
     RecordingRow row;
-    if (MediaReaders::ReadOtherWave(ctx, path, row))
+    if (MediaReaders::ReadOtherWave(path, row))
         AddRow(ctx, row);
 }
 

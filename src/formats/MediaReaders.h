@@ -25,9 +25,9 @@ namespace MediaReaders {
 // daylight saving time.
 bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row);
 // A wave file of MP3 data from this system's encoder; its length comes from the fact chunk.
-bool ReadNightreelCompressedWave(AppContext& ctx, const QString& path, RecordingRow& row);
+bool ReadNightreelCompressedWave(const QString& path, RecordingRow& row);
 // Any other wave file, titled by its name.
-bool ReadOtherWave(AppContext& ctx, const QString& path, RecordingRow& row);
+bool ReadOtherWave(const QString& path, RecordingRow& row);
 // Any existing file taken for MP3: a row, with zeros for what can't be read.
 bool ReadMp3(const QString& path, RecordingRow& row);
 

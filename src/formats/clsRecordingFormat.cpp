@@ -4,135 +4,43 @@
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
 #include "diagnostics/Trap.h"
-#include "formats/CodecCatalogue.h"
-#include "scheduling/clsProgramFlags.h"
-#include "shell/AppContext.h"
-#include "store/Recordset.h"
 
-#include <QtEndian>
-#include <algorithm>
 #include <cmath>
 #include <cstring>
 
-namespace {
-
-constexpr int RecordSize = CodecCatalogue::WaveFormatExSize;
-
-QString BoolText(bool value)
-{
-    return value ? QStringLiteral("True") : QStringLiteral("False");
-}
-
-// A stored flag as the run time converts text to a Boolean: "True", "False" or a number.
-bool ParseBoolSetting(const QString& text)
-{
-    const QString trimmed = Text::Trim(text);
-    if (trimmed.compare(QStringLiteral("True"), Qt::CaseInsensitive) == 0)
-        return true;
-    if (trimmed.compare(QStringLiteral("False"), Qt::CaseInsensitive) == 0)
-        return false;
-    bool ok = false;
-    const double number = trimmed.toDouble(&ok);
-    if (!ok)
-        throw RuntimeError(13, QStringLiteral("Type mismatch"));
-    return number != 0.0;
-}
-
-QVariant RequireValue(const Recordset& rs, const QString& field)
-{
-    const QVariant value = rs.Value(field);
-    if (value.isNull())
-        throw RuntimeError(94, QStringLiteral("Invalid use of Null"));
-    return value;
-}
-
-} // namespace
-
-clsRecordingFormat::clsRecordingFormat(AppContext& ctx)
-    : m_ctx(ctx)
-{
-    Trap(m_ctx.log, "Wave Format Class Initialize",
-         [&] { Initialize(CodecCatalogue::MaxFormatSize()); });
-}
-
-clsRecordingFormat::~clsRecordingFormat() = default;
-
-void clsRecordingFormat::Initialize(qint32 maxSize)
-{
-    if (maxSize < RecordSize)
-        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Format block too small"));
-    m_block.assign(size_t(maxSize), 0);
-    nMaxExtraBytes = qint16(std::min<qint32>(maxSize - RecordSize, 256));
-}
-
-const quint8* clsRecordingFormat::wfxPtr()
-{
-    return m_wfx.data();
-}
-
-const quint8* clsRecordingFormat::byteWfxExtraPtr()
-{
-    return m_byteWfxExtra.data();
-}
-
 QByteArray clsRecordingFormat::Record() const
 {
-    return QByteArray(reinterpret_cast<const char*>(m_block.data()), RecordSize + m_cbSize);
+    return QByteArray(reinterpret_cast<const char*>(m_block.data()),
+                      WaveFormatRecord::Size + m_wfx.cbSize);
 }
 
-// Fields to block: the 18 bytes and cbSize extra bytes.
+// Record to block. The record never holds more extra bytes than the block has room for.
 void clsRecordingFormat::WriteBlock()
 {
-    uchar* p = m_wfx.data();
-    qToLittleEndian<quint16>(m_wFormatTag, p);
-    qToLittleEndian<quint16>(m_nChannels, p + 2);
-    qToLittleEndian<quint32>(m_nSamplesPerSec, p + 4);
-    qToLittleEndian<quint32>(m_nAvgBytesPerSec, p + 8);
-    qToLittleEndian<quint16>(m_nBlockAlign, p + 12);
-    qToLittleEndian<quint16>(m_nBitsPerSample, p + 14);
-    qToLittleEndian<quint16>(m_cbSize, p + 16);
-    if (m_block.size() < size_t(RecordSize + m_cbSize))
-        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Format block too small"));
-    std::memcpy(m_block.data(), m_wfx.data(), RecordSize);
-    std::memcpy(m_block.data() + RecordSize, m_byteWfxExtra.data(), m_cbSize);
+    const QByteArray record = m_wfx.Encode();
+    Q_ASSERT(size_t(record.size()) <= m_block.size());
+    std::memcpy(m_block.data(), record.constData(), size_t(record.size()));
 }
 
-// Block to fields. A cbSize beyond the block's room (a foreign wave file's format chunk)
+// Block to record. A cbSize beyond the block's room (a foreign wave file's format chunk)
 // is cut to that room and written back, so that the two copies still agree.
 void clsRecordingFormat::DecodeBlock()
 {
-    if (m_block.size() < size_t(RecordSize))
-        throw RuntimeError(ErrorNumber::ObjectRequired, QStringLiteral("Object required"));
-    const uchar* p = m_block.data();
-    m_wFormatTag = qFromLittleEndian<quint16>(p);
-    m_nChannels = qFromLittleEndian<quint16>(p + 2);
-    m_nSamplesPerSec = qFromLittleEndian<quint32>(p + 4);
-    m_nAvgBytesPerSec = qFromLittleEndian<quint32>(p + 8);
-    m_nBlockAlign = qFromLittleEndian<quint16>(p + 12);
-    m_nBitsPerSample = qFromLittleEndian<quint16>(p + 14);
-    m_cbSize = std::min<quint16>(qFromLittleEndian<quint16>(p + 16), quint16(nMaxExtraBytes));
-    m_byteWfxExtra.fill(0);
-    std::memcpy(m_byteWfxExtra.data(), p + RecordSize, m_cbSize);
+    m_wfx = WaveFormatRecord::Decode(QByteArray(reinterpret_cast<const char*>(m_block.data()),
+                                                qsizetype(m_block.size())))
+                .value();
+    m_wfx.cbSize = std::min<quint16>(m_wfx.cbSize, nMaxExtraBytes);
+    m_wfx.extra.truncate(m_wfx.cbSize);
     WriteBlock();
 }
 
-void clsRecordingFormat::SetWaveFormatEx(quint16 wFormatTag, quint16 nChannels,
-                                         quint32 nSamplesPerSec, quint32 nAvgBytesPerSec,
-                                         quint16 nBlockAlign, quint16 nBitsPerSample,
-                                         quint16 cbSize, const quint8* extra)
+void clsRecordingFormat::SetWaveFormatEx(EventLog& log, const WaveFormatRecord& record)
 {
-    Trap(m_ctx.log, "SetWaveFormatEx", [&] {
-        if (cbSize > quint16(nMaxExtraBytes))
+    Trap(log, "SetWaveFormatEx", [&] {
+        if (record.cbSize > quint16(nMaxExtraBytes))
             throw RuntimeError(9, QStringLiteral("Subscript out of range"));
-        m_wFormatTag = wFormatTag;
-        m_nChannels = nChannels;
-        m_nSamplesPerSec = nSamplesPerSec;
-        m_nAvgBytesPerSec = nAvgBytesPerSec;
-        m_nBlockAlign = nBlockAlign;
-        m_nBitsPerSample = nBitsPerSample;
-        m_cbSize = cbSize;
-        if (cbSize > 0 && extra)
-            std::memcpy(m_byteWfxExtra.data(), extra, cbSize);
+        m_wfx = record;
+        m_wfx.extra = record.extra.left(record.cbSize).leftJustified(record.cbSize, '\0');
         WriteBlock();
         CalculateTextCompressionMethodString();
     });
@@ -140,243 +48,90 @@ void clsRecordingFormat::SetWaveFormatEx(quint16 wFormatTag, quint16 nChannels,
 
 void clsRecordingFormat::SetToPcmPhoneQuality()
 {
-    Trap(m_ctx.log, "SetToPcmPhoneQuality", [&] {
-        m_wFormatTag = WAVE_FORMAT_PCM;
-        m_nChannels = 1;
-        m_nSamplesPerSec = 11025;
-        m_nAvgBytesPerSec = 11025;
-        m_nBlockAlign = 1;
-        m_nBitsPerSample = 8;
-        WriteBlock();
-        CalculateTextCompressionMethodString();
-    });
+    m_wfx.wFormatTag = WAVE_FORMAT_PCM;
+    m_wfx.nChannels = 1;
+    m_wfx.nSamplesPerSec = 11025;
+    m_wfx.nAvgBytesPerSec = 11025;
+    m_wfx.nBlockAlign = 1;
+    m_wfx.nBitsPerSample = 8;
+    WriteBlock();
+    CalculateTextCompressionMethodString();
 }
 
 void clsRecordingFormat::SetToPcm(quint16 nChannels, quint32 nSamplesPerSec, quint16 nBitsPerSample)
 {
-    Trap(m_ctx.log, "SetToPcm", [&] {
-        m_wFormatTag = WAVE_FORMAT_PCM;
-        m_nChannels = nChannels;
-        m_nSamplesPerSec = nSamplesPerSec;
-        m_nBitsPerSample = nBitsPerSample;
-        m_nBlockAlign = quint16(Text::RoundHalfEven(double(nChannels) * nBitsPerSample / 8.0));
-        m_nAvgBytesPerSec = quint32(m_nBlockAlign) * nSamplesPerSec;
-        WriteBlock();
-        CalculateTextCompressionMethodString();
-    });
+    m_wfx.wFormatTag = WAVE_FORMAT_PCM;
+    m_wfx.nChannels = nChannels;
+    m_wfx.nSamplesPerSec = nSamplesPerSec;
+    m_wfx.nBitsPerSample = nBitsPerSample;
+    m_wfx.nBlockAlign = quint16(Text::RoundHalfEven(double(nChannels) * nBitsPerSample / 8.0));
+    m_wfx.nAvgBytesPerSec = quint32(m_wfx.nBlockAlign) * nSamplesPerSec;
+    WriteBlock();
+    CalculateTextCompressionMethodString();
 }
 
 void clsRecordingFormat::CopyFrom(const clsRecordingFormat& other)
 {
-    Trap(m_ctx.log, "CopyFrom", [&] {
-        const size_t count = std::min(m_block.size(), size_t(RecordSize + other.m_cbSize));
-        std::memcpy(m_block.data(), other.m_block.data(), count);
-        DecodeBlock();
-        TextCompressionMethod = other.TextCompressionMethod;
-        TextCompressionMethodShort = other.TextCompressionMethodShort;
-        ConvertToMP3 = other.ConvertToMP3;
-        SaveMP3FileExtension = other.SaveMP3FileExtension;
-    });
+    const qint16 confirmed = FormatChanged;
+    *this = other;
+    FormatChanged = confirmed;
 }
 
 void clsRecordingFormat::CalcRemainingVarsFromMwfx()
 {
-    Trap(m_ctx.log, "CalcRemainingVarsFromMwfx", [&] {
-        DecodeBlock();
-        CalculateTextCompressionMethodString();
-    });
+    DecodeBlock();
+    CalculateTextCompressionMethodString();
 }
 
-QString clsRecordingFormat::GetFormatTagDetailsString()
+QString clsRecordingFormat::GetFormatTagDetailsString() const
 {
     QString text;
-    Trap(m_ctx.log, "GetFormatTagDetailsString", [&] {
-        if (!CodecCatalogue::FormatTagName(m_wFormatTag, text))
-            text = QStringLiteral("ERROR");
-    });
+    if (!CodecCatalogue::FormatTagName(m_wfx.wFormatTag, text))
+        text = QStringLiteral("ERROR");
     return text;
 }
 
-QString clsRecordingFormat::GetFormatDetailsString()
+QString clsRecordingFormat::GetFormatDetailsString() const
 {
     QString text;
-    Trap(m_ctx.log, "GetFormatDetailsString", [&] {
-        if (!CodecCatalogue::FormatDescription(Record(), text))
-            text = QStringLiteral("ERROR");
-    });
+    if (!CodecCatalogue::FormatDescription(Record(), text))
+        text = QStringLiteral("ERROR");
     return text;
 }
 
 void clsRecordingFormat::CalculateTextCompressionMethodString()
 {
-    Trap(m_ctx.log, "CalculateTextCompressionMethodString", [&] {
-        TextCompressionMethod = GetFormatTagDetailsString() + u' ' + GetFormatDetailsString();
-        TextCompressionMethodShort = TextCompressionMethod;
-        if (m_wFormatTag == WAVE_FORMAT_MPEGLAYER3) {
-            TextCompressionMethod += QStringLiteral("   (");
-            TextCompressionMethod +=
-                ConvertToMP3 ? QStringLiteral("Record in PCM format and convert to MP3; ")
-                             : QStringLiteral("Record MP3 in real-time; ");
-            TextCompressionMethod += SaveMP3FileExtension ? QStringLiteral("Save as .MP3 file")
-                                                          : QStringLiteral("Save as .WAV file");
-            TextCompressionMethod += QStringLiteral(" )");
-        }
-    });
+    TextCompressionMethod = GetFormatTagDetailsString() + u' ' + GetFormatDetailsString();
+    TextCompressionMethodShort = TextCompressionMethod;
+    if (m_wfx.wFormatTag == WAVE_FORMAT_MPEGLAYER3) {
+        TextCompressionMethod += QStringLiteral("   (");
+        TextCompressionMethod += ConvertToMP3
+                                     ? QStringLiteral("Record in PCM format and convert to MP3; ")
+                                     : QStringLiteral("Record MP3 in real-time; ");
+        TextCompressionMethod += SaveMP3FileExtension ? QStringLiteral("Save as .MP3 file")
+                                                      : QStringLiteral("Save as .WAV file");
+        TextCompressionMethod += QStringLiteral(" )");
+    }
 }
 
 QByteArray clsRecordingFormat::StoredExtraBytes() const
 {
-    QByteArray bytes(reinterpret_cast<const char*>(m_byteWfxExtra.data()), m_cbSize);
-    bytes.append('\0');
-    return bytes;
-}
-
-void clsRecordingFormat::SaveDefaultFormatInfo()
-{
-    Trap(m_ctx.log, "SaveDefaultFormatInfo", [&] {
-        if (m_wFormatTag != WAVE_FORMAT_MPEGLAYER3) {
-            SaveMP3FileExtension = true;
-            ConvertToMP3 = RunsOnWindows9x;
-        }
-        m_ctx.registry.SaveSetting(QStringLiteral("Settings"),
-                                   QStringLiteral("SaveMP3FileExtension"),
-                                   BoolText(SaveMP3FileExtension));
-        m_ctx.registry.SaveSetting(QStringLiteral("Settings"), QStringLiteral("ConvertToMP3"),
-                                   BoolText(ConvertToMP3));
-        m_ctx.options.SaveMP3FileExtension = SaveMP3FileExtension;
-        m_ctx.options.ConvertToMP3 = ConvertToMP3;
-
-        Recordset& rs = m_ctx.database.DataInfo.recordset();
-        while (!rs.IsEOF() && rs.RecordCount() >= 1) {
-            rs.MoveFirst();
-            rs.Delete();
-        }
-        rs.AddNew();
-        rs.SetValue(QStringLiteral("VersionMajor"), NIGHTREEL_VERSION_MAJOR);
-        rs.SetValue(QStringLiteral("VersionMinor"), NIGHTREEL_VERSION_MINOR);
-        rs.SetValue(QStringLiteral("VersionRev"), NIGHTREEL_VERSION_REV);
-        rs.SetValue(QStringLiteral("wfxdflt_wFormatTag"), m_wFormatTag);
-        rs.SetValue(QStringLiteral("wfxdflt_nChannels"), m_nChannels);
-        rs.SetValue(QStringLiteral("wfxdflt_nSamplesPerSec"), m_nSamplesPerSec);
-        rs.SetValue(QStringLiteral("wfxdflt_nAvgBytesPerSec"), m_nAvgBytesPerSec);
-        rs.SetValue(QStringLiteral("wfxdflt_nBlockAlign"), m_nBlockAlign);
-        rs.SetValue(QStringLiteral("wfxdflt_nBitsPerSample"), m_nBitsPerSample);
-        rs.SetValue(QStringLiteral("wfxdflt_cbSize"), m_cbSize);
-        rs.AppendChunk(QStringLiteral("wfxdfltExtra"), StoredExtraBytes());
-        rs.Update();
-    });
-}
-
-qint16 clsRecordingFormat::ReadDefaultFormatInfo()
-{
-    try {
-        SaveMP3FileExtension = ParseBoolSetting(m_ctx.registry.GetSetting(
-            QStringLiteral("Settings"), QStringLiteral("SaveMP3FileExtension"),
-            QStringLiteral("True")));
-        ConvertToMP3 = ParseBoolSetting(m_ctx.registry.GetSetting(
-            QStringLiteral("Settings"), QStringLiteral("ConvertToMP3"), BoolText(RunsOnWindows9x)));
-
-        Recordset& rs = m_ctx.database.DataInfo.recordset();
-        rs.MoveFirst();
-        const quint16 tag = quint16(RequireValue(rs, QStringLiteral("wfxdflt_wFormatTag")).toInt());
-        const quint16 channels =
-            quint16(RequireValue(rs, QStringLiteral("wfxdflt_nChannels")).toInt());
-        const quint32 rate =
-            quint32(RequireValue(rs, QStringLiteral("wfxdflt_nSamplesPerSec")).toLongLong());
-        const quint32 avg =
-            quint32(RequireValue(rs, QStringLiteral("wfxdflt_nAvgBytesPerSec")).toLongLong());
-        const quint16 align =
-            quint16(RequireValue(rs, QStringLiteral("wfxdflt_nBlockAlign")).toInt());
-        const quint16 bits =
-            quint16(RequireValue(rs, QStringLiteral("wfxdflt_nBitsPerSample")).toInt());
-        const int cb = RequireValue(rs, QStringLiteral("wfxdflt_cbSize")).toInt();
-
-        if (cb >= 0 && cb <= nMaxExtraBytes) {
-            m_wFormatTag = tag;
-            m_nChannels = channels;
-            m_nSamplesPerSec = rate;
-            m_nAvgBytesPerSec = avg;
-            m_nBlockAlign = align;
-            m_nBitsPerSample = bits;
-            m_cbSize = quint16(cb);
-            const QByteArray extra = rs.GetChunk(QStringLiteral("wfxdfltExtra"), 0, cb);
-            m_byteWfxExtra.fill(0);
-            std::memcpy(m_byteWfxExtra.data(), extra.constData(), size_t(extra.size()));
-        } else {
-            // A row made for compression drivers with larger formats than this machine
-            // has. This object can't hold its extra bytes, so it keeps the cbSize it had
-            // and phone quality replaces the row.
-            SetToPcmPhoneQuality();
-            SaveDefaultFormatInfo();
-        }
-        WriteBlock();
-        CalculateTextCompressionMethodString();
-        return 0;
-    } catch (const std::exception&) {
-        return 1;
-    }
-}
-
-void clsRecordingFormat::ReadFormat(Recordset& rs)
-{
-    Trap(m_ctx.log, "ReadFormat", [&] {
-        const int cb = RequireValue(rs, QStringLiteral("wfx_cbSize")).toInt();
-        QByteArray extra;
-        if (cb > 0) {
-            extra = rs.GetChunk(QStringLiteral("wfxExtra"), 0, cb);
-            extra.append(QByteArray(cb - extra.size(), '\0'));
-        }
-        SetWaveFormatEx(
-            quint16(RequireValue(rs, QStringLiteral("wfx_wFormatTag")).toInt()),
-            quint16(RequireValue(rs, QStringLiteral("wfx_nChannels")).toInt()),
-            quint32(RequireValue(rs, QStringLiteral("wfx_nSamplesPerSec")).toLongLong()),
-            quint32(RequireValue(rs, QStringLiteral("wfx_nAvgBytesPerSec")).toLongLong()),
-            quint16(RequireValue(rs, QStringLiteral("wfx_nBlockAlign")).toInt()),
-            quint16(RequireValue(rs, QStringLiteral("wfx_nBitsPerSample")).toInt()), quint16(cb),
-            cb > 0 ? reinterpret_cast<const quint8*>(extra.constData()) : nullptr);
-        // The flags come after the texts were made: whoever shows the text recalculates it.
-        clsProgramFlags flags;
-        if (!rs.IsNull(QStringLiteral("Flags")))
-            flags.Flags = rs.Value(QStringLiteral("Flags")).toInt();
-        ConvertToMP3 = flags.ConvertToMP3();
-        SaveMP3FileExtension = flags.SaveMP3FileExtension();
-    });
-}
-
-void clsRecordingFormat::WriteFormat(Recordset& rs) const
-{
-    rs.SetValue(QStringLiteral("wfx_wFormatTag"), m_wFormatTag);
-    rs.SetValue(QStringLiteral("wfx_nChannels"), m_nChannels);
-    rs.SetValue(QStringLiteral("wfx_nSamplesPerSec"), m_nSamplesPerSec);
-    rs.SetValue(QStringLiteral("wfx_nAvgBytesPerSec"), m_nAvgBytesPerSec);
-    rs.SetValue(QStringLiteral("wfx_nBlockAlign"), m_nBlockAlign);
-    rs.SetValue(QStringLiteral("wfx_nBitsPerSample"), m_nBitsPerSample);
-    rs.SetValue(QStringLiteral("wfx_cbSize"), m_cbSize);
-    clsProgramFlags flags;
-    flags.SetConvertToMP3(ConvertToMP3);
-    flags.SetSaveMP3FileExtension(SaveMP3FileExtension);
-    rs.SetValue(QStringLiteral("Flags"), flags.Flags);
-    // The whole column is replaced, so an edited row does not keep its old bytes.
-    rs.SetValue(QStringLiteral("wfxExtra"), StoredExtraBytes());
+    return m_wfx.extra + '\0';
 }
 
 float clsRecordingFormat::CalcStorageMbytesSng(qint32 Seconds) const
 {
-    float mbytes = 0.0f;
-    Trap(m_ctx.log, "CalcStorageMbytesSng", [&] {
-        const float perSecond = float(m_nAvgBytesPerSec) / 1024.0f / 1024.0f;
-        mbytes = float(double(perSecond) * double(Seconds));
-    });
-    return mbytes;
+    const float perSecond = float(m_wfx.nAvgBytesPerSec) / 1024.0f / 1024.0f;
+    return float(double(perSecond) * double(Seconds));
 }
 
-qint32 clsRecordingFormat::CalcSecondsFromMbytes(float Mbytes) const
+qint32 clsRecordingFormat::CalcSecondsFromMbytes(EventLog& log, float Mbytes) const
 {
     qint32 seconds = 0;
-    Trap(m_ctx.log, "CalcSecondsFromMbytes", [&] {
-        if (m_nAvgBytesPerSec == 0)
+    Trap(log, "CalcSecondsFromMbytes", [&] {
+        if (m_wfx.nAvgBytesPerSec == 0)
             return;
-        const float exact = Mbytes * 1024.0f * 1024.0f / float(m_nAvgBytesPerSec);
+        const float exact = Mbytes * 1024.0f * 1024.0f / float(m_wfx.nAvgBytesPerSec);
         const float rounded = std::nearbyint(exact);
         if (!(rounded >= -2147483648.0f && rounded < 2147483648.0f))
             throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));
@@ -385,36 +140,29 @@ qint32 clsRecordingFormat::CalcSecondsFromMbytes(float Mbytes) const
     return seconds;
 }
 
-void GetWfxDefault(AppContext& ctx)
-{
-    if (ctx.WfxDefault.ReadDefaultFormatInfo() != 0) {
-        ctx.WfxDefault.SetToPcmPhoneQuality();
-        ctx.WfxDefault.SaveDefaultFormatInfo();
-    }
-}
-
-bool CheckFor2GbLimit(AppContext& ctx, const clsRecordingFormat& format, qint32 Seconds)
+bool CheckFor2GbLimit(MessageBoxPresenter& messageBox, const clsRecordingFormat& format,
+                      qint32 Seconds)
 {
     const QString title = QStringLiteral("Recording Size Exceeded");
     if (format.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 && format.ConvertToMP3) {
-        clsRecordingFormat pcm(ctx);
+        clsRecordingFormat pcm;
         pcm.SetToPcm(format.nChannels(), format.nSamplesPerSec(), 16);
         if (pcm.CalcStorageMbytesSng(Seconds) > 2000.0f) {
-            ctx.messageBox.Show(title,
-                                QStringLiteral("The temporary PCM file required for conversion "
-                                               "exceeds 2 Gigabytes, which is the maximum size "
-                                               "supported.  Please shorten the recording time or "
-                                               "the recording format frequency."),
-                                MsgIcon::Exclamation, MsgButtons::Ok);
+            messageBox.Show(title,
+                            QStringLiteral("The temporary PCM file required for conversion "
+                                           "exceeds 2 Gigabytes, which is the maximum size "
+                                           "supported.  Please shorten the recording time or "
+                                           "the recording format frequency."),
+                            MsgIcon::Exclamation, MsgButtons::Ok);
             return true;
         }
     }
     if (format.CalcStorageMbytesSng(Seconds) > 2000.0f) {
-        ctx.messageBox.Show(title,
-                            QStringLiteral("The recording exceeds 2 Gigabytes, which is the "
-                                           "maximum size supported.  Please shorten the recording "
-                                           "time or the recording format frequency."),
-                            MsgIcon::Exclamation, MsgButtons::Ok);
+        messageBox.Show(title,
+                        QStringLiteral("The recording exceeds 2 Gigabytes, which is the "
+                                       "maximum size supported.  Please shorten the recording "
+                                       "time or the recording format frequency."),
+                        MsgIcon::Exclamation, MsgButtons::Ok);
         return true;
     }
     return false;

@@ -1,34 +1,32 @@
 #pragma once
 
+#include "formats/CodecCatalogue.h"
+#include "taskcontract/WaveFormatRecord.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 #include <array>
-#include <vector>
 
-class AppContext;
-class Recordset;
+class EventLog;
+class MessageBoxPresenter;
 
 // The one way the system holds a recording format: the wave format record (18 bytes and
 // its extra bytes) in a block that can be handed as it is to the recording task, the
 // encoder and the format chooser, a decoded copy of the same record, the two MP3 flags
-// that travel with it, and the format's texts.
+// that travel with it, and the format's texts. A plain value: it copies and assigns.
 //
-// The block and the decoded fields always agree: every operation that changes one
+// The block and the decoded record always agree: every operation that changes one
 // rewrites the other. Whoever writes the block directly through mwfx() (the chooser, a
 // wave file's format chunk) calls CalcRemainingVarsFromMwfx() afterwards.
 class clsRecordingFormat {
 public:
-    explicit clsRecordingFormat(AppContext& ctx);
-    clsRecordingFormat(const clsRecordingFormat&) = delete;
-    clsRecordingFormat& operator=(const clsRecordingFormat&) = delete;
-    ~clsRecordingFormat();
+    static constexpr quint16 WAVE_FORMAT_PCM = WaveFormatRecord::TagPcm;
+    static constexpr quint16 WAVE_FORMAT_MPEGLAYER3 = WaveFormatRecord::TagMpegLayer3;
+    // Room for extra bytes: the block holds the largest format of the codec catalogue.
+    static constexpr qint16 nMaxExtraBytes =
+        CodecCatalogue::MaxFormatSize() - WaveFormatRecord::Size;
 
-    static constexpr quint16 WAVE_FORMAT_PCM = 1;
-    static constexpr quint16 WAVE_FORMAT_MPEGLAYER3 = 85;
-
-    // Capacity for extra bytes: the block size less the 18 bytes of the record.
-    qint16 nMaxExtraBytes = 0;
     // The format's text with the MP3 note, and without it.
     QString TextCompressionMethod;
     QString TextCompressionMethodShort;
@@ -39,28 +37,24 @@ public:
     // Record PCM and convert afterwards (true) or encode in real time (false).
     bool ConvertToMP3 = false;
 
-    void Initialize(qint32 maxSize);
-
-    quint16 cbSize() const { return m_cbSize; }
-    quint16 wFormatTag() const { return m_wFormatTag; }
-    quint16 nChannels() const { return m_nChannels; }
-    quint32 nSamplesPerSec() const { return m_nSamplesPerSec; }
-    quint32 nAvgBytesPerSec() const { return m_nAvgBytesPerSec; }
-    quint16 nBlockAlign() const { return m_nBlockAlign; }
-    quint16 nBitsPerSample() const { return m_nBitsPerSample; }
-    // The decoded 18 bytes, little-endian as on disk.
-    const quint8* wfxPtr();
-    // The decoded extra bytes; room for 256.
-    const quint8* byteWfxExtraPtr();
+    quint16 cbSize() const { return m_wfx.cbSize; }
+    quint16 wFormatTag() const { return m_wfx.wFormatTag; }
+    quint16 nChannels() const { return m_wfx.nChannels; }
+    quint32 nSamplesPerSec() const { return m_wfx.nSamplesPerSec; }
+    quint32 nAvgBytesPerSec() const { return m_wfx.nAvgBytesPerSec; }
+    quint16 nBlockAlign() const { return m_wfx.nBlockAlign; }
+    quint16 nBitsPerSample() const { return m_wfx.nBitsPerSample; }
+    // The decoded record; its extra holds the cbSize extra bytes.
+    const WaveFormatRecord& WaveFormat() const { return m_wfx; }
     // The block: the whole record with its extra bytes, MwfxSize() bytes long.
     quint8* mwfx() { return m_block.data(); }
     int MwfxSize() const { return int(m_block.size()); }
     // The record as it stands in the block: 18 bytes and cbSize extra bytes.
     QByteArray Record() const;
 
-    void SetWaveFormatEx(quint16 wFormatTag, quint16 nChannels, quint32 nSamplesPerSec,
-                         quint32 nAvgBytesPerSec, quint16 nBlockAlign, quint16 nBitsPerSample,
-                         quint16 cbSize, const quint8* extra);
+    // Takes the record; one with more extra bytes than there is room for is refused and
+    // reported to the log.
+    void SetWaveFormatEx(EventLog& log, const WaveFormatRecord& record);
     // 11025 Hz, 8 bits, mono PCM; cbSize and the extra bytes stay as they were.
     void SetToPcmPhoneQuality();
     // PCM with the block align and byte rate that follow; cbSize stays as it was.
@@ -70,51 +64,32 @@ public:
     void CalcRemainingVarsFromMwfx();
 
     // "ERROR" where the codec catalogue knows no text.
-    QString GetFormatTagDetailsString();
-    QString GetFormatDetailsString();
+    QString GetFormatTagDetailsString() const;
+    QString GetFormatDetailsString() const;
     void CalculateTextCompressionMethodString();
 
-    // The default format: the Info row and the two settings of the MP3 flags.
-    void SaveDefaultFormatInfo();
-    // 0 on success, 1 on any failure.
-    qint16 ReadDefaultFormatInfo();
-    // Reads the format of the Programs row that rs is on.
-    void ReadFormat(Recordset& rs);
-    // Writes the format into the Programs row being edited or added: the seven wfx_
-    // columns, Flags and wfxExtra. Failures are left to the caller's trap.
-    void WriteFormat(Recordset& rs) const;
     // The extra bytes as the database stores them: cbSize bytes and a trailing zero.
     QByteArray StoredExtraBytes() const;
 
     // Mbytes (1024 times 1024 bytes) needed for so many seconds, in single precision.
     float CalcStorageMbytesSng(qint32 Seconds) const;
-    // Seconds that so many Mbytes hold; 0 for a format without a byte rate.
-    qint32 CalcSecondsFromMbytes(float Mbytes) const;
+    // Seconds that so many Mbytes hold; 0 for a format without a byte rate, and 0 with a
+    // report to the log when the figure passes the 32-bit range.
+    qint32 CalcSecondsFromMbytes(EventLog& log, float Mbytes) const;
 
 private:
     void WriteBlock();
     void DecodeBlock();
 
-    AppContext& m_ctx;
-    std::vector<quint8> m_block;
-    quint16 m_wFormatTag = 0;
-    quint16 m_nChannels = 0;
-    quint32 m_nSamplesPerSec = 0;
-    quint32 m_nAvgBytesPerSec = 0;
-    quint16 m_nBlockAlign = 0;
-    quint16 m_nBitsPerSample = 0;
-    quint16 m_cbSize = 0;
-    std::array<quint8, 18> m_wfx{};
-    std::array<quint8, 256> m_byteWfxExtra{};
+    std::array<quint8, CodecCatalogue::MaxFormatSize()> m_block{};
+    // Holds no more than nMaxExtraBytes extra bytes, exactly cbSize of them.
+    WaveFormatRecord m_wfx;
 };
 
 // The rules that differ for Windows 95 and 98 take their "any other Windows" branch here.
 constexpr bool RunsOnWindows9x = false;
 
-// The default format of the Info row into ctx.WfxDefault; a row that can't be read is
-// replaced by phone quality.
-void GetWfxDefault(AppContext& ctx);
-
 // True when a recording of so many seconds in this format must not be made: it, or the
 // temporary PCM file of a conversion, would pass 2000 Mbytes. Says why in a message box.
-bool CheckFor2GbLimit(AppContext& ctx, const clsRecordingFormat& format, qint32 Seconds);
+bool CheckFor2GbLimit(MessageBoxPresenter& messageBox, const clsRecordingFormat& format,
+                      qint32 Seconds);

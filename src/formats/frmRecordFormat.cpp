@@ -59,7 +59,6 @@ frmRecordFormat::frmRecordFormat(AppContext& ctx, clsRecordingFormat& format, QW
     : QDialog(parent)
     , m_ctx(ctx)
     , m_format(format)
-    , m_backup(ctx)
 {
     setObjectName(QStringLiteral("frmRecordFormat"));
     setWindowTitle(QStringLiteral("Select Recording Format"));

@@ -2,11 +2,11 @@
 
 #include "diagnostics/EventLog.h"
 
-Recorder::Recorder(AppContext& formats, const RecorderServices& services, QObject* parent)
+Recorder::Recorder(const RecorderServices& services, QObject* parent)
     : QObject(parent)
     , m_s(services)
     , m_link(services.log, services.appStatus, services.runtimeFolder)
-    , m_control(formats, services, m_link, m_status, m_conversion)
+    , m_control(services, m_link, m_status, m_conversion)
     , m_heartbeat(services.clock, services.log, services.options, services.launcher,
                   services.scheduler, services.appStatus, m_status)
     , m_statusBar(services.clock, services.log, services.options, services.appStatus,

@@ -10,15 +10,13 @@
 
 #include <QObject>
 
-class AppContext;
-
 // The running recorder: the heartbeat, the recording control, the link to the recording
 // task, the disk guard and the conversion queue, wired together. The main window observes
 // its signals and forwards the user's commands; a test builds the very same object.
 class Recorder : public QObject {
     Q_OBJECT
 public:
-    Recorder(AppContext& formats, const RecorderServices& services, QObject* parent = nullptr);
+    explicit Recorder(const RecorderServices& services, QObject* parent = nullptr);
 
     // The heartbeat starts at the end of the first activation and stops at the unload.
     void Start();

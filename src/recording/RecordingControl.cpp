@@ -8,21 +8,21 @@
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
+#include "formats/FormatStore.h"
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
 #include "platform/DiskSpace.h"
 #include "recording/ConversionQueue.h"
-#include "recording/RecParms.h"
 #include "recording/RecordingFileName.h"
 #include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
 #include "recording/clsRecordingStatus.h"
 #include "scheduling/Scheduler.h"
-#include "shell/AppContext.h"
 #include "sideactions/LaunchCommands.h"
 #include "sideactions/MixerProfiles.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
+#include "taskcontract/RecParms.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -68,17 +68,14 @@ QString WithClosingSeparator(const QString& folder)
 
 } // namespace
 
-RecordingControl::RecordingControl(AppContext& formats, const RecorderServices& services,
-                                   RecordingTaskLink& link, clsRecordingStatus& status,
-                                   ConversionQueue& conversion, QObject* parent)
+RecordingControl::RecordingControl(const RecorderServices& services, RecordingTaskLink& link,
+                                   clsRecordingStatus& status, ConversionQueue& conversion,
+                                   QObject* parent)
     : QObject(parent)
-    , ManualFormat(formats)
-    , m_formats(formats)
     , m_s(services)
     , m_link(link)
     , m_status(status)
     , m_conversion(conversion)
-    , m_format(formats)
 {
     connect(&m_link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
     connect(&m_link, &RecordingTaskLink::TaskError, this, &RecordingControl::OnTaskError);
@@ -148,7 +145,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     clsRecordingStatus& status = m_status;
     const QString softwareName = SoftwareName();
     QString folder = m_s.options.DefaultRecordingDirectory;
-    clsRecordingFormat chosen(m_formats);
+    clsRecordingFormat chosen;
     QString description;
     QString userName;
     QString prefix;
@@ -185,7 +182,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         userName = TextColumn(programs, QStringLiteral("FilenameUser"), false);
         prefix = TextColumn(programs, QStringLiteral("FilenamePrefix"), false);
         suffix = TextColumn(programs, QStringLiteral("FilenameSuffix"), false);
-        chosen.ReadFormat(programs);
+        ReadFormat(m_s.log, chosen, programs);
     } else if (!folder.isEmpty()) {
         description = Description;
         chosen.CopyFrom(ManualFormat);
@@ -234,7 +231,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         QFile::remove(finalFile);
     } else {
         status.ConvertToMP3 = true;
-        pcmCapture = std::make_unique<clsRecordingFormat>(m_formats);
+        pcmCapture = std::make_unique<clsRecordingFormat>();
         pcmCapture->SetToPcm(chosen.nChannels(), chosen.nSamplesPerSec(), 16);
         capture = pcmCapture.get();
         // The MP3 and its PCM source exist side by side until the conversion ends.
@@ -247,7 +244,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
                                          chosen.SaveMP3FileExtension, baseName, extension);
         status.RecordingFile = folder + baseName + QStringLiteral(".WAV.TMP");
         QFile::remove(status.RecordingFile);
-        m_convertRequest = std::make_shared<clsConvertToMP3Request>(m_formats);
+        m_convertRequest = std::make_shared<clsConvertToMP3Request>();
         clsConvertToMP3Request& request = *m_convertRequest;
         request.SourceFile = status.RecordingFile;
         request.DestinationFile = finalFile;
@@ -289,17 +286,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
                       Options::TimeText(AutomationDate::TimePart(StartTime));
     parms.outputPath = status.RecordingFile;
     parms.lengthSeconds = status.DurationSeconds;
-    parms.wFormatTag = qint16(capture->wFormatTag());
-    parms.nChannels = capture->nChannels();
-    parms.nSamplesPerSec = qint32(capture->nSamplesPerSec());
-    parms.nAvgBytesPerSec = qint32(capture->nAvgBytesPerSec());
-    parms.nBlockAlign = capture->nBlockAlign();
-    parms.nBitsPerSample = capture->nBitsPerSample();
-    parms.cbSize = capture->cbSize();
-    if (parms.cbSize > 256)
-        throw RuntimeError(9, QStringLiteral("Subscript out of range"));
-    const quint8* extra = const_cast<clsRecordingFormat*>(capture)->byteWfxExtraPtr();
-    parms.extra = QByteArray(reinterpret_cast<const char*>(extra), parms.cbSize);
+    parms.format = capture->WaveFormat();
 
     // The keep-alive runs from before the parameter file is written.
     m_link.StartKeepAlive();
@@ -492,7 +479,7 @@ void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString
     Trap(m_s.log, "DoEndOfRecordingStuff", [&] {
         // The row describes what the file holds, so pauses and late starts show in its times.
         const float size = ModuleFileTime::GetFileSizeMbytes(File);
-        const qint32 seconds = Format.CalcSecondsFromMbytes(size);
+        const qint32 seconds = Format.CalcSecondsFromMbytes(m_s.log, size);
         const double end = ModuleFileTime::FileDateTime(File);
         const double start = AutomationDate::AddSeconds(end, -seconds);
 

@@ -8,7 +8,6 @@
 #include <QString>
 #include <memory>
 
-class AppContext;
 class RecordingTaskLink;
 struct ConversionQueue;
 struct clsRecordingStatus;
@@ -20,7 +19,7 @@ struct clsRecordingStatus;
 class RecordingControl : public QObject {
     Q_OBJECT
 public:
-    RecordingControl(AppContext& formats, const RecorderServices& services, RecordingTaskLink& link,
+    RecordingControl(const RecorderServices& services, RecordingTaskLink& link,
                      clsRecordingStatus& status, ConversionQueue& conversion,
                      QObject* parent = nullptr);
     ~RecordingControl() override;
@@ -63,7 +62,6 @@ private:
     void OnTaskError(qint32 code);
     void OnTaskNotResponding();
 
-    AppContext& m_formats;
     RecorderServices m_s;
     RecordingTaskLink& m_link;
     clsRecordingStatus& m_status;

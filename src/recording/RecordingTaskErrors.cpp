@@ -1,11 +1,12 @@
 #include "recording/RecordingTaskErrors.h"
 
 #include "diagnostics/EventLog.h"
+#include "taskcontract/TaskErrors.h"
 
 RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
 {
     switch (code) {
-    case 1000:
+    case TaskError::ParameterFileLocked:
         return {
             QStringLiteral("Error communicating with recording task"),
             QStringLiteral(
@@ -13,14 +14,14 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
                 "locked.  Try restarting the software or rebooting system to unlock the file.  If "
                 "this error re-occurs, the disk containing the TEMP folder may be full or "
                 "read-only. It is also possible that the TEMP folder setting may be corrupt.")};
-    case 1001:
+    case TaskError::ParameterFileBad:
         return {
             QStringLiteral("Error communicating with recording task"),
             QStringLiteral("The scheduler communicates with the recording task via a disk file.  "
                            "There may have occurred an error during writing or reading the file.  "
                            "If problem continues, try restarting the software or rebooting system. "
                            " If this does not work, try selecting a different recording format.")};
-    case 1002:
+    case TaskError::WriteFailed:
         return {
             QStringLiteral("Error writing recording file."),
             QStringLiteral("The recording task was unable to advance the I/O buffer while writing "
@@ -28,44 +29,44 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
                            "or memory or there may be a problem with the recording format. Try "
                            "closing unused programs, checking disk space, and restarting the "
                            "software.  If this does not work try a different recording format.")};
-    case 1003:
+    case TaskError::AudioMetricsFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to obtain audio metrics from the "
                                "operating system.  If this problem occurs again, try restarting "
                                "the software or rebooting system.")};
-    case 1004:
+    case TaskError::FormatMemoryFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to allocate memory to store wave "
                                "format information. If this problem occurs again, try restarting "
                                "the software or rebooting system.")};
-    case 1005:
+    case TaskError::FormatMemoryLockFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to lock memory that stores wave "
                                "format information. If this problem occurs again, try restarting "
                                "the software or rebooting system.")};
-    case 1006:
+    case TaskError::HeaderMemoryFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to allocate memory to store wave "
                                "header information. If this problem occurs again, try restarting "
                                "the software or rebooting system.")};
-    case 1007:
+    case TaskError::HeaderMemoryLockFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to lock memory that stores wave "
                                "header information. If this problem occurs again, try restarting "
                                "the software or rebooting system.")};
-    case 1008:
+    case TaskError::BufferMemoryFailed:
         return {
             QStringLiteral("Error occurred during recording process."),
             QStringLiteral(
                 "The recording task was not able to allocate memory to store the wave buffer. If "
                 "this problem occurs again, try restarting the software or rebooting system.")};
-    case 1009:
+    case TaskError::BufferMemoryLockFailed:
         return {
             QStringLiteral("Error occurred during recording process."),
             QStringLiteral(
                 "The recording task was not able to lock memory that stores the wave buffer. If "
                 "this problem occurs again, try restarting the software or rebooting system.")};
-    case 1010:
+    case TaskError::OpenInputFailed:
         return {QStringLiteral("Error Opening Wave Input File."),
                 QStringLiteral(
                     "The recording task was not able to open the wave input file.  This error can "
@@ -74,81 +75,81 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
                     "program that may be sharing the sound card.  If the problem reoccurs or no "
                     "other program is using the sound card, try a different recording format. If "
                     "the problem persists, try restarting the software or rebooting the system.")};
-    case 1011:
+    case TaskError::PrepareHeaderFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("Error preparing header for recording")};
-    case 1013:
+    case TaskError::CreateFileFailed:
         return {
             QStringLiteral("Error Creating Wave File."),
             QStringLiteral("The recording task was not able to create the Wave file.  Check if the "
                            "recording media is writable and has enough disk space. If this problem "
                            "occurs again, try a different recording format, recording folder, or "
                            "disk drive.  If the problem persists, try restarting system.")};
-    case 1014:
+    case TaskError::RiffChunkFailed:
         return {
             QStringLiteral("Error occurred during recording process."),
             QStringLiteral(
                 "The recording task was not able to create the wave chunk portion of the recording "
                 "file. Check the recording drive disk space, or try selecting a different "
                 "recording format.  If this problem occurs again, try restarting system.")};
-    case 1015:
+    case TaskError::FormatChunkFailed:
         return {
             QStringLiteral("Error occurred during recording process."),
             QStringLiteral(
                 "The recording task was not able to create the wave format chunk portion of the "
                 "recording file. Check the recording drive disk space or try selecting a different "
                 "recording format.  If this problem occurs again, try restarting system.")};
-    case 1016:
+    case TaskError::FormatDataFailed:
         return {
             QStringLiteral("Error occurred during recording process."),
             QStringLiteral(
                 "The recording task was not able to create the wave format data portion of the "
                 "recording file. Check the recording drive disk space or try selecting a different "
                 "recording format.  If this problem occurs again, try restarting system.")};
-    case 1017:
+    case TaskError::FactChunkFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to create the wave fact chunk "
                                "portion of the recording file. Check the recording drive disk "
                                "space, or try selecting a different recording format.  If this "
                                "problem occurs again, try restarting system.")};
-    case 1018:
+    case TaskError::FactDataFailed:
         return {
             QStringLiteral("Error occurred during recording process."),
             QStringLiteral(
                 "The recording task was not able to write the wave fact portion of the recording "
                 "file. Check the recording drive disk space, or try selecting a different "
                 "recording format. If this problem occurs again, try restarting system.")};
-    case 1019:
+    case TaskError::DataChunkFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to create the wave data chunk "
                                "portion of the recording file. Check the recording drive disk "
                                "space, or try selecting a different recording format.  If this "
                                "problem occurs again, try restarting system.")};
-    case 1020:
+    case TaskError::WaveInfoFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to obtain the wave information "
                                "from the system.  Try selecting a different recording format. If "
                                "this problem occurs again, try restarting system.")};
-    case 1021:
+    case TaskError::StartFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to start wave recording. Check the "
                                "recording drive disk space, or try selecting a different recording "
                                "format.  Check the recording drive disk space.  If this problem "
                                "occurs again, try restarting system.")};
-    case 1022:
+    case TaskError::SoftwareTextFailed:
         return {
             QStringLiteral("Error occurred during recording process."),
             QStringLiteral(
                 "The recording task was not able to write the software info chunk of the recording "
                 "file. Check the recording drive disk space, or try selecting a different "
                 "recording format.  If this problem occurs again, try restarting system.")};
-    case 1023:
+    case TaskError::SubjectNameTextFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to write the subject name info "
                                "chunk of the recording file. Check the recording drive disk space, "
                                "or try selecting a different recording format.  If this problem "
                                "occurs again, try restarting system.")};
-    case 1024:
+    case TaskError::AddBufferFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral(
                     "The recording task was not able to add recording buffer during the recording "
@@ -156,83 +157,84 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
                     "format. If problem persists even after changing the recording format, the "
                     "recording device may be locked as a result of a bad recording format. It this "
                     "is the case, a system restart is needed.")};
-    case 1025:
+    case TaskError::StopFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task encountered an error while during the recording "
                                "stop. If this problem occurs again, try selecting a different "
                                "recording format. If problem persists, try restarting system.")};
-    case 1026:
-    case 1027:
+    // Both headers' failures show the first one's text, as they always have.
+    case TaskError::UnprepareHeader1Failed:
+    case TaskError::UnprepareHeader2Failed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral(
                     "The recording task encountered an error during the unpreparing of header 1 "
                     "during the recording process. If this problem occurs again, try selecting a "
                     "different recording format. If problem persists, try restarting system.")};
-    case 1028:
+    case TaskError::CloseInputFailed:
         return {
             QStringLiteral("Error Closing Input Device."),
             QStringLiteral("The recording task encountered an error closing the sound card input "
                            "device. If this problem occurs again, try selecting a different "
                            "recording format. If problem persists, try restarting system.")};
-    case 1029:
+    case TaskError::CloseFileFailed:
         return {
             QStringLiteral("Error Closing Wave File."),
             QStringLiteral(
                 "The recording task encountered an error closing the wave file. If this problem "
                 "occurs again, check the disk space of the recording drive, or try selecting a "
                 "different recording format. If problem persists, try restarting system.")};
-    case 1030:
+    case TaskError::ListChunkFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to create the wave list chunk "
                                "portion of the recording file. Check the recording drive disk "
                                "space, or try selecting a different recording format.  If this "
                                "problem occurs again, try restarting system.")};
-    case 1031:
+    case TaskError::SoftwareChunkFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to create the wave software info "
                                "chunk portion of the recording file. Check the recording drive "
                                "disk space, or try selecting a different recording format.  If "
                                "this problem occurs again, try restarting system.")};
-    case 1032:
+    case TaskError::SubjectNameChunkFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to create the wave subject name "
                                "info chunk portion of the recording file. Check the recording "
                                "drive disk space, or try selecting a different recording format.  "
                                "If this problem occurs again, try restarting system.")};
-    case 1033:
+    case TaskError::SubjectDateChunkFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to create the wave subject date "
                                "info chunk portion of the recording file. Check the recording "
                                "drive disk space, or try selecting a different recording format.  "
                                "If this problem occurs again, try restarting system.")};
-    case 1034:
+    case TaskError::SubjectDateTextFailed:
         return {QStringLiteral("Error occurred during recording process."),
                 QStringLiteral("The recording task was not able to write the wave wave subject "
                                "date chunk portion of the recording file. Check the recording "
                                "drive disk space, or try selecting a different recording format.  "
                                "If this problem occurs again, try restarting system.")};
-    case 1035:
+    case TaskError::FlushFailed:
         // Heading and advice stand swapped for this code, as users have always seen them.
         return {QStringLiteral("The recording task was not able to write the wave wave subject "
                                "date chunk portion of the recording file. Check the recording "
                                "drive disk space, or try selecting a different recording format.  "
                                "If this problem occurs again, try restarting system."),
                 QStringLiteral("Error flushing recording file.")};
-    case 1050:
+    case TaskError::DeviceBusy:
         return {
             QStringLiteral("Another application is recording audio."),
             QStringLiteral("Another application is using the recording device. Stop that "
                            "application and try again to record using Nightreel.  If the recording "
                            "device is still locked, a system restart may be required.")};
-    case 1051:
+    case TaskError::NoAudioDriver:
         return {QStringLiteral("No audio driver found for recording."),
                 QStringLiteral("If this error persists even after restarting the system, you may "
                                "need to reinstall your sound card software.")};
-    case 1052:
+    case TaskError::OutOfMemory:
         return {QStringLiteral("Out of memory error while opening Wave input file."),
                 QStringLiteral("Try recording with different recording format. If the problem "
                                "persists, try restarting the software or rebooting the system.")};
-    case 1053:
+    case TaskError::BadFormat:
         return {QStringLiteral("Bad Recording Format."),
                 QStringLiteral("Try recording with different recording format. If the problem "
                                "persists, try restarting the software or rebooting the system.")};

@@ -5,6 +5,7 @@
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "recording/RecordingTaskErrors.h"
+#include "taskcontract/RecParms.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -67,7 +68,7 @@ QString RecordingTaskLink::ServerName() const
 
 QString RecordingTaskLink::ParameterFile() const
 {
-    return m_runtimeFolder + u'/' + QString::fromLatin1(ParameterFileName);
+    return RecParms::PathIn(m_runtimeFolder);
 }
 
 void RecordingTaskLink::OnNewConnection()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/IntervalTimer.h"
-#include "recording/TaskProtocol.h"
+#include "taskcontract/TaskProtocol.h"
 
 #include <QList>
 #include <QLocalServer>

@@ -5,19 +5,11 @@
 #include <QString>
 #include <memory>
 
-class AppContext;
-
 // One recording waiting to be turned from its PCM capture into the MP3 the user asked for.
 // The end of a recording puts it into the conversion queue; the queue writes the row of
 // Recordings and runs the launch after the recording once the MP3 exists.
 class clsConvertToMP3Request {
 public:
-    explicit clsConvertToMP3Request(AppContext& ctx)
-        : SourceFormat(ctx)
-        , DestinationFormat(ctx)
-    {
-    }
-
     // The ".WAV.TMP" capture and the final ".MP3" (or ".WAV") path.
     QString SourceFile;
     QString DestinationFile;

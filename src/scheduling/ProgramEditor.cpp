@@ -4,6 +4,7 @@
 #include "common/FileHelpers.h"
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
+#include "formats/FormatStore.h"
 #include "scheduling/ModuleUtility.h"
 #include "scheduling/clsWeekdays.h"
 #include "shell/AppContext.h"
@@ -100,7 +101,7 @@ ProgramFormValues NewProgramValues(double now)
 ProgramFormValues ReadProgramRow(AppContext& ctx, Recordset& rs)
 {
     ProgramFormValues v;
-    ctx.ProgramFormat.ReadFormat(rs);
+    ReadFormat(ctx.log, ctx.ProgramFormat, rs);
     ctx.ProgramFormat.CalculateTextCompressionMethodString();
     v.FormCompressionMethod = rs.Value(QStringLiteral("CompressionMethod")).toString();
     v.FormEnabled = Field::ToBool(rs.Value(QStringLiteral("Enabled")));
@@ -207,7 +208,7 @@ qint32 UpdateDbFromProgramForm(AppContext& ctx, const ProgramFormValues& v, Upda
     set("OneTimeDay", v.FormOneTimeDay);
     for (int d = 0; d < 7; ++d)
         set(kDayColumns[d], Field::FromBool(v.FormDays[d]));
-    ctx.ProgramFormat.WriteFormat(rs);
+    WriteFormat(ctx.ProgramFormat, rs);
     // Saving brings a stopped or expired program back to life, even when nothing changed.
     set("RecordingCancelled", Field::FromBool(false));
     set("FilenamePrefix", v.FormFilenamePrefix);

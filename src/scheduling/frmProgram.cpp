@@ -665,7 +665,7 @@ bool frmProgram::CommandOkChecks()
         return false;
     }
     // The size limit is the recording format's own check; it tells the user itself.
-    if (CheckFor2GbLimit(m_ctx, m_ctx.ProgramFormFormat, DurationSeconds))
+    if (CheckFor2GbLimit(m_ctx.messageBox, m_ctx.ProgramFormFormat, DurationSeconds))
         return false;
     const auto question = validator.LongRecordingQuestion(DurationSeconds);
     return !question || m_ctx.messageBox.Show(question->title, question->text, MsgIcon::None,

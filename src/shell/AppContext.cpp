@@ -15,11 +15,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , database(folders, log, error, messageBox)
     , scheduler(clock, database, log, messageBox, options)
     , mixerProfiles(log, mixer, folders.dataFolder + QStringLiteral("/mixer"))
-    , ProgramFormat(*this)
-    , ProgramFormFormat(*this)
-    , WfxDefault(*this)
-    , recorder(*this,
-               RecorderServices{log, clock, options, registry, appStatus, error, database,
+    , defaultFormats(log, registry, options, database.DataInfo)
+    , recorder(RecorderServices{log, clock, options, registry, appStatus, error, database,
                                 scheduler, messageBox, launcher, diskSpace, mixerProfiles,
                                 folders.runtimeFolder})
 {

@@ -3,6 +3,7 @@
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/clsError.h"
+#include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
 #include "recording/Recorder.h"
 #include "scheduling/Scheduler.h"
@@ -62,5 +63,7 @@ public:
     clsRecordingFormat ProgramFormat;
     clsRecordingFormat ProgramFormFormat;
     clsRecordingFormat WfxDefault;
+    // Where WfxDefault is read from and saved to.
+    DefaultFormatStore defaultFormats;
     Recorder recorder;
 };

@@ -7,6 +7,7 @@
 #include "platform/AudioDevices.h"
 #include "scheduling/ModuleUtility.h"
 #include "shell/AppContext.h"
+#include "taskcontract/RecParms.h"
 
 #include <QDir>
 #include <QFile>
@@ -42,7 +43,8 @@ void MainFormController::InitializeForFirstActivation(const FolderChooser& choos
     // must start, or nothing would ever be recorded.
     TrapEach(
         m_ctx.log, "Main Form Load", [&] { m_ctx.database.InitializeControls(); },
-        [&] { CheckDefaultRecordingDirectory(chooser); }, [&] { GetWfxDefault(m_ctx); },
+        [&] { CheckDefaultRecordingDirectory(chooser); },
+        [&] { m_ctx.defaultFormats.GetWfxDefault(m_ctx.WfxDefault); },
         [&] { m_ctx.scheduler.ScheduleNextRecording(); }, [&] { m_ctx.recorder.Start(); });
 }
 
@@ -154,7 +156,7 @@ void MainFormController::mnuRestoreOriginalDb_Click()
     m_ctx.database.CheckDatabaseMissing();
     emit ListsReplaced();
     // The new Info row holds the format in force, not that of the empty file.
-    m_ctx.WfxDefault.SaveDefaultFormatInfo();
+    m_ctx.defaultFormats.SaveDefaultFormatInfo(m_ctx.WfxDefault);
     m_ctx.scheduler.ScheduleNextRecording();
     m_ctx.appStatus.SetMaintenance(false);
 }

@@ -13,7 +13,7 @@
 //   stop=MS           posts 1045 MS milliseconds after 1026 (default 0); "ignore" never
 // Every start and every message received is appended to the file NIGHTREEL_FAKE_LOG as
 // "start PID" and "recv PID NUMBER"; the number of earlier starts picks the ready code.
-#include "recording/TaskProtocol.h"
+#include "taskcontract/TaskProtocol.h"
 
 #include <QCoreApplication>
 #include <QFile>

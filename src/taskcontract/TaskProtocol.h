@@ -34,7 +34,6 @@ constexpr qint32 SC_MINIMIZE = 61472;
 
 constexpr const char* TaskClass = "RecClass";
 constexpr const char* TaskTitle = "Nightreel recording task";
-constexpr const char* ParameterFileName = "RECPARMS.TMP";
 
 enum class Kind : quint32 { Hello = 1, Post = 2, Call = 3, Reply = 4 };
 

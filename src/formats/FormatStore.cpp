@@ -1,0 +1,177 @@
+#include "formats/FormatStore.h"
+
+#include "common/RuntimeError.h"
+#include "common/TextHelpers.h"
+#include "diagnostics/Trap.h"
+#include "formats/clsRecordingFormat.h"
+#include "scheduling/clsProgramFlags.h"
+#include "store/DataControl.h"
+#include "store/Options.h"
+#include "store/Recordset.h"
+#include "store/RegKeys.h"
+
+namespace {
+
+const QString kSection = QStringLiteral("Settings");
+
+QString BoolText(bool value)
+{
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+// A stored flag as the run time converts text to a Boolean: "True", "False" or a number.
+bool ParseBoolSetting(const QString& text)
+{
+    const QString trimmed = Text::Trim(text);
+    if (trimmed.compare(QStringLiteral("True"), Qt::CaseInsensitive) == 0)
+        return true;
+    if (trimmed.compare(QStringLiteral("False"), Qt::CaseInsensitive) == 0)
+        return false;
+    bool ok = false;
+    const double number = trimmed.toDouble(&ok);
+    if (!ok)
+        throw RuntimeError(13, QStringLiteral("Type mismatch"));
+    return number != 0.0;
+}
+
+QVariant RequireValue(const Recordset& rs, const QString& field)
+{
+    const QVariant value = rs.Value(field);
+    if (value.isNull())
+        throw RuntimeError(94, QStringLiteral("Invalid use of Null"));
+    return value;
+}
+
+// The record in the seven columns named prefix and the field's name, with the extra bytes
+// of extraColumn filled up with zeros to cbSize. A NULL column fails.
+WaveFormatRecord ReadRecordColumns(const Recordset& rs, const QString& prefix,
+                                   const QString& extraColumn)
+{
+    WaveFormatRecord r;
+    r.cbSize = quint16(RequireValue(rs, prefix + QStringLiteral("cbSize")).toInt());
+    r.wFormatTag = quint16(RequireValue(rs, prefix + QStringLiteral("wFormatTag")).toInt());
+    r.nChannels = quint16(RequireValue(rs, prefix + QStringLiteral("nChannels")).toInt());
+    r.nSamplesPerSec =
+        quint32(RequireValue(rs, prefix + QStringLiteral("nSamplesPerSec")).toLongLong());
+    r.nAvgBytesPerSec =
+        quint32(RequireValue(rs, prefix + QStringLiteral("nAvgBytesPerSec")).toLongLong());
+    r.nBlockAlign = quint16(RequireValue(rs, prefix + QStringLiteral("nBlockAlign")).toInt());
+    r.nBitsPerSample = quint16(RequireValue(rs, prefix + QStringLiteral("nBitsPerSample")).toInt());
+    // Only as many extra bytes as a format can hold are worth reading.
+    if (r.cbSize <= clsRecordingFormat::nMaxExtraBytes)
+        r.extra = rs.GetChunk(extraColumn, 0, r.cbSize).leftJustified(r.cbSize, '\0');
+    return r;
+}
+
+void WriteRecordColumns(const WaveFormatRecord& r, const QString& prefix, Recordset& rs)
+{
+    rs.SetValue(prefix + QStringLiteral("wFormatTag"), r.wFormatTag);
+    rs.SetValue(prefix + QStringLiteral("nChannels"), r.nChannels);
+    rs.SetValue(prefix + QStringLiteral("nSamplesPerSec"), r.nSamplesPerSec);
+    rs.SetValue(prefix + QStringLiteral("nAvgBytesPerSec"), r.nAvgBytesPerSec);
+    rs.SetValue(prefix + QStringLiteral("nBlockAlign"), r.nBlockAlign);
+    rs.SetValue(prefix + QStringLiteral("nBitsPerSample"), r.nBitsPerSample);
+    rs.SetValue(prefix + QStringLiteral("cbSize"), r.cbSize);
+}
+
+} // namespace
+
+void ReadFormat(EventLog& log, clsRecordingFormat& format, const Recordset& rs)
+{
+    Trap(log, "ReadFormat", [&] {
+        format.SetWaveFormatEx(
+            log, ReadRecordColumns(rs, QStringLiteral("wfx_"), QStringLiteral("wfxExtra")));
+        // The flags come after the texts were made: whoever shows the text recalculates it.
+        clsProgramFlags flags;
+        if (!rs.IsNull(QStringLiteral("Flags")))
+            flags.Flags = rs.Value(QStringLiteral("Flags")).toInt();
+        format.ConvertToMP3 = flags.ConvertToMP3();
+        format.SaveMP3FileExtension = flags.SaveMP3FileExtension();
+    });
+}
+
+void WriteFormat(const clsRecordingFormat& format, Recordset& rs)
+{
+    WriteRecordColumns(format.WaveFormat(), QStringLiteral("wfx_"), rs);
+    clsProgramFlags flags;
+    flags.SetConvertToMP3(format.ConvertToMP3);
+    flags.SetSaveMP3FileExtension(format.SaveMP3FileExtension);
+    rs.SetValue(QStringLiteral("Flags"), flags.Flags);
+    // The whole column is replaced, so an edited row does not keep its old bytes.
+    rs.SetValue(QStringLiteral("wfxExtra"), format.StoredExtraBytes());
+}
+
+DefaultFormatStore::DefaultFormatStore(EventLog& log, RegKeys& registry, Options& options,
+                                       DataControl& dataInfo)
+    : m_log(log)
+    , m_registry(registry)
+    , m_options(options)
+    , m_dataInfo(dataInfo)
+{
+}
+
+void DefaultFormatStore::SaveDefaultFormatInfo(clsRecordingFormat& format)
+{
+    Trap(m_log, "SaveDefaultFormatInfo", [&] {
+        if (format.wFormatTag() != clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3) {
+            format.SaveMP3FileExtension = true;
+            format.ConvertToMP3 = RunsOnWindows9x;
+        }
+        m_registry.SaveSetting(kSection, QStringLiteral("SaveMP3FileExtension"),
+                               BoolText(format.SaveMP3FileExtension));
+        m_registry.SaveSetting(kSection, QStringLiteral("ConvertToMP3"),
+                               BoolText(format.ConvertToMP3));
+        m_options.SaveMP3FileExtension = format.SaveMP3FileExtension;
+        m_options.ConvertToMP3 = format.ConvertToMP3;
+
+        Recordset& rs = m_dataInfo.recordset();
+        while (!rs.IsEOF() && rs.RecordCount() >= 1) {
+            rs.MoveFirst();
+            rs.Delete();
+        }
+        rs.AddNew();
+        rs.SetValue(QStringLiteral("VersionMajor"), NIGHTREEL_VERSION_MAJOR);
+        rs.SetValue(QStringLiteral("VersionMinor"), NIGHTREEL_VERSION_MINOR);
+        rs.SetValue(QStringLiteral("VersionRev"), NIGHTREEL_VERSION_REV);
+        WriteRecordColumns(format.WaveFormat(), QStringLiteral("wfxdflt_"), rs);
+        rs.AppendChunk(QStringLiteral("wfxdfltExtra"), format.StoredExtraBytes());
+        rs.Update();
+    });
+}
+
+qint16 DefaultFormatStore::ReadDefaultFormatInfo(clsRecordingFormat& format)
+{
+    try {
+        format.SaveMP3FileExtension = ParseBoolSetting(m_registry.GetSetting(
+            kSection, QStringLiteral("SaveMP3FileExtension"), QStringLiteral("True")));
+        format.ConvertToMP3 = ParseBoolSetting(m_registry.GetSetting(
+            kSection, QStringLiteral("ConvertToMP3"), BoolText(RunsOnWindows9x)));
+
+        Recordset& rs = m_dataInfo.recordset();
+        rs.MoveFirst();
+        const WaveFormatRecord stored =
+            ReadRecordColumns(rs, QStringLiteral("wfxdflt_"), QStringLiteral("wfxdfltExtra"));
+        const int cb = rs.Value(QStringLiteral("wfxdflt_cbSize")).toInt();
+        if (cb >= 0 && cb <= clsRecordingFormat::nMaxExtraBytes) {
+            format.SetWaveFormatEx(m_log, stored);
+        } else {
+            // A row made for compression drivers with larger formats than this machine
+            // has. The format can't hold its extra bytes, so it keeps the cbSize it had
+            // and phone quality replaces the row.
+            format.SetToPcmPhoneQuality();
+            SaveDefaultFormatInfo(format);
+        }
+        format.CalculateTextCompressionMethodString();
+        return 0;
+    } catch (const std::exception&) {
+        return 1;
+    }
+}
+
+void DefaultFormatStore::GetWfxDefault(clsRecordingFormat& WfxDefault)
+{
+    if (ReadDefaultFormatInfo(WfxDefault) != 0) {
+        WfxDefault.SetToPcmPhoneQuality();
+        SaveDefaultFormatInfo(WfxDefault);
+    }
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QtGlobal>
+
+class DataControl;
+class EventLog;
+class Options;
+class Recordset;
+class RegKeys;
+class clsRecordingFormat;
+
+// Where recording formats are kept: each Programs row holds its program's format; the Info
+// row and two settings hold the default format.
+
+// Reads the format of the Programs row that rs is on: the seven wfx_ columns, wfxExtra and
+// the MP3 flags of Flags. Failures are reported to the log.
+void ReadFormat(EventLog& log, clsRecordingFormat& format, const Recordset& rs);
+// Writes the format into the Programs row being edited or added: the seven wfx_ columns,
+// Flags and wfxExtra. Failures are left to the caller's trap.
+void WriteFormat(const clsRecordingFormat& format, Recordset& rs);
+
+// The default format: the Info row of the database (its one row) and the settings
+// SaveMP3FileExtension and ConvertToMP3, which the options mirror.
+class DefaultFormatStore {
+public:
+    DefaultFormatStore(EventLog& log, RegKeys& registry, Options& options, DataControl& dataInfo);
+
+    // Replaces the Info row by one of this format and saves the two flags; a format other
+    // than MP3 saves the flags' defaults, into the format as well.
+    void SaveDefaultFormatInfo(clsRecordingFormat& format);
+    // 0 on success, 1 on any failure. A row with more extra bytes than a format can hold is
+    // replaced by phone quality.
+    qint16 ReadDefaultFormatInfo(clsRecordingFormat& format);
+    // The default format into WfxDefault; a row that can't be read is replaced by phone
+    // quality.
+    void GetWfxDefault(clsRecordingFormat& WfxDefault);
+
+private:
+    EventLog& m_log;
+    RegKeys& m_registry;
+    Options& m_options;
+    DataControl& m_dataInfo;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "taskcontract/WaveFormatRecord.h"
+
+#include <QString>
+#include <optional>
+
+// The parameter file of one recording: what the task is to record, where to, and in which
+// format. The scheduler writes it before each start into the folder of its channel; the task
+// reads it once from there.
+struct RecParms {
+    static constexpr const char* FileName = "RECPARMS.TMP";
+    // The path of the parameter file in that folder.
+    static QString PathIn(const QString& folder);
+
+    QString softwareName;
+    QString description;
+    // The start as the locale's date-and-time text; the task copies it into the file as is.
+    QString startText;
+    QString outputPath;
+    qint32 lengthSeconds = 0;
+    // The format the task captures in, 11025 Hz 8-bit mono PCM unless set.
+    WaveFormatRecord format{WaveFormatRecord::TagPcm, 1, 11025, 11025, 1, 8, 0, {}};
+
+    // Deletes any old file and writes this one; throws RuntimeError on failure.
+    void Write(const QString& path) const;
+
+    // Each line trimmed of blanks, numbers in their print form; nothing when the file can't
+    // be read or does not hold a whole parameter set.
+    static std::optional<RecParms> Read(const QString& path, bool* couldOpen = nullptr);
+};
