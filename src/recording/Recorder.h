@@ -40,6 +40,7 @@ public:
 
 signals:
     void StatusBarUpdated(const StatusBarPlus::Update& update);
+    void RecordingStarted();
     void UpdateModeDisplay();
     void UpdateRecordingsButtonsAndMenus();
     void ShowRecordingStatusForm();
