@@ -41,10 +41,9 @@ void RecordFrame(QPainter& p, int frame)
     RedDisc(p, QColor(214, 40, 40), QColor(110, 12, 12));
     p.setPen(Qt::NoPen);
     p.setBrush(Qt::white);
+    // A quarter of the circle: at 16 pixels a narrower one reads as a speck.
     const int start = int((90.0 - 22.5 * (frame - 1)) * 16);
-    p.drawPie(QRectF(2.4, 2.4, 11.2, 11.2), start, -50 * 16);
-    p.setBrush(QColor(214, 40, 40));
-    p.drawEllipse(QPointF(8, 8), 1.6, 1.6);
+    p.drawPie(QRectF(2.0, 2.0, 12.0, 12.0), start, -80 * 16);
 }
 
 // A blue square with a circular arrow that has turned (frame - 1) fifths of a circle.

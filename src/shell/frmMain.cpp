@@ -265,9 +265,13 @@ void frmMain::SSTab1_Click(int tab)
 
 void frmMain::UpdateModeDisplay()
 {
+    // The tray first: it follows the flags on its own, but a condition that came before
+    // its creation (no capture device at the load) reaches it only here.
     ModeDisplay::Extra extra;
-    if (m_sysTrayMgr)
+    if (m_sysTrayMgr) {
+        m_sysTrayMgr->Update();
         extra.blinkOn = m_sysTrayMgr->BlinkOn();
+    }
     extra.recentRecordingExists = !m_ctx.options.RecentRecordingFilename.isEmpty() &&
                                   QFileInfo(m_ctx.options.RecentRecordingFilename).isFile();
     extra.elapsedRemainingText = m_ctx.recorder.StatusBar().ElapsedRemainingText();
