@@ -21,7 +21,6 @@ QString Tip(const char* state)
 clsSysTrayMgr::clsSysTrayMgr(EventLog& log, clsAppStatus& appStatus, clsError& error,
                              std::unique_ptr<cSysTray> tray, QObject* parent)
     : QObject(parent)
-    , tmrSystray(this)
     , m_log(log)
     , m_appStatus(appStatus)
     , m_error(error)
