@@ -7,6 +7,7 @@ packages=(
     libsqlite3-dev sqlite3
     libpulse-dev pulseaudio pulseaudio-utils libmp3lame-dev lame sox
     clang libclang-rt-14-dev xvfb xauth
+    trayer xdotool x11-utils
 )
 missing=()
 for p in "${packages[@]}"; do

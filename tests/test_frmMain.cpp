@@ -1,5 +1,6 @@
 #include "Programs.h"
 #include "TestContext.h"
+#include "diagnostics/clsSysTrayMgr.h"
 #include "shell/ModeDisplay.h"
 #include "shell/frmMain.h"
 
@@ -109,6 +110,9 @@ private slots:
         QVERIFY(s.tc.ctx->error.NoAudioRecordDevice());
         QVERIFY(!s.form->ui.Action("ToolbarMain.Record")->isEnabled());
         QVERIFY(s.form->ui.Action("mnuErrors")->isEnabled());
+        // Found at the load, before the tray icon was made: the icon shows it all the same.
+        QCOMPARE(s.form->SysTrayMgr()->CurrentTip(),
+                 QStringLiteral("Nightreel 2000 - Errors or warnings are present."));
     }
 
     void leftoverTemporaryFilesGoAtStart()

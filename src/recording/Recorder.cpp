@@ -19,6 +19,7 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     connect(&m_heartbeat, &Heartbeat::OpenInternetLink, this, &Recorder::OpenInternetLink);
     connect(&m_heartbeat, &Heartbeat::PurgeDue, this, &Recorder::PurgeDue);
     connect(&m_control, &RecordingControl::UpdateModeDisplay, this, &Recorder::UpdateModeDisplay);
+    connect(&m_control, &RecordingControl::RecordingStarted, this, &Recorder::RecordingStarted);
     connect(&m_control, &RecordingControl::UpdateRecordingsButtonsAndMenus, this,
             &Recorder::UpdateRecordingsButtonsAndMenus);
     connect(&m_control, &RecordingControl::ShowRecordingStatusForm, this,

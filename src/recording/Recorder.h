@@ -38,6 +38,7 @@ public:
 
 signals:
     void StatusBarUpdated(const StatusBarPlus::Update& update);
+    void RecordingStarted();
     void UpdateModeDisplay();
     void UpdateRecordingsButtonsAndMenus();
     void ShowRecordingStatusForm();

@@ -326,7 +326,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         return;
     }
 
-    // The place where the tray's animation timer starts (tmrSystray at 500 ms).
+    emit RecordingStarted();
     m_s.appStatus.SetPaused(false);
     emit UpdateModeDisplay();
     // The place where the windows are noted after the link opened a streaming player, when

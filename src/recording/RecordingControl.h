@@ -48,6 +48,9 @@ public:
     QString ManualFilenameUser;
 
 signals:
+    // The task captures: the recording has started for good. The tray animates from the
+    // first of these on.
+    void RecordingStarted();
     void UpdateModeDisplay();
     void UpdateRecordingsButtonsAndMenus();
     // Puts the elapsed time of the recording on the task bar in a small window of its own.

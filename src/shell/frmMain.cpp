@@ -4,8 +4,10 @@
 #include "common/MessageBox.h"
 #include "common/Twips.h"
 #include "diagnostics/Trap.h"
+#include "diagnostics/clsSysTrayMgr.h"
 #include "diagnostics/frmElog.h"
 #include "diagnostics/frmErrors.h"
+#include "diagnostics/frmSysTray.h"
 #include "options/frmSelectRecordDirectory.h"
 #include "scheduling/ProgramListGrid.h"
 #include "shell/AppContext.h"
@@ -31,7 +33,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QSessionManager>
-#include <QSystemTrayIcon>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTimer>
@@ -50,7 +52,7 @@ void SetIfChanged(QLabel* label, const QString& text)
 
 } // namespace
 
-frmMain::frmMain(AppContext& ctx, bool startHidden, QWidget* parent)
+frmMain::frmMain(AppContext& ctx, bool startHidden, QWidget* parent, const SysTrayWrapper& wrapTray)
     : QMainWindow(parent)
     , m_ctx(ctx)
     , m_controller(ctx)
@@ -62,8 +64,9 @@ frmMain::frmMain(AppContext& ctx, bool startHidden, QWidget* parent)
     for (const char* key : {"Edit", "Remove", "Clone", "Enable"})
         ui.Action(QStringLiteral("ToolbarPrograms.") + key)->setEnabled(false);
     BindGrids();
-    CreateTray();
+    CreateTray(wrapTray);
     ConnectCommands();
+    ConnectTray();
     m_programList = new ProgramListGrid(m_ctx, *this);
     connect(qApp, &QGuiApplication::commitDataRequest, this,
             [this](QSessionManager&) { m_closingBySystem = true; });
@@ -97,24 +100,64 @@ void frmMain::BindGrids()
             &frmMain::DBGridRecordings_HeadClick);
 }
 
-void frmMain::CreateTray()
+// The icon is in the notification area from the load to the unload; its manager follows
+// every change of the mode flags and of the error state from here on.
+void frmMain::CreateTray(const SysTrayWrapper& wrapTray)
 {
-    m_trayMenu = new QMenu(this);
-    mnuRestore = m_trayMenu->addAction(QStringLiteral("&Restore"));
-    mnuRestore->setObjectName(QStringLiteral("mnuRestore"));
-    mnuRestore->setEnabled(false);
-    connect(mnuRestore, &QAction::triggered, this, &frmMain::RestoreFromTray);
-    QAction* exit = m_trayMenu->addAction(QStringLiteral("E&xit"));
-    exit->setObjectName(QStringLiteral("mnuSystrayExit"));
-    connect(exit, &QAction::triggered, this, &QWidget::close);
-    m_tray = new QSystemTrayIcon(Icons::Named("record"), this);
-    m_tray->setToolTip(QStringLiteral("Nightreel 2000"));
-    m_tray->setContextMenu(m_trayMenu);
-    connect(m_tray, &QSystemTrayIcon::activated, this,
-            [this](QSystemTrayIcon::ActivationReason reason) {
-                if (reason == QSystemTrayIcon::DoubleClick || reason == QSystemTrayIcon::Trigger)
-                    RestoreFromTray();
-            });
+    m_sysTray = std::make_unique<frmSysTray>();
+    std::unique_ptr<cSysTray> icon = m_sysTray->MakeIcon(m_ctx.log, this);
+    if (wrapTray)
+        icon = wrapTray(std::move(icon));
+    m_sysTrayMgr =
+        std::make_unique<clsSysTrayMgr>(m_ctx.log, m_ctx.appStatus, m_ctx.error, std::move(icon));
+    for (QAction* action : m_sysTray->mnuSystemTray()->actions()) {
+        if (!action->isSeparator())
+            ui.actions.insert(action->objectName(), action);
+    }
+}
+
+// The tray menu's commands are those of the window. "&Disk Status" has no handler here: it
+// opens the disk forecast, which connects itself to the item by its name.
+void frmMain::ConnectTray()
+{
+    const frmSysTray& tray = *m_sysTray;
+    connect(&tray, &frmSysTray::RestoreRequested, this, &frmMain::RestoreFromTray);
+    connect(tray.mnuRestore, &QAction::triggered, this, &frmMain::RestoreFromTray);
+    connect(tray.mnuSystrayAbout, &QAction::triggered, this,
+            [this] { frmAbout(m_ctx, this).exec(); });
+    connect(tray.mnuSystrayStopRecording, &QAction::triggered, this,
+            [this] { m_ctx.recorder.StopCommand(m_ctx.options.ConfirmStopManualRecording); });
+    connect(tray.mnuSystrayPauseRecording, &QAction::triggered, this,
+            [this] { m_ctx.recorder.PauseCommand(QStringLiteral("T")); });
+    connect(tray.mnuSystraySuspend, &QAction::triggered, this, [this] {
+        m_ctx.appStatus.HandleSuspendMenuClickEvent(m_ctx.messageBox);
+        UpdateModeDisplay();
+    });
+    connect(tray.mnuExit, &QAction::triggered, this, &QWidget::close);
+    connect(m_sysTrayMgr.get(), &clsSysTrayMgr::PausedBlink, this, &frmMain::ShowPausedBlink);
+    connect(&m_ctx.recorder, &Recorder::RecordingStarted, m_sysTrayMgr.get(),
+            &clsSysTrayMgr::StartTimer);
+}
+
+void frmMain::ApplyTrayMenu(const ModeDisplay& d)
+{
+    const frmSysTray& tray = *m_sysTray;
+    tray.mnuSystrayPauseRecording->setEnabled(d.pauseEnabled);
+    tray.mnuSystrayPauseRecording->setText(d.trayPauseCaption);
+    tray.mnuSystrayDiskStatus->setEnabled(d.diskStatusEnabled);
+    tray.mnuSystrayStopRecording->setEnabled(d.stopEnabled);
+    const QString stopCaption = u'&' + d.stopCaption;
+    if (tray.mnuSystrayStopRecording->text() != stopCaption)
+        tray.mnuSystrayStopRecording->setText(stopCaption);
+    tray.mnuSystraySuspend->setChecked(m_ctx.appStatus.Suspended());
+}
+
+// The mode panel of a paused recording blinks with the tray icon.
+void frmMain::ShowPausedBlink(bool on)
+{
+    SetIfChanged(ui.ModeStatus, on ? QStringLiteral("RECORDING PAUSED") : QString());
+    ui.ModeStatusPicture->setPixmap(QPixmap());
+    statusBar()->update();
 }
 
 void frmMain::ConnectCommands()
@@ -161,9 +204,8 @@ void frmMain::ConnectCommands()
 void frmMain::ConnectMixer()
 {
     for (const char* name : {"mnuToolsMixer", "ToolbarMain.Mixer"})
-        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
-            LaunchMixer(m_ctx.log, m_ctx.launcher, m_ctx.options.MixerFilePath);
-        });
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
+                [this] { LaunchMixer(m_ctx.log, m_ctx.launcher, m_ctx.options.MixerFilePath); });
     connect(ui.Action(QStringLiteral("mnuMixerProfiles")), &QAction::triggered, this, [this] {
         frmMixerProfiles(m_ctx.mixerProfiles, m_ctx.log, m_ctx.messageBox, this).exec();
     });
@@ -227,7 +269,13 @@ void frmMain::SSTab1_Click(int tab)
 
 void frmMain::UpdateModeDisplay()
 {
+    // The tray first: it follows the flags on its own, but a condition that came before
+    // its creation (no capture device at the load) reaches it only here.
     ModeDisplay::Extra extra;
+    if (m_sysTrayMgr) {
+        m_sysTrayMgr->Update();
+        extra.blinkOn = m_sysTrayMgr->BlinkOn();
+    }
     extra.recentRecordingExists = !m_ctx.options.RecentRecordingFilename.isEmpty() &&
                                   QFileInfo(m_ctx.options.RecentRecordingFilename).isFile();
     extra.elapsedRemainingText = m_ctx.recorder.StatusBar().ElapsedRemainingText();
@@ -259,6 +307,7 @@ void frmMain::UpdateModeDisplay()
             stop->setToolTip(d.stopCaption);
     }
     action(QStringLiteral("mnuFileSuspend"))->setChecked(m_ctx.appStatus.Suspended());
+    ApplyTrayMenu(d);
 
     if (windowTitle() != d.title)
         setWindowTitle(d.title);
@@ -431,17 +480,18 @@ void frmMain::ShowHelp(const QString& anchor)
 void frmMain::HideToTray()
 {
     hide();
-    mnuRestore->setEnabled(true);
-    if (QSystemTrayIcon::isSystemTrayAvailable())
-        m_tray->show();
+    m_sysTray->mnuRestore->setEnabled(true);
 }
 
 void frmMain::RestoreFromTray()
 {
-    mnuRestore->setEnabled(false);
-    show();
+    if (isMinimized() || isMaximized())
+        showNormal();
+    if (isHidden())
+        show();
     raise();
     activateWindow();
+    m_sysTray->mnuRestore->setEnabled(false);
 }
 
 void frmMain::changeEvent(QEvent* event)
@@ -464,7 +514,8 @@ void frmMain::closeEvent(QCloseEvent* event)
     if (!isMinimized() && !isMaximized())
         SaveFormRegSettings();
     m_controller.Form_Unload();
-    m_tray->hide();
+    // Releasing the manager takes the icon out of the notification area.
+    m_sysTrayMgr.reset();
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget != this)
             widget->close();

@@ -6,22 +6,30 @@
 #include "shell/frmMainUi.h"
 
 #include <QMainWindow>
+#include <functional>
 #include <memory>
 
 class AppContext;
-class QMenu;
-class QSystemTrayIcon;
 class RecordsetModel;
 class ProgramListGrid;
 class RecordingsListGrid;
 class frmRecordingStatus;
+class frmSysTray;
+class clsSysTrayMgr;
+class cSysTray;
+struct ModeDisplay;
 
 // The main window: the two lists, the commands, the mode display and the status bar. It
 // lives for the whole run; hiding it to the tray does not end the program, closing it does.
 class frmMain : public QMainWindow {
     Q_OBJECT
 public:
-    frmMain(AppContext& ctx, bool startHidden, QWidget* parent = nullptr);
+    // What the tray manager's icon goes through on its way to the desktop: nothing in the
+    // program; a test puts a counter there.
+    using SysTrayWrapper = std::function<std::unique_ptr<cSysTray>(std::unique_ptr<cSysTray>)>;
+
+    frmMain(AppContext& ctx, bool startHidden, QWidget* parent = nullptr,
+            const SysTrayWrapper& wrapTray = {});
     ~frmMain() override;
 
     // The first activation: database, schedule, heartbeat, and the application made ready.
@@ -37,6 +45,9 @@ public:
     void ShowRecordingStatusForm();
 
     MainFormController& Controller() { return m_controller; }
+    // The tray icon's manager, from the load to the unload.
+    clsSysTrayMgr* SysTrayMgr() { return m_sysTrayMgr.get(); }
+    frmSysTray& SysTray() { return *m_sysTray; }
     frmMainUi ui;
 
 protected:
@@ -50,7 +61,10 @@ private:
     void ConnectRecorder();
     void ConnectMixer();
     void ShowStatusBar(const StatusBarPlus::Update& update);
-    void CreateTray();
+    void CreateTray(const SysTrayWrapper& wrapTray);
+    void ConnectTray();
+    void ApplyTrayMenu(const ModeDisplay& d);
+    void ShowPausedBlink(bool on);
     void BindGrids();
     void GetFormRegSettings();
     void SaveFormRegSettings();
@@ -66,9 +80,9 @@ private:
     MainFormController m_controller;
     RecordsetModel* m_programsModel = nullptr;
     RecordsetModel* m_recordingsModel = nullptr;
-    QSystemTrayIcon* m_tray = nullptr;
-    QMenu* m_trayMenu = nullptr;
-    QAction* mnuRestore = nullptr;
+    // The menu outlives the manager, whose icon shows it.
+    std::unique_ptr<frmSysTray> m_sysTray;
+    std::unique_ptr<clsSysTrayMgr> m_sysTrayMgr;
     std::unique_ptr<frmRecordingStatus> m_recordingStatusForm;
     bool m_firstActivation = true;
     bool m_startHidden = false;

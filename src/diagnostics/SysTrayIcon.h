@@ -1,0 +1,37 @@
+#pragma once
+
+#include "diagnostics/cSysTray.h"
+
+#include <QPointer>
+#include <QSystemTrayIcon>
+
+class EventLog;
+class QMenu;
+class QWidget;
+
+// The icon in the desktop's notification area, through Qt: a Status Notifier item where
+// the session has a host for one, an embedded window (XEmbed) otherwise. Where there is no
+// notification area yet the icon is kept all the same and comes up when one appears: the
+// operations then say Refused.
+class SysTrayIcon : public cSysTray {
+public:
+    // owner: the window that Activate may hide; menu: the icon's context menu.
+    SysTrayIcon(EventLog& log, QWidget* owner, QMenu* menu);
+    ~SysTrayIcon() override;
+
+    int Activate(const SysTrayPicture& picture, const QString& tip, bool hideForm) override;
+    int ChangeSystemTrayIcon(const SysTrayPicture& picture, const QString& tip) override;
+    int ChangeSystemTrayTip(const QString& tip) override;
+    int Delete() override;
+
+    // Where the user's clicks on the icon are heard.
+    QSystemTrayIcon& Icon() { return m_icon; }
+
+private:
+    int Shown() const;
+
+    EventLog& m_log;
+    QPointer<QWidget> m_owner;
+    QSystemTrayIcon m_icon;
+    bool m_active = false;
+};
