@@ -81,6 +81,7 @@ double Median(std::vector<double> values)
 struct LibRun {
     bool ok = false;
     double cpu = 0;
+    double wall = 0;
     double maxStepMs = 0;
     double finishMs = 0;
 };
@@ -93,6 +94,7 @@ LibRun RunLibrary(EncoderLibrary& lib, const std::string& source, const std::str
     LibRun run;
     rusage before{}, after{};
     getrusage(RUSAGE_SELF, &before);
+    const auto started = SteadyClock::now();
     int code = lib.StartEncodeMp3(source.c_str(), destination.c_str(),
                                   reinterpret_cast<const NightreelWaveFormat*>(in.data()),
                                   reinterpret_cast<const NightreelWaveFormat*>(out.data()), asWave);
@@ -116,6 +118,7 @@ LibRun RunLibrary(EncoderLibrary& lib, const std::string& source, const std::str
         return run;
     }
     run.cpu = CpuSeconds(after) - CpuSeconds(before);
+    run.wall = std::chrono::duration<double>(SteadyClock::now() - started).count();
     run.ok = true;
     return run;
 }
@@ -319,7 +322,7 @@ int main(int argc, char* argv[])
     if (!RunQueue(tc, sourcePath, queueOut).ok)
         return 1;
 
-    std::vector<double> libCpu, cliCpu, cliWall, queueWall, maxLatency, maxStep, finishMs;
+    std::vector<double> libWall, libCpu, cliCpu, cliWall, queueWall, maxLatency, maxStep, finishMs;
     bool identical = true;
     for (int i = 0; i < runs; ++i) {
         LibRun l;
@@ -338,6 +341,7 @@ int main(int argc, char* argv[])
         if (!l.ok || !q.ok || c < 0)
             return 1;
         libCpu.push_back(l.cpu);
+        libWall.push_back(l.wall);
         cliCpu.push_back(c);
         cliWall.push_back(w);
         queueWall.push_back(q.wall);
@@ -362,6 +366,7 @@ int main(int argc, char* argv[])
     std::printf("lib_cpu_s=%.3f\n", Median(libCpu));
     std::printf("cli_cpu_s=%.3f\n", Median(cliCpu));
     std::printf("queue_wall_s=%.3f\n", Median(queueWall));
+    std::printf("lib_wall_s=%.3f\n", Median(libWall));
     std::printf("cli_wall_s=%.3f\n", Median(cliWall));
     std::printf("max_loop_latency_ms_worst=%.1f\n",
                 *std::max_element(maxLatency.begin(), maxLatency.end()));

@@ -205,6 +205,7 @@ private slots:
     void failedConversionDeletesItsFilesAndTheQueueGoesOn_data();
     void failedConversionDeletesItsFilesAndTheQueueGoesOn();
     void diskGuardSavesThePartialConversion();
+    void diskGuardCountsTheMp3OfARecordingToConvert();
 
 private:
     std::unique_ptr<PulseFixture> m_pulse;
@@ -507,6 +508,27 @@ void TestConversion::diskGuardSavesThePartialConversion()
     QVERIFY(mp3.size() < 60 * 16000);
     f.VerifyTone(mp3.chopped(128));
     QCOMPARE(f.Captures(), QStringList());
+}
+
+// While a recording to convert runs, the guard also counts the MP3 it will need: a disk that
+// still holds the stop limit, but not with that share, stops the recording.
+void TestConversion::diskGuardCountsTheMp3OfARecordingToConvert()
+{
+    Fixture f;
+    RecordingControl& control = f.recorder().Control();
+    f.SetMp3(control.ManualFormat, true);
+    const double from = f.tc.clock.Now();
+    control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Tight");
+    QVERIFY(f.ctx().appStatus.Recording());
+    // Half a megabyte of MP3 is due at the start: above the limit by less than that.
+    f.tc.diskSpace.freeMb = f.ctx().options.StopRecMegsLeft + 0.2;
+    f.recorder().UpdateStatusBarPlus();
+    QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
+    const QStringList logged = f.Logged("Recording stopped due to insufficient disk space.");
+    QCOMPARE(logged.size(), 1);
+    QVERIFY(logged[0].startsWith("Recording Description: Tight\r\n"));
+    QVERIFY(logged[0].contains("Note: MP3 conversion also requires temporary storage"));
+    QVERIFY(!f.ctx().error.DiskLowStopRecording());
 }
 
 QTEST_GUILESS_MAIN(TestConversion)
