@@ -19,18 +19,27 @@
 //                      behind them; wave_finish_ms is one FinishEncodeMp3 of the same source
 //                      as a wave result (which moves the frames once behind the header).
 //
-// The queue's figures (ratio_queue_wall=, max_loop_latency_ms=) need TimerConvert and are
-// not measured here.
+//   ratio_queue_wall=  wall time of a whole conversion through the program's conversion
+//                      queue (the real TimerConvert driven by an event loop, from its first
+//                      tick to the end of the conversion, the row and tag included) over the
+//                      wall time of the lame process; medians. Goal: 1.10 or less.
+//   max_loop_latency_ms= how much later than due a 10 ms timer fired during that conversion
+//                      at worst, median over the runs. Goal: 60 or less.
+//   queue_wall_s=, cli_wall_s=, max_loop_latency_ms_worst=: the figures behind them.
 //
 // Usage: convert-bench [--runs N] [--seconds S]   (defaults 5 and 600)
 #include "TaskWaveSource.h"
-#include "nightreelenc.h"
+#include "TestContext.h"
+#include "formats/CodecCatalogue.h"
+#include "recording/ConversionQueue.h"
+#include "recording/EncoderLibrary.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFile>
-#include <QLibrary>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -47,7 +56,7 @@ extern char** environ;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 
 constexpr int Kbps = 128;
 constexpr int Rate = 44100;
@@ -70,39 +79,15 @@ double Median(std::vector<double> values)
     return n % 2 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2;
 }
 
-struct Library {
-    QLibrary library;
-    NightreelEncStartEncodeMp3Fn start = nullptr;
-    NightreelEncEncodeNextBufferFn step = nullptr;
-    NightreelEncFinishEncodeMp3Fn finish = nullptr;
-    NightreelEncMp3ConvertErrorCleanUpFn cleanUp = nullptr;
-
-    bool Load()
-    {
-        library.setFileName(QStringLiteral(NIGHTREELENC_DIR "/nightreelenc"));
-        if (!library.load()) {
-            std::fprintf(stderr, "%s\n", qPrintable(library.errorString()));
-            return false;
-        }
-        start = reinterpret_cast<NightreelEncStartEncodeMp3Fn>(library.resolve("StartEncodeMp3"));
-        step =
-            reinterpret_cast<NightreelEncEncodeNextBufferFn>(library.resolve("EncodeNextBuffer"));
-        finish =
-            reinterpret_cast<NightreelEncFinishEncodeMp3Fn>(library.resolve("FinishEncodeMp3"));
-        cleanUp = reinterpret_cast<NightreelEncMp3ConvertErrorCleanUpFn>(
-            library.resolve("Mp3ConvertErrorCleanUp"));
-        return start && step && finish && cleanUp;
-    }
-};
-
 struct LibRun {
     bool ok = false;
     double cpu = 0;
+    double wall = 0;
     double maxStepMs = 0;
     double finishMs = 0;
 };
 
-LibRun RunLibrary(Library& lib, const std::string& source, const std::string& destination,
+LibRun RunLibrary(EncoderLibrary& lib, const std::string& source, const std::string& destination,
                   bool asWave)
 {
     static const std::string in = TaskWaveSource::PcmRecord(Channels, Rate);
@@ -110,34 +95,37 @@ LibRun RunLibrary(Library& lib, const std::string& source, const std::string& de
     LibRun run;
     rusage before{}, after{};
     getrusage(RUSAGE_SELF, &before);
-    int code = lib.start(source.c_str(), destination.c_str(),
-                         reinterpret_cast<const NightreelWaveFormat*>(in.data()),
-                         reinterpret_cast<const NightreelWaveFormat*>(out.data()), asWave);
+    const auto started = SteadyClock::now();
+    int code = lib.StartEncodeMp3(source.c_str(), destination.c_str(),
+                                  reinterpret_cast<const NightreelWaveFormat*>(in.data()),
+                                  reinterpret_cast<const NightreelWaveFormat*>(out.data()), asWave);
     for (int32_t finished = 0; code == 0 && finished != 1;) {
         int32_t percent = 0;
-        const auto t0 = Clock::now();
-        code = lib.step(&percent, &finished);
-        const double ms = std::chrono::duration<double, std::milli>(Clock::now() - t0).count();
+        const auto t0 = SteadyClock::now();
+        code = lib.EncodeNextBuffer(&percent, &finished);
+        const double ms =
+            std::chrono::duration<double, std::milli>(SteadyClock::now() - t0).count();
         run.maxStepMs = std::max(run.maxStepMs, ms);
     }
     if (code == 0) {
-        const auto t0 = Clock::now();
-        code = lib.finish("Nightreel 2000 1.0 ", "6/1/2026 8:00:00 PM ", "Bench ");
-        run.finishMs = std::chrono::duration<double, std::milli>(Clock::now() - t0).count();
+        const auto t0 = SteadyClock::now();
+        code = lib.FinishEncodeMp3("Nightreel 2000 1.0 ", "6/1/2026 8:00:00 PM ", "Bench ");
+        run.finishMs = std::chrono::duration<double, std::milli>(SteadyClock::now() - t0).count();
     }
     getrusage(RUSAGE_SELF, &after);
     if (code != 0) {
         std::fprintf(stderr, "library: code %d\n", code);
-        lib.cleanUp();
+        lib.Mp3ConvertErrorCleanUp();
         return run;
     }
     run.cpu = CpuSeconds(after) - CpuSeconds(before);
+    run.wall = std::chrono::duration<double>(SteadyClock::now() - started).count();
     run.ok = true;
     return run;
 }
 
-// The lame process's CPU time, -1 on failure.
-double RunCli(const std::string& source, const std::string& destination)
+// The lame process's CPU time, -1 on failure; its wall time from the spawn to its end.
+double RunCli(const std::string& source, const std::string& destination, double* wall = nullptr)
 {
     const std::string kbps = std::to_string(Kbps);
     const std::string quality = std::to_string(NIGHTREELENC_LAME_QUALITY);
@@ -149,13 +137,76 @@ double RunCli(const std::string& source, const std::string& destination)
         argv.push_back(a.data());
     argv.push_back(nullptr);
     pid_t pid = 0;
+    const auto t0 = SteadyClock::now();
     if (posix_spawnp(&pid, "lame", nullptr, nullptr, argv.data(), environ) != 0)
         return -1;
     int status = 0;
     rusage usage{};
     if (wait4(pid, &status, 0, &usage) != pid || !WIFEXITED(status) || WEXITSTATUS(status) != 0)
         return -1;
+    if (wall)
+        *wall = std::chrono::duration<double>(SteadyClock::now() - t0).count();
     return CpuSeconds(usage);
+}
+
+struct QueueRun {
+    bool ok = false;
+    double wall = 0;
+    double maxLatencyMs = 0;
+};
+
+// One conversion through the program's own queue: the request is queued, the first tick is
+// made at once, and the event loop runs TimerConvert until the conversion (row and ID3 tag
+// included) is over. A 10 ms probe timer measures how late the loop serves other timers.
+// The queue deletes its source at the end, so it gets a hard link of the bench's.
+QueueRun RunQueue(TestContext& tc, const QString& source, const QString& destination)
+{
+    QueueRun run;
+    const QString link = source + QStringLiteral(".queue.WAV.TMP");
+    QFile::remove(link);
+    if (::link(QFile::encodeName(source).constData(), QFile::encodeName(link).constData()) != 0)
+        return run;
+    AppContext& ctx = *tc.ctx;
+    auto request = std::make_shared<clsConvertToMP3Request>();
+    request->SourceFile = link;
+    request->DestinationFile = destination;
+    request->SourceFormat.SetToPcm(Channels, Rate, 16);
+    request->DestinationFormat.SetWaveFormatEx(
+        ctx.log, WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(Channels, Rate, Kbps)).value());
+    request->DestinationFormat.SaveMP3FileExtension = true;
+    request->Description = QStringLiteral("Bench");
+    ConversionQueue& queue = ctx.recorder.Conversion();
+    queue.Mp3ConvertQueue.append(request);
+
+    QEventLoop loop;
+    QObject::connect(&ctx.appStatus, &clsAppStatus::Update, &loop, [&] {
+        if (!ctx.appStatus.Converting())
+            loop.quit();
+    });
+    QTimer probe;
+    probe.setTimerType(Qt::PreciseTimer);
+    probe.setInterval(10);
+    auto last = SteadyClock::now();
+    QObject::connect(&probe, &QTimer::timeout, [&] {
+        const auto now = SteadyClock::now();
+        const double late = std::chrono::duration<double, std::milli>(now - last).count() - 10;
+        run.maxLatencyMs = std::max(run.maxLatencyMs, late);
+        last = now;
+    });
+    const int errorsBefore = tc.CountRows(QStringLiteral("EventLog"));
+    const auto t0 = SteadyClock::now();
+    probe.start();
+    last = t0;
+    queue.TimerConvert_Timer();
+    if (ctx.appStatus.Converting())
+        loop.exec();
+    run.wall = std::chrono::duration<double>(SteadyClock::now() - t0).count();
+    probe.stop();
+    queue.Stop();
+    run.ok = tc.CountRows(QStringLiteral("EventLog")) == errorsBefore && QFile::exists(destination);
+    if (!run.ok)
+        std::fprintf(stderr, "queue: the conversion failed (see the event log)\n");
+    return run;
 }
 
 size_t FrameLength(const unsigned char* h)
@@ -242,9 +293,12 @@ int main(int argc, char* argv[])
             seconds = std::max(1, std::atoi(argv[i + 1]));
     }
 
-    Library lib;
-    if (!lib.Load())
+    EncoderLibrary lib;
+    lib.SetFolder(QStringLiteral(NIGHTREELENC_DIR));
+    if (!lib.Load()) {
+        std::fprintf(stderr, "%s\n", qPrintable(lib.ErrorString()));
         return 1;
+    }
     QTemporaryDir dir;
     std::string source;
     if (!dir.isValid() || !MakeSource(dir.path(), seconds, source))
@@ -257,22 +311,40 @@ int main(int argc, char* argv[])
     if (!RunLibrary(lib, source, libOut, false).ok || RunCli(source, cliOut) < 0)
         return 1;
 
-    std::vector<double> libCpu, cliCpu, maxStep, finishMs;
+    // The queue runs in the program's own recorder over a context of the bench's.
+    TestContext tc;
+    tc.OpenDatabase();
+    tc.ctx->options.DefaultRecordingDirectory = dir.path();
+    tc.ctx->recorder.Conversion().Encoder().SetFolder(QStringLiteral(NIGHTREELENC_DIR));
+    const QString sourcePath = QFile::decodeName(source.c_str());
+    const QString queueOut = dir.path() + QStringLiteral("/queue.MP3");
+    if (!RunQueue(tc, sourcePath, queueOut).ok)
+        return 1;
+
+    std::vector<double> libWall, libCpu, cliCpu, cliWall, queueWall, maxLatency, maxStep, finishMs;
     bool identical = true;
     for (int i = 0; i < runs; ++i) {
         LibRun l;
+        QueueRun q;
         double c = -1;
+        double w = 0;
         if (i % 2 == 0) {
             l = RunLibrary(lib, source, libOut, false);
-            c = RunCli(source, cliOut);
+            c = RunCli(source, cliOut, &w);
+            q = RunQueue(tc, sourcePath, queueOut);
         } else {
-            c = RunCli(source, cliOut);
+            q = RunQueue(tc, sourcePath, queueOut);
+            c = RunCli(source, cliOut, &w);
             l = RunLibrary(lib, source, libOut, false);
         }
-        if (!l.ok || c < 0)
+        if (!l.ok || !q.ok || c < 0)
             return 1;
         libCpu.push_back(l.cpu);
+        libWall.push_back(l.wall);
         cliCpu.push_back(c);
+        cliWall.push_back(w);
+        queueWall.push_back(q.wall);
+        maxLatency.push_back(q.maxLatencyMs);
         maxStep.push_back(l.maxStepMs);
         finishMs.push_back(l.finishMs);
 
@@ -286,10 +358,17 @@ int main(int argc, char* argv[])
     const LibRun wave = RunLibrary(lib, source, folder + "/lib.WAV", true);
 
     std::printf("ratio_lib_cpu=%.3f\n", Median(libCpu) / Median(cliCpu));
+    std::printf("ratio_queue_wall=%.3f\n", Median(queueWall) / Median(cliWall));
     std::printf("max_step_ms=%.1f\n", Median(maxStep));
+    std::printf("max_loop_latency_ms=%.1f\n", Median(maxLatency));
     std::printf("frames_identical=%d\n", identical ? 1 : 0);
     std::printf("lib_cpu_s=%.3f\n", Median(libCpu));
     std::printf("cli_cpu_s=%.3f\n", Median(cliCpu));
+    std::printf("queue_wall_s=%.3f\n", Median(queueWall));
+    std::printf("lib_wall_s=%.3f\n", Median(libWall));
+    std::printf("cli_wall_s=%.3f\n", Median(cliWall));
+    std::printf("max_loop_latency_ms_worst=%.1f\n",
+                *std::max_element(maxLatency.begin(), maxLatency.end()));
     std::printf("max_step_ms_worst=%.1f\n", *std::max_element(maxStep.begin(), maxStep.end()));
     std::printf("finish_ms=%.1f\n", Median(finishMs));
     std::printf("wave_finish_ms=%.1f\n", wave.ok ? wave.finishMs : -1.0);

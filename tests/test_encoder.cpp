@@ -4,13 +4,12 @@
 // chunks, and with the project's own wave reader.
 #include "TaskWaveSource.h"
 #include "formats/WaveFileChunks.h"
-#include "nightreelenc.h"
+#include "recording/EncoderLibrary.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QLibrary>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -19,40 +18,6 @@
 #include <QtTest>
 
 namespace {
-
-struct Encoder {
-    QLibrary library;
-    NightreelEncStartEncodeMp3Fn start = nullptr;
-    NightreelEncEncodeNextBufferFn step = nullptr;
-    NightreelEncFinishEncodeMp3Fn finish = nullptr;
-    NightreelEncMp3ConvertErrorCleanUpFn cleanUp = nullptr;
-
-    bool Load()
-    {
-        library.setFileName(QStringLiteral(NIGHTREELENC_DIR "/nightreelenc"));
-        if (!library.load()) {
-            qWarning() << library.errorString();
-            return false;
-        }
-        start = reinterpret_cast<NightreelEncStartEncodeMp3Fn>(library.resolve("StartEncodeMp3"));
-        step =
-            reinterpret_cast<NightreelEncEncodeNextBufferFn>(library.resolve("EncodeNextBuffer"));
-        finish =
-            reinterpret_cast<NightreelEncFinishEncodeMp3Fn>(library.resolve("FinishEncodeMp3"));
-        cleanUp = reinterpret_cast<NightreelEncMp3ConvertErrorCleanUpFn>(
-            library.resolve("Mp3ConvertErrorCleanUp"));
-        return start && step && finish && cleanUp;
-    }
-
-    int Start(const QString& source, const QString& destination, const std::string& in,
-              const std::string& out, bool asWave)
-    {
-        return start(QFile::encodeName(source).constData(),
-                     QFile::encodeName(destination).constData(),
-                     reinterpret_cast<const NightreelWaveFormat*>(in.data()),
-                     reinterpret_cast<const NightreelWaveFormat*>(out.data()), asWave ? 1 : 0);
-    }
-};
 
 // What one conversion did.
 struct Run {
@@ -200,9 +165,18 @@ class TestEncoder : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_dir;
-    Encoder m_enc;
+    EncoderLibrary m_enc;
 
     QString Path(const QString& name) const { return m_dir.filePath(name); }
+
+    int Start(const QString& source, const QString& destination, const std::string& in,
+              const std::string& out, bool asWave)
+    {
+        return m_enc.StartEncodeMp3(
+            QFile::encodeName(source).constData(), QFile::encodeName(destination).constData(),
+            reinterpret_cast<const NightreelWaveFormat*>(in.data()),
+            reinterpret_cast<const NightreelWaveFormat*>(out.data()), asWave ? 1 : 0);
+    }
 
     // A source in the task's layout; its sample frames.
     quint32 MakeSource(const QString& name, int rate, int channels, double seconds,
@@ -222,7 +196,7 @@ class TestEncoder : public QObject {
                 const Texts& texts = Texts())
     {
         Run run;
-        run.code = m_enc.Start(source, destination, in, out, asWave);
+        run.code = Start(source, destination, in, out, asWave);
         if (run.code != 0)
             return run;
         for (int finished = 0; finished != 1 && run.steps != maxSteps;) {
@@ -234,7 +208,7 @@ class TestEncoder : public QObject {
             qint32 finishedNow = 0;
             QElapsedTimer timer;
             timer.start();
-            run.code = m_enc.step(&percent, &finishedNow);
+            run.code = m_enc.EncodeNextBuffer(&percent, &finishedNow);
             run.maxStepMs = std::max(run.maxStepMs, timer.nsecsElapsed() / 1e6);
             ++run.steps;
             if (run.code != 0)
@@ -248,8 +222,8 @@ class TestEncoder : public QObject {
                 run.finishedSets += 100; // not exactly 1
             finished = finishedNow;
         }
-        run.code = m_enc.finish(texts.software.constData(), texts.date.constData(),
-                                texts.title.constData());
+        run.code = m_enc.FinishEncodeMp3(texts.software.constData(), texts.date.constData(),
+                                         texts.title.constData());
         return run;
     }
 
@@ -335,13 +309,14 @@ private slots:
         if (QStandardPaths::findExecutable(QStringLiteral("sox")).isEmpty() ||
             QStandardPaths::findExecutable(QStringLiteral("lame")).isEmpty())
             QSKIP("needs sox and lame");
-        QVERIFY2(m_enc.Load(), "libnightreelenc.so loads from the build's src folder");
+        m_enc.SetFolder(QStringLiteral(NIGHTREELENC_DIR));
+        QVERIFY2(m_enc.Load(), qPrintable(m_enc.ErrorString()));
     }
 
     void cleanup()
     {
         // Every test leaves the library idle for the next.
-        m_enc.cleanUp();
+        m_enc.Mp3ConvertErrorCleanUp();
     }
 
     void recordLayouts()
@@ -548,11 +523,11 @@ private slots:
             QCOMPARE(run.finishedSets, 0);
             // Failed: nothing goes on until the clean-up.
             qint32 percent = 0, finished = 0;
-            QCOMPARE(m_enc.step(&percent, &finished), NIGHTREELENC_ERR_OUT_OF_ORDER);
-            QCOMPARE(m_enc.finish(" ", " ", " "), NIGHTREELENC_ERR_OUT_OF_ORDER);
-            QCOMPARE(m_enc.Start(Path("df.WAV.TMP"), Path("df.MP3"), in, out, false),
+            QCOMPARE(m_enc.EncodeNextBuffer(&percent, &finished), NIGHTREELENC_ERR_OUT_OF_ORDER);
+            QCOMPARE(m_enc.FinishEncodeMp3(" ", " ", " "), NIGHTREELENC_ERR_OUT_OF_ORDER);
+            QCOMPARE(Start(Path("df.WAV.TMP"), Path("df.MP3"), in, out, false),
                      NIGHTREELENC_ERR_OUT_OF_ORDER);
-            QCOMPARE(m_enc.cleanUp(), 0);
+            QCOMPARE(m_enc.Mp3ConvertErrorCleanUp(), 0);
 
             // A new conversion works after the clean-up.
             run = Convert(Path("df.WAV.TMP"), Path("df.MP3"), in, out, false);
@@ -569,30 +544,30 @@ private slots:
         const std::string in = TaskWaveSource::PcmRecord(2, 44100);
         const std::string out = TaskWaveSource::Mp3Record(2, 44100, 128);
         qint32 percent = 0, finished = 0;
-        QCOMPARE(m_enc.step(&percent, &finished), NIGHTREELENC_ERR_OUT_OF_ORDER);
-        QCOMPARE(m_enc.finish(" ", " ", " "), NIGHTREELENC_ERR_OUT_OF_ORDER);
+        QCOMPARE(m_enc.EncodeNextBuffer(&percent, &finished), NIGHTREELENC_ERR_OUT_OF_ORDER);
+        QCOMPARE(m_enc.FinishEncodeMp3(" ", " ", " "), NIGHTREELENC_ERR_OUT_OF_ORDER);
 
-        QCOMPARE(m_enc.Start(Path("oo.WAV.TMP"), Path("oo.MP3"), in, out, false), 0);
+        QCOMPARE(Start(Path("oo.WAV.TMP"), Path("oo.MP3"), in, out, false), 0);
         // A second start leaves the running conversion alone.
-        QCOMPARE(m_enc.Start(Path("oo.WAV.TMP"), Path("oo2.MP3"), in, out, false),
+        QCOMPARE(Start(Path("oo.WAV.TMP"), Path("oo2.MP3"), in, out, false),
                  NIGHTREELENC_ERR_OUT_OF_ORDER);
         int sets = 0;
         for (int i = 0; i < 10000 && finished == 0; ++i) {
-            QCOMPARE(m_enc.step(&percent, &finished), 0);
+            QCOMPARE(m_enc.EncodeNextBuffer(&percent, &finished), 0);
             sets += finished;
         }
         QCOMPARE(finished, 1);
         QCOMPARE(sets, 1);
         // The source is used up: no further step, and finished is left as passed.
         qint32 again = 0;
-        QCOMPARE(m_enc.step(&percent, &again), NIGHTREELENC_ERR_OUT_OF_ORDER);
+        QCOMPARE(m_enc.EncodeNextBuffer(&percent, &again), NIGHTREELENC_ERR_OUT_OF_ORDER);
         QCOMPARE(again, 0);
-        QCOMPARE(m_enc.finish("Nightreel 2000 1.0 ", " ", "Title "), 0);
-        QCOMPARE(m_enc.finish(" ", " ", " "), NIGHTREELENC_ERR_OUT_OF_ORDER);
-        QCOMPARE(m_enc.step(&percent, &again), NIGHTREELENC_ERR_OUT_OF_ORDER);
+        QCOMPARE(m_enc.FinishEncodeMp3("Nightreel 2000 1.0 ", " ", "Title "), 0);
+        QCOMPARE(m_enc.FinishEncodeMp3(" ", " ", " "), NIGHTREELENC_ERR_OUT_OF_ORDER);
+        QCOMPARE(m_enc.EncodeNextBuffer(&percent, &again), NIGHTREELENC_ERR_OUT_OF_ORDER);
         VerifyTone(Decode(ReadFile(Path("oo.MP3")), "oo"), 1);
         // The clean-up is harmless when idle, and the next start works.
-        QCOMPARE(m_enc.cleanUp(), 0);
+        QCOMPARE(m_enc.Mp3ConvertErrorCleanUp(), 0);
         QCOMPARE(Convert(Path("oo.WAV.TMP"), Path("oo.MP3"), in, out, false).code, 0);
     }
 
@@ -604,31 +579,32 @@ private slots:
         const std::string out = TaskWaveSource::Mp3Record(2, 44100, 128);
         const QString src = Path("sf.WAV.TMP");
         const QString dst = Path("sf.MP3");
-        QCOMPARE(m_enc.Start(Path("missing.WAV.TMP"), dst, in, out, false),
-                 NIGHTREELENC_ERR_OPEN_SOURCE);
-        QCOMPARE(m_enc.Start(Path("not-a-wave.WAV.TMP"), dst, in, out, false),
+        QCOMPARE(Start(Path("missing.WAV.TMP"), dst, in, out, false), NIGHTREELENC_ERR_OPEN_SOURCE);
+        QCOMPARE(Start(Path("not-a-wave.WAV.TMP"), dst, in, out, false),
                  NIGHTREELENC_ERR_BAD_FORMAT);
         // The record disagrees with the file's fmt.
-        QCOMPARE(m_enc.Start(src, dst, TaskWaveSource::PcmRecord(1, 44100), out, false),
+        QCOMPARE(Start(src, dst, TaskWaveSource::PcmRecord(1, 44100), out, false),
                  NIGHTREELENC_ERR_BAD_FORMAT);
         // Not MP3, a bit rate MPEG audio has not, a rate MPEG audio has not.
-        QCOMPARE(m_enc.Start(src, dst, in, in, false), NIGHTREELENC_ERR_BAD_FORMAT);
-        QCOMPARE(m_enc.Start(src, dst, in, TaskWaveSource::Mp3Record(2, 44100, 130), false),
+        QCOMPARE(Start(src, dst, in, in, false), NIGHTREELENC_ERR_BAD_FORMAT);
+        QCOMPARE(Start(src, dst, in, TaskWaveSource::Mp3Record(2, 44100, 130), false),
                  NIGHTREELENC_ERR_BAD_FORMAT);
-        QCOMPARE(m_enc.Start(src, dst, in, TaskWaveSource::Mp3Record(2, 44000, 128), false),
+        QCOMPARE(Start(src, dst, in, TaskWaveSource::Mp3Record(2, 44000, 128), false),
                  NIGHTREELENC_ERR_BAD_FORMAT);
-        QCOMPARE(m_enc.Start(src, Path("no-such-folder/sf.MP3"), in, out, false),
+        QCOMPARE(Start(src, Path("no-such-folder/sf.MP3"), in, out, false),
                  NIGHTREELENC_ERR_CREATE_DESTINATION);
         const qint64 sourceSize = QFileInfo(src).size();
-        QCOMPARE(m_enc.Start(src, src, in, out, false), NIGHTREELENC_ERR_CREATE_DESTINATION);
+        QCOMPARE(Start(src, src, in, out, false), NIGHTREELENC_ERR_CREATE_DESTINATION);
         QCOMPARE(QFileInfo(src).size(), sourceSize);
         // Nothing is created when the start fails before the destination.
-        QCOMPARE(m_enc.Start(Path("missing.WAV.TMP"), Path("never.MP3"), in, out, false),
+        QCOMPARE(Start(Path("missing.WAV.TMP"), Path("never.MP3"), in, out, false),
                  NIGHTREELENC_ERR_OPEN_SOURCE);
         QVERIFY(!QFileInfo::exists(Path("never.MP3")));
-        QCOMPARE(m_enc.start(nullptr, "x", nullptr, nullptr, 0), NIGHTREELENC_ERR_BAD_FORMAT);
-        QCOMPARE(m_enc.start(nullptr, "x", reinterpret_cast<const NightreelWaveFormat*>(in.data()),
-                             reinterpret_cast<const NightreelWaveFormat*>(out.data()), 0),
+        QCOMPARE(m_enc.StartEncodeMp3(nullptr, "x", nullptr, nullptr, 0),
+                 NIGHTREELENC_ERR_BAD_FORMAT);
+        QCOMPARE(m_enc.StartEncodeMp3(nullptr, "x",
+                                      reinterpret_cast<const NightreelWaveFormat*>(in.data()),
+                                      reinterpret_cast<const NightreelWaveFormat*>(out.data()), 0),
                  NIGHTREELENC_ERR_OPEN_SOURCE);
         // A failed start leaves the library idle: the next start works without a clean-up.
         QCOMPARE(Convert(src, dst, in, out, false).code, 0);

@@ -6,6 +6,7 @@
 #include "ProgramListFixture.h"
 #include "Programs.h"
 #include "PulseFixture.h"
+#include "SoxTone.h"
 #include "TestContext.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/ModuleFileTime.h"
@@ -53,23 +54,6 @@ QVariantHash WithPcmFormat(QVariantHash row)
                 {"Flags", 0},
                 {"CompressionMethod", "PCM 44,100 Hz, 16 Bit, Mono"}});
     return row;
-}
-
-// The level and the rough frequency of a wave file, as sox measures them, from skip seconds on.
-bool ToneOf(const QString& path, double& rms, double& frequency, double skip = 0.0)
-{
-    QProcess sox;
-    sox.start("sox", {path, "-n", "trim", QString::number(skip), "stat"});
-    if (!sox.waitForFinished(10000))
-        return false;
-    const QString out = QString::fromUtf8(sox.readAllStandardError());
-    const auto value = [&](const QString& label) {
-        const auto m = QRegularExpression(label + R"(:\s+([-0-9.]+))").match(out);
-        return m.hasMatch() ? m.captured(1).toDouble() : -1.0;
-    };
-    rms = value("RMS +amplitude");
-    frequency = value("Rough +frequency");
-    return rms >= 0 && frequency >= 0;
 }
 
 // The program's own recorder over a fresh context, with the real recording task; its

@@ -5,6 +5,7 @@
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
     : QObject(parent)
     , m_s(services)
+    , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status)
     , m_link(services.log, services.appStatus, services.runtimeFolder)
     , m_control(services, m_link, m_status, m_conversion)
     , m_heartbeat(services.clock, services.log, services.options, services.launcher,
@@ -27,21 +28,29 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     connect(&m_control, &RecordingControl::UnloadRecordingStatusForm, this,
             &Recorder::UnloadRecordingStatusForm);
     connect(&m_link, &RecordingTaskLink::MinimizeToTray, this, &Recorder::MinimizeToTray);
+    connect(&m_conversion, &ConversionQueue::DoEndOfRecordingStuff, &m_control,
+            &RecordingControl::DoEndOfRecordingStuff);
+    connect(&m_conversion, &ConversionQueue::UpdateRecordingsButtonsAndMenus, this,
+            &Recorder::UpdateRecordingsButtonsAndMenus);
+    connect(&m_conversion, &ConversionQueue::UpdateModeDisplay, this, &Recorder::UpdateModeDisplay);
 }
 
 void Recorder::Start()
 {
     m_heartbeat.Start();
+    m_conversion.Start();
 }
 
 void Recorder::Stop()
 {
     m_heartbeat.Timer1.SetInterval(0);
+    m_conversion.Stop();
 }
 
 void Recorder::UpdateStatusBarPlus()
 {
-    const StatusBarPlus::Update update = m_statusBar.Run(QString());
+    const StatusBarPlus::Update update =
+        m_statusBar.Run(m_conversion.StatusBarDisplay(), m_control.ConvertRequest());
     if (update.postStop)
         m_control.RequestStop();
     emit StatusBarUpdated(update);

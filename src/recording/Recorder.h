@@ -18,7 +18,8 @@ class Recorder : public QObject {
 public:
     explicit Recorder(const RecorderServices& services, QObject* parent = nullptr);
 
-    // The heartbeat starts at the end of the first activation and stops at the unload.
+    // The heartbeat and the conversion timer start at the end of the first activation and
+    // stop at the unload.
     void Start();
     void Stop();
 

@@ -9,7 +9,7 @@
 #include <memory>
 
 class RecordingTaskLink;
-struct ConversionQueue;
+class ConversionQueue;
 struct clsRecordingStatus;
 
 // The life of one recording, from a row of Programs (or a manual request) to a file and a
@@ -41,6 +41,10 @@ public:
     void DoEndOfRecordingStuff(const QString& Title, const QString& File, double StartTime,
                                double EndTime, const QString& CompressionMethod,
                                const clsRecordingFormat& Format);
+
+    // The request the recording in progress will queue when it is to be converted; null
+    // otherwise.
+    const clsConvertToMP3Request* ConvertRequest() const { return m_convertRequest.get(); }
 
     // What the manual recording dialog leaves for StartRecording: the format and the
     // user's own file name.

@@ -6,6 +6,7 @@
 #include "diagnostics/EventLog.h"
 #include "diagnostics/clsError.h"
 #include "recording/ConversionQueue.h"
+#include "recording/clsConvertToMP3Request.h"
 #include "recording/clsRecordingStatus.h"
 #include "store/Options.h"
 
@@ -68,15 +69,18 @@ QString StatusBarPlus::ElapsedRemainingText() const
            SecondsOrMinutes(now, m_recordingStatus.EndTime, QStringLiteral("remaining"));
 }
 
-StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText)
+StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText,
+                                         const clsConvertToMP3Request* pendingConversion)
 {
     const bool folderKnown = !m_error.InvalidRecordingDirectory();
-    return Run(convertingText,
+    return Run(convertingText, pendingConversion,
                folderKnown ? m_diskSpace.GetRecDirDiskSpaceMb(m_options.DefaultRecordingDirectory)
                            : DiskSpaceMb());
 }
 
-StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText, const DiskSpaceMb& disk)
+StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText,
+                                         const clsConvertToMP3Request* pendingConversion,
+                                         const DiskSpaceMb& disk)
 {
     Update u;
     const bool recording = m_appStatus.Recording();
@@ -88,9 +92,32 @@ StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText, const Di
         return u;
 
     const qint16 stopLimit = m_options.StopRecMegsLeft;
+    if (recording && m_recordingStatus.ConvertToMP3 && pendingConversion) {
+        // The MP3 share of what the recording will have written by now must fit too.
+        const double now = m_clock.Now();
+        const qint64 total =
+            AutomationDate::SecondsBetween(m_recordingStatus.StartTime, m_recordingStatus.EndTime);
+        const qint64 elapsed = AutomationDate::SecondsBetween(m_recordingStatus.StartTime, now);
+        const double fraction = total > 0 ? double(elapsed) / double(total) : 1.0;
+        const float size = pendingConversion->DestinationFormat.CalcStorageMbytesSng(qint32(total));
+        const double written = double(size) * fraction + 0.5;
+        if (disk.free - written < stopLimit) {
+            u.postStop = true;
+            m_log.LogEvent(
+                EventError, kDiskStopMessage,
+                QStringLiteral("Recording Description: ") + m_recordingStatus.Description +
+                    QStringLiteral(
+                        "\r\nRemove recordings from disk or change the recording directory to a "
+                        "different disk drive.  Note: MP3 conversion also requires temporary "
+                        "storage for the PCM recording in the default recording folder.  Since "
+                        "the PCM file is several times larger than the MP3 file, plenty of space "
+                        "is needed. Space is also needed for any temporary PCM files which have "
+                        "not finished converting."));
+        }
+    }
     if (disk.free + 0.5 < stopLimit) {
         m_error.SetDiskLowStopRecording(true);
-        if (recording) {
+        if (recording && !u.postStop) {
             u.postStop = true;
             // Logged on every round until the recording has ended, as the system did.
             m_log.LogEvent(EventError, kDiskStopMessage,

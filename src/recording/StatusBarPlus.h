@@ -8,8 +8,9 @@ class Clock;
 class EventLog;
 class Options;
 class clsAppStatus;
+class clsConvertToMP3Request;
 class clsError;
-struct ConversionQueue;
+class ConversionQueue;
 struct clsRecordingStatus;
 
 // The live figures of the status bar and the guard against a full disk, run on every tick
@@ -31,11 +32,13 @@ public:
         bool postStop = false;
     };
 
-    // One round: disk figures, both disk conditions and their log entries, and the stop
-    // asked for while recording on a nearly full disk.
-    Update Run(const QString& convertingText);
+    // One round: disk figures, the disk conditions and their log entries, and the stop asked
+    // for while recording on a nearly full disk. `pendingConversion` is the request that the
+    // recording in progress will queue, if it is to be converted: its MP3 must fit as well.
+    Update Run(const QString& convertingText, const clsConvertToMP3Request* pendingConversion);
     // The same with the disk figures given.
-    Update Run(const QString& convertingText, const DiskSpaceMb& disk);
+    Update Run(const QString& convertingText, const clsConvertToMP3Request* pendingConversion,
+               const DiskSpaceMb& disk);
 
     // "hh:mm:ss", "mm:ss" or "ss" since the recording began.
     QString ElapsedText() const;

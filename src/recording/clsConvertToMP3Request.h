@@ -21,9 +21,18 @@ public:
     double StartTime = 0.0;
     // Set when the capture has ended.
     double EndTime = 0.0;
+    // Of this conversion, from the encoder's last step.
+    qint16 PercentComplete = 0;
+    qint16 Reserved = 0;
     bool ManualRecording = false;
     QString LaunchAppAfter;
     bool LaunchAfterOnlyIfOk = false;
+
+    // The mode panel's text while this request is converted.
+    QString StatusBarDisplay() const
+    {
+        return QStringLiteral("CONVERTING TO MP3  ") + QString::number(PercentComplete) + u'%';
+    }
 };
 
 using Mp3ConvertQueueList = QList<std::shared_ptr<clsConvertToMP3Request>>;

@@ -5,6 +5,7 @@
 #include "common/TextHelpers.h"
 #include "diagnostics/Trap.h"
 #include "platform/AudioDevices.h"
+#include "platform/OpenFiles.h"
 #include "scheduling/ModuleUtility.h"
 #include "shell/AppContext.h"
 #include "taskcontract/RecParms.h"
@@ -88,10 +89,13 @@ void MainFormController::RemoveTemporaryRecordings(const QString& folder)
     if (folder.size() <= 1)
         return;
     QDir dir(folder);
-    const QStringList leftovers = dir.entryList(
-        {QStringLiteral("*.WAV.TMP"), QStringLiteral("*.MP3.TMP")}, QDir::Files | QDir::Hidden);
-    for (const QString& name : leftovers)
-        QFile::remove(dir.filePath(name));
+    QStringList leftovers;
+    for (const QString& name :
+         dir.entryList({QStringLiteral("*.WAV.TMP"), QStringLiteral("*.MP3.TMP")},
+                       QDir::Files | QDir::Hidden))
+        leftovers << dir.filePath(name);
+    // A second instance must leave alone what the first one is recording.
+    OpenFiles::RemoveUnlessInUse(leftovers);
 }
 
 bool MainFormController::QueryUnload(bool closedBySystem)

@@ -51,7 +51,8 @@ ModeDisplay ModeDisplay::Compute(const AppContext& ctx, const Extra& extra)
     } else if (status.Converting()) {
         d.title = kTitle + QStringLiteral(" - Converting to MP3");
         d.panelText = extra.convertingText;
-        d.panelToolTip = QStringLiteral("Converting: ") + extra.convertingText;
+        // The panel shows the percent already; the tip says which recording it is.
+        d.panelToolTip = QStringLiteral("Converting: ") + extra.convertingDescription;
     } else if (status.Playing()) {
         d.title = kTitle + QStringLiteral(" - Playing");
         d.panelText = QStringLiteral("PLAYING");

@@ -28,8 +28,9 @@ struct ModeDisplay {
         bool recentRecordingExists = false;
         // The blink state of the tray while paused: the panel text alternates with it.
         bool blinkOn = true;
-        // The running conversion's status text.
+        // The running conversion's status text and its recording's description.
         QString convertingText;
+        QString convertingDescription;
         QString elapsedRemainingText;
     };
     static ModeDisplay Compute(const AppContext& ctx, const Extra& extra);

@@ -279,6 +279,10 @@ void frmMain::UpdateModeDisplay()
     extra.recentRecordingExists = !m_ctx.options.RecentRecordingFilename.isEmpty() &&
                                   QFileInfo(m_ctx.options.RecentRecordingFilename).isFile();
     extra.elapsedRemainingText = m_ctx.recorder.StatusBar().ElapsedRemainingText();
+    const ConversionQueue& conversion = m_ctx.recorder.Conversion();
+    extra.convertingText = conversion.StatusBarDisplay();
+    if (conversion.CurrentConvertRequest)
+        extra.convertingDescription = conversion.CurrentConvertRequest->Description;
     const ModeDisplay d = ModeDisplay::Compute(m_ctx, extra);
     const auto action = [this](const QString& name) {
         return ui.Action(name);

@@ -40,9 +40,11 @@ RecordingsList::RecordingsList(AppContext& ctx)
 
 bool RecordingsList::IsExcluded(const QString& path) const
 {
-    // The file being recorded is not a finished recording yet.
+    // The file being recorded is not a finished recording yet, nor the one being converted.
     const QString finalFile = m_ctx.recorder.Status().FinalFile;
-    return !finalFile.isEmpty() && Comparable(finalFile) == Comparable(path);
+    const QString converting = m_ctx.recorder.Conversion().RunningDestination();
+    return (!finalFile.isEmpty() && Comparable(finalFile) == Comparable(path)) ||
+           (!converting.isEmpty() && Comparable(converting) == Comparable(path));
 }
 
 void RecordingsList::AddFileToRecordingsList(const QString& path)

@@ -1,0 +1,536 @@
+// The MP3 conversion queue in the program's own recorder, with the real encoder library and
+// real files: a captured recording converted and listed, the queue's order, and every way a
+// conversion ends: done, stopped by the user, stopped beside a live recording, stopped by
+// the disk guard, failed. Results are checked with `lame --decode` and `sox stat`.
+#include "PulseFixture.h"
+#include "SoxTone.h"
+#include "TaskWaveSource.h"
+#include "TestContext.h"
+#include "formats/CodecCatalogue.h"
+#include "shell/MainFormController.h"
+#include "store/RecordingsList.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QSqlQuery>
+#include <QStandardPaths>
+#include <QTest>
+#include <QtEndian>
+#include <memory>
+
+namespace {
+
+const QString kErrorConverting = QStringLiteral("Error Converting to MP3");
+
+struct Row {
+    QString title;
+    QString file;
+    double start;
+    double end;
+    float size;
+};
+
+struct Chunk {
+    QByteArray id;
+    QByteArray data;
+};
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+// The direct chunks of a RIFF WAVE file, in order.
+QList<Chunk> Chunks(const QByteArray& bytes)
+{
+    QList<Chunk> chunks;
+    for (qsizetype pos = 12; pos + 8 <= bytes.size();) {
+        const quint32 size = qFromLittleEndian<quint32>(bytes.constData() + pos + 4);
+        chunks.append({bytes.mid(pos, 4), bytes.mid(pos + 8, size)});
+        pos += 8 + size + (size & 1);
+    }
+    return chunks;
+}
+
+// The rough frequency and level of an MP3 stream, decoded by lame.
+bool Mp3ToneOf(const QByteArray& mp3, const QString& scratch, double& frequency, double& rms)
+{
+    QFile f(scratch + ".mp3");
+    if (!f.open(QIODevice::WriteOnly) || f.write(mp3) != mp3.size())
+        return false;
+    f.close();
+    return QProcess::execute("lame", {"--quiet", "--decode", scratch + ".mp3", scratch + ".wav"}) ==
+               0 &&
+           ToneOf(scratch + ".wav", rms, frequency);
+}
+
+// The program's recorder over a fresh context, with the real task and encoder library.
+class Fixture {
+public:
+    Fixture()
+    {
+        tc.OpenDatabase();
+        folder = tc.Root() + "/recordings";
+        QDir().mkpath(folder);
+        ctx().options.DefaultRecordingDirectory = folder;
+        ctx().appStatus.SetReady(true);
+        tc.diskSpace.freeMb = 100000.0;
+        const QString build = QCoreApplication::applicationDirPath() + "/../src";
+        recorder().Link().SetTaskProgram(build + "/nightreel-rec");
+        queue().Encoder().SetFolder(build);
+    }
+
+    ~Fixture() { recorder().Stop(); }
+
+    AppContext& ctx() { return *tc.ctx; }
+    Recorder& recorder() { return tc.ctx->recorder; }
+    ConversionQueue& queue() { return tc.ctx->recorder.Conversion(); }
+
+    void SetMp3(clsRecordingFormat& format, bool mp3Extension)
+    {
+        format.SetWaveFormatEx(
+            tc.ctx->log,
+            WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(2, 44100, 128)).value());
+        format.ConvertToMP3 = true;
+        format.SaveMP3FileExtension = mp3Extension;
+    }
+
+    // A captured recording of `seconds` of a 1 kHz tone, as the task leaves it, and its
+    // request, queued.
+    std::shared_ptr<clsConvertToMP3Request> Queue(const QString& name, double seconds,
+                                                  const QString& launch = QString(),
+                                                  const QString& destination = QString())
+    {
+        QProcess sox;
+        sox.start("sox", {"-n", "-r", "44100", "-c", "2", "-b", "16", "-e", "signed", "-t", "raw",
+                          "-", "synth", QString::number(seconds), "sine", "1000", "vol", "0.5"});
+        sox.waitForFinished(60000);
+        const std::string pcm = sox.readAllStandardOutput().toStdString();
+        auto request = std::make_shared<clsConvertToMP3Request>();
+        request->SourceFile = folder + "/" + name + ".WAV.TMP";
+        request->DestinationFile =
+            destination.isEmpty() ? folder + "/" + name + ".MP3" : destination;
+        request->SourceFormat.SetToPcm(2, 44100, 16);
+        SetMp3(request->DestinationFormat, true);
+        request->Description = name;
+        request->StartTime = tc.clock.Now();
+        request->EndTime = AutomationDate::AddSeconds(request->StartTime, seconds);
+        request->LaunchAppAfter = launch;
+        if (pcm.empty() || !TaskWaveSource::Write(
+                               QFile::encodeName(request->SourceFile).toStdString(), 2, 44100, pcm))
+            return nullptr;
+        queue().Mp3ConvertQueue.append(request);
+        return request;
+    }
+
+    // Ticks TimerConvert by hand until the running conversion has done `steps` steps.
+    bool ConvertSome(int steps)
+    {
+        queue().TimerConvert_Timer();
+        for (int i = 0; i < steps && ctx().appStatus.Converting(); ++i)
+            queue().TimerConvert_Timer();
+        return ctx().appStatus.Converting() && queue().CurrentConvertRequest->PercentComplete > 0;
+    }
+
+    bool Idle() { return !ctx().appStatus.Converting() && queue().Mp3ConvertQueue.isEmpty(); }
+
+    QList<Row> Recordings() const
+    {
+        QList<Row> rows;
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec("SELECT Title, File, StartTime, EndTime, Size FROM Recordings ORDER BY ID");
+        while (q.next())
+            rows.append({q.value(0).toString(), q.value(1).toString(), q.value(2).toDouble(),
+                         q.value(3).toDouble(), q.value(4).toFloat()});
+        return rows;
+    }
+
+    QStringList Logged(const QString& message) const
+    {
+        QStringList details;
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.prepare("SELECT Details FROM EventLog WHERE Message = ? ORDER BY ID");
+        q.addBindValue(message);
+        q.exec();
+        while (q.next())
+            details << q.value(0).toString();
+        return details;
+    }
+
+    QStringList Captures() const
+    {
+        return QDir(folder).entryList({"*.WAV.TMP"}, QDir::Files, QDir::Name);
+    }
+
+    // The row holds what the file holds: its length is the one the size gives.
+    void VerifyRowLength(const Row& row)
+    {
+        clsRecordingFormat format;
+        SetMp3(format, true);
+        const qint64 seconds = qRound64((row.end - row.start) * 86400.0);
+        QCOMPARE(seconds, qint64(format.CalcSecondsFromMbytes(tc.ctx->log, row.size)));
+        QCOMPARE(row.size, float(QFileInfo(row.file).size() / 1048576.0));
+    }
+
+    void VerifyTone(const QByteArray& mp3)
+    {
+        double frequency = 0, rms = 0;
+        QVERIFY(Mp3ToneOf(mp3, tc.Root() + "/decoded", frequency, rms));
+        QVERIFY2(qAbs(frequency - 1000) < 50, qPrintable(QString::number(frequency)));
+        QVERIFY2(rms > 0.2, qPrintable(QString::number(rms)));
+    }
+
+    TestContext tc;
+    QString folder;
+};
+
+} // namespace
+
+class TestConversion : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void recordingIsConvertedAndListedWhenDone_data();
+    void recordingIsConvertedAndListedWhenDone();
+    void queueConvertsInOrderWhileTheHeartbeatTicks();
+    void stopSavesTheRunningAndDropsTheWaiting_data();
+    void stopSavesTheRunningAndDropsTheWaiting();
+    void failedConversionDeletesItsFilesAndTheQueueGoesOn_data();
+    void failedConversionDeletesItsFilesAndTheQueueGoesOn();
+    void diskGuardSavesThePartialConversion();
+    void diskGuardCountsTheMp3OfARecordingToConvert();
+
+private:
+    std::unique_ptr<PulseFixture> m_pulse;
+};
+
+void TestConversion::initTestCase()
+{
+    const QString build = QCoreApplication::applicationDirPath() + "/../src";
+    if (!QFile::exists(build + "/nightreel-rec") || !QFile::exists(build + "/libnightreelenc.so"))
+        QSKIP("the recording task or the encoder library is not built");
+    if (QStandardPaths::findExecutable("sox").isEmpty() ||
+        QStandardPaths::findExecutable("lame").isEmpty())
+        QSKIP("needs sox and lame");
+    m_pulse = std::make_unique<PulseFixture>();
+    if (!m_pulse->Running())
+        QSKIP("no PulseAudio server could be started");
+    QVERIFY(m_pulse->PlayTone());
+}
+
+void TestConversion::recordingIsConvertedAndListedWhenDone_data()
+{
+    QTest::addColumn<bool>("mp3Extension");
+    QTest::newRow("MP3 file with its tag") << true;
+    QTest::newRow("wave file holding MP3") << false;
+}
+
+// A manual recording to convert is captured as PCM, queued, converted and only then
+// listed; the capture is gone, and the result holds the tone.
+void TestConversion::recordingIsConvertedAndListedWhenDone()
+{
+    QFETCH(bool, mp3Extension);
+    Fixture f;
+    const QString description = "An evening concert from the old town hall";
+    RecordingControl& control = f.recorder().Control();
+    f.SetMp3(control.ManualFormat, mp3Extension);
+    const double from = f.tc.clock.Now();
+    control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), description);
+    QVERIFY(f.ctx().appStatus.Recording());
+    QTest::qWait(2500);
+    control.HandleStopRecordingRequest(false);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
+    QCOMPARE(f.queue().Mp3ConvertQueue.size(), 1);
+    const auto request = f.queue().Mp3ConvertQueue.first();
+    const QList<Chunk> capture = Chunks(ReadAll(request->SourceFile));
+    quint32 sourceFrames = 0;
+    for (const Chunk& c : capture)
+        if (c.id == "data")
+            sourceFrames = quint32(c.data.size() / 4);
+    QVERIFY(sourceFrames > 44100);
+
+    // Not listed while it is written, not even when the folder is added.
+    int rowsWhileConverting = -1;
+    RecordingsList list(f.ctx());
+    QObject::connect(&f.ctx().appStatus, &clsAppStatus::Update, [&] {
+        if (f.ctx().appStatus.Converting() && rowsWhileConverting < 0) {
+            list.AddFolderToRecordingsList(f.folder);
+            rowsWhileConverting = int(f.Recordings().size());
+        }
+    });
+    f.recorder().Start();
+    QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && !f.Recordings().isEmpty(), 30000);
+    QCOMPARE(rowsWhileConverting, 0);
+
+    QCOMPARE(f.Captures(), QStringList());
+    const QList<Row> rows = f.Recordings();
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows[0].file, request->DestinationFile);
+    QCOMPARE(rows[0].title, description);
+    f.VerifyRowLength(rows[0]);
+    QCOMPARE(f.queue().CurrentConvertRequest->PercentComplete, qint16(100));
+
+    const QByteArray bytes = ReadAll(request->DestinationFile);
+    if (mp3Extension) {
+        QVERIFY(request->DestinationFile.endsWith(".MP3"));
+        const QByteArray tag = bytes.right(128);
+        QCOMPARE(tag.left(3), QByteArray("TAG"));
+        QCOMPARE(tag.mid(3, 30), description.left(30).toLatin1());
+        QCOMPARE(tag.mid(97, 30).left(24), QByteArray("Nightreel 2000 Recording"));
+        QCOMPARE(int(quint8(tag[127])), 12);
+        f.VerifyTone(bytes.chopped(128));
+    } else {
+        QVERIFY(request->DestinationFile.endsWith(".WAV"));
+        QCOMPARE(bytes.left(4), QByteArray("RIFF"));
+        QCOMPARE(bytes.mid(8, 4), QByteArray("WAVE"));
+        const QList<Chunk> chunks = Chunks(bytes);
+        QStringList ids;
+        for (const Chunk& c : chunks)
+            ids << QString::fromLatin1(c.id);
+        QCOMPARE(ids, QStringList({"ISFT", "INAM", "fmt ", "fact", "data"}));
+        QVERIFY(chunks[0].data.startsWith("Nightreel 2000 "));
+        QCOMPARE(chunks[1].data, description.toUtf8() + '\0');
+        QCOMPARE(chunks[2].data, f.recorder().Control().ManualFormat.Record());
+        QCOMPARE(qFromLittleEndian<quint32>(chunks[3].data.constData()), sourceFrames);
+        f.VerifyTone(chunks[4].data);
+    }
+}
+
+// Two recordings ending close together are converted one after the other, in order, while
+// the heartbeat keeps its pace and the status panel shows the progress.
+void TestConversion::queueConvertsInOrderWhileTheHeartbeatTicks()
+{
+    Fixture f;
+    const auto first = f.Queue("First", 60, "/usr/bin/after %p");
+    const auto second = f.Queue("Second", 60, "/usr/bin/after %p");
+    QVERIFY(first && second);
+
+    QElapsedTimer sinceTick;
+    qint64 longestGap = 0;
+    int ticksWhileConverting = 0;
+    QObject::connect(&f.recorder().HeartbeatTimer(), &Heartbeat::UpdateStatusBarPlus, [&] {
+        if (f.ctx().appStatus.Converting()) {
+            ++ticksWhileConverting;
+            if (sinceTick.isValid())
+                longestGap = std::max(longestGap, sinceTick.elapsed());
+        }
+        sinceTick.start();
+    });
+    QStringList panelTexts;
+    QObject::connect(&f.recorder(), &Recorder::StatusBarUpdated,
+                     [&](const StatusBarPlus::Update& u) {
+                         if (f.ctx().appStatus.Converting())
+                             panelTexts << u.modeText;
+                     });
+
+    f.recorder().Start();
+    QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 60000);
+    const QList<Row> rows = f.Recordings();
+    QCOMPARE(rows[0].title, QString("First"));
+    QCOMPARE(rows[1].title, QString("Second"));
+    QCOMPARE(f.tc.launcher.started, QStringList({"/usr/bin/after " + first->DestinationFile,
+                                                 "/usr/bin/after " + second->DestinationFile}));
+    QCOMPARE(f.Captures(), QStringList());
+
+    QVERIFY2(ticksWhileConverting >= 3, "the conversion lasts several heartbeat ticks");
+    // The heartbeat's 250 ms, and at most 100 ms late.
+    QVERIFY2(longestGap <= Heartbeat::TickInterval + 100, qPrintable(QString::number(longestGap)));
+    QVERIFY(!panelTexts.isEmpty());
+    for (const QString& text : panelTexts)
+        QVERIFY2(QRegularExpression("^CONVERTING TO MP3  [0-9]{1,3}%$").match(text).hasMatch(),
+                 qPrintable(text));
+}
+
+void TestConversion::stopSavesTheRunningAndDropsTheWaiting_data()
+{
+    QTest::addColumn<bool>("whileRecording");
+    QTest::newRow("by the user") << false;
+    QTest::newRow("beside a live recording") << true;
+}
+
+// A stop with three waiting: the running MP3 is kept and listed with the length its size
+// gives, the waiting captures are deleted but no file a recording task has open, the queue
+// is empty, and only the running request's launch runs.
+void TestConversion::stopSavesTheRunningAndDropsTheWaiting()
+{
+    QFETCH(bool, whileRecording);
+    Fixture f;
+    QList<std::shared_ptr<clsConvertToMP3Request>> requests;
+    for (const QString name : {"One", "Two", "Three", "Four"})
+        requests << f.Queue(name, 30, "/usr/bin/after-" + name);
+    QVERIFY(!requests.contains(nullptr));
+
+    // A capture that another process (another instance's task) holds open.
+    const QString held = f.folder + "/held.WAV.TMP";
+    QFile(held).open(QIODevice::WriteOnly);
+    QProcess holder;
+    holder.start("sh", {"-c", "exec 3<\"$0\"; echo ready; exec sleep 60", held});
+    QVERIFY(holder.waitForReadyRead(5000));
+    const auto endHolder = qScopeGuard([&] {
+        holder.kill();
+        holder.waitForFinished();
+    });
+
+    QString live;
+    if (whileRecording) {
+        RecordingControl& control = f.recorder().Control();
+        f.SetMp3(control.ManualFormat, true);
+        f.tc.clock.AdvanceSeconds(60);
+        const double from = f.tc.clock.Now();
+        control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Live");
+        QVERIFY(f.ctx().appStatus.Recording());
+        live = f.recorder().Status().RecordingFile;
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(live).size() > 44, 5000);
+    }
+
+    QVERIFY(f.ConvertSome(3));
+    if (whileRecording) {
+        // The user's stop reaches the recording first; the disk guard sets the same flag.
+        f.queue().StopMp3Conversion = true;
+    } else {
+        f.tc.messageBox.answers = {MsgResult::Yes};
+        f.recorder().StopCommand(true);
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QVERIFY(f.tc.messageBox.asked[0].text.contains("abort the remaining MP3 conversions"));
+    }
+    f.queue().TimerConvert_Timer();
+
+    QVERIFY(f.Idle());
+    const QList<Row> rows = f.Recordings();
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows[0].file, requests[0]->DestinationFile);
+    f.VerifyRowLength(rows[0]);
+    const QByteArray mp3 = ReadAll(rows[0].file);
+    // Partial: 30 s at 128 kbit/s would be 480,000 bytes.
+    QVERIFY2(mp3.size() > 10000 && mp3.size() < 400000, qPrintable(QString::number(mp3.size())));
+    f.VerifyTone(mp3.chopped(128));
+    QCOMPARE(f.tc.launcher.started, QStringList{"/usr/bin/after-One"});
+    QStringList kept = {"held.WAV.TMP"};
+    if (whileRecording)
+        kept << QFileInfo(live).fileName();
+    kept.sort();
+    QCOMPARE(f.Captures(), kept);
+    for (int i = 1; i < 4; ++i)
+        QVERIFY(!QFile::exists(requests[i]->DestinationFile));
+
+    if (whileRecording) {
+        // A second instance's start-up clean-up leaves the live capture alone too.
+        const QString stale = f.folder + "/stale.MP3.TMP";
+        QFile(stale).open(QIODevice::WriteOnly);
+        TestContext second;
+        second.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", f.folder);
+        MainFormController(*second.ctx).CheckDefaultRecordingDirectory([](const QString&) {
+            return QString();
+        });
+        QVERIFY(!QFile::exists(stale));
+        QCOMPARE(f.Captures(), kept);
+
+        // The live recording, once ended, is converted: the stop held only what was queued.
+        f.recorder().StopCommand(false);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
+        f.recorder().Start();
+        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 30000);
+        QCOMPARE(f.Recordings()[1].title, QString("Live"));
+    }
+}
+
+void TestConversion::failedConversionDeletesItsFilesAndTheQueueGoesOn_data()
+{
+    QTest::addColumn<bool>("diskFull");
+    QTest::newRow("destination can't be created") << false;
+    QTest::newRow("disk full while converting") << true;
+}
+
+// A failure is logged once with its code and the recording's description, both files go,
+// the launch runs as for a failed recording, and the next request still converts.
+void TestConversion::failedConversionDeletesItsFilesAndTheQueueGoesOn()
+{
+    QFETCH(bool, diskFull);
+    Fixture f;
+    QString destination = f.folder + "/no-such-folder/Lost.MP3";
+    int expectedCode = 2003;
+    const QString small = f.tc.Root() + "/small";
+    bool mounted = false;
+    const auto unmount = qScopeGuard([&] {
+        if (mounted)
+            QProcess::execute("umount", {"-l", small});
+    });
+    if (diskFull) {
+        QDir().mkpath(small);
+        mounted =
+            QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=64k", "tmpfs", small}) == 0;
+        if (!mounted)
+            QSKIP("no small file system can be mounted here (needs root)");
+        destination = small + "/Lost.MP3";
+        expectedCode = 2006;
+    }
+    const auto lost = f.Queue("Lost", 20, "/usr/bin/after %p", destination);
+    const auto next = f.Queue("Next", 5);
+    QVERIFY(lost && next);
+
+    f.recorder().Start();
+    QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 1, 30000);
+    QCOMPARE(f.Logged(kErrorConverting),
+             QStringList{QString("Error Code: %1\r\nDescription: Lost").arg(expectedCode)});
+    QVERIFY(!QFile::exists(lost->SourceFile));
+    QVERIFY(!QFile::exists(destination));
+    QCOMPARE(f.tc.launcher.started, QStringList{"/usr/bin/after " + destination});
+    QCOMPARE(f.Recordings()[0].title, QString("Next"));
+    QCOMPARE(f.Captures(), QStringList());
+}
+
+// The disk guard stops a conversion on a nearly full disk: the partial MP3 is kept and
+// listed, playable, with the length its size gives.
+void TestConversion::diskGuardSavesThePartialConversion()
+{
+    Fixture f;
+    const auto request = f.Queue("Guarded", 60);
+    QVERIFY(request);
+    QVERIFY(f.ConvertSome(3));
+    f.tc.diskSpace.freeMb = 0.0;
+    f.recorder().UpdateStatusBarPlus();
+    QVERIFY(f.queue().StopMp3Conversion);
+    f.queue().TimerConvert_Timer();
+
+    QVERIFY(f.Idle());
+    QCOMPARE(f.Logged("MP3 conversion stopped due to insufficient disk space.").size(), 1);
+    const QList<Row> rows = f.Recordings();
+    QCOMPARE(rows.size(), 1);
+    f.VerifyRowLength(rows[0]);
+    const QByteArray mp3 = ReadAll(request->DestinationFile);
+    QVERIFY(mp3.size() < 60 * 16000);
+    f.VerifyTone(mp3.chopped(128));
+    QCOMPARE(f.Captures(), QStringList());
+}
+
+// While a recording to convert runs, the guard also counts the MP3 it will need: a disk that
+// still holds the stop limit, but not with that share, stops the recording.
+void TestConversion::diskGuardCountsTheMp3OfARecordingToConvert()
+{
+    Fixture f;
+    RecordingControl& control = f.recorder().Control();
+    f.SetMp3(control.ManualFormat, true);
+    const double from = f.tc.clock.Now();
+    control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Tight");
+    QVERIFY(f.ctx().appStatus.Recording());
+    // Half a megabyte of MP3 is due at the start: above the limit by less than that.
+    f.tc.diskSpace.freeMb = f.ctx().options.StopRecMegsLeft + 0.2;
+    f.recorder().UpdateStatusBarPlus();
+    QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
+    const QStringList logged = f.Logged("Recording stopped due to insufficient disk space.");
+    QCOMPARE(logged.size(), 1);
+    QVERIFY(logged[0].startsWith("Recording Description: Tight\r\n"));
+    QVERIFY(logged[0].contains("Note: MP3 conversion also requires temporary storage"));
+    QVERIFY(!f.ctx().error.DiskLowStopRecording());
+}
+
+QTEST_GUILESS_MAIN(TestConversion)
+#include "test_conversion.moc"
