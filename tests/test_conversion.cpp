@@ -259,7 +259,7 @@ void TestConversion::recordingIsConvertedAndListedWhenDone()
 
     // Not listed while it is written, not even when the folder is added.
     int rowsWhileConverting = -1;
-    RecordingsList list(f.ctx());
+    RecordingsList& list = f.ctx().recordingsList;
     QObject::connect(&f.ctx().appStatus, &clsAppStatus::Update, [&] {
         if (f.ctx().appStatus.Converting() && rowsWhileConverting < 0) {
             list.AddFolderToRecordingsList(f.folder);

@@ -24,12 +24,12 @@ struct Fixture {
     }
     QByteArray Saved(const QString& name) const
     {
-        QFile f(SavedLists(*tc.ctx).PathOf(name));
+        QFile f(tc.ctx->savedLists.PathOf(name));
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
     }
     void SaveAs(const QString& name)
     {
-        frmSaveList form(*tc.ctx, nullptr);
+        frmSaveList form(tc.ctx->savedLists, tc.ctx->database, tc.ctx->log, tc.messageBox, nullptr);
         form.findChild<QComboBox*>("Combo1")->setCurrentText(name);
         form.frmSave_Click();
     }
@@ -61,7 +61,7 @@ private slots:
         QCOMPARE(f.tc.messageBox.asked.size(), 1);
         QCOMPARE(f.tc.messageBox.asked[0].title, QStringLiteral("Invalid list name"));
         QCOMPARE(f.tc.messageBox.asked[0].text, text);
-        QVERIFY(SavedLists(*f.tc.ctx).Names().isEmpty());
+        QVERIFY(f.tc.ctx->savedLists.Names().isEmpty());
     }
 
     void overwritingAsksFirst()
@@ -90,18 +90,18 @@ private slots:
         rs.Delete();
         f.SaveAs("Nothing");
         QCOMPARE(f.tc.messageBox.asked.at(0).text, QStringLiteral("No recordings in current list"));
-        QVERIFY(SavedLists(*f.tc.ctx).Names().isEmpty());
+        QVERIFY(f.tc.ctx->savedLists.Names().isEmpty());
     }
 
     void loadingAsksAndRemovingTheLastListDisablesLoading()
     {
         Fixture f;
-        frmLoadList::Open(*f.tc.ctx, nullptr);
+        frmLoadList::Open(f.tc.ctx->savedLists, f.tc.ctx->log, f.tc.messageBox, nullptr);
         QCOMPARE(f.tc.messageBox.asked.at(0).title, QStringLiteral("No list exists"));
 
         f.SaveAs("First");
         f.SaveAs("Second");
-        frmLoadList form(*f.tc.ctx, nullptr);
+        frmLoadList form(f.tc.ctx->savedLists, f.tc.ctx->log, f.tc.messageBox, nullptr);
         auto* list = form.findChild<QListWidget*>("List1");
         QCOMPARE(list->count(), 2);
         QCOMPARE(list->currentRow(), 0);
@@ -118,7 +118,7 @@ private slots:
         QVERIFY(!form.findChild<QPushButton*>("btnLoad")->isEnabled());
         QVERIFY(!form.findChild<QPushButton*>("btnRemove")->isEnabled());
         QVERIFY(!form.findChild<QCheckBox*>("chkMerge")->isEnabled());
-        QVERIFY(SavedLists(*f.tc.ctx).Names().isEmpty());
+        QVERIFY(f.tc.ctx->savedLists.Names().isEmpty());
     }
 };
 

@@ -186,7 +186,7 @@ private slots:
 
         tc.OpenDatabase();
         ModuleFileTime::SetFileDateTime(mp3, FileDate());
-        AddMp3ToList(*tc.ctx, mp3);
+        AddMp3ToList(tc.ctx->database, mp3);
         Recordset& rs = tc.ctx->database.DataRecordings.recordset();
         QCOMPARE(rs.RecordCount(), 1);
         QCOMPARE(rs.Value("Title").toString(),
@@ -240,7 +240,7 @@ private slots:
         QVERIFY(!path.isEmpty());
         ModuleFileTime::SetFileDateTime(path, FileDate());
         RecordingRow row;
-        QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelWave(tc.ctx->log, path, row));
         QVERIFY(!MediaReaders::ReadNightreelCompressedWave(path, row));
         QVERIFY(MediaReaders::ReadOtherWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("tone.wav"));
@@ -272,7 +272,7 @@ private slots:
         const QString path = WriteFile(
             tc.Root(), "show.wav", NightreelWave(start + Seconds(60.0 * createdMinutesAfterStart)));
         RecordingRow row;
-        QVERIFY(MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
+        QVERIFY(MediaReaders::ReadNightreelWave(tc.ctx->log, path, row));
         QCOMPARE(row.Title, QStringLiteral("Morning show"));
         QCOMPARE(row.CompressionMethod, QStringLiteral("PCM 11.025 kHz, 8 Bit, Mono"));
         QCOMPARE(AutomationDate::SecondsBetween(FileDate(), row.EndTime),
@@ -299,7 +299,7 @@ private slots:
                              Chunk("fact", fact) + Chunk("data", QByteArray(4000, '\x55')));
         const QString path = WriteFile(tc.Root(), "news.wav", wave);
         RecordingRow row;
-        QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelWave(tc.ctx->log, path, row));
         QVERIFY(MediaReaders::ReadNightreelCompressedWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("News "));
         QCOMPARE(row.CompressionMethod,
@@ -316,19 +316,19 @@ private slots:
         Recordset& rs = tc.ctx->database.DataRecordings.recordset();
 
         bool found = false;
-        AddNightreelWaveToList(*tc.ctx, nightreel, found);
+        AddNightreelWaveToList(tc.ctx->database, tc.ctx->log, nightreel, found);
         QVERIFY(found);
-        AddOtherWaveToList(*tc.ctx, other);
+        AddOtherWaveToList(tc.ctx->database, other);
         QCOMPARE(rs.Value("File").toString(), other);
         // A file already listed is still taken by its reader, and gets no second row.
         found = false;
-        AddNightreelWaveToList(*tc.ctx, nightreel, found);
+        AddNightreelWaveToList(tc.ctx->database, tc.ctx->log, nightreel, found);
         QVERIFY(found);
-        AddOtherWaveToList(*tc.ctx, other);
+        AddOtherWaveToList(tc.ctx->database, other);
         QCOMPARE(tc.CountRows("Recordings"), 2);
         // The test is on trimmed, upper-cased text.
-        QVERIFY(IsFileInRecordingsList(*tc.ctx, " " + other.toLower() + " "));
-        QVERIFY(!IsFileInRecordingsList(*tc.ctx, tc.Root() + "/o'ther.wav"));
+        QVERIFY(IsFileInRecordingsList(tc.ctx->database, " " + other.toLower() + " "));
+        QVERIFY(!IsFileInRecordingsList(tc.ctx->database, tc.Root() + "/o'ther.wav"));
     }
 
     void aForeignWaveWithASoftwareChunkIsAnOtherWave()
@@ -337,9 +337,9 @@ private slots:
         const QString path =
             WriteFile(tc.Root(), "foreign.wav", NightreelWave(FileDate(), "SoundTool 5"));
         RecordingRow row;
-        QVERIFY(!MediaReaders::ReadNightreelWave(*tc.ctx, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelWave(tc.ctx->log, path, row));
         QVERIFY(!MediaReaders::ReadNightreelCompressedWave(path, row));
-        QVERIFY(MediaReaders::ReadRecordingRow(*tc.ctx, path, row));
+        QVERIFY(MediaReaders::ReadRecordingRow(tc.ctx->log, path, row));
         QCOMPARE(row.Title, QStringLiteral("foreign.wav"));
         QCOMPARE(AutomationDate::SecondsBetween(row.StartTime, row.EndTime), qint64(10));
     }
@@ -395,14 +395,14 @@ private slots:
         tc.OpenDatabase();
         const QString path = WriteFile(tc.Root(), name, content);
         if (name.endsWith(".mp3")) {
-            AddMp3ToList(*tc.ctx, path);
+            AddMp3ToList(tc.ctx->database, path);
         } else {
             bool found = true;
-            AddNightreelWaveToList(*tc.ctx, path, found);
+            AddNightreelWaveToList(tc.ctx->database, tc.ctx->log, path, found);
             QVERIFY(!found);
-            AddNightreelCompressedWaveToList(*tc.ctx, path, found);
+            AddNightreelCompressedWaveToList(tc.ctx->database, path, found);
             QVERIFY(!found);
-            AddOtherWaveToList(*tc.ctx, path);
+            AddOtherWaveToList(tc.ctx->database, path);
         }
         QCOMPARE(tc.CountRows("Recordings"), listed ? 1 : 0);
         if (listed) {
@@ -420,7 +420,7 @@ private slots:
         const QString wave = WriteFile(tc.Root(), "show.wav", NightreelWave(FileDate()));
         QString text;
         QTextStream out(&text);
-        QCOMPARE(InspectFile(*tc.ctx, wave, out), 0);
+        QCOMPARE(InspectFile(tc.ctx->log, wave, out), 0);
         const QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
         QCOMPARE(lines.value(0), QStringLiteral("Title: Morning show"));
         QCOMPARE(lines.value(2), QStringLiteral("Start: 2026-06-01 11:59:50"));
@@ -431,8 +431,8 @@ private slots:
 
         text.clear();
         const QString notes = WriteFile(tc.Root(), "notes.txt", "RIFF");
-        QVERIFY(InspectFile(*tc.ctx, notes, out) != 0);
-        QVERIFY(InspectFile(*tc.ctx, tc.Root() + "/missing.wav", out) != 0);
+        QVERIFY(InspectFile(tc.ctx->log, notes, out) != 0);
+        QVERIFY(InspectFile(tc.ctx->log, tc.Root() + "/missing.wav", out) != 0);
         QVERIFY(text.isEmpty());
     }
 };

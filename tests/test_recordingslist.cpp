@@ -199,7 +199,7 @@ private slots:
         WriteWave(f.File("b.wav"));
         WriteWave(f.File("a.wav"));
         f.list.AddFolderToRecordingsList(f.Folder());
-        SavedLists lists(*f.tc.ctx);
+        SavedLists& lists = f.tc.ctx->savedLists;
         QDir().mkpath(lists.Folder());
         lists.Save("  Disk one  ");
         QCOMPARE(lists.Names(), QStringList{"Disk one"});

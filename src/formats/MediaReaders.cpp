@@ -7,7 +7,7 @@
 #include "formats/Mp3Info.h"
 #include "formats/WaveFileChunks.h"
 #include "formats/clsRecordingFormat.h"
-#include "shell/AppContext.h"
+#include "store/AppDatabase.h"
 #include "store/Options.h"
 #include "store/Recordset.h"
 
@@ -57,12 +57,12 @@ bool StartWaveRow(const QString& path, ReadChunks read, WaveFileChunks& chunks,
 
 // Writes the row unless the file is listed; a database failure is not reported, as no
 // reader reports anything.
-void AddRow(AppContext& ctx, const RecordingRow& row)
+void AddRow(AppDatabase& database, const RecordingRow& row)
 {
     try {
-        if (IsFileInRecordingsList(ctx, row.File))
+        if (IsFileInRecordingsList(database, row.File))
             return;
-        Recordset& rs = ctx.database.DataRecordings.recordset();
+        Recordset& rs = database.DataRecordings.recordset();
         rs.AddNew();
         rs.SetValue(QStringLiteral("Title"), row.Title);
         rs.SetValue(QStringLiteral("StartTime"), row.StartTime);
@@ -73,7 +73,7 @@ void AddRow(AppContext& ctx, const RecordingRow& row)
         rs.Update();
         rs.SetBookmark(rs.LastModified());
     } catch (const std::exception&) {
-        ctx.database.DataRecordings.recordset().CancelUpdate();
+        database.DataRecordings.recordset().CancelUpdate();
     }
 }
 
@@ -81,7 +81,7 @@ void AddRow(AppContext& ctx, const RecordingRow& row)
 
 namespace MediaReaders {
 
-bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row)
+bool ReadNightreelWave(EventLog& log, const QString& path, RecordingRow& row)
 {
     WaveFileChunks chunks;
     clsRecordingFormat format;
@@ -91,7 +91,7 @@ bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row)
     if (!Options::ParseDateText(chunks.created, created))
         return false;
     row.Title = chunks.title;
-    const qint32 seconds = format.CalcSecondsFromMbytes(ctx.log, row.Size);
+    const qint32 seconds = format.CalcSecondsFromMbytes(log, row.Size);
     row.StartTime = AutomationDate::AddSeconds(row.EndTime, -seconds);
 
     // A file stamped before a change of daylight saving time lies an hour off the start
@@ -157,11 +157,11 @@ bool ReadMp3(const QString& path, RecordingRow& row)
     return true;
 }
 
-bool ReadRecordingRow(AppContext& ctx, const QString& path, RecordingRow& row)
+bool ReadRecordingRow(EventLog& log, const QString& path, RecordingRow& row)
 {
     const QString suffix = QFileInfo(Text::Trim(path)).suffix().toUpper();
     if (suffix == QLatin1String("WAV"))
-        return ReadNightreelWave(ctx, path, row) || ReadNightreelCompressedWave(path, row) ||
+        return ReadNightreelWave(log, path, row) || ReadNightreelCompressedWave(path, row) ||
                ReadOtherWave(path, row);
     if (suffix == QLatin1String("MP3"))
         return ReadMp3(path, row);
@@ -170,41 +170,41 @@ bool ReadRecordingRow(AppContext& ctx, const QString& path, RecordingRow& row)
 
 } // namespace MediaReaders
 
-void AddNightreelWaveToList(AppContext& ctx, const QString& path, bool& found)
+void AddNightreelWaveToList(AppDatabase& database, EventLog& log, const QString& path, bool& found)
 {
     RecordingRow row;
-    found = MediaReaders::ReadNightreelWave(ctx, path, row);
+    found = MediaReaders::ReadNightreelWave(log, path, row);
     if (found)
-        AddRow(ctx, row);
+        AddRow(database, row);
 }
 
-void AddNightreelCompressedWaveToList(AppContext& ctx, const QString& path, bool& found)
+void AddNightreelCompressedWaveToList(AppDatabase& database, const QString& path, bool& found)
 {
     RecordingRow row;
     found = MediaReaders::ReadNightreelCompressedWave(path, row);
     if (found)
-        AddRow(ctx, row);
+        AddRow(database, row);
 }
 
-void AddOtherWaveToList(AppContext& ctx, const QString& path)
+void AddOtherWaveToList(AppDatabase& database, const QString& path)
 {
     RecordingRow row;
     if (MediaReaders::ReadOtherWave(path, row))
-        AddRow(ctx, row);
+        AddRow(database, row);
 }
 
-void AddMp3ToList(AppContext& ctx, const QString& path)
+void AddMp3ToList(AppDatabase& database, const QString& path)
 {
     RecordingRow row;
     if (MediaReaders::ReadMp3(path, row))
-        AddRow(ctx, row);
+        AddRow(database, row);
 }
 
-bool IsFileInRecordingsList(AppContext& ctx, const QString& path)
+bool IsFileInRecordingsList(AppDatabase& database, const QString& path)
 {
     const QString criteria = Text::SqlQuoted(Text::Trim(path).toUpper());
     Recordset rs = Recordset::Open(
-        ctx.database.db,
+        database.db,
         QStringLiteral("SELECT * FROM [Recordings] WHERE TRIM(UCASE([File])) = ") + criteria);
     return rs.RecordCount() >= 1;
 }

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-class AppContext;
+class AppDatabase;
+class EventLog;
 
 // The row that the recordings list gets for a file found on disk.
 struct RecordingRow {
@@ -23,7 +24,7 @@ namespace MediaReaders {
 // A wave file of this system's recording task; the times are worked out from the file's
 // date and length, with a correction when the date lies an hour off after a change of
 // daylight saving time.
-bool ReadNightreelWave(AppContext& ctx, const QString& path, RecordingRow& row);
+bool ReadNightreelWave(EventLog& log, const QString& path, RecordingRow& row);
 // A wave file of MP3 data from this system's encoder; its length comes from the fact chunk.
 bool ReadNightreelCompressedWave(const QString& path, RecordingRow& row);
 // Any other wave file, titled by its name.
@@ -33,17 +34,17 @@ bool ReadMp3(const QString& path, RecordingRow& row);
 
 // The row that adding the file to the list would make, by its extension (.wav, .mp3, in
 // any case) and the readers in their order; false for a file that no reader takes.
-bool ReadRecordingRow(AppContext& ctx, const QString& path, RecordingRow& row);
+bool ReadRecordingRow(EventLog& log, const QString& path, RecordingRow& row);
 
 } // namespace MediaReaders
 
 // found is set when the file is of the reader's kind, also when its row exists already.
-void AddNightreelWaveToList(AppContext& ctx, const QString& path, bool& found);
-void AddNightreelCompressedWaveToList(AppContext& ctx, const QString& path, bool& found);
-void AddOtherWaveToList(AppContext& ctx, const QString& path);
-void AddMp3ToList(AppContext& ctx, const QString& path);
+void AddNightreelWaveToList(AppDatabase& database, EventLog& log, const QString& path, bool& found);
+void AddNightreelCompressedWaveToList(AppDatabase& database, const QString& path, bool& found);
+void AddOtherWaveToList(AppDatabase& database, const QString& path);
+void AddMp3ToList(AppDatabase& database, const QString& path);
 
 // True when a row's File, trimmed and upper-cased, equals the path trimmed and upper-cased.
-bool IsFileInRecordingsList(AppContext& ctx, const QString& path);
+bool IsFileInRecordingsList(AppDatabase& database, const QString& path);
 // The text after the last folder separator.
 QString GetFileNameFromPath(const QString& path);

@@ -19,6 +19,12 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , recorder(RecorderServices{log, clock, options, registry, appStatus, error, database,
                                 scheduler, messageBox, launcher, diskSpace, mixerProfiles,
                                 folders.runtimeFolder})
+    , recordingsList(database, log, options, clock,
+                     [this] {
+                         return QStringList{recorder.Status().FinalFile,
+                                            recorder.Conversion().RunningDestination()};
+                     })
+    , savedLists(database, recordingsList, folders.dataFolder)
 {
 }
 

@@ -11,7 +11,9 @@
 #include "store/AppDatabase.h"
 #include "store/AppFolders.h"
 #include "store/Options.h"
+#include "store/RecordingsList.h"
 #include "store/RegKeys.h"
+#include "store/SavedLists.h"
 
 class AudioDevices;
 class Clock;
@@ -66,4 +68,6 @@ public:
     // Where WfxDefault is read from and saved to.
     DefaultFormatStore defaultFormats;
     Recorder recorder;
+    RecordingsList recordingsList;
+    SavedLists savedLists;
 };

@@ -53,7 +53,7 @@ int Inspect(int argc, char* argv[])
     AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer},
                    AppFolders::ForCurrentUser());
     QTextStream out(stdout);
-    return InspectFile(ctx, QString::fromLocal8Bit(argv[2]), out);
+    return InspectFile(ctx.log, QString::fromLocal8Bit(argv[2]), out);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ RecordingsListGrid::RecordingsListGrid(AppContext& ctx, frmMain& form)
     , m_ctx(ctx)
     , m_form(form)
     , m_grid(form.ui.DBGridRecordings)
-    , m_list(ctx)
+    , m_list(ctx.recordingsList)
     , m_commands(ctx.database, m_list, ctx.log, ctx.messageBox, ctx.options, *this)
 {
     GridSelection::MakeCornerToggle(m_grid);
@@ -77,12 +77,12 @@ void RecordingsListGrid::ShowRecordingDetails(const Recordset& row)
 
 void RecordingsListGrid::ShowLoadList()
 {
-    frmLoadList::Open(m_ctx, &m_form);
+    frmLoadList::Open(m_ctx.savedLists, m_ctx.log, m_ctx.messageBox, &m_form);
 }
 
 void RecordingsListGrid::ShowSaveList()
 {
-    frmSaveList(m_ctx, &m_form).exec();
+    frmSaveList(m_ctx.savedLists, m_ctx.database, m_ctx.log, m_ctx.messageBox, &m_form).exec();
 }
 
 void RecordingsListGrid::CopyToClipboard(const QString& text)

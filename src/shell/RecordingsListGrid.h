@@ -40,6 +40,6 @@ private:
     AppContext& m_ctx;
     frmMain& m_form;
     QTableView* m_grid;
-    RecordingsList m_list;
+    RecordingsList& m_list;
     RecordingsListCommands m_commands;
 };

@@ -1,14 +1,18 @@
 #include "store/RecordingsList.h"
 
 #include "common/AutomationDate.h"
+#include "common/Clock.h"
 #include "common/TextHelpers.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "formats/MediaReaders.h"
-#include "shell/AppContext.h"
+#include "store/AppDatabase.h"
+#include "store/Options.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 namespace {
 
@@ -33,18 +37,22 @@ QString Plural(qint64 n, const QString& one)
 
 } // namespace
 
-RecordingsList::RecordingsList(AppContext& ctx)
-    : m_ctx(ctx)
+RecordingsList::RecordingsList(AppDatabase& database, EventLog& log, const Options& options,
+                               const Clock& clock, BusyFiles busyFiles)
+    : m_database(database)
+    , m_log(log)
+    , m_options(options)
+    , m_clock(clock)
+    , m_busyFiles(std::move(busyFiles))
 {
 }
 
 bool RecordingsList::IsExcluded(const QString& path) const
 {
-    // The file being recorded is not a finished recording yet, nor the one being converted.
-    const QString finalFile = m_ctx.recorder.Status().FinalFile;
-    const QString converting = m_ctx.recorder.Conversion().RunningDestination();
-    return (!finalFile.isEmpty() && Comparable(finalFile) == Comparable(path)) ||
-           (!converting.isEmpty() && Comparable(converting) == Comparable(path));
+    const QStringList busy = m_busyFiles();
+    return std::any_of(busy.cbegin(), busy.cend(), [&path](const QString& file) {
+        return !file.isEmpty() && Comparable(file) == Comparable(path);
+    });
 }
 
 void RecordingsList::AddFileToRecordingsList(const QString& path)
@@ -55,13 +63,13 @@ void RecordingsList::AddFileToRecordingsList(const QString& path)
     const QString suffix = QFileInfo(file).suffix().toUpper();
     if (suffix == QLatin1String("WAV")) {
         bool found = false;
-        AddNightreelWaveToList(m_ctx, file, found);
+        AddNightreelWaveToList(m_database, m_log, file, found);
         if (!found)
-            AddNightreelCompressedWaveToList(m_ctx, file, found);
+            AddNightreelCompressedWaveToList(m_database, file, found);
         if (!found)
-            AddOtherWaveToList(m_ctx, file);
+            AddOtherWaveToList(m_database, file);
     } else if (suffix == QLatin1String("MP3")) {
-        AddMp3ToList(m_ctx, file);
+        AddMp3ToList(m_database, file);
     }
 }
 
@@ -76,7 +84,7 @@ void RecordingsList::AddFolderToRecordingsList(const QString& folder)
 
 void RecordingsList::RepositionAfterRemoval()
 {
-    Recordset& rs = m_ctx.database.DataRecordings.recordset();
+    Recordset& rs = m_database.DataRecordings.recordset();
     if (rs.IsEOF())
         return;
     rs.MoveNext();
@@ -86,7 +94,7 @@ void RecordingsList::RepositionAfterRemoval()
 
 void RecordingsList::RemoveFromList(const QList<qint64>& bookmarks)
 {
-    Recordset& rs = m_ctx.database.DataRecordings.recordset();
+    Recordset& rs = m_database.DataRecordings.recordset();
     for (const qint64 bookmark : bookmarks) {
         rs.SetBookmark(bookmark);
         rs.Delete();
@@ -96,16 +104,16 @@ void RecordingsList::RemoveFromList(const QList<qint64>& bookmarks)
 
 void RecordingsList::DeleteFromDisk(const QList<qint64>& bookmarks)
 {
-    Recordset& rs = m_ctx.database.DataRecordings.recordset();
+    Recordset& rs = m_database.DataRecordings.recordset();
     for (const qint64 bookmark : bookmarks) {
         rs.SetBookmark(bookmark);
         const QString file = rs.Value(QStringLiteral("File")).toString();
         QFile::remove(file);
         if (QFileInfo::exists(file)) {
-            m_ctx.log.LogEvent(EventError, QStringLiteral("Recording was not deleted from disk."),
-                               QStringLiteral("File may be read only, or locked by another "
-                                              "process.\r\nFilename: ") +
-                                   file);
+            m_log.LogEvent(EventError, QStringLiteral("Recording was not deleted from disk."),
+                           QStringLiteral("File may be read only, or locked by another "
+                                          "process.\r\nFilename: ") +
+                               file);
             continue;
         }
         rs.Delete();
@@ -115,18 +123,17 @@ void RecordingsList::DeleteFromDisk(const QList<qint64>& bookmarks)
 
 void RecordingsList::ClearRecordingsList()
 {
-    m_ctx.database.db.Execute(QStringLiteral("DELETE FROM [Recordings]"));
-    m_ctx.database.DataRecordings.Refresh();
+    m_database.db.Execute(QStringLiteral("DELETE FROM [Recordings]"));
+    m_database.DataRecordings.Refresh();
 }
 
 int RecordingsList::PurgeOldRecordings()
 {
-    const QString folder = m_ctx.options.DefaultRecordingDirectory;
+    const QString folder = m_options.DefaultRecordingDirectory;
     const QDir dir(folder);
     if (folder.isEmpty() || !dir.exists())
         return 0;
-    const QDateTime limit =
-        AutomationDate::ToDateTime(m_ctx.Now() - double(m_ctx.options.PurgeDays));
+    const QDateTime limit = AutomationDate::ToDateTime(m_clock.Now() - double(m_options.PurgeDays));
     int deleted = 0;
     for (const QString& pattern : {kWaveFiles, kMp3Files}) {
         for (const QString& name : FilesMatching(dir, pattern)) {
@@ -140,8 +147,8 @@ int RecordingsList::PurgeOldRecordings()
 
 void RecordingsList::RemoveMissingFromRecordingFolder()
 {
-    const QString folder = Comparable(QDir(m_ctx.options.DefaultRecordingDirectory).path());
-    Recordset rs = m_ctx.database.DataRecordings.recordset().Clone();
+    const QString folder = Comparable(QDir(m_options.DefaultRecordingDirectory).path());
+    Recordset rs = m_database.DataRecordings.recordset().Clone();
     for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
         const QString file = rs.Value(QStringLiteral("File")).toString();
         if (Comparable(QFileInfo(file).path()) == folder && !QFileInfo::exists(file))
@@ -153,10 +160,10 @@ void RecordingsList::Purge()
 {
     if (PurgeOldRecordings() == 0)
         return;
-    m_ctx.database.DataRecordings.Refresh();
-    AddFolderToRecordingsList(m_ctx.options.DefaultRecordingDirectory);
+    m_database.DataRecordings.Refresh();
+    AddFolderToRecordingsList(m_options.DefaultRecordingDirectory);
     RemoveMissingFromRecordingFolder();
-    m_ctx.database.DataRecordings.Refresh();
+    m_database.DataRecordings.Refresh();
 }
 
 QString RecordingsList::DurationText(double startTime, double endTime)

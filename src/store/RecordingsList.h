@@ -2,14 +2,23 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
+#include <functional>
 
-class AppContext;
+class AppDatabase;
+class Clock;
+class EventLog;
+class Options;
 
 // The list of recordings and the files behind it. The list and the disk are separate
 // things: "from list" never touches a file, "from disk" removes file and row.
 class RecordingsList {
 public:
-    explicit RecordingsList(AppContext& ctx);
+    // The files being written (the recording's, the conversion's) are not finished
+    // recordings yet: busyFiles names them when asked.
+    using BusyFiles = std::function<QStringList()>;
+    RecordingsList(AppDatabase& database, EventLog& log, const Options& options, const Clock& clock,
+                   BusyFiles busyFiles);
 
     // Adds a .wav or .mp3 file through the readers, unless it is being recorded or
     // converted, or is listed already; other files are ignored.
@@ -39,5 +48,9 @@ private:
     bool IsExcluded(const QString& path) const;
     void RepositionAfterRemoval();
 
-    AppContext& m_ctx;
+    AppDatabase& m_database;
+    EventLog& m_log;
+    const Options& m_options;
+    const Clock& m_clock;
+    BusyFiles m_busyFiles;
 };

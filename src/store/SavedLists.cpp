@@ -2,21 +2,23 @@
 
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
-#include "shell/AppContext.h"
+#include "store/AppDatabase.h"
 #include "store/ListFile.h"
 #include "store/RecordingsList.h"
 
 #include <QDir>
 #include <QFile>
 
-SavedLists::SavedLists(AppContext& ctx)
-    : m_ctx(ctx)
+SavedLists::SavedLists(AppDatabase& database, RecordingsList& list, const QString& dataFolder)
+    : m_database(database)
+    , m_list(list)
+    , m_dataFolder(dataFolder)
 {
 }
 
 QString SavedLists::Folder() const
 {
-    return m_ctx.folders.dataFolder + QStringLiteral("/recrdlst");
+    return m_dataFolder + QStringLiteral("/recrdlst");
 }
 
 QString SavedLists::PathOf(const QString& name) const
@@ -35,7 +37,7 @@ QStringList SavedLists::Names() const
 
 void SavedLists::Save(const QString& name)
 {
-    Recordset rs = m_ctx.database.DataRecordings.recordset().Clone();
+    Recordset rs = m_database.DataRecordings.recordset().Clone();
     if (rs.IsEOF())
         return;
     QFile file(PathOf(name));
@@ -48,12 +50,11 @@ void SavedLists::Save(const QString& name)
 void SavedLists::LoadList(const QString& name, bool merge)
 {
     if (!merge)
-        m_ctx.database.db.Execute(QStringLiteral("DELETE FROM [Recordings]"));
+        m_database.db.Execute(QStringLiteral("DELETE FROM [Recordings]"));
     QFile file(PathOf(name));
     if (!file.open(QIODevice::ReadOnly))
         throw RuntimeError(ErrorNumber::FileNotFound, file.errorString());
-    RecordingsList list(m_ctx);
     for (const QString& path : ListFile::ReadItems(file.readAll()))
-        list.AddFileToRecordingsList(path);
-    m_ctx.database.DataRecordings.Refresh();
+        m_list.AddFileToRecordingsList(path);
+    m_database.DataRecordings.Refresh();
 }

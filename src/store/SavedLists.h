@@ -3,14 +3,16 @@
 #include <QString>
 #include <QStringList>
 
-class AppContext;
+class AppDatabase;
+class RecordingsList;
 
 // Recordings lists saved under a name: one file per list in the recrdlst folder of the
 // data folder, each line a path between double quotes, ended by CR LF. Only the paths
 // survive: loading reads each file again as if it were added by hand.
 class SavedLists {
 public:
-    explicit SavedLists(AppContext& ctx);
+    // The lists lie in the recrdlst folder below dataFolder.
+    SavedLists(AppDatabase& database, RecordingsList& list, const QString& dataFolder);
 
     QString Folder() const;
     QString PathOf(const QString& name) const;
@@ -22,5 +24,7 @@ public:
     void LoadList(const QString& name, bool merge);
 
 private:
-    AppContext& m_ctx;
+    AppDatabase& m_database;
+    RecordingsList& m_list;
+    const QString m_dataFolder;
 };

@@ -1,9 +1,9 @@
 #include "store/frmLoadList.h"
 
 #include "common/MessageBox.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "gui/FormPlacement.h"
-#include "shell/AppContext.h"
 #include "store/SavedLists.h"
 
 #include <QCheckBox>
@@ -13,9 +13,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-frmLoadList::frmLoadList(AppContext& ctx, QWidget* owner)
+frmLoadList::frmLoadList(SavedLists& lists, EventLog& log, MessageBoxPresenter& messageBox,
+                         QWidget* owner)
     : QDialog(owner)
-    , m_ctx(ctx)
+    , m_lists(lists)
+    , m_log(log)
+    , m_messageBox(messageBox)
     , m_list1(new QListWidget)
     , m_chkMerge(new QCheckBox(QStringLiteral("&Merge into current recordings list")))
     , m_btnLoad(new QPushButton(QStringLiteral("&Load")))
@@ -47,22 +50,23 @@ frmLoadList::frmLoadList(AppContext& ctx, QWidget* owner)
         move(FormPlacement::MainForm(owner)->pos() +
              QPoint(Twips::ToPixels(350), Twips::ToPixels(500)));
 
-    Trap(m_ctx.log, "Load List form load", [&] {
-        m_list1->addItems(SavedLists(m_ctx).Names());
+    Trap(m_log, "Load List form load", [&] {
+        m_list1->addItems(m_lists.Names());
         m_list1->setCurrentRow(0);
     });
 }
 
-void frmLoadList::Open(AppContext& ctx, QWidget* owner)
+void frmLoadList::Open(SavedLists& lists, EventLog& log, MessageBoxPresenter& messageBox,
+                       QWidget* owner)
 {
-    if (SavedLists(ctx).Names().isEmpty()) {
-        ctx.messageBox.Show(QStringLiteral("No list exists"),
-                            QStringLiteral("No recordings list files exist.  Please save a "
-                                           "recordings list first."),
-                            MsgIcon::None, MsgButtons::Ok);
+    if (lists.Names().isEmpty()) {
+        messageBox.Show(QStringLiteral("No list exists"),
+                        QStringLiteral("No recordings list files exist.  Please save a "
+                                       "recordings list first."),
+                        MsgIcon::None, MsgButtons::Ok);
         return;
     }
-    frmLoadList(ctx, owner).exec();
+    frmLoadList(lists, log, messageBox, owner).exec();
 }
 
 void frmLoadList::btnLoad_Click()
@@ -76,10 +80,10 @@ void frmLoadList::btnLoad_Click()
                                "current recordings list. Proceed?")
               : QStringLiteral("The current recordings list will be replaced with the selected "
                                "saved list. Proceed?");
-    if (m_ctx.messageBox.Show(QStringLiteral("Load Recordings List"), text, MsgIcon::Question,
-                              MsgButtons::YesNo) != MsgResult::Yes)
+    if (m_messageBox.Show(QStringLiteral("Load Recordings List"), text, MsgIcon::Question,
+                          MsgButtons::YesNo) != MsgResult::Yes)
         return;
-    Trap(m_ctx.log, "LoadList", [&] { SavedLists(m_ctx).LoadList(item->text(), merge); });
+    Trap(m_log, "LoadList", [&] { m_lists.LoadList(item->text(), merge); });
     accept();
 }
 
@@ -88,12 +92,12 @@ void frmLoadList::btnRemove_Click()
     const int row = m_list1->currentRow();
     if (row < 0)
         return;
-    if (m_ctx.messageBox.Show(QStringLiteral("Remove Recordings List"),
-                              QStringLiteral("The selected recordings list will be permanently "
-                                             "removed. Proceed?"),
-                              MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
+    if (m_messageBox.Show(QStringLiteral("Remove Recordings List"),
+                          QStringLiteral("The selected recordings list will be permanently "
+                                         "removed. Proceed?"),
+                          MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
         return;
-    QFile::remove(SavedLists(m_ctx).PathOf(m_list1->item(row)->text()));
+    QFile::remove(m_lists.PathOf(m_list1->item(row)->text()));
     delete m_list1->takeItem(row);
     // The name before the removed one, or the new first one.
     m_list1->setCurrentRow(m_list1->count() == 0 ? -1 : std::max(0, row - 1));

@@ -2,7 +2,9 @@
 
 #include <QDialog>
 
-class AppContext;
+class EventLog;
+class MessageBoxPresenter;
+class SavedLists;
 class QCheckBox;
 class QListWidget;
 class QPushButton;
@@ -11,15 +13,18 @@ class QPushButton;
 class frmLoadList : public QDialog {
     Q_OBJECT
 public:
-    frmLoadList(AppContext& ctx, QWidget* owner);
+    frmLoadList(SavedLists& lists, EventLog& log, MessageBoxPresenter& messageBox, QWidget* owner);
     // Shows the form, or says that no list exists yet.
-    static void Open(AppContext& ctx, QWidget* owner);
+    static void Open(SavedLists& lists, EventLog& log, MessageBoxPresenter& messageBox,
+                     QWidget* owner);
 
     void btnLoad_Click();
     void btnRemove_Click();
 
 private:
-    AppContext& m_ctx;
+    SavedLists& m_lists;
+    EventLog& m_log;
+    MessageBoxPresenter& m_messageBox;
     QListWidget* m_list1;
     QCheckBox* m_chkMerge;
     QPushButton* m_btnLoad;

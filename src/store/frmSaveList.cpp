@@ -3,9 +3,10 @@
 #include "common/MessageBox.h"
 #include "common/PathHelpers.h"
 #include "common/TextHelpers.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "gui/FormPlacement.h"
-#include "shell/AppContext.h"
+#include "store/AppDatabase.h"
 #include "store/SavedLists.h"
 
 #include <QComboBox>
@@ -16,9 +17,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-frmSaveList::frmSaveList(AppContext& ctx, QWidget* owner)
+frmSaveList::frmSaveList(SavedLists& lists, AppDatabase& database, EventLog& log,
+                         MessageBoxPresenter& messageBox, QWidget* owner)
     : QDialog(owner)
-    , m_ctx(ctx)
+    , m_lists(lists)
+    , m_database(database)
+    , m_log(log)
+    , m_messageBox(messageBox)
     , m_combo1(new QComboBox)
 {
     setObjectName(QStringLiteral("frmSaveList"));
@@ -43,8 +48,8 @@ frmSaveList::frmSaveList(AppContext& ctx, QWidget* owner)
     setMinimumWidth(320);
     FormPlacement::PlaceAtMainForm(this, owner, 500);
 
-    Trap(m_ctx.log, "Save Recordings List form load", [&] {
-        const SavedLists lists(m_ctx);
+    Trap(m_log, "Save Recordings List form load", [&] {
+        const SavedLists& lists = m_lists;
         QDir().mkpath(lists.Folder());
         m_combo1->addItems(lists.Names());
         m_combo1->setCurrentText(QString());
@@ -53,11 +58,11 @@ frmSaveList::frmSaveList(AppContext& ctx, QWidget* owner)
 
 void frmSaveList::frmSave_Click()
 {
-    Trap(m_ctx.log, "frmSave_Click", [&] {
+    Trap(m_log, "frmSave_Click", [&] {
         const auto warn = [this](const QString& title, const QString& text) {
-            m_ctx.messageBox.Show(title, text, MsgIcon::Exclamation, MsgButtons::Ok);
+            m_messageBox.Show(title, text, MsgIcon::Exclamation, MsgButtons::Ok);
         };
-        if (m_ctx.database.DataRecordings.recordset().RecordCount() == 0) {
+        if (m_database.DataRecordings.recordset().RecordCount() == 0) {
             warn(QString(), QStringLiteral("No recordings in current list"));
             return;
         }
@@ -73,13 +78,13 @@ void frmSaveList::frmSave_Click()
                  QStringLiteral("The recordings list name cannot be blank"));
             return;
         }
-        SavedLists lists(m_ctx);
+        SavedLists& lists = m_lists;
         const QString path = lists.PathOf(name);
         if (QFile::exists(path)) {
-            if (m_ctx.messageBox.Show(QStringLiteral("Overwrite list"),
-                                      QStringLiteral("Are you sure you want to overwrite existing "
-                                                     "recordings list with same name?"),
-                                      MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
+            if (m_messageBox.Show(QStringLiteral("Overwrite list"),
+                                  QStringLiteral("Are you sure you want to overwrite existing "
+                                                 "recordings list with same name?"),
+                                  MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
                 return;
             QFile::remove(path);
         }

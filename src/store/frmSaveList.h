@@ -2,17 +2,24 @@
 
 #include <QDialog>
 
-class AppContext;
+class AppDatabase;
+class EventLog;
+class MessageBoxPresenter;
+class SavedLists;
 class QComboBox;
 
 // Saves the recordings list under a name.
 class frmSaveList : public QDialog {
     Q_OBJECT
 public:
-    frmSaveList(AppContext& ctx, QWidget* owner);
+    frmSaveList(SavedLists& lists, AppDatabase& database, EventLog& log,
+                MessageBoxPresenter& messageBox, QWidget* owner);
     void frmSave_Click();
 
 private:
-    AppContext& m_ctx;
+    SavedLists& m_lists;
+    AppDatabase& m_database;
+    EventLog& m_log;
+    MessageBoxPresenter& m_messageBox;
     QComboBox* m_combo1;
 };

@@ -17,5 +17,5 @@ struct RecordingsListFixture {
     QString File(const QString& name) const { return Folder() + "/" + name; }
 
     TestContext tc;
-    RecordingsList list{*tc.ctx};
+    RecordingsList& list = tc.ctx->recordingsList;
 };
