@@ -75,7 +75,7 @@ private slots:
         format.SetToPcmPhoneQuality();
         const QByteArray before = format.Record();
 
-        frmRecordFormat form(*tc.ctx, format, nullptr);
+        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr);
         WhenModal chooser("FormatChooser", [](QWidget* dialog) {
             Control<QComboBox>(dialog, "cboFormatTag")->setCurrentText("MPEG Layer-3");
             auto* list = Control<QListWidget>(dialog, "lstAttributes");
@@ -125,7 +125,8 @@ private slots:
             Control<QRadioButton>(form, "optCDQuality")->click();
             form->findChild<QPushButton*>(button)->click();
         });
-        QCOMPARE(ChangeFormat(*tc.ctx, format, nullptr), changed);
+        QCOMPARE(ChangeFormat(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr),
+                 changed);
         QCOMPARE(format.nSamplesPerSec(), changed ? 44100u : 11025u);
     }
 
@@ -134,7 +135,7 @@ private slots:
         TestContext tc;
         clsRecordingFormat format;
         format.SetToPcm(1, 6000, 16);
-        frmRecordFormat form(*tc.ctx, format, nullptr);
+        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr);
         auto* rates = Control<QComboBox>(&form, "ComboSampleRate");
         QCOMPARE(rates->currentIndex(), -1);
         QCOMPARE(format.nSamplesPerSec(), 6000u);
@@ -167,7 +168,7 @@ private slots:
         clsRecordingFormat format;
         // Start from a preset, so that one is selected before the change.
         format.SetToPcm(2, 44100, 16);
-        frmRecordFormat form(*tc.ctx, format, nullptr);
+        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr);
         QVERIFY(Control<QRadioButton>(&form, "optCDQuality")->isChecked());
 
         Control<QRadioButton>(&form, channels == 2 ? "OptionStereo" : "OptionMono")->click();
@@ -204,7 +205,7 @@ private slots:
         clsRecordingFormat format;
         format.ConvertToMP3 = convert;
         SetFromRecord(format, CodecCatalogue::Mp3Record(1, 22050, 32));
-        frmRecordFormat form(*tc.ctx, format, nullptr);
+        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr);
         WhenModal warning("frmMP3WarningNT", [&](QWidget* dialog) {
             QCOMPARE(dialog->windowTitle(), QStringLiteral("MPEG Layer-3"));
             QVERIFY(Control<QLabel>(dialog, "Label1")->text().startsWith("The convert option is"));
@@ -226,7 +227,7 @@ private slots:
         main.show();
         clsRecordingFormat format;
         format.SetToPcmPhoneQuality();
-        frmRecordFormat form(*tc.ctx, format, &main);
+        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, &main);
         // 200 twips right of and below the main window's corner.
         QCOMPARE(form.pos(), main.pos() + QPoint(13, 13));
         QCOMPARE(form.windowTitle(), QStringLiteral("Select Recording Format"));
@@ -263,20 +264,20 @@ private slots:
         TestContext tc;
         clsRecordingFormat pcm;
         pcm.SetToPcm(2, 44100, 16);
-        frmRecordFormat pcmForm(*tc.ctx, pcm, nullptr);
+        frmRecordFormat pcmForm(tc.ctx->log, tc.ctx->registry, tc.ctx->options, pcm, nullptr);
         pcmForm.adjustSize();
         pcmForm.grab().save(folder + "/frmRecordFormat-pcm.png");
         clsRecordingFormat mp3;
         mp3.ConvertToMP3 = true;
         mp3.SaveMP3FileExtension = true;
         SetFromRecord(mp3, CodecCatalogue::Mp3Record(2, 44100, 128));
-        frmRecordFormat mp3Form(*tc.ctx, mp3, nullptr);
+        frmRecordFormat mp3Form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, mp3, nullptr);
         mp3Form.adjustSize();
         mp3Form.grab().save(folder + "/frmRecordFormat-mp3.png");
-        frmMP3Warning warning(*tc.ctx, nullptr);
+        frmMP3Warning warning(tc.ctx->registry, tc.ctx->options, nullptr);
         warning.adjustSize();
         warning.grab().save(folder + "/frmMP3Warning.png");
-        frmMP3WarningNT warningNT(*tc.ctx, nullptr);
+        frmMP3WarningNT warningNT(tc.ctx->registry, tc.ctx->options, nullptr);
         warningNT.adjustSize();
         warningNT.grab().save(folder + "/frmMP3WarningNT.png");
         FormatChooser chooser(mp3.Record(), nullptr);

@@ -1,7 +1,8 @@
 #include "formats/frmMP3Warning.h"
 
 #include "common/TextHelpers.h"
-#include "shell/AppContext.h"
+#include "store/Options.h"
+#include "store/RegKeys.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -10,10 +11,11 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-Mp3WarningForm::Mp3WarningForm(AppContext& ctx, const QString& objectName, const QString& text,
-                               QWidget* parent)
+Mp3WarningForm::Mp3WarningForm(RegKeys& registry, Options& options, const QString& objectName,
+                               const QString& text, QWidget* parent)
     : QDialog(parent)
-    , m_ctx(ctx)
+    , m_registry(registry)
+    , m_options(options)
     , m_label(new QLabel(text, this))
     , m_showAgain(new QCheckBox(QStringLiteral("&Do not show this warning again"), this))
 {
@@ -44,26 +46,26 @@ Mp3WarningForm::Mp3WarningForm(AppContext& ctx, const QString& objectName, const
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-bool Mp3WarningForm::WarningDue(AppContext& ctx)
+bool Mp3WarningForm::WarningDue(const RegKeys& registry)
 {
     const QString setting = Text::Trim(
-        ctx.registry.GetSetting(QStringLiteral("Settings"), QStringLiteral("ShowMp3Warning"), {}));
+        registry.GetSetting(QStringLiteral("Settings"), QStringLiteral("ShowMp3Warning"), {}));
     return setting.isEmpty() || setting.toUpper() == QLatin1String("Y");
 }
 
 void Mp3WarningForm::done(int result)
 {
     if (m_showAgain->isChecked()) {
-        m_ctx.registry.SaveSetting(QStringLiteral("Settings"), QStringLiteral("ShowMp3Warning"),
-                                   QStringLiteral("N"));
-        m_ctx.options.ShowMp3Warning = QStringLiteral("N");
+        m_registry.SaveSetting(QStringLiteral("Settings"), QStringLiteral("ShowMp3Warning"),
+                               QStringLiteral("N"));
+        m_options.ShowMp3Warning = QStringLiteral("N");
     }
     QDialog::done(result);
 }
 
-frmMP3Warning::frmMP3Warning(AppContext& ctx, QWidget* parent)
+frmMP3Warning::frmMP3Warning(RegKeys& registry, Options& options, QWidget* parent)
     : Mp3WarningForm(
-          ctx, QStringLiteral("frmMP3Warning"),
+          registry, options, QStringLiteral("frmMP3Warning"),
           QStringLiteral("CAUTION: Real-time recording of the MP3 format may not be fully "
                          "compatible with Windows 95/98/Me, causing the system in many cases to "
                          "crash.  Save data or files from all applications if you are trying to "

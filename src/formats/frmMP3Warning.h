@@ -2,7 +2,8 @@
 
 #include <QDialog>
 
-class AppContext;
+class Options;
+class RegKeys;
 class QCheckBox;
 class QLabel;
 
@@ -11,16 +12,17 @@ class QLabel;
 class Mp3WarningForm : public QDialog {
     Q_OBJECT
 public:
-    Mp3WarningForm(AppContext& ctx, const QString& objectName, const QString& text,
-                   QWidget* parent);
+    Mp3WarningForm(RegKeys& registry, Options& options, const QString& objectName,
+                   const QString& text, QWidget* parent);
 
     // True when the setting ShowMp3Warning asks for the warning: empty or "Y".
-    static bool WarningDue(AppContext& ctx);
+    static bool WarningDue(const RegKeys& registry);
 
     void done(int result) override;
 
 private:
-    AppContext& m_ctx;
+    RegKeys& m_registry;
+    Options& m_options;
     QLabel* m_label;
     QCheckBox* m_showAgain;
 };
@@ -29,5 +31,5 @@ private:
 class frmMP3Warning : public Mp3WarningForm {
     Q_OBJECT
 public:
-    frmMP3Warning(AppContext& ctx, QWidget* parent);
+    frmMP3Warning(RegKeys& registry, Options& options, QWidget* parent);
 };

@@ -7,5 +7,5 @@
 class frmMP3WarningNT : public Mp3WarningForm {
     Q_OBJECT
 public:
-    frmMP3WarningNT(AppContext& ctx, QWidget* parent);
+    frmMP3WarningNT(RegKeys& registry, Options& options, QWidget* parent);
 };

@@ -1,5 +1,6 @@
 #include "formats/frmRecordFormat.h"
 
+#include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/FormatChooser.h"
@@ -7,7 +8,6 @@
 #include "formats/frmMP3WarningNT.h"
 #include "formats/frmMp3RecordingFormatInfo.h"
 #include "gui/FormPlacement.h"
-#include "shell/AppContext.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -55,9 +55,12 @@ void SetCheckedQuietly(QRadioButton* button, bool checked)
 
 } // namespace
 
-frmRecordFormat::frmRecordFormat(AppContext& ctx, clsRecordingFormat& format, QWidget* parent)
+frmRecordFormat::frmRecordFormat(EventLog& log, RegKeys& registry, Options& options,
+                                 clsRecordingFormat& format, QWidget* parent)
     : QDialog(parent)
-    , m_ctx(ctx)
+    , m_log(log)
+    , m_registry(registry)
+    , m_options(options)
     , m_format(format)
 {
     setObjectName(QStringLiteral("frmRecordFormat"));
@@ -227,7 +230,7 @@ void frmRecordFormat::CheckRecordingFormat()
     if (m_updating)
         return;
     m_updating = true;
-    Trap(m_ctx.log, "CheckRecordingFormat", [&] {
+    Trap(m_log, "CheckRecordingFormat", [&] {
         LabelFormat->setText(m_format.TextCompressionMethod);
         if (m_format.wFormatTag() != clsRecordingFormat::WAVE_FORMAT_PCM) {
             CheckUsePcm->setChecked(false);
@@ -318,7 +321,7 @@ void frmRecordFormat::Mp3Flag_Click()
 
 void frmRecordFormat::CommandAdvanced_Click()
 {
-    Trap(m_ctx.log, "Recording Format Form CommandAdvanced_Click", [&] {
+    Trap(m_log, "Recording Format Form CommandAdvanced_Click", [&] {
         // The chooser writes straight into the block; the fields are rebuilt from it.
         if (FormatChooser::Choose(this, m_format.mwfx(), m_format.MwfxSize()) != 0)
             return;
@@ -335,12 +338,12 @@ void frmRecordFormat::CommandOk_Click()
     m_format.CalculateTextCompressionMethodString();
     m_format.FormatChanged = -1;
     if (m_format.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 &&
-        Mp3WarningForm::WarningDue(m_ctx)) {
+        Mp3WarningForm::WarningDue(m_registry)) {
         if (RunsOnWindows9x && !m_format.ConvertToMP3) {
-            frmMP3Warning warning(m_ctx, this);
+            frmMP3Warning warning(m_registry, m_options, this);
             warning.exec();
         } else if (!RunsOnWindows9x && m_format.ConvertToMP3) {
-            frmMP3WarningNT warning(m_ctx, this);
+            frmMP3WarningNT warning(m_registry, m_options, this);
             warning.exec();
         }
     }
@@ -359,12 +362,13 @@ void frmRecordFormat::reject()
     CommandCancel_Click();
 }
 
-bool ChangeFormat(AppContext& ctx, clsRecordingFormat& format, QWidget* owner)
+bool ChangeFormat(EventLog& log, RegKeys& registry, Options& options, clsRecordingFormat& format,
+                  QWidget* owner)
 {
     bool changed = false;
-    Trap(ctx.log, "ChangeFormat", [&] {
+    Trap(log, "ChangeFormat", [&] {
         format.FormatChanged = 0;
-        frmRecordFormat form(ctx, format, owner);
+        frmRecordFormat form(log, registry, options, format, owner);
         form.exec();
         // OK sets True, which is -1: any non-zero value is the confirmation.
         changed = format.FormatChanged != 0;

@@ -5,7 +5,9 @@
 #include <QDialog>
 #include <QList>
 
-class AppContext;
+class EventLog;
+class Options;
+class RegKeys;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
@@ -20,7 +22,8 @@ class QRadioButton;
 class frmRecordFormat : public QDialog {
     Q_OBJECT
 public:
-    frmRecordFormat(AppContext& ctx, clsRecordingFormat& format, QWidget* parent);
+    frmRecordFormat(EventLog& log, RegKeys& registry, Options& options, clsRecordingFormat& format,
+                    QWidget* parent);
 
     // Brings the controls in line with the format.
     void CheckRecordingFormat();
@@ -38,7 +41,9 @@ private:
     void CommandOk_Click();
     void CommandCancel_Click();
 
-    AppContext& m_ctx;
+    EventLog& m_log;
+    RegKeys& m_registry;
+    Options& m_options;
     clsRecordingFormat& m_format;
     clsRecordingFormat m_backup;
     QList<quint32> m_sampleRates;
@@ -71,4 +76,5 @@ private:
 
 // Shows the format dialog for the format, modally over owner; true when the user
 // confirmed with OK, false after Cancel.
-bool ChangeFormat(AppContext& ctx, clsRecordingFormat& format, QWidget* owner);
+bool ChangeFormat(EventLog& log, RegKeys& registry, Options& options, clsRecordingFormat& format,
+                  QWidget* owner);

@@ -610,7 +610,8 @@ void frmProgram::ChangeComprMethodButton_Click()
 {
     Trap(m_ctx.log, "Program Form ChangeComprMethodButton_Click", [&] {
         // A later cancelled change loses an earlier accepted one; that is intended.
-        FormatChanged = ChangeFormat(m_ctx, m_ctx.ProgramFormFormat, this);
+        FormatChanged =
+            ChangeFormat(m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.ProgramFormFormat, this);
         if (FormatChanged) {
             TextCompressionMethod->setText(m_ctx.ProgramFormFormat.TextCompressionMethod);
             CalcTimeDuration();
