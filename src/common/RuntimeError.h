@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 #include <exception>
 
 // A failure inside a routine, with the number and text that its trap reports to the log.
@@ -25,6 +26,7 @@ private:
 
 namespace ErrorNumber {
 constexpr int Overflow = 6;
+constexpr int InvalidUseOfNull = 94;
 constexpr int FileNotFound = 53;
 constexpr int PathFileAccess = 75;
 constexpr int ObjectRequired = 424;
@@ -37,3 +39,17 @@ constexpr int RecordDeleted = 3167;
 constexpr int UpdateWithoutEdit = 3020;
 constexpr int UnrecognizedDatabase = 3343;
 } // namespace ErrorNumber
+
+// The run time's error for a NULL read where a value is required.
+[[noreturn]] inline void ThrowInvalidUseOfNull()
+{
+    throw RuntimeError(ErrorNumber::InvalidUseOfNull, QStringLiteral("Invalid use of Null"));
+}
+
+// A value the system reads without a NULL test: a NULL there fails as the run time did.
+inline QVariant NotNull(const QVariant& value)
+{
+    if (value.isNull())
+        ThrowInvalidUseOfNull();
+    return value;
+}

@@ -36,10 +36,7 @@ bool ParseBoolSetting(const QString& text)
 
 QVariant RequireValue(const Recordset& rs, const QString& field)
 {
-    const QVariant value = rs.Value(field);
-    if (value.isNull())
-        throw RuntimeError(94, QStringLiteral("Invalid use of Null"));
-    return value;
+    return NotNull(rs.Value(field));
 }
 
 // The record in the seven columns named prefix and the field's name, with the extra bytes

@@ -18,6 +18,7 @@
 #include "recording/RecordingTaskLink.h"
 #include "recording/clsRecordingStatus.h"
 #include "scheduling/Scheduler.h"
+#include "scheduling/StreamingPlayerClose.h"
 #include "sideactions/LaunchCommands.h"
 #include "sideactions/MixerProfiles.h"
 #include "store/AppDatabase.h"
@@ -32,14 +33,8 @@ using namespace TaskProtocol;
 
 namespace {
 
-const QString kDoNotClose = QStringLiteral("DO_NOT_CLOSE");
 constexpr float kLeastRecordingMbytes = 0.001f;
 constexpr double kDirectRecordingMbytes = 0.5;
-
-[[noreturn]] void InvalidUseOfNull()
-{
-    throw RuntimeError(94, QStringLiteral("Invalid use of Null"));
-}
 
 QString TextColumn(const Recordset& rs, const QString& column, bool trimmed)
 {
@@ -160,7 +155,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         }
         status.ProgramId = ProgramId;
         if (programs.IsNull(QStringLiteral("Description")))
-            InvalidUseOfNull();
+            ThrowInvalidUseOfNull();
         description = programs.Value(QStringLiteral("Description")).toString();
         status.LaunchAppAfter = TextColumn(programs, QStringLiteral("LaunchAppAfter"), true);
         status.LaunchAfterOnlyIfOk = BoolColumn(programs, QStringLiteral("LaunchAfterOnlyIfOk"));
@@ -171,9 +166,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         // Intended: the NULL test looks at MixerProfileAfter, so a NULL StreamingPlayerClose
         // under an after-profile fails the start through the trap.
         if (programs.IsNull(QStringLiteral("MixerProfileAfter")))
-            status.StreamingPlayerClose = kDoNotClose;
+            status.StreamingPlayerClose = StreamingPlayerClose::DoNotClose;
         else if (programs.IsNull(QStringLiteral("StreamingPlayerClose")))
-            InvalidUseOfNull();
+            ThrowInvalidUseOfNull();
         else
             status.StreamingPlayerClose =
                 programs.Value(QStringLiteral("StreamingPlayerClose")).toString().trimmed();
@@ -191,7 +186,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         status.InternetLink.clear();
         status.MixerProfileBefore.clear();
         status.MixerProfileAfter.clear();
-        status.StreamingPlayerClose = kDoNotClose;
+        status.StreamingPlayerClose = StreamingPlayerClose::DoNotClose;
         status.HangupInternetConnection = false;
     } else {
         m_s.messageBox.Show(

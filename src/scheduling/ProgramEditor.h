@@ -1,5 +1,7 @@
 #pragma once
 
+#include "scheduling/StreamingPlayerClose.h"
+
 #include <QString>
 #include <QtGlobal>
 #include <array>
@@ -39,7 +41,7 @@ struct ProgramFormValues {
 
 namespace ProgramEditor {
 
-inline const QString DoNotClose = QStringLiteral("DO_NOT_CLOSE");
+using StreamingPlayerClose::DoNotClose;
 inline const QString NoneSelected = QStringLiteral("(none selected)");
 inline const QString NoneAvailable = QStringLiteral("(none available)");
 inline const QString DisabledMark = QStringLiteral("   **DISABLED** ");

@@ -7,22 +7,13 @@
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "scheduling/ModuleUtility.h"
+#include "scheduling/StreamingPlayerClose.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
 
 #include <array>
 
 namespace {
-
-const QString kDoNotClose = QStringLiteral("DO_NOT_CLOSE");
-
-// A value the system reads without a NULL test: a NULL there fails as the run time did.
-QVariant NotNull(const QVariant& value)
-{
-    if (value.isNull())
-        throw RuntimeError(94, QStringLiteral("Invalid use of Null"));
-    return value;
-}
 
 double Date(const QVariant& value)
 {
@@ -195,7 +186,8 @@ std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool 
                 o.launchAppDelay = DelayColumnValue(rs.Value(c.launchAppDelay));
                 o.mixerProfileBefore = TrimmedOr(rs.Value(c.mixerProfileBefore), QString());
                 o.mixerProfileAfter = TrimmedOr(rs.Value(c.mixerProfileAfter), QString());
-                o.streamingPlayerClose = TrimmedOr(rs.Value(c.streamingPlayerClose), kDoNotClose);
+                o.streamingPlayerClose =
+                    TrimmedOr(rs.Value(c.streamingPlayerClose), StreamingPlayerClose::DoNotClose);
                 o.hangupInternetConnection = Field::ToBool(rs.Value(c.hangup));
             }
         }
