@@ -159,6 +159,10 @@ double StatValue(const QByteArray& text, const char* name)
     return m.hasMatch() ? m.captured(1).toDouble() : -1;
 }
 
+// The records as the program's catalogue and the task lay them out.
+static_assert(sizeof(NightreelWaveFormat) == 18);
+static_assert(sizeof(NightreelMp3WaveFormat) == 30);
+
 } // namespace
 
 class TestEncoder : public QObject {
@@ -319,109 +323,99 @@ private slots:
         m_enc.Mp3ConvertErrorCleanUp();
     }
 
-    void recordLayouts()
+    void convert_data()
     {
-        QCOMPARE(sizeof(NightreelWaveFormat), size_t(18));
-        QCOMPARE(sizeof(NightreelMp3WaveFormat), size_t(30));
-        const std::string r = TaskWaveSource::Mp3Record(2, 44100, 128);
-        NightreelMp3WaveFormat f;
-        std::memcpy(&f, r.data(), sizeof f);
-        QCOMPARE(f.wfx.wFormatTag, quint16(NIGHTREELENC_WAVE_FORMAT_MPEGLAYER3));
-        QCOMPARE(f.wfx.nAvgBytesPerSec, quint32(16000));
-        QCOMPARE(f.wfx.cbSize, quint16(12));
-        QCOMPARE(f.wID, quint16(1));
-        QCOMPARE(f.fdwFlags, quint32(2));
-        QCOMPARE(f.nBlockSize, quint16(417));
-        QCOMPARE(f.nFramesPerBlock, quint16(1));
-        QCOMPARE(f.nCodecDelay, quint16(1393));
+        QTest::addColumn<int>("rate");
+        QTest::addColumn<int>("channels");
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<int>("seconds");
+        QTest::addColumn<bool>("staleHeader"); // the header claims 5 seconds more than there are
+        QTest::addColumn<int>("outRate");
+        QTest::addColumn<int>("outChannels");
+        QTest::addColumn<int>("kbps");
+        QTest::addColumn<bool>("asWave");
+        QTest::addColumn<int>("channelMode"); // 1 joint stereo, 3 single channel
+        QTest::newRow("stereo mp3")
+            << 44100 << 2 << 16 << 4 << false << 44100 << 2 << 128 << false << 1;
+        QTest::newRow("mono mp3") << 22050 << 1 << 16 << 3 << false << 22050 << 1 << 56 << false
+                                  << 3;
+        QTest::newRow("8-bit mp3")
+            << 22050 << 1 << 8 << 2 << false << 22050 << 1 << 64 << false << 3;
+        QTest::newRow("stale header mp3")
+            << 44100 << 2 << 16 << 2 << true << 44100 << 2 << 128 << false << 1;
+        QTest::newRow("stereo wave")
+            << 44100 << 2 << 16 << 4 << false << 44100 << 2 << 128 << true << 1;
+        QTest::newRow("mono wave")
+            << 22050 << 1 << 16 << 3 << false << 22050 << 1 << 56 << true << 3;
+        // fact counts frames at the format's rate when the rates differ.
+        QTest::newRow("resampled wave")
+            << 44100 << 2 << 16 << 2 << false << 22050 << 1 << 64 << true << 3;
+        QTest::newRow("stale header wave")
+            << 44100 << 2 << 16 << 2 << true << 44100 << 2 << 128 << true << 1;
     }
 
-    void stereoToMp3()
+    void convert()
     {
-        const quint32 frames = MakeSource("st.WAV.TMP", 44100, 2, 4);
-        QCOMPARE(frames, quint32(4 * 44100));
-        const Run run =
-            Convert(Path("st.WAV.TMP"), Path("st.MP3"), TaskWaveSource::PcmRecord(2, 44100),
-                    TaskWaveSource::Mp3Record(2, 44100, 128), false);
+        QFETCH(int, rate);
+        QFETCH(int, channels);
+        QFETCH(int, bits);
+        QFETCH(int, seconds);
+        QFETCH(bool, staleHeader);
+        QFETCH(int, outRate);
+        QFETCH(int, outChannels);
+        QFETCH(int, kbps);
+        QFETCH(bool, asWave);
+        QFETCH(int, channelMode);
+        const QString name = QString::fromLatin1(QTest::currentDataTag()).replace(' ', '-');
+        const QString source = Path(name + ".WAV.TMP");
+        const QString destination = Path(name + (asWave ? ".WAV" : ".MP3"));
+        const quint32 frames = MakeSource(name + ".WAV.TMP", rate, channels, seconds,
+                                          staleHeader ? 5 * rate * channels * bits / 8 : 0, bits);
+        QCOMPARE(frames, quint32(seconds * rate));
+        const std::string record = TaskWaveSource::Mp3Record(outChannels, outRate, kbps);
+        const Run run = Convert(source, destination,
+                                TaskWaveSource::PcmRecord(channels, rate, bits), record, asWave);
         QCOMPARE(run.code, 0);
         QCOMPARE(run.finishedSets, 1);
         QCOMPARE(run.lastPercent, 100);
         QVERIFY(run.percentRises);
-        const QByteArray bytes = ReadFile(Path("st.MP3"));
-        const Frames f = VerifyMp3File(bytes);
-        QCOMPARE(f.rate, 44100);
-        QCOMPARE(f.kbps, 128);
-        QCOMPARE(f.channelMode, 1); // joint stereo
-        VerifyTone(Decode(bytes, "st"), 4);
-
-        // The scheduler's tag lands on the reserved bytes: written as WriteId3Tag does, at
-        // the file's length less 128, it leaves every frame whole.
-        QByteArray tagged = bytes;
-        tagged.replace(tagged.size() - 128, 128,
-                       QByteArray("TAG").append(QByteArray(124, ' ')).append(char(12)));
-        QVERIFY(WalkFrames(tagged, 0, tagged.size() - 128).ok);
-        VerifyTone(Decode(tagged, "st-tagged"), 4);
-    }
-
-    void monoToMp3()
-    {
-        const quint32 frames = MakeSource("mo.WAV.TMP", 22050, 1, 3);
-        QCOMPARE(frames, quint32(3 * 22050));
-        const Run run =
-            Convert(Path("mo.WAV.TMP"), Path("mo.MP3"), TaskWaveSource::PcmRecord(1, 22050),
-                    TaskWaveSource::Mp3Record(1, 22050, 56), false);
-        QCOMPARE(run.code, 0);
-        QCOMPARE(run.finishedSets, 1);
-        const QByteArray bytes = ReadFile(Path("mo.MP3"));
-        const Frames f = VerifyMp3File(bytes);
-        QCOMPARE(f.rate, 22050);
-        QCOMPARE(f.kbps, 56);
-        QCOMPARE(f.channelMode, 3); // single channel
-        VerifyTone(Decode(bytes, "mo"), 3);
-    }
-
-    void stereoToWave()
-    {
-        const quint32 frames = MakeSource("sw.WAV.TMP", 44100, 2, 4);
-        const std::string record = TaskWaveSource::Mp3Record(2, 44100, 128);
-        const Run run = Convert(Path("sw.WAV.TMP"), Path("sw.WAV"),
-                                TaskWaveSource::PcmRecord(2, 44100), record, true);
-        QCOMPARE(run.code, 0);
-        QCOMPARE(run.finishedSets, 1);
-        const QByteArray bytes = ReadFile(Path("sw.WAV"));
-        // One blank of each text is removed, no more.
-        const QByteArray mp3 =
-            VerifyWaveFile(bytes, record, frames, "Nightreel 2000 1.0", "Morning  show ");
-        QVERIFY(!mp3.isEmpty());
-        VerifyTone(Decode(mp3, "sw"), 4);
-
-        // The project's reader of the recordings list takes it for an encoder's wave file,
-        // and not for one of the recording task.
-        QBuffer device;
-        device.setData(bytes);
-        QVERIFY(device.open(QIODevice::ReadOnly));
-        WaveFileChunks task;
-        QVERIFY(!WaveFileChunk::ReadNightreelWave(device, 30, task));
-        device.seek(0);
-        WaveFileChunks chunks;
-        QVERIFY(WaveFileChunk::ReadNightreelCompressedWave(device, 30, chunks));
-        QCOMPARE(chunks.software, QStringLiteral("Nightreel 2000 1.0"));
-        QCOMPARE(chunks.title, QStringLiteral("Morning  show "));
-        QCOMPARE(chunks.fmt, QByteArray::fromStdString(record));
-        QCOMPARE(chunks.sampleFrames, frames);
-        QCOMPARE(chunks.factBytesRead, qint64(4));
-    }
-
-    void monoToWave()
-    {
-        const quint32 frames = MakeSource("mw.WAV.TMP", 22050, 1, 3);
-        const std::string record = TaskWaveSource::Mp3Record(1, 22050, 56);
-        const Run run = Convert(Path("mw.WAV.TMP"), Path("mw.WAV"),
-                                TaskWaveSource::PcmRecord(1, 22050), record, true);
-        QCOMPARE(run.code, 0);
-        const QByteArray mp3 = VerifyWaveFile(ReadFile(Path("mw.WAV")), record, frames,
-                                              "Nightreel 2000 1.0", "Morning  show ");
-        VerifyTone(Decode(mp3, "mw"), 3);
+        const QByteArray bytes = ReadFile(destination);
+        const quint32 outFrames = quint32(quint64(frames) * outRate / rate);
+        QByteArray mp3 = bytes;
+        if (asWave) {
+            // One blank of each text is removed, no more.
+            mp3 = VerifyWaveFile(bytes, record, outFrames, "Nightreel 2000 1.0", "Morning  show ");
+            QVERIFY(!mp3.isEmpty());
+            // The project's reader of the recordings list takes it for an encoder's wave
+            // file, and not for one of the recording task.
+            QBuffer device;
+            device.setData(bytes);
+            QVERIFY(device.open(QIODevice::ReadOnly));
+            WaveFileChunks task;
+            QVERIFY(!WaveFileChunk::ReadNightreelWave(device, 30, task));
+            device.seek(0);
+            WaveFileChunks chunks;
+            QVERIFY(WaveFileChunk::ReadNightreelCompressedWave(device, 30, chunks));
+            QCOMPARE(chunks.software, QStringLiteral("Nightreel 2000 1.0"));
+            QCOMPARE(chunks.title, QStringLiteral("Morning  show "));
+            QCOMPARE(chunks.fmt, QByteArray::fromStdString(record));
+            QCOMPARE(chunks.sampleFrames, outFrames);
+            QCOMPARE(chunks.factBytesRead, qint64(4));
+        } else {
+            VerifyMp3File(bytes);
+            // The scheduler's tag lands on the reserved bytes: written as WriteId3Tag does,
+            // at the file's length less 128, it leaves every frame whole.
+            QByteArray tagged = bytes;
+            tagged.replace(tagged.size() - 128, 128,
+                           QByteArray("TAG").append(QByteArray(124, ' ')).append(char(12)));
+            QVERIFY(WalkFrames(tagged, 0, tagged.size() - 128).ok);
+            VerifyTone(Decode(tagged, name + "-tagged"), seconds);
+        }
+        const Frames f = WalkFrames(mp3, 0, asWave ? mp3.size() : mp3.size() - 128);
+        QCOMPARE(f.rate, outRate);
+        QCOMPARE(f.kbps, kbps);
+        QCOMPARE(f.channelMode, channelMode);
+        VerifyTone(Decode(mp3, name), seconds);
     }
 
     void waveTexts()
@@ -457,59 +451,6 @@ private slots:
             QCOMPARE(WaveFileChunk::ReadNightreelCompressedWave(device, 30, chunks),
                      c.wantSoftware.startsWith("Nightreel"));
         }
-    }
-
-    void resampledToWave()
-    {
-        // fact counts frames at the format's rate when the rates differ.
-        const quint32 frames = MakeSource("rs.WAV.TMP", 44100, 2, 2);
-        const std::string record = TaskWaveSource::Mp3Record(1, 22050, 64);
-        const Run run = Convert(Path("rs.WAV.TMP"), Path("rs.WAV"),
-                                TaskWaveSource::PcmRecord(2, 44100), record, true);
-        QCOMPARE(run.code, 0);
-        const QByteArray mp3 = VerifyWaveFile(ReadFile(Path("rs.WAV")), record, frames / 2,
-                                              "Nightreel 2000 1.0", "Morning  show ");
-        const Frames f = WalkFrames(mp3, 0, mp3.size());
-        QCOMPARE(f.rate, 22050);
-        QCOMPARE(f.channelMode, 3);
-        const Stat s = Decode(mp3, "rs");
-        QVERIFY(s.frequency > 950 && s.frequency < 1050);
-    }
-
-    void eightBitSource()
-    {
-        const quint32 frames = MakeSource("e8.WAV.TMP", 22050, 1, 2, 0, 8);
-        QCOMPARE(frames, quint32(2 * 22050));
-        const Run run =
-            Convert(Path("e8.WAV.TMP"), Path("e8.MP3"), TaskWaveSource::PcmRecord(1, 22050, 8),
-                    TaskWaveSource::Mp3Record(1, 22050, 64), false);
-        QCOMPARE(run.code, 0);
-        const QByteArray bytes = ReadFile(Path("e8.MP3"));
-        VerifyMp3File(bytes);
-        VerifyTone(Decode(bytes, "e8"), 2);
-    }
-
-    void staleHeader()
-    {
-        // The header claims 5 seconds more than the file holds: the 2 seconds there are are
-        // converted, in both forms.
-        const quint32 frames = MakeSource("sh.WAV.TMP", 44100, 2, 2, 5 * 44100 * 4);
-        const std::string record = TaskWaveSource::Mp3Record(2, 44100, 128);
-        Run run = Convert(Path("sh.WAV.TMP"), Path("sh.MP3"), TaskWaveSource::PcmRecord(2, 44100),
-                          record, false);
-        QCOMPARE(run.code, 0);
-        QCOMPARE(run.finishedSets, 1);
-        QCOMPARE(run.lastPercent, 100);
-        const QByteArray bytes = ReadFile(Path("sh.MP3"));
-        VerifyMp3File(bytes);
-        VerifyTone(Decode(bytes, "sh"), 2);
-
-        run = Convert(Path("sh.WAV.TMP"), Path("sh.WAV"), TaskWaveSource::PcmRecord(2, 44100),
-                      record, true);
-        QCOMPARE(run.code, 0);
-        const QByteArray mp3 = VerifyWaveFile(ReadFile(Path("sh.WAV")), record, frames,
-                                              "Nightreel 2000 1.0", "Morning  show ");
-        VerifyTone(Decode(mp3, "shw"), 2);
     }
 
     void diskFull()
@@ -611,56 +552,54 @@ private slots:
         VerifyMp3File(ReadFile(dst));
     }
 
-    void finishAfterNoStep()
+    void finishEarly_data()
     {
-        MakeSource("f0.WAV.TMP", 44100, 2, 2);
-        const std::string in = TaskWaveSource::PcmRecord(2, 44100);
-        const std::string out = TaskWaveSource::Mp3Record(2, 44100, 128);
-        Run run = Convert(Path("f0.WAV.TMP"), Path("f0.MP3"), in, out, false, 0);
-        QCOMPARE(run.code, 0);
-        QCOMPARE(run.steps, 0);
-        const QByteArray bytes = ReadFile(Path("f0.MP3"));
-        VerifyMp3File(bytes);
-        const Stat s = Decode(bytes, "f0");
-        QVERIFY2(s.ok, "decodes");
-        QVERIFY(s.seconds < 0.2);
-
-        run = Convert(Path("f0.WAV.TMP"), Path("f0.WAV"), in, out, true, 0);
-        QCOMPARE(run.code, 0);
-        const QByteArray mp3 = VerifyWaveFile(ReadFile(Path("f0.WAV")), out, 0,
-                                              "Nightreel 2000 1.0", "Morning  show ");
-        QVERIFY(Decode(mp3, "f0w").ok);
+        QTest::addColumn<int>("steps");
+        QTest::addColumn<bool>("asWave");
+        QTest::newRow("no step mp3") << 0 << false;
+        QTest::newRow("no step wave") << 0 << true;
+        QTest::newRow("3 steps mp3") << 3 << false;
+        QTest::newRow("3 steps wave") << 3 << true;
     }
 
-    void finishAfterSomeSteps()
+    // Finished before the source is used up: a whole file of what was encoded.
+    void finishEarly()
     {
-        const quint32 frames = MakeSource("f3.WAV.TMP", 44100, 2, 60);
-        const std::string in = TaskWaveSource::PcmRecord(2, 44100);
+        QFETCH(int, steps);
+        QFETCH(bool, asWave);
+        if (!QFileInfo::exists(Path("fe.WAV.TMP")))
+            QCOMPARE(MakeSource("fe.WAV.TMP", 44100, 2, 60), quint32(60 * 44100));
+        const QString destination = Path(asWave ? "fe.WAV" : "fe.MP3");
         const std::string out = TaskWaveSource::Mp3Record(2, 44100, 128);
-        Run run = Convert(Path("f3.WAV.TMP"), Path("f3.MP3"), in, out, false, 3);
+        const Run run = Convert(Path("fe.WAV.TMP"), destination,
+                                TaskWaveSource::PcmRecord(2, 44100), out, asWave, steps);
         QCOMPARE(run.code, 0);
-        QCOMPARE(run.steps, 3);
+        QCOMPARE(run.steps, steps);
         QCOMPARE(run.finishedSets, 0);
-        QVERIFY(run.lastPercent < 100);
-        const QByteArray bytes = ReadFile(Path("f3.MP3"));
-        VerifyMp3File(bytes);
-        const Stat s = Decode(bytes, "f3");
-        QVERIFY(s.ok);
-        QVERIFY(s.seconds > 0.1 && s.seconds < 60);
-        QVERIFY(s.frequency > 950 && s.frequency < 1050);
-
-        run = Convert(Path("f3.WAV.TMP"), Path("f3.WAV"), in, out, true, 3);
-        QCOMPARE(run.code, 0);
-        bool riffOk = false;
-        const QList<Chunk> chunks = DirectChunks(ReadFile(Path("f3.WAV")), &riffOk);
-        QVERIFY(riffOk);
-        QCOMPARE(chunks.size(), 5);
-        const quint32 fact = qFromLittleEndian<quint32>(chunks[3].data.constData());
-        QVERIFY(fact > 0 && fact < frames);
-        QVERIFY(WalkFrames(chunks[4].data, 0, chunks[4].data.size()).ok);
-        const Stat w = Decode(chunks[4].data, "f3w");
-        QVERIFY(w.ok);
-        QVERIFY(qAbs(w.seconds - fact / 44100.0) < 0.1);
+        QByteArray mp3 = ReadFile(destination);
+        double seconds = 0;
+        if (asWave) {
+            bool riffOk = false;
+            const QList<Chunk> chunks = DirectChunks(mp3, &riffOk);
+            QVERIFY(riffOk);
+            QCOMPARE(chunks.size(), 5);
+            const quint32 fact = qFromLittleEndian<quint32>(chunks[3].data.constData());
+            QVERIFY(fact < 60 * 44100);
+            QVERIFY(steps > 0 || fact == 0);
+            mp3 = chunks[4].data;
+            QVERIFY(WalkFrames(mp3, 0, mp3.size()).ok);
+            seconds = fact / 44100.0;
+        } else {
+            VerifyMp3File(mp3);
+        }
+        const Stat s = Decode(mp3, QString::fromLatin1(QTest::currentDataTag()).replace(' ', '-'));
+        QVERIFY2(s.ok, "decodes");
+        if (steps == 0)
+            QVERIFY(s.seconds < 0.2);
+        else
+            QVERIFY(s.seconds > 0.1 && s.seconds < 60 && s.frequency > 950 && s.frequency < 1050);
+        if (asWave)
+            QVERIFY(qAbs(s.seconds - seconds) < 0.1);
     }
 
     void stepTimeOnLongSource()
