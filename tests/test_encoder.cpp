@@ -2,7 +2,9 @@
 // as the program loads it from its own: sources made with sox in the recording task's
 // layout, results checked with `lame --decode` and `sox stat`, by walking their frames and
 // chunks, and with the project's own wave reader.
+#include "SoxTone.h"
 #include "TaskWaveSource.h"
+#include "TestFiles.h"
 #include "formats/WaveFileChunks.h"
 #include "recording/EncoderLibrary.h"
 
@@ -52,39 +54,6 @@ struct Frames {
     bool infoFrame = false;
 };
 
-struct Chunk {
-    QByteArray id;
-    QByteArray data;
-};
-
-QByteArray RunProgram(const QString& program, const QStringList& arguments, bool* ok = nullptr,
-                      QByteArray* errors = nullptr)
-{
-    QProcess process;
-    process.start(program, arguments);
-    const bool done = process.waitForFinished(60000) &&
-                      process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    const QByteArray err = process.readAllStandardError();
-    if (errors)
-        *errors = err;
-    if (!done && !ok)
-        qWarning() << program << arguments << err;
-    if (ok)
-        *ok = done;
-    return process.readAllStandardOutput();
-}
-
-// Raw little-endian samples of a 1 kHz tone at half scale.
-std::string Tone(int rate, int channels, double seconds, int bits = 16)
-{
-    const QByteArray raw =
-        RunProgram(QStringLiteral("sox"),
-                   {"-n", "-r", QString::number(rate), "-c", QString::number(channels), "-b",
-                    QString::number(bits), "-e", bits == 8 ? "unsigned" : "signed", "-t", "raw",
-                    "-", "synth", QString::number(seconds), "sine", "1000", "vol", "0.5"});
-    return raw.toStdString();
-}
-
 Frames WalkFrames(const QByteArray& bytes, qint64 begin, qint64 end)
 {
     static const int rates1[] = {44100, 48000, 32000};
@@ -124,34 +93,6 @@ Frames WalkFrames(const QByteArray& bytes, qint64 begin, qint64 end)
     return f;
 }
 
-QList<Chunk> DirectChunks(const QByteArray& bytes, bool* riffOk)
-{
-    QList<Chunk> chunks;
-    *riffOk = bytes.size() >= 12 && bytes.startsWith("RIFF") && bytes.mid(8, 4) == "WAVE" &&
-              qFromLittleEndian<quint32>(bytes.constData() + 4) == quint32(bytes.size() - 8);
-    qint64 pos = 12;
-    while (pos + 8 <= bytes.size()) {
-        const quint32 size = qFromLittleEndian<quint32>(bytes.constData() + pos + 4);
-        chunks.append({bytes.mid(pos, 4), bytes.mid(pos + 8, size)});
-        pos += 8 + size + (size & 1);
-    }
-    if (pos != bytes.size())
-        *riffOk = false;
-    return chunks;
-}
-
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool WriteFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
 double StatValue(const QByteArray& text, const char* name)
 {
     const QRegularExpression re(QString::fromLatin1(name) + QStringLiteral(R"(:\s*(-?[0-9.]+))"));
@@ -186,7 +127,7 @@ class TestEncoder : public QObject {
     quint32 MakeSource(const QString& name, int rate, int channels, double seconds,
                        quint32 staleExtra = 0, int bits = 16)
     {
-        const std::string pcm = Tone(rate, channels, seconds, bits);
+        const std::string pcm = RawTone(rate, channels, seconds, bits);
         const bool written =
             !pcm.empty() &&
             TaskWaveSource::Write(QFile::encodeName(Path(name)).toStdString(), quint16(channels),
@@ -286,10 +227,10 @@ class TestEncoder : public QObject {
         QByteArray mp3;
         [&] {
             bool riffOk = false;
-            const QList<Chunk> chunks = DirectChunks(bytes, &riffOk);
+            const QList<RiffChunk> chunks = DirectChunks(bytes, &riffOk);
             QVERIFY2(riffOk, "RIFF WAVE, its size the file's less 8, chunks to the end");
             QStringList ids;
-            for (const Chunk& c : chunks)
+            for (const RiffChunk& c : chunks)
                 ids << QString::fromLatin1(c.id);
             QCOMPARE(ids, QStringList({"ISFT", "INAM", "fmt ", "fact", "data"}));
             // Texts: the data less its last byte, which is the NUL.
@@ -580,7 +521,7 @@ private slots:
         double seconds = 0;
         if (asWave) {
             bool riffOk = false;
-            const QList<Chunk> chunks = DirectChunks(mp3, &riffOk);
+            const QList<RiffChunk> chunks = DirectChunks(mp3, &riffOk);
             QVERIFY(riffOk);
             QCOMPARE(chunks.size(), 5);
             const quint32 fact = qFromLittleEndian<quint32>(chunks[3].data.constData());

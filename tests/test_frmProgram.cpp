@@ -27,14 +27,6 @@
 
 namespace {
 
-template <typename T = QWidget> T* Control(QWidget* form, const QString& name)
-{
-    T* control = form->findChild<T*>(name);
-    if (!control)
-        qFatal("no control %s", qPrintable(name));
-    return control;
-}
-
 // Edits as a user makes them, in order: "name=value". Buttons take 1 or 0 and are clicked
 // only when that changes them, so the form's click rules run; time pickers take HH:mm:ss.
 void Apply(QWidget* form, const QStringList& edits)
