@@ -6,6 +6,7 @@
 #include "SoxTone.h"
 #include "TaskWaveSource.h"
 #include "TestContext.h"
+#include "TestFiles.h"
 #include "formats/CodecCatalogue.h"
 #include "shell/MainFormController.h"
 #include "store/RecordingsList.h"
@@ -36,37 +37,11 @@ struct Row {
     float size;
 };
 
-struct Chunk {
-    QByteArray id;
-    QByteArray data;
-};
-
-QByteArray ReadAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-// The direct chunks of a RIFF WAVE file, in order.
-QList<Chunk> Chunks(const QByteArray& bytes)
-{
-    QList<Chunk> chunks;
-    for (qsizetype pos = 12; pos + 8 <= bytes.size();) {
-        const quint32 size = qFromLittleEndian<quint32>(bytes.constData() + pos + 4);
-        chunks.append({bytes.mid(pos, 4), bytes.mid(pos + 8, size)});
-        pos += 8 + size + (size & 1);
-    }
-    return chunks;
-}
-
 // The rough frequency and level of an MP3 stream, decoded by lame.
 bool Mp3ToneOf(const QByteArray& mp3, const QString& scratch, double& frequency, double& rms)
 {
-    QFile f(scratch + ".mp3");
-    if (!f.open(QIODevice::WriteOnly) || f.write(mp3) != mp3.size())
-        return false;
-    f.close();
-    return QProcess::execute("lame", {"--quiet", "--decode", scratch + ".mp3", scratch + ".wav"}) ==
+    return WriteFile(scratch + ".mp3", mp3) &&
+           QProcess::execute("lame", {"--quiet", "--decode", scratch + ".mp3", scratch + ".wav"}) ==
                0 &&
            ToneOf(scratch + ".wav", rms, frequency);
 }
@@ -108,11 +83,7 @@ public:
                                                   const QString& launch = QString(),
                                                   const QString& destination = QString())
     {
-        QProcess sox;
-        sox.start("sox", {"-n", "-r", "44100", "-c", "2", "-b", "16", "-e", "signed", "-t", "raw",
-                          "-", "synth", QString::number(seconds), "sine", "1000", "vol", "0.5"});
-        sox.waitForFinished(60000);
-        const std::string pcm = sox.readAllStandardOutput().toStdString();
+        const std::string pcm = RawTone(44100, 2, seconds);
         auto request = std::make_shared<clsConvertToMP3Request>();
         request->SourceFile = folder + "/" + name + ".WAV.TMP";
         request->DestinationFile =
@@ -250,9 +221,9 @@ void TestConversion::recordingIsConvertedAndListedWhenDone()
     QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
     QCOMPARE(f.queue().Mp3ConvertQueue.size(), 1);
     const auto request = f.queue().Mp3ConvertQueue.first();
-    const QList<Chunk> capture = Chunks(ReadAll(request->SourceFile));
+    const QList<RiffChunk> capture = DirectChunks(ReadFile(request->SourceFile));
     quint32 sourceFrames = 0;
-    for (const Chunk& c : capture)
+    for (const RiffChunk& c : capture)
         if (c.id == "data")
             sourceFrames = quint32(c.data.size() / 4);
     QVERIFY(sourceFrames > 44100);
@@ -278,7 +249,7 @@ void TestConversion::recordingIsConvertedAndListedWhenDone()
     f.VerifyRowLength(rows[0]);
     QCOMPARE(f.queue().CurrentConvertRequest->PercentComplete, qint16(100));
 
-    const QByteArray bytes = ReadAll(request->DestinationFile);
+    const QByteArray bytes = ReadFile(request->DestinationFile);
     if (mp3Extension) {
         QVERIFY(request->DestinationFile.endsWith(".MP3"));
         const QByteArray tag = bytes.right(128);
@@ -291,9 +262,9 @@ void TestConversion::recordingIsConvertedAndListedWhenDone()
         QVERIFY(request->DestinationFile.endsWith(".WAV"));
         QCOMPARE(bytes.left(4), QByteArray("RIFF"));
         QCOMPARE(bytes.mid(8, 4), QByteArray("WAVE"));
-        const QList<Chunk> chunks = Chunks(bytes);
+        const QList<RiffChunk> chunks = DirectChunks(bytes);
         QStringList ids;
-        for (const Chunk& c : chunks)
+        for (const RiffChunk& c : chunks)
             ids << QString::fromLatin1(c.id);
         QCOMPARE(ids, QStringList({"ISFT", "INAM", "fmt ", "fact", "data"}));
         QVERIFY(chunks[0].data.startsWith("Nightreel 2000 "));
@@ -408,7 +379,7 @@ void TestConversion::stopSavesTheRunningAndDropsTheWaiting()
     QCOMPARE(rows.size(), 1);
     QCOMPARE(rows[0].file, requests[0]->DestinationFile);
     f.VerifyRowLength(rows[0]);
-    const QByteArray mp3 = ReadAll(rows[0].file);
+    const QByteArray mp3 = ReadFile(rows[0].file);
     // Partial: 30 s at 128 kbit/s would be 480,000 bytes.
     QVERIFY2(mp3.size() > 10000 && mp3.size() < 400000, qPrintable(QString::number(mp3.size())));
     f.VerifyTone(mp3.chopped(128));
@@ -505,7 +476,7 @@ void TestConversion::diskGuardSavesThePartialConversion()
     const QList<Row> rows = f.Recordings();
     QCOMPARE(rows.size(), 1);
     f.VerifyRowLength(rows[0]);
-    const QByteArray mp3 = ReadAll(request->DestinationFile);
+    const QByteArray mp3 = ReadFile(request->DestinationFile);
     QVERIFY(mp3.size() < 60 * 16000);
     f.VerifyTone(mp3.chopped(128));
     QCOMPARE(f.Captures(), QStringList());

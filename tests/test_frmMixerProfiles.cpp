@@ -61,11 +61,6 @@ class TestFrmMixerProfiles : public QObject {
                                                   m_main.get());
     }
 
-    template <typename T> static T* Child(QWidget* form, const char* name)
-    {
-        return form->findChild<T*>(QString::fromLatin1(name));
-    }
-
 private slots:
     void init()
     {
@@ -99,14 +94,14 @@ private slots:
         QVERIFY(other.open(QIODevice::WriteOnly));
         other.write("x");
         const auto form = Open();
-        auto* list = Child<QListWidget>(form.get(), "lstMixerProfiles");
+        auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
         QStringList sorted = files;
         sorted.sort(Qt::CaseInsensitive);
         QCOMPARE(Texts(list), sorted);
         QCOMPARE(Selected(list), sorted.value(0));
-        QCOMPARE(Child<QPushButton>(form.get(), "btnActivate")->isEnabled(), enabled);
-        QCOMPARE(Child<QPushButton>(form.get(), "btnRemove")->isEnabled(), enabled);
-        QCOMPARE(Child<QPushButton>(form.get(), "btnAdd")->isEnabled(), true);
+        QCOMPARE(Control<QPushButton>(form.get(), "btnActivate")->isEnabled(), enabled);
+        QCOMPARE(Control<QPushButton>(form.get(), "btnRemove")->isEnabled(), enabled);
+        QCOMPARE(Control<QPushButton>(form.get(), "btnAdd")->isEnabled(), true);
     }
 
     void removeSelects_data()
@@ -127,7 +122,7 @@ private slots:
         QFETCH(QString, selected);
         MakeProfiles(files);
         const auto form = Open();
-        auto* list = Child<QListWidget>(form.get(), "lstMixerProfiles");
+        auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
         list->setCurrentRow(row);
         m_tc->messageBox.answers = {MsgResult::Yes};
         form->btnRemove_Click();
@@ -142,8 +137,8 @@ private slots:
         QCOMPARE(Texts(list), files);
         QCOMPARE(Profiles().Names(), files);
         QCOMPARE(Selected(list), selected);
-        QCOMPARE(Child<QPushButton>(form.get(), "btnRemove")->isEnabled(), !files.isEmpty());
-        QCOMPARE(Child<QPushButton>(form.get(), "btnActivate")->isEnabled(), !files.isEmpty());
+        QCOMPARE(Control<QPushButton>(form.get(), "btnRemove")->isEnabled(), !files.isEmpty());
+        QCOMPARE(Control<QPushButton>(form.get(), "btnActivate")->isEnabled(), !files.isEmpty());
     }
 
     // Without a selection the two buttons go grey and ask nothing; No changes nothing.
@@ -159,7 +154,7 @@ private slots:
         QFETCH(bool, remove);
         MakeProfiles({"A", "B"}, QByteArray());
         const auto form = Open();
-        auto* list = Child<QListWidget>(form.get(), "lstMixerProfiles");
+        auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
         const auto click = [&] {
             remove ? form->btnRemove_Click() : form->btnActivate_Click();
         };
@@ -171,8 +166,8 @@ private slots:
         list->clearSelection();
         click();
         QCOMPARE(m_tc->messageBox.asked.size(), 1);
-        QVERIFY(!Child<QPushButton>(form.get(), "btnActivate")->isEnabled());
-        QVERIFY(!Child<QPushButton>(form.get(), "btnRemove")->isEnabled());
+        QVERIFY(!Control<QPushButton>(form.get(), "btnActivate")->isEnabled());
+        QVERIFY(!Control<QPushButton>(form.get(), "btnRemove")->isEnabled());
     }
 
     // Yes activates the selected profile: an empty one is deleted by the activation, and
@@ -190,7 +185,7 @@ private slots:
                          "profile. Proceed?"));
         QCOMPARE(m_tc->messageBox.asked[0].buttons, MsgButtons::YesNo);
         QVERIFY(!QFile::exists(Profiles().PathOf("Empty")));
-        QCOMPARE(Texts(Child<QListWidget>(form.get(), "lstMixerProfiles")), QStringList{"Empty"});
+        QCOMPARE(Texts(Control<QListWidget>(form.get(), "lstMixerProfiles")), QStringList{"Empty"});
     }
 
     // Saving through the add form, opened by Add: a new name (trimmed) joins the list and is
@@ -202,7 +197,7 @@ private slots:
         QVERIFY(pulse.Running());
         MakeProfiles({"Old"});
         const auto form = Open();
-        auto* list = Child<QListWidget>(form.get(), "lstMixerProfiles");
+        auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
         list->clearSelection();
 
         bool keptOpen = false;
@@ -212,16 +207,16 @@ private slots:
                 if (dialog->isVisible())
                     dialog->reject();
             });
-            auto* combo = Child<QComboBox>(dialog, "Combo1");
+            auto* combo = Control<QComboBox>(dialog, "Combo1");
             QCOMPARE(combo->currentText(), QString());
             QCOMPARE(combo->count(), 1);
             QCOMPARE(dialog->focusWidget(), combo);
             combo->setCurrentText("Old");
             m_tc->messageBox.answers = {MsgResult::No};
-            Child<QPushButton>(dialog, "frmSave")->click();
+            Control<QPushButton>(dialog, "frmSave")->click();
             keptOpen = dialog->isVisible();
             combo->setCurrentText("   Late show");
-            Child<QPushButton>(dialog, "frmSave")->click();
+            Control<QPushButton>(dialog, "frmSave")->click();
         });
         form->btnAdd_Click();
 
@@ -234,7 +229,7 @@ private slots:
         QCOMPARE(Texts(list), QStringList({"Old", "Late show"}));
         QVERIFY(QFile(Profiles().PathOf("Late show")).size() > kProfile.size());
         QCOMPARE(Selected(list), QString("Old"));
-        QVERIFY(Child<QPushButton>(form.get(), "btnActivate")->isEnabled());
+        QVERIFY(Control<QPushButton>(form.get(), "btnActivate")->isEnabled());
     }
 
     void placesAtTheMainForm()
@@ -259,7 +254,7 @@ private slots:
         form->show();
         QVERIFY(form->grab().save(folder + "/frmMixerProfiles.png"));
         frmAddMixerProfile add(Profiles(), m_tc->ctx->log, m_tc->messageBox,
-                               *Child<QListWidget>(form.get(), "lstMixerProfiles"), form.get());
+                               *Control<QListWidget>(form.get(), "lstMixerProfiles"), form.get());
         add.show();
         QVERIFY(add.grab().save(folder + "/frmAddMixerProfile.png"));
     }

@@ -27,14 +27,6 @@
 
 namespace {
 
-template <typename T = QWidget> T* Control(QWidget* form, const QString& name)
-{
-    T* control = form->findChild<T*>(name);
-    if (!control)
-        qFatal("no control %s", qPrintable(name));
-    return control;
-}
-
 // Edits as a user makes them, in order: "name=value". Buttons take 1 or 0 and are clicked
 // only when that changes them, so the form's click rules run; time pickers take HH:mm:ss.
 void Apply(QWidget* form, const QStringList& edits)
@@ -326,7 +318,10 @@ private slots:
         QCOMPARE(f.Column(id, "MixerProfileAfter").toString(), QString("Evening"));
     }
 
-    void equalTimesLastNothingAndCanBeSaved()
+    // A new program's form: equal times last nothing and can be saved; the link controls
+    // follow their box and the title its option; an unchecked Enabled box leaves only itself,
+    // OK and Cancel.
+    void theControlsOfANewProgram()
     {
         Fixture f;
         auto form = f.NewForm();
@@ -335,14 +330,25 @@ private slots:
         QCOMPARE(Control<QLabel>(form.get(), "LabelDurationData")->text(),
                  QString("0 hours 0 min 0 sec"));
         QCOMPARE(Control<QLabel>(form.get(), "LabelDiskSpaceData")->text(), QString("0.0 Kbytes"));
-        Control<QPushButton>(form.get(), "CommandOk")->click();
-        QVERIFY(form->ProgramFormOk());
-    }
 
-    void anUncheckedEnabledBoxLeavesOnlyItselfOkAndCancel()
-    {
-        Fixture f;
-        auto form = f.NewForm();
+        QVERIFY(!Control(form.get(), "btnTestUrl")->isEnabled());
+        Apply(form.get(), {"chkLaunchLink=1"});
+        QVERIFY(Control(form.get(), "btnTestUrl")->isEnabled());
+        QVERIFY(Control(form.get(), "frameCloseStreamingPlayer")->isEnabled());
+        QVERIFY(!Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
+        Apply(form.get(), {"optCloseStreamingPlayer(1)=1"});
+        QVERIFY(Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
+        Apply(form.get(), {"optCloseStreamingPlayer(2)=1"});
+        QVERIFY(!Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
+        QString opened;
+        form->viewHtmlFile = [&opened](const QString& url, QWidget*) {
+            opened = url;
+        };
+        Apply(form.get(), {"txtLaunchLink=  http://radio.example/live  "});
+        Control<QPushButton>(form.get(), "btnTestUrl")->click();
+        QCOMPARE(opened, QString("http://radio.example/live"));
+        Apply(form.get(), {"chkLaunchLink=0"});
+
         Apply(form.get(), {"CheckEnabled=0"});
         for (const char* name :
              {"TextProgramDescription", "dtpkrOnceDate", "chkPrefix", "chkLaunchPrior",
@@ -357,29 +363,9 @@ private slots:
         QVERIFY(Control(form.get(), "txtLaunchPrior")->isEnabled());
         Apply(form.get(), {"chkLaunchPrior=1", "chkLaunchPrior=0"});
         QVERIFY(!Control(form.get(), "txtLaunchPrior")->isEnabled());
-    }
 
-    void theLinkControlsFollowTheirBoxAndTheTitleItsOption()
-    {
-        Fixture f;
-        auto form = f.NewForm();
-        QVERIFY(!Control(form.get(), "btnTestUrl")->isEnabled());
-        Apply(form.get(), {"chkLaunchLink=1"});
-        QVERIFY(Control(form.get(), "btnTestUrl")->isEnabled());
-        QVERIFY(Control(form.get(), "frameCloseStreamingPlayer")->isEnabled());
-        QVERIFY(!Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
-        Apply(form.get(), {"optCloseStreamingPlayer(1)=1"});
-        QVERIFY(Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
-        Apply(form.get(), {"optCloseStreamingPlayer(2)=1"});
-        QVERIFY(!Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
-
-        QString opened;
-        form->viewHtmlFile = [&opened](const QString& url, QWidget*) {
-            opened = url;
-        };
-        Apply(form.get(), {"txtLaunchLink=  http://radio.example/live  "});
-        Control<QPushButton>(form.get(), "btnTestUrl")->click();
-        QCOMPARE(opened, QString("http://radio.example/live"));
+        Control<QPushButton>(form.get(), "CommandOk")->click();
+        QVERIFY(form->ProgramFormOk());
     }
 
     void theEnableDisableDialogAnswers_data()

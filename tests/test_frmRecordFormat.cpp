@@ -4,6 +4,7 @@
 #include "formats/frmMP3WarningNT.h"
 #include "formats/frmMp3RecordingFormatInfo.h"
 #include "formats/frmRecordFormat.h"
+#include "support/ModalDialogs.h"
 #include "support/TestContext.h"
 
 #include <QApplication>
@@ -27,14 +28,6 @@ void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
 {
     std::memcpy(format.mwfx(), record.constData(), size_t(record.size()));
     format.CalcRemainingVarsFromMwfx();
-}
-
-template <typename T> T* Control(QWidget* form, const char* name)
-{
-    T* control = form->findChild<T*>(QString::fromLatin1(name));
-    if (!control)
-        qFatal("no control %s", name);
-    return control;
 }
 
 // Acts on the modal dialog of that name as soon as it is shown; stops watching when the

@@ -3,6 +3,7 @@
 #include "Pactl.h"
 #include "PulseFixture.h"
 #include "TestContext.h"
+#include "TestFiles.h"
 #include "common/ProcessLauncher.h"
 #include "sideactions/LaunchMixer.h"
 #include "sideactions/Volume.h"
@@ -34,13 +35,6 @@ public:
 private:
     QByteArray m_saved;
 };
-
-void WriteFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
 
 const QString kNotFoundDetails =
     "Install the Microsoft Windows mixer or a 3rd party mixer.  To install the Windows mixer, "
@@ -140,7 +134,7 @@ private slots:
         QFETCH(QString, message);
         QFETCH(QString, details);
         QDir().mkpath(Profiles().Folder());
-        WriteFile(Profiles().PathOf("Broken"), content);
+        QVERIFY(WriteFile(Profiles().PathOf("Broken"), content));
         QCOMPARE(Profiles().Names(), QStringList{"Broken"});
         {
             std::optional<NoServer> noServer;
@@ -166,7 +160,7 @@ private slots:
         MixsetMixer absent(m_tc->Root() + "/no library here");
         MixerProfiles profiles(m_tc->ctx->log, absent, Profiles().Folder());
         QDir().mkpath(profiles.Folder());
-        WriteFile(profiles.PathOf("Any"), "nightreel-mixer-profile 1\n");
+        QVERIFY(WriteFile(profiles.PathOf("Any"), "nightreel-mixer-profile 1\n"));
         profiles.ActivateMixerProfile("Any");
         QCOMPARE(Volume::GetVolume(m_tc->ctx->log, absent), -1);
         QVERIFY(!Volume::SetVolume(m_tc->ctx->log, absent, 50));
@@ -214,7 +208,7 @@ private slots:
         QFETCH(int, outcome);
         QDir().mkpath(Profiles().Folder());
         const QByteArray old = "nightreel-mixer-profile 1\n";
-        WriteFile(Profiles().PathOf("Old"), old);
+        QVERIFY(WriteFile(Profiles().PathOf("Old"), old));
         m_tc->messageBox.answers = answers;
 
         QCOMPARE(int(Profiles().SaveMixerProfile(typed, m_tc->messageBox)), outcome);
@@ -309,7 +303,7 @@ private slots:
         const QString program = folder + "/" + (name.isEmpty() ? "vanished" : name);
         const QString ran = m_tc->Root() + "/ran";
         if (!name.isEmpty()) {
-            WriteFile(program, ("#!/bin/sh\necho \"$#\" > '" + ran + "'\n").toUtf8());
+            QVERIFY(WriteFile(program, ("#!/bin/sh\necho \"$#\" > '" + ran + "'\n").toUtf8()));
             if (executable)
                 QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
         }

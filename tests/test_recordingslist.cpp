@@ -1,5 +1,6 @@
 #include "Programs.h"
 #include "RecordingsListFixture.h"
+#include "TestFiles.h"
 #include "store/ListFile.h"
 #include "store/SavedLists.h"
 
@@ -36,13 +37,6 @@ void WriteWave(const QString& path)
     QFile f(path);
     QVERIFY(f.open(QIODevice::WriteOnly));
     f.write(b);
-}
-
-void WriteFile(const QString& path, const QByteArray& content)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(content);
 }
 
 QStringList ListedFiles(AppContext& ctx)
@@ -84,7 +78,7 @@ private slots:
     void aFolderListsItsWaveFilesFirst()
     {
         ListFixture f;
-        WriteFile(f.File("a.mp3"), QByteArray(600, 'x'));
+        QVERIFY(WriteFile(f.File("a.mp3"), QByteArray(600, 'x')));
         WriteWave(f.File("b.WAV"));
         WriteWave(f.File("c.wav"));
         QDir().mkpath(f.Folder() + "/sub");

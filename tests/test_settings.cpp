@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "common/AutomationDate.h"
 #include "store/Options.h"
 #include "store/RegKeys.h"
@@ -28,13 +29,6 @@ void Preset(const TestContext& tc, const QString& name, const QString& text)
     QSettings settings(tc.SettingsFile(), QSettings::IniFormat);
     settings.beginGroup(kSection);
     settings.setValue(name, text);
-}
-
-void WriteFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
 }
 
 #define MEMBER(name)                                                                               \
@@ -220,8 +214,8 @@ void TestSettings::readersRepairMissingAndBadValues()
     QFETCH(QString, storedAfter);
 
     TestContext tc;
-    WriteFile(tc.Root() + "/mixer", "#!/bin/sh\n");
-    WriteFile(tc.Root() + "/empty", "");
+    QVERIFY(WriteFile(tc.Root() + "/mixer", "#!/bin/sh\n"));
+    QVERIFY(WriteFile(tc.Root() + "/empty", ""));
     const auto inRoot = [&](QString s) {
         return s.isNull() ? s : s.replace("%1", tc.Root());
     };
@@ -357,7 +351,7 @@ void TestSettings::recentRecordingTimeReadsBackAsWritten()
     const auto restore = qScopeGuard([&] { QLocale::setDefault(previous); });
     TestContext tc;
     const QString file = tc.Root() + "/take.wav";
-    WriteFile(file, "RIFF");
+    QVERIFY(WriteFile(file, "RIFF"));
     tc.ctx->options.SaveRecentRecording(tc.ctx->registry, file, "Evening news", written);
 
     Options read;

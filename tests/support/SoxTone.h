@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QString>
+#include <string>
 
 // The level and the rough frequency of a wave file, its channels mixed, as sox measures them,
 // from skip seconds on.
@@ -20,4 +21,17 @@ inline bool ToneOf(const QString& path, double& rms, double& frequency, double s
     rms = value("RMS +amplitude");
     frequency = value("Rough +frequency");
     return rms >= 0 && frequency >= 0;
+}
+
+// Raw little-endian samples of a 1 kHz tone at half scale, as the recording task captures
+// them (8-bit samples unsigned, wider ones signed); empty when sox fails.
+inline std::string RawTone(int rate, int channels, double seconds, int bits = 16)
+{
+    QProcess sox;
+    sox.start("sox", {"-n", "-r", QString::number(rate), "-c", QString::number(channels), "-b",
+                      QString::number(bits), "-e", bits == 8 ? "unsigned" : "signed", "-t", "raw",
+                      "-", "synth", QString::number(seconds), "sine", "1000", "vol", "0.5"});
+    if (!sox.waitForFinished(60000) || sox.exitCode() != 0)
+        return {};
+    return sox.readAllStandardOutput().toStdString();
 }
