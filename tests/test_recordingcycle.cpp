@@ -461,7 +461,7 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
 // deleted and no row is written.
 // The recording folder on a small file system of its own: the guard stops the recording
 // while the disk still holds its stop limit, and the recording ends as a good one, kept and
-// listed. The guard logs on each round until the end, which comes within a round or two.
+// listed.
 void TestRecordingCycle::diskGuardStopsAndKeepsTheRecording()
 {
     Cycle c;
@@ -499,7 +499,9 @@ void TestRecordingCycle::diskGuardStopsAndKeepsTheRecording()
     QVERIFY2(seconds > 4 && seconds < 14, qPrintable(QString::number(seconds)));
 
     const QList<LogEntry> entries = c.Entries();
-    QVERIFY2(!entries.isEmpty() && entries.size() <= 2,
+    // One entry a round until the end: a stop that reaches the task ends it within a few
+    // rounds, where a lost one ran until the disk was full (hundreds).
+    QVERIFY2(!entries.isEmpty() && entries.size() <= 5,
              qPrintable(QString::number(entries.size())));
     for (const LogEntry& e : entries)
         QCOMPARE(e.message, QString("Recording stopped due to insufficient disk space."));
