@@ -10,10 +10,10 @@
 #include "gui/FormPlacement.h"
 #include "scheduling/frmLaunchProgramInfo.h"
 #include "shell/AppContext.h"
+#include "sideactions/ViewHtmlFile.h"
 
 #include <QCheckBox>
 #include <QDateEdit>
-#include <QDesktopServices>
 #include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -26,7 +26,6 @@
 #include <QTabWidget>
 #include <QTimeEdit>
 #include <QToolButton>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -94,8 +93,8 @@ frmProgram::frmProgram(AppContext& ctx, QWidget* owner)
 {
     setObjectName(QStringLiteral("frmProgram"));
     setWindowTitle(QStringLiteral("Program"));
-    viewHtmlFile = [](const QString& url, QWidget*) {
-        QDesktopServices::openUrl(QUrl::fromUserInput(url));
+    viewHtmlFile = [this](const QString& url, QWidget*) {
+        ViewHtmlFile(m_ctx.log, m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder, url);
     };
 
     SSTab1 = new QTabWidget;
