@@ -7,6 +7,8 @@ packages=(
     libsqlite3-dev sqlite3
     libpulse-dev pulseaudio pulseaudio-utils libmp3lame-dev lame sox
     clang libclang-rt-14-dev xvfb xauth
+    libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
+    dbus python3-dbusmock openbox
 )
 missing=()
 for p in "${packages[@]}"; do

@@ -7,10 +7,12 @@ class Clock;
 class DiskSpace;
 class EventLog;
 class MessageBoxPresenter;
+class NetworkConnections;
 class Options;
 class ProcessLauncher;
 class RegKeys;
 class Scheduler;
+class WindowList;
 class clsAppStatus;
 class clsError;
 
@@ -28,6 +30,9 @@ struct RecorderServices {
     MessageBoxPresenter& messageBox;
     ProcessLauncher& launcher;
     DiskSpace& diskSpace;
+    // The desktop's windows and network connections, for the streaming player and the hang-up.
+    WindowList& windows;
+    NetworkConnections& network;
     // The socket to the recording task and its parameter file lie here.
     QString runtimeFolder;
 };

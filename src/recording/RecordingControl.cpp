@@ -18,6 +18,7 @@
 #include "recording/clsRecordingStatus.h"
 #include "scheduling/Scheduler.h"
 #include "shell/AppContext.h"
+#include "sideactions/HangUpConnections.h"
 #include "sideactions/LaunchCommands.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
@@ -77,6 +78,7 @@ RecordingControl::RecordingControl(AppContext& formats, const RecorderServices& 
     , m_status(status)
     , m_conversion(conversion)
     , m_format(formats)
+    , m_player(services.clock, services.windows)
 {
     connect(&m_link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
     connect(&m_link, &RecordingTaskLink::TaskError, this, &RecordingControl::OnTaskError);
@@ -339,9 +341,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     // The place where the tray's animation timer starts (tmrSystray at 500 ms).
     m_s.appStatus.SetPaused(false);
     emit UpdateModeDisplay();
-    // The place where the windows are noted after the link opened a streaming player, when
-    // the program has an InternetLink and no StreamingPlayerClose title:
-    // SnapshotWindowsAtRecordingStart().
+    // The player that the link opened is found among the windows that are new by now.
+    if (!status.InternetLink.isEmpty() && status.StreamingPlayerClose.isEmpty())
+        m_player.SnapshotWindowsAtRecordingStart();
     if (m_s.options.ShowRecordingTimeInTaskBar)
         emit ShowRecordingStatusForm();
 }
@@ -460,11 +462,14 @@ void RecordingControl::StopRecordingSteps()
     if (status.ProgramId != -1) {
         m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime);
         if (!status.InternetLink.trimmed().isEmpty()) {
-            // The place where the streaming player is closed: CloseNewWindows() when
-            // StreamingPlayerClose is empty, otherwise CloseWindowsByTitle(StreamingPlayerClose)
-            // unless it is "DO_NOT_CLOSE".
-            // The place where the dial-up line is hung up when HangupInternetConnection is set:
-            // HangUpConnections().
+            const QString playerClose = status.StreamingPlayerClose.trimmed();
+            if (playerClose.isEmpty())
+                m_player.CloseNewWindows();
+            else if (playerClose != kDoNotClose)
+                m_player.CloseWindowsByTitle(playerClose);
+            // A line opened for the stream is not left open.
+            if (status.HangupInternetConnection)
+                HangUpConnections(m_s.network);
         }
         // Intended: the test is on the before-profile, so an after-profile alone never applies.
         // The place where the after-profile goes in when MixerProfileBefore is set:

@@ -3,6 +3,7 @@
 #include "formats/clsRecordingFormat.h"
 #include "recording/RecorderServices.h"
 #include "recording/clsConvertToMP3Request.h"
+#include "sideactions/StreamingPlayer.h"
 
 #include <QObject>
 #include <QString>
@@ -43,6 +44,9 @@ public:
                                double EndTime, const QString& CompressionMethod,
                                const clsRecordingFormat& Format);
 
+    // The player that a program's web link opened, closed at the end of its recording.
+    StreamingPlayer& Player() { return m_player; }
+
     // What the manual recording dialog leaves for StartRecording: the format and the
     // user's own file name.
     clsRecordingFormat ManualFormat;
@@ -72,4 +76,5 @@ private:
     // the request that the conversion queue takes when the capture is over.
     clsRecordingFormat m_format;
     std::shared_ptr<clsConvertToMP3Request> m_convertRequest;
+    StreamingPlayer m_player;
 };

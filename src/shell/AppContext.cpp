@@ -8,6 +8,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , launcher(seams.launcher)
     , audioDevices(seams.audioDevices)
     , diskSpace(seams.diskSpace)
+    , windows(seams.windows)
+    , network(seams.network)
     , folders(appFolders)
     , log(database, error, clock)
     , registry(log)
@@ -16,9 +18,9 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , ProgramFormat(*this)
     , ProgramFormFormat(*this)
     , WfxDefault(*this)
-    , recorder(*this,
-               RecorderServices{log, clock, options, registry, appStatus, error, database,
-                                scheduler, messageBox, launcher, diskSpace, folders.runtimeFolder})
+    , recorder(*this, RecorderServices{log, clock, options, registry, appStatus, error, database,
+                                       scheduler, messageBox, launcher, diskSpace, windows, network,
+                                       folders.runtimeFolder})
 {
 }
 

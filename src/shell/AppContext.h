@@ -15,7 +15,9 @@ class AudioDevices;
 class Clock;
 class DiskSpace;
 class MessageBoxPresenter;
+class NetworkConnections;
 class ProcessLauncher;
+class WindowList;
 
 // The seams that tests replace; everything else in the context is real.
 struct Seams {
@@ -24,6 +26,8 @@ struct Seams {
     ProcessLauncher& launcher;
     AudioDevices& audioDevices;
     DiskSpace& diskSpace;
+    WindowList& windows;
+    NetworkConnections& network;
 };
 
 // The composition root: what the system holds for the whole run, built in the entry
@@ -42,6 +46,8 @@ public:
     ProcessLauncher& launcher;
     AudioDevices& audioDevices;
     DiskSpace& diskSpace;
+    WindowList& windows;
+    NetworkConnections& network;
     const AppFolders folders;
 
     clsError error;

@@ -6,6 +6,8 @@
 #include "formats/FileRowPreview.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
+#include "platform/NetworkConnections.h"
+#include "platform/WindowList.h"
 #include "shell/AppContext.h"
 #include "shell/WidgetMessageBox.h"
 #include "shell/frmMain.h"
@@ -48,7 +50,9 @@ int Inspect(int argc, char* argv[])
     DetachedProcessLauncher launcher;
     PulseAudioDevices audioDevices;
     StorageDiskSpace diskSpace;
-    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace},
+    XcbWindowList windows;
+    NetworkManagerConnections network;
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, windows, network},
                    AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx, QString::fromLocal8Bit(argv[2]), out);
@@ -71,6 +75,8 @@ int Main(int argc, char* argv[])
     DetachedProcessLauncher launcher;
     PulseAudioDevices audioDevices;
     StorageDiskSpace diskSpace;
+    XcbWindowList windows;
+    NetworkManagerConnections network;
     const AppFolders folders = AppFolders::ForCurrentUser();
 
     QLockFile instanceLock(folders.runtimeFolder + QStringLiteral("/nightreel.lock"));
@@ -81,7 +87,8 @@ int Main(int argc, char* argv[])
     }
 
     folders.InstallDatabaseOnFirstRun();
-    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace}, folders);
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, windows, network},
+                   folders);
     bool showSplash = true;
     Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),
                           ctx.options.HiddenWindowStatupMode, false);

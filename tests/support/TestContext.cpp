@@ -9,8 +9,8 @@ TestContext::TestContext()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
     const AppFolders folders = AppFolders::Under(m_dir.path());
     folders.InstallDatabaseOnFirstRun();
-    ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace},
-                                       folders);
+    ctx = std::make_unique<AppContext>(
+        Seams{clock, messageBox, launcher, audioDevices, diskSpace, windows, network}, folders);
 }
 
 TestContext::~TestContext()

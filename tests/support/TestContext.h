@@ -6,6 +6,8 @@
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
+#include "platform/NetworkConnections.h"
+#include "platform/WindowList.h"
 #include "shell/AppContext.h"
 
 #include <QTemporaryDir>
@@ -56,5 +58,8 @@ public:
     RecordingLauncher launcher;
     FakeAudioDevices audioDevices;
     TestDiskSpace diskSpace;
+    // The real desktop: the tests that use them make their own display and system bus.
+    XcbWindowList windows;
+    NetworkManagerConnections network;
     std::unique_ptr<AppContext> ctx;
 };
