@@ -23,11 +23,12 @@ public:
             return;
         f.write(("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration "
                  "1.0//EN\" \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-                 "<busconfig><type>system</type><listen>unix:path=" +
+                 "<busconfig><type>session</type><listen>unix:path=" +
                  m_dir.path() +
                  "/system_bus_socket</listen><auth>EXTERNAL</auth>"
                  "<policy context=\"default\"><allow user=\"*\"/><allow own=\"*\"/>"
-                 "<allow send_destination=\"*\"/></policy></busconfig>\n")
+                 "<allow send_destination=\"*\"/><allow receive_sender=\"*\"/>"
+                 "<allow send_type=\"method_call\"/></policy></busconfig>\n")
                     .toUtf8());
         f.close();
         m_bus.start("dbus-daemon", {"--config-file=" + config, "--nofork", "--print-address"});
