@@ -108,7 +108,7 @@ public:
             xcb_send_event(m_c, 0, window, XCB_EVENT_MASK_NO_EVENT,
                            reinterpret_cast<const char*>(&event));
         }
-        xcb_flush(m_c);
+        Sync();
     }
 
     xcb_window_t Foreground()
@@ -129,7 +129,7 @@ public:
             xcb_ewmh_request_change_active_window(&m_ewmh, m_screen, window,
                                                   XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER,
                                                   XCB_CURRENT_TIME, XCB_NONE);
-            return xcb_flush(m_c) > 0;
+            return Sync();
         }
         const uint32_t above = XCB_STACK_MODE_ABOVE;
         xcb_configure_window(m_c, window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
@@ -140,6 +140,16 @@ public:
     }
 
 private:
+    // Waits until the server has handled what was sent. The connection closes after each
+    // request, and the server drops what it hasn't read yet from a client that has hung up,
+    // so a request without a reply would otherwise be lost now and then.
+    bool Sync()
+    {
+        XcbReply<xcb_get_input_focus_reply_t> reply(
+            xcb_get_input_focus_reply(m_c, xcb_get_input_focus(m_c), nullptr));
+        return reply != nullptr;
+    }
+
     xcb_atom_t Atom(const char* name)
     {
         XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
