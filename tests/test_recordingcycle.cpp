@@ -42,21 +42,6 @@ struct RecordingRow {
     double size;
 };
 
-// 16-bit mono PCM at 44100 Hz, as the program editor writes it.
-QVariantHash WithPcmFormat(QVariantHash row)
-{
-    row.insert({{"wfx_wFormatTag", 1},
-                {"wfx_nChannels", 1},
-                {"wfx_nSamplesPerSec", 44100},
-                {"wfx_nAvgBytesPerSec", 88200},
-                {"wfx_nBlockAlign", 2},
-                {"wfx_nBitsPerSample", 16},
-                {"wfx_cbSize", 0},
-                {"Flags", 0},
-                {"CompressionMethod", "PCM 44,100 Hz, 16 Bit, Mono"}});
-    return row;
-}
-
 // The level and the rough frequency of a wave file, as sox measures them.
 bool ToneOf(const QString& path, double& rms, double& frequency)
 {
@@ -97,7 +82,7 @@ public:
 
     qint64 AddProgram(const QVariantHash& row)
     {
-        const qint64 id = tc.AddProgram(WithPcmFormat(row));
+        const qint64 id = tc.AddProgram(Programs::WithPcmFormat(row));
         ctx().database.DataPrograms.Requery();
         return id;
     }

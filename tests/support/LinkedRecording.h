@@ -43,18 +43,14 @@ public:
 
     static double At(const QString& time) { return Programs::At(2026, 6, 1, time); }
 
-    // A three-second program at 10:00:10 with the given side actions, 16-bit mono PCM.
+    // A three-second program at 10:00:10 with the given side actions, 16-bit mono PCM. The
+    // mixer profiles are empty texts, as the editor writes them: under a NULL after-profile
+    // the player's mode would read as "never close".
     void AddProgram(const QVariantHash& sideActions)
     {
-        QVariantHash row = Programs::Weekly("Stream", "10:00:10", "10:00:13", "0100000");
-        row.insert({{"wfx_wFormatTag", 1},
-                    {"wfx_nChannels", 1},
-                    {"wfx_nSamplesPerSec", 44100},
-                    {"wfx_nAvgBytesPerSec", 88200},
-                    {"wfx_nBlockAlign", 2},
-                    {"wfx_nBitsPerSample", 16},
-                    {"wfx_cbSize", 0},
-                    {"Flags", 0}});
+        QVariantHash row =
+            Programs::WithPcmFormat(Programs::Weekly("Stream", "10:00:10", "10:00:13", "0100000"));
+        row.insert({{"MixerProfileBefore", ""}, {"MixerProfileAfter", ""}});
         row.insert(sideActions);
         tc.AddProgram(row);
         tc.ctx->database.DataPrograms.Requery();
