@@ -7,6 +7,7 @@
 #include "PulseFixture.h"
 #include "XDisplay.h"
 
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <memory>
@@ -87,6 +88,11 @@ void TestStreamingPlayer::closingAtTheEndOfTheRecording()
     QFETCH(QList<bool>, closed);
 
     QList<QProcess*> windows;
+    // A failed check leaves the function early; its windows are not to meet the next row.
+    const auto closeAll = qScopeGuard([&] {
+        for (QProcess* w : windows)
+            w->kill();
+    });
     for (int i = 0; i < titles.size(); ++i) {
         windows << m_display->OpenWindow(titles[i], i == 0 && firstRefuses);
         QVERIFY(windows.last());
@@ -99,8 +105,6 @@ void TestStreamingPlayer::closingAtTheEndOfTheRecording()
     for (int i = 0; i < windows.size(); ++i)
         QVERIFY2(XDisplay::Closed(windows[i], closed[i] ? 3000 : 500) == closed[i],
                  qPrintable(titles[i]));
-    for (QProcess* w : windows)
-        w->kill();
 }
 
 void TestStreamingPlayer::automaticSearchClosesOnlyTheNewWindows()

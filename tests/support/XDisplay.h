@@ -18,24 +18,19 @@ public:
     {
         if (qEnvironmentVariableIsSet("DISPLAY"))
             m_saved = qgetenv("DISPLAY");
-        for (int n = 91; n < 140 && !m_running; ++n) {
-            if (QFile::exists(QString("/tmp/.X%1-lock").arg(n)) ||
-                QFile::exists(QString("/tmp/.X11-unix/X%1").arg(n)))
-                continue;
-            m_server.start(
-                "Xvfb", {QString(":%1").arg(n), "-screen", "0", "640x480x24", "-nolisten", "tcp"});
-            if (!m_server.waitForStarted(3000))
+        // Xvfb takes a free display number itself and writes it once it takes connections:
+        // the socket's file alone appears before that.
+        m_server.start("Xvfb",
+                       {"-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp"});
+        if (!m_server.waitForStarted(3000))
+            return;
+        while (!m_server.canReadLine())
+            if (!m_server.waitForReadyRead(10000))
                 return;
-            for (int i = 0; i < 100 && !m_running; ++i) {
-                m_running = QFile::exists(QString("/tmp/.X11-unix/X%1").arg(n));
-                if (!m_running && m_server.state() == QProcess::NotRunning)
-                    break;
-                if (!m_running)
-                    QTest::qWait(50);
-            }
-            if (m_running)
-                qputenv("DISPLAY", QString(":%1").arg(n).toUtf8());
-        }
+        const QByteArray number = m_server.readLine().trimmed();
+        m_running = !number.isEmpty();
+        if (m_running)
+            qputenv("DISPLAY", ":" + number);
         if (m_running && withWindowManager)
             m_running = StartWindowManager();
     }
@@ -87,13 +82,23 @@ private:
         if (QFile::exists("/etc/xdg/openbox/rc.xml"))
             args << "--config-file"
                  << "/etc/xdg/openbox/rc.xml";
+        // Its themes are the system's: a test's private desktop folders would hide them, and
+        // without a theme it announces itself and then quits.
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        for (const char* name :
+             {"XDG_DATA_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS"})
+            env.remove(name);
+        m_windowManager.setProcessEnvironment(env);
         m_windowManager.start("openbox", args);
         if (!m_windowManager.waitForStarted(3000))
             return false;
-        // Running once it announces itself on the root window.
+        // Running once it announces itself on the root window and is still there a moment
+        // later.
         for (int i = 0; i < 100; ++i) {
-            if (WindowManagerAnnounced())
-                return true;
+            if (WindowManagerAnnounced()) {
+                QTest::qWait(300);
+                return m_windowManager.state() == QProcess::Running;
+            }
             QTest::qWait(50);
         }
         return false;
