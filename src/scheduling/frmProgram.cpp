@@ -93,9 +93,6 @@ frmProgram::frmProgram(AppContext& ctx, QWidget* owner)
 {
     setObjectName(QStringLiteral("frmProgram"));
     setWindowTitle(QStringLiteral("Program"));
-    viewHtmlFile = [this](const QString& url, QWidget*) {
-        ViewHtmlFile(m_ctx.log, m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder, url);
-    };
 
     SSTab1 = new QTabWidget;
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
@@ -621,8 +618,8 @@ void frmProgram::ChangeComprMethodButton_Click()
 
 void frmProgram::btnTestUrl_Click()
 {
-    if (viewHtmlFile)
-        viewHtmlFile(Text::Trim(txtLaunchLink->text()), this);
+    ViewHtmlFile(m_ctx.log, m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder,
+                 Text::Trim(txtLaunchLink->text()));
 }
 
 void frmProgram::btnInfo_Click()
