@@ -8,6 +8,8 @@ packages=(
     libpulse-dev pulseaudio pulseaudio-utils libmp3lame-dev lame sox
     clang libclang-rt-14-dev xvfb xauth
     trayer xdotool x11-utils
+    libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
+    dbus python3-dbusmock openbox
 )
 missing=()
 for p in "${packages[@]}"; do

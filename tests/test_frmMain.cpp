@@ -358,6 +358,20 @@ private slots:
         QCOMPARE(s.tc.messageBox.asked.last().title, QStringLiteral("Recording file not found"));
     }
 
+    // The maker's page is a web page: it goes to the program for HTML files.
+    void theHomePageGoesToTheBrowser()
+    {
+        Started s;
+        s.Activate();
+        s.form->ui.Action("mnuHelpHomePage")->trigger();
+        QCOMPARE(s.tc.launcher.probed.size(), 1);
+        QVERIFY(s.tc.launcher.probed[0].endsWith("/temphtm.HTM"));
+        QCOMPARE(s.tc.launcher.started.size(), 1);
+        QVERIFY2(s.tc.launcher.started[0].startsWith("browser.desktop ") &&
+                     s.tc.launcher.started[0].endsWith("#contact"),
+                 qPrintable(s.tc.launcher.started[0]));
+    }
+
     void restoreAndCompactionFromTheMenu()
     {
         Started s;

@@ -340,13 +340,12 @@ private slots:
         QVERIFY(Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
         Apply(form.get(), {"optCloseStreamingPlayer(2)=1"});
         QVERIFY(!Control(form.get(), "txtStreamingPlayerWindowTitle")->isEnabled());
-        QString opened;
-        form->viewHtmlFile = [&opened](const QString& url, QWidget*) {
-            opened = url;
-        };
+        // The link goes to the program for HTML files, trimmed.
         Apply(form.get(), {"txtLaunchLink=  http://radio.example/live  "});
         Control<QPushButton>(form.get(), "btnTestUrl")->click();
-        QCOMPARE(opened, QString("http://radio.example/live"));
+        QCOMPARE(f.tc.launcher.probed.size(), 1);
+        QVERIFY(f.tc.launcher.probed[0].endsWith("/temphtm.HTM"));
+        QCOMPARE(f.tc.launcher.started, QStringList{"browser.desktop http://radio.example/live"});
         Apply(form.get(), {"chkLaunchLink=0"});
 
         Apply(form.get(), {"CheckEnabled=0"});

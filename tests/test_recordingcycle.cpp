@@ -41,21 +41,6 @@ struct RecordingRow {
     double size;
 };
 
-// 16-bit mono PCM at 44100 Hz, as the program editor writes it.
-QVariantHash WithPcmFormat(QVariantHash row)
-{
-    row.insert({{"wfx_wFormatTag", 1},
-                {"wfx_nChannels", 1},
-                {"wfx_nSamplesPerSec", 44100},
-                {"wfx_nAvgBytesPerSec", 88200},
-                {"wfx_nBlockAlign", 2},
-                {"wfx_nBitsPerSample", 16},
-                {"wfx_cbSize", 0},
-                {"Flags", 0},
-                {"CompressionMethod", "PCM 44,100 Hz, 16 Bit, Mono"}});
-    return row;
-}
-
 // The program's own recorder over a fresh context, with the real recording task; its
 // heartbeat is ticked by hand.
 class Cycle {
@@ -79,7 +64,7 @@ public:
 
     qint64 AddProgram(const QVariantHash& row)
     {
-        const qint64 id = tc.AddProgram(WithPcmFormat(row));
+        const qint64 id = tc.AddProgram(Programs::WithPcmFormat(row));
         ctx().database.DataPrograms.Requery();
         return id;
     }

@@ -2,16 +2,35 @@
 
 #include <QString>
 
-// Starts the side programs of a recording (applications before and after it). Commands
-// are split into words as a shell would split them and run without a shell.
+// How a started program's window comes up: 1 shown normally with focus, 6 minimised
+// without focus. The desktop may not honour it; the launcher passes it on where it can.
+enum WindowStyle : int { WindowStyleNormal = 1, WindowStyleMinimizedNoActivate = 6 };
+
+// Starts the side programs of a recording (applications before and after it, the browser
+// for a web link). Commands are split into words as a shell would split them and run
+// without a shell.
 class ProcessLauncher {
 public:
     virtual ~ProcessLauncher() = default;
     // Starts the command detached; false when it could not be started.
-    virtual bool StartDetached(const QString& commandLine) = 0;
+    virtual bool StartDetached(const QString& commandLine, int windowStyle) = 0;
+    bool StartDetached(const QString& commandLine)
+    {
+        return StartDetached(commandLine, WindowStyleNormal);
+    }
+    // The desktop's program for files like this one (judged by its type); "" when the
+    // desktop has none.
+    virtual QString FindExecutable(const QString& file) = 0;
+    // Starts a program that FindExecutable named, with the URL as its argument; false when
+    // it could not be started.
+    virtual bool ShellExecute(const QString& program, const QString& url, int windowStyle) = 0;
 };
 
+// The real starts: processes for commands, the desktop's handlers (GIO) for files and URLs.
 class DetachedProcessLauncher : public ProcessLauncher {
 public:
-    bool StartDetached(const QString& commandLine) override;
+    using ProcessLauncher::StartDetached;
+    bool StartDetached(const QString& commandLine, int windowStyle) override;
+    QString FindExecutable(const QString& file) override;
+    bool ShellExecute(const QString& program, const QString& url, int windowStyle) override;
 };

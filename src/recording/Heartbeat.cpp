@@ -119,7 +119,7 @@ void Heartbeat::LaunchAppPrior(double now)
     m_lastAppLaunch = now;
     const QString command = m_scheduler.next.NextLaunchAppPrior;
     // The command runs as it stands: no file name is put into it ahead of a recording.
-    if (!m_launcher.StartDetached(command))
+    if (!m_launcher.StartDetached(command, WindowStyleMinimizedNoActivate))
         m_log.LogEvent(
             EventWarning, QStringLiteral("Invalid Launch Application command"),
             QStringLiteral("The command to launch an application is invalid.  Check the file "

@@ -1,6 +1,6 @@
 #include "recording/Recorder.h"
 
-#include "diagnostics/EventLog.h"
+#include "sideactions/ViewHtmlFile.h"
 
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
     : QObject(parent)
@@ -17,6 +17,8 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
             &RecordingControl::StartRecording);
     connect(&m_heartbeat, &Heartbeat::StopRecordingDue, &m_control, &RecordingControl::RequestStop);
     connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, this, &Recorder::UpdateStatusBarPlus);
+    connect(&m_heartbeat, &Heartbeat::SnapshotWindowsBeforeLink, this,
+            [this] { m_control.Player().SnapshotWindowsBeforeLink(); });
     connect(&m_heartbeat, &Heartbeat::OpenInternetLink, this, &Recorder::OpenInternetLink);
     connect(&m_heartbeat, &Heartbeat::PurgeDue, this, &Recorder::PurgeDue);
     connect(&m_control, &RecordingControl::UpdateModeDisplay, this, &Recorder::UpdateModeDisplay);
@@ -58,10 +60,5 @@ void Recorder::UpdateStatusBarPlus()
 
 void Recorder::OpenInternetLink(const QString& link)
 {
-    // Web links are not opened by this version; the user learns why the player did not
-    // come up, and the link's time is spent as the heartbeat's rules say.
-    m_s.log.LogEvent(EventWarning, QStringLiteral("Internet link not opened"),
-                     QStringLiteral("Opening web links ahead of a recording is not available in "
-                                    "this version.\r\nLink= ") +
-                         link);
+    ViewHtmlFile(m_s.log, m_s.messageBox, m_s.launcher, m_s.runtimeFolder, link);
 }

@@ -8,10 +8,12 @@ class DiskSpace;
 class EventLog;
 class MessageBoxPresenter;
 class MixerProfiles;
+class NetworkConnections;
 class Options;
 class ProcessLauncher;
 class RegKeys;
 class Scheduler;
+class WindowList;
 class clsAppStatus;
 class clsError;
 
@@ -30,6 +32,9 @@ struct RecorderServices {
     ProcessLauncher& launcher;
     DiskSpace& diskSpace;
     MixerProfiles& mixerProfiles;
+    // The desktop's windows and network connections, for the streaming player and the hang-up.
+    WindowList& windows;
+    NetworkConnections& network;
     // The socket to the recording task and its parameter file lie here.
     QString runtimeFolder;
 };

@@ -19,6 +19,7 @@
 #include "recording/clsRecordingStatus.h"
 #include "scheduling/Scheduler.h"
 #include "scheduling/StreamingPlayerClose.h"
+#include "sideactions/HangUpConnections.h"
 #include "sideactions/LaunchCommands.h"
 #include "sideactions/MixerProfiles.h"
 #include "store/AppDatabase.h"
@@ -71,6 +72,7 @@ RecordingControl::RecordingControl(const RecorderServices& services, RecordingTa
     , m_link(link)
     , m_status(status)
     , m_conversion(conversion)
+    , m_player(services.clock, services.windows)
 {
     connect(&m_link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
     connect(&m_link, &RecordingTaskLink::TaskError, this, &RecordingControl::OnTaskError);
@@ -324,9 +326,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     emit RecordingStarted();
     m_s.appStatus.SetPaused(false);
     emit UpdateModeDisplay();
-    // The place where the windows are noted after the link opened a streaming player, when
-    // the program has an InternetLink and no StreamingPlayerClose title:
-    // SnapshotWindowsAtRecordingStart().
+    // The player that the link opened is found among the windows that are new by now.
+    if (!status.InternetLink.isEmpty() && status.StreamingPlayerClose.isEmpty())
+        m_player.SnapshotWindowsAtRecordingStart();
     if (m_s.options.ShowRecordingTimeInTaskBar)
         emit ShowRecordingStatusForm();
 }
@@ -445,11 +447,14 @@ void RecordingControl::StopRecordingSteps()
     if (status.ProgramId != -1) {
         m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime);
         if (!status.InternetLink.trimmed().isEmpty()) {
-            // The place where the streaming player is closed: CloseNewWindows() when
-            // StreamingPlayerClose is empty, otherwise CloseWindowsByTitle(StreamingPlayerClose)
-            // unless it is "DO_NOT_CLOSE".
-            // The place where the dial-up line is hung up when HangupInternetConnection is set:
-            // HangUpConnections().
+            const QString playerClose = status.StreamingPlayerClose.trimmed();
+            if (playerClose.isEmpty())
+                m_player.CloseNewWindows();
+            else if (playerClose != StreamingPlayerClose::DoNotClose)
+                m_player.CloseWindowsByTitle(playerClose);
+            // A line opened for the stream is not left open.
+            if (status.HangupInternetConnection)
+                HangUpConnections(m_s.network);
         }
         // Intended: the test is on the before-profile, so an after-profile alone never applies;
         // an empty after-profile names no file and changes nothing.

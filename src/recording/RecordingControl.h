@@ -3,6 +3,7 @@
 #include "formats/clsRecordingFormat.h"
 #include "recording/RecorderServices.h"
 #include "recording/clsConvertToMP3Request.h"
+#include "sideactions/StreamingPlayer.h"
 
 #include <QObject>
 #include <QString>
@@ -45,6 +46,8 @@ public:
     // The request the recording in progress will queue when it is to be converted; null
     // otherwise.
     const clsConvertToMP3Request* ConvertRequest() const { return m_convertRequest.get(); }
+    // The player that a program's web link opened, closed at the end of its recording.
+    StreamingPlayer& Player() { return m_player; }
 
     // What the manual recording dialog leaves for StartRecording: the format and the
     // user's own file name.
@@ -77,4 +80,5 @@ private:
     // the request that the conversion queue takes when the capture is over.
     clsRecordingFormat m_format;
     std::shared_ptr<clsConvertToMP3Request> m_convertRequest;
+    StreamingPlayer m_player;
 };

@@ -10,10 +10,10 @@
 #include "scheduling/ProgramValidator.h"
 #include "scheduling/frmLaunchProgramInfo.h"
 #include "shell/AppContext.h"
+#include "sideactions/ViewHtmlFile.h"
 
 #include <QCheckBox>
 #include <QDateEdit>
-#include <QDesktopServices>
 #include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -26,7 +26,6 @@
 #include <QTabWidget>
 #include <QTimeEdit>
 #include <QToolButton>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -92,9 +91,6 @@ frmProgram::frmProgram(AppContext& ctx, QWidget* owner)
 {
     setObjectName(QStringLiteral("frmProgram"));
     setWindowTitle(QStringLiteral("Program"));
-    viewHtmlFile = [](const QString& url, QWidget*) {
-        QDesktopServices::openUrl(QUrl::fromUserInput(url));
-    };
 
     SSTab1 = new QTabWidget;
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
@@ -621,8 +617,8 @@ void frmProgram::ChangeComprMethodButton_Click()
 
 void frmProgram::btnTestUrl_Click()
 {
-    if (viewHtmlFile)
-        viewHtmlFile(Text::Trim(txtLaunchLink->text()), this);
+    ViewHtmlFile(m_ctx.log, m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder,
+                 Text::Trim(txtLaunchLink->text()));
 }
 
 void frmProgram::btnInfo_Click()

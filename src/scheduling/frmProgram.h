@@ -5,7 +5,6 @@
 #include <QDialog>
 #include <QList>
 #include <array>
-#include <functional>
 
 class AppContext;
 struct ProgramCheckValues;
@@ -54,9 +53,6 @@ public:
     // True only once OK passed every check; FormValues() then holds what is to be saved.
     bool ProgramFormOk() const { return m_programFormOk; }
     const ProgramFormValues& FormValues() const { return m_values; }
-
-    // Opens a web link for btnTestUrl, with this dialog as owner of its messages.
-    std::function<void(const QString& url, QWidget* owner)> viewHtmlFile;
 
 private:
     void BuildGeneralTab(QWidget* page);

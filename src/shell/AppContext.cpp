@@ -9,6 +9,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , audioDevices(seams.audioDevices)
     , diskSpace(seams.diskSpace)
     , mixer(seams.mixer)
+    , windows(seams.windows)
+    , network(seams.network)
     , folders(appFolders)
     , log(database, error, clock)
     , registry(log)
@@ -17,8 +19,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , mixerProfiles(log, mixer, folders.dataFolder + QStringLiteral("/mixer"))
     , defaultFormats(log, registry, options, database.DataInfo)
     , recorder(RecorderServices{log, clock, options, registry, appStatus, error, database,
-                                scheduler, messageBox, launcher, diskSpace, mixerProfiles,
-                                folders.runtimeFolder})
+                                scheduler, messageBox, launcher, diskSpace, mixerProfiles, windows,
+                                network, folders.runtimeFolder})
     , recordingsList(database, log, options, clock,
                      [this] {
                          return QStringList{recorder.Status().FinalFile,

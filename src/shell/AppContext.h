@@ -20,7 +20,9 @@ class Clock;
 class DiskSpace;
 class MessageBoxPresenter;
 class Mixer;
+class NetworkConnections;
 class ProcessLauncher;
+class WindowList;
 
 // The seams that tests replace; everything else in the context is real.
 struct Seams {
@@ -30,6 +32,8 @@ struct Seams {
     AudioDevices& audioDevices;
     DiskSpace& diskSpace;
     Mixer& mixer;
+    WindowList& windows;
+    NetworkConnections& network;
 };
 
 // The composition root: what the system holds for the whole run, built in the entry
@@ -49,6 +53,8 @@ public:
     AudioDevices& audioDevices;
     DiskSpace& diskSpace;
     Mixer& mixer;
+    WindowList& windows;
+    NetworkConnections& network;
     const AppFolders folders;
 
     clsError error;

@@ -7,6 +7,8 @@
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
 #include "platform/Mixer.h"
+#include "platform/NetworkConnections.h"
+#include "platform/WindowList.h"
 #include "shell/AppContext.h"
 #include "shell/WidgetMessageBox.h"
 #include "shell/frmMain.h"
@@ -50,8 +52,11 @@ int Inspect(int argc, char* argv[])
     PulseAudioDevices audioDevices;
     StorageDiskSpace diskSpace;
     MixsetMixer mixer;
-    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer},
-                   AppFolders::ForCurrentUser());
+    XcbWindowList windows;
+    NetworkManagerConnections network;
+    AppContext ctx(
+        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
+        AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx.log, QString::fromLocal8Bit(argv[2]), out);
 }
@@ -74,6 +79,8 @@ int Main(int argc, char* argv[])
     PulseAudioDevices audioDevices;
     StorageDiskSpace diskSpace;
     MixsetMixer mixer;
+    XcbWindowList windows;
+    NetworkManagerConnections network;
     const AppFolders folders = AppFolders::ForCurrentUser();
 
     QLockFile instanceLock(folders.runtimeFolder + QStringLiteral("/nightreel.lock"));
@@ -84,7 +91,9 @@ int Main(int argc, char* argv[])
     }
 
     folders.InstallDatabaseOnFirstRun();
-    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer}, folders);
+    AppContext ctx(
+        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
+        folders);
     bool showSplash = true;
     Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),
                           ctx.options.HiddenWindowStatupMode, false);

@@ -17,6 +17,7 @@
 #include "shell/frmAbout.h"
 #include "shell/frmRecordingStatus.h"
 #include "sideactions/LaunchMixer.h"
+#include "sideactions/ViewHtmlFile.h"
 #include "sideactions/frmMixerProfiles.h"
 #include "store/GridColumns.h"
 #include "store/RecordsetModel.h"
@@ -48,6 +49,25 @@ void SetIfChanged(QLabel* label, const QString& text)
 {
     if (label->text() != text)
         label->setText(text);
+}
+
+// The user manual ships beside the program, or in the source tree's docs when run from a
+// build.
+QUrl ManualUrl(const QString& anchor)
+{
+    const QString dir = QCoreApplication::applicationDirPath();
+    QString manual;
+    for (const QString& candidate : {dir + QStringLiteral("/docs/manual.html"),
+                                     dir + QStringLiteral("/../share/doc/Nightreel/manual.html")}) {
+        if (QFileInfo::exists(candidate)) {
+            manual = candidate;
+            break;
+        }
+    }
+    QUrl url = QUrl::fromLocalFile(manual);
+    if (!anchor.isEmpty())
+        url.setFragment(anchor);
+    return url;
 }
 
 } // namespace
@@ -178,7 +198,11 @@ void frmMain::ConnectCommands()
        [this] { m_controller.mnuRestoreOriginalDb_Click(); });
     on(QStringLiteral("mnuHelpContents"), [this] { ShowHelp(QString()); });
     on(QStringLiteral("mnuHelpSearch"), [this] { ShowHelp(QStringLiteral("index")); });
-    on(QStringLiteral("mnuHelpHomePage"), [this] { ShowHelp(QStringLiteral("contact")); });
+    // The maker's page is a web page: it goes to the browser, as the links of programs do.
+    on(QStringLiteral("mnuHelpHomePage"), [this] {
+        ViewHtmlFile(m_ctx.log, m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder,
+                     ManualUrl(QStringLiteral("contact")).toString());
+    });
     on(QStringLiteral("ToolbarMain.Help"), [this] { ShowHelp(QString()); });
     on(QStringLiteral("ToolbarMain.Error"), [this] { ToolbarError_Click(); });
     on(QStringLiteral("mnuErrors"), [this] {
@@ -465,20 +489,7 @@ void frmMain::ToolbarError_Click()
 
 void frmMain::ShowHelp(const QString& anchor)
 {
-    // The manual ships beside the program, or in the source tree's docs when run from a build.
-    const QString dir = QCoreApplication::applicationDirPath();
-    QString manual;
-    for (const QString& candidate : {dir + QStringLiteral("/docs/manual.html"),
-                                     dir + QStringLiteral("/../share/doc/Nightreel/manual.html")}) {
-        if (QFileInfo::exists(candidate)) {
-            manual = candidate;
-            break;
-        }
-    }
-    QUrl url = QUrl::fromLocalFile(manual);
-    if (!anchor.isEmpty())
-        url.setFragment(anchor);
-    QDesktopServices::openUrl(url);
+    QDesktopServices::openUrl(ManualUrl(anchor));
 }
 
 void frmMain::HideToTray()

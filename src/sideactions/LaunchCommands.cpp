@@ -115,7 +115,7 @@ void LaunchAfterRecording(EventLog& log, ProcessLauncher& launcher, bool recordi
     if (Text::Trim(command).isEmpty() || (!recordingOk && onlyIfOk))
         return;
     const QString expanded = InterpretCommand(log, command, fileName);
-    if (launcher.StartDetached(expanded))
+    if (launcher.StartDetached(expanded, WindowStyleMinimizedNoActivate))
         return;
     // One letter differs from the text of the launch ahead of a recording; both stand.
     log.LogEvent(EventWarning, QStringLiteral("Invalid Launch Application command"),

@@ -40,6 +40,21 @@ inline QVariantHash Weekly(const QString& description, const QString& start, con
     return row;
 }
 
+// 16-bit mono PCM at 44100 Hz, as the program editor writes it.
+inline QVariantHash WithPcmFormat(QVariantHash row)
+{
+    row.insert({{"wfx_wFormatTag", 1},
+                {"wfx_nChannels", 1},
+                {"wfx_nSamplesPerSec", 44100},
+                {"wfx_nAvgBytesPerSec", 88200},
+                {"wfx_nBlockAlign", 2},
+                {"wfx_nBitsPerSample", 16},
+                {"wfx_cbSize", 0},
+                {"Flags", 0},
+                {"CompressionMethod", "PCM 44,100 Hz, 16 Bit, Mono"}});
+    return row;
+}
+
 inline QVariantHash OneTime(const QString& description, double day, const QString& start,
                             const QString& end)
 {

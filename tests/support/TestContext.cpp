@@ -10,7 +10,8 @@ TestContext::TestContext()
     const AppFolders folders = AppFolders::Under(m_dir.path());
     folders.InstallDatabaseOnFirstRun();
     ctx = std::make_unique<AppContext>(
-        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer}, folders);
+        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
+        folders);
 }
 
 TestContext::~TestContext()

@@ -7,6 +7,8 @@
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
 #include "platform/Mixer.h"
+#include "platform/NetworkConnections.h"
+#include "platform/WindowList.h"
 #include "shell/AppContext.h"
 
 #include <QTemporaryDir>
@@ -68,5 +70,8 @@ public:
     TestDiskSpace diskSpace;
     // The real mixer library of this build, talking to whatever server the test points at.
     MixsetMixer mixer{QStringLiteral(NIGHTREEL_MIXSET_DIR)};
+    // The real desktop: the tests that use them make their own display and system bus.
+    XcbWindowList windows;
+    NetworkManagerConnections network;
     std::unique_ptr<AppContext> ctx;
 };

@@ -1,0 +1,37 @@
+#include "sideactions/ViewHtmlFile.h"
+
+#include "common/MessageBox.h"
+#include "common/ProcessLauncher.h"
+#include "common/RuntimeError.h"
+#include "diagnostics/Trap.h"
+
+#include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+
+void ViewHtmlFile(EventLog& log, MessageBoxPresenter& messageBox, ProcessLauncher& launcher,
+                  const QString& tempFolder, const QString& url)
+{
+    const QString path = QDir(tempFolder).filePath(QStringLiteral("temphtm.HTM"));
+    Trap(log, "ViewHtmlFile", [&] {
+        const auto removeFile = qScopeGuard([&] { QFile::remove(path); });
+        // The content doesn't matter: the file only has to exist for its type to be judged.
+        QFile page(path);
+        if (!page.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
+            page.write("<HTML> <\\HTML>") < 0)
+            throw RuntimeError(ErrorNumber::PathFileAccess,
+                               QStringLiteral("Path/File access error: ") + path);
+        page.close();
+
+        const QString browser = launcher.FindExecutable(path);
+        if (browser.isEmpty()) {
+            messageBox.Show(QStringLiteral("Browser Not Found"),
+                            QStringLiteral("Could not find associated Browser"),
+                            MsgIcon::Exclamation, MsgButtons::Ok);
+            return;
+        }
+        if (!launcher.ShellExecute(browser, url, WindowStyleNormal))
+            messageBox.Show(QStringLiteral("URL Failed"), QStringLiteral("Web Page not Opened"),
+                            MsgIcon::Exclamation, MsgButtons::Ok);
+    });
+}
