@@ -60,7 +60,7 @@ public:
     bool ShowProgramForm(const ProgramFormValues& initial, bool editingExisting,
                          qint32 editProgramId, ProgramFormValues& result) override
     {
-        frmProgram form(m_ctx, nullptr);
+        frmProgram form(m_ctx.ForProgramForm(), nullptr);
         form.FillProgramForm(initial);
         form.EditingExisting = editingExisting;
         form.EditProgramId = editProgramId;
@@ -90,11 +90,11 @@ struct Fixture : ProgramListFixture<EditorView> {
     // A new program as the Add command opens it, with a description.
     std::unique_ptr<frmProgram> NewForm()
     {
-        tc.ctx->ProgramFormat.CopyFrom(tc.ctx->WfxDefault);
-        auto form = std::make_unique<frmProgram>(*tc.ctx, nullptr);
+        auto form = std::make_unique<frmProgram>(tc.ctx->ForProgramForm(), nullptr);
         ProgramFormValues v = ProgramEditor::NewProgramValues(tc.ctx->Now());
         v.FormDescription = "Show";
-        v.FormCompressionMethod = tc.ctx->ProgramFormat.TextCompressionMethod;
+        v.FormFormat.CopyFrom(tc.ctx->WfxDefault);
+        v.FormCompressionMethod = v.FormFormat.TextCompressionMethod;
         form->FillProgramForm(v);
         return form;
     }
@@ -167,6 +167,35 @@ private slots:
         }
         if (title == "Program description required")
             QCOMPARE(form->focusWidget(), Control(form.get(), "TextProgramDescription"));
+    }
+
+    // The format handed back is the program's own unless the last change was accepted.
+    void theFormatSavedIsTheLastAcceptedChange_data()
+    {
+        QTest::addColumn<QStringList>("answers");
+        QTest::addColumn<uint>("rate");
+        QTest::newRow("accepted") << QStringList{"CommandOk"} << 44100u;
+        QTest::newRow("cancelled") << QStringList{"CommandCancel"} << 11025u;
+        QTest::newRow("accepted, then cancelled")
+            << QStringList{"CommandOk", "CommandCancel"} << 11025u;
+    }
+    void theFormatSavedIsTheLastAcceptedChange()
+    {
+        QFETCH(QStringList, answers);
+        QFETCH(uint, rate);
+        Fixture f;
+        f.tc.ctx->WfxDefault.SetToPcmPhoneQuality();
+        auto form = f.NewForm();
+        for (const QString& button : answers) {
+            WhenModalOpens([button](QDialog* dialog) {
+                Control<QRadioButton>(dialog, "optCDQuality")->click();
+                Control<QPushButton>(dialog, button)->click();
+            });
+            Control<QPushButton>(form.get(), "ChangeComprMethodButton")->click();
+        }
+        Control<QPushButton>(form.get(), "CommandOk")->click();
+        QVERIFY(form->ProgramFormOk());
+        QCOMPARE(form->FormValues().FormFormat.nSamplesPerSec(), rate);
     }
 
     void valuesAreStoredByTheirRules_data()
@@ -296,7 +325,7 @@ private slots:
     void aDeletedMixerProfileIsClearedOnSave()
     {
         Fixture f;
-        const QString folder = ProgramEditor::MixerFolder(*f.tc.ctx);
+        const QString folder = f.tc.ctx->mixerProfiles.Folder();
         QVERIFY(QDir().mkpath(folder));
         QFile file(folder + "/Evening.mxr");
         QVERIFY(file.open(QIODevice::WriteOnly));

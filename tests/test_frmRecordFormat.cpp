@@ -62,7 +62,7 @@ private slots:
     void cancelAfterTheChooserRestoresFormatAndFlags()
     {
         TestContext tc;
-        clsRecordingFormat& format = tc.ctx->ProgramFormFormat;
+        clsRecordingFormat format;
         format.SaveMP3FileExtension = true;
         format.ConvertToMP3 = false;
         format.SetToPcmPhoneQuality();
@@ -112,7 +112,7 @@ private slots:
         QFETCH(QString, button);
         QFETCH(bool, changed);
         TestContext tc;
-        clsRecordingFormat& format = tc.ctx->ProgramFormFormat;
+        clsRecordingFormat format;
         format.SetToPcmPhoneQuality();
         WhenModal dialog("frmRecordFormat", [&](QWidget* form) {
             Control<QRadioButton>(form, "optCDQuality")->click();

@@ -299,7 +299,7 @@ void TestRecordingCycle::programEnteredThroughTheEditorIsRecorded()
         v.FormStartTime = Programs::TimeOfDay("10:00:00");
         v.FormEndTime = Programs::TimeOfDay("10:00:03");
     };
-    ProgramListCommands(c.ctx(), view).AddNewProgram();
+    ProgramListCommands(c.ctx().ForProgramList(), view).AddNewProgram();
     QCOMPARE(c.ctx().scheduler.next.NextProgramStart, At("10:00:00"));
     QVERIFY(c.RecordOnce(At("09:59:58")));
     const QList<RecordingRow> rows = c.Recordings();

@@ -4,10 +4,11 @@
 #include "common/FileHelpers.h"
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
+#include "diagnostics/EventLog.h"
 #include "formats/FormatStore.h"
 #include "scheduling/ModuleUtility.h"
 #include "scheduling/clsWeekdays.h"
-#include "shell/AppContext.h"
+#include "store/AppDatabase.h"
 
 #include <QDir>
 #include <QLocale>
@@ -26,12 +27,11 @@ QString TrimmedText(const Recordset& rs, const char* column, const QString& ifNu
 }
 
 // A profile counts only while its file is there with content.
-QString ExistingProfile(const AppContext& ctx, const QString& name)
+QString ExistingProfile(const QString& mixerFolder, const QString& name)
 {
     if (name.isEmpty())
         return QString();
-    return FileExistsOrClear(MixerFolder(ctx) + u'/' + name + QStringLiteral(".mxr")) ? name
-                                                                                      : QString();
+    return FileExistsOrClear(mixerFolder + u'/' + name + QStringLiteral(".mxr")) ? name : QString();
 }
 
 // The end of an occurrence on its real date; an end before the start is on the next day.
@@ -82,11 +82,6 @@ QString DescriptionText(const QString& description, bool enabled)
     return enabled ? description : Text::Left(description, 25) + DisabledMark;
 }
 
-QString MixerFolder(const AppContext& ctx)
-{
-    return ctx.folders.dataFolder + QStringLiteral("/mixer");
-}
-
 ProgramFormValues NewProgramValues(double now)
 {
     ProgramFormValues v;
@@ -98,11 +93,11 @@ ProgramFormValues NewProgramValues(double now)
     return v;
 }
 
-ProgramFormValues ReadProgramRow(AppContext& ctx, Recordset& rs)
+ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Recordset& rs)
 {
     ProgramFormValues v;
-    ReadFormat(ctx.log, ctx.ProgramFormat, rs);
-    ctx.ProgramFormat.CalculateTextCompressionMethodString();
+    ReadFormat(log, v.FormFormat, rs);
+    v.FormFormat.CalculateTextCompressionMethodString();
     v.FormCompressionMethod = rs.Value(QStringLiteral("CompressionMethod")).toString();
     v.FormEnabled = Field::ToBool(rs.Value(QStringLiteral("Enabled")));
     v.FormDescription = rs.Value(QStringLiteral("Description")).toString();
@@ -133,8 +128,8 @@ ProgramFormValues ReadProgramRow(AppContext& ctx, Recordset& rs)
     }
     // NULL here is a row from before the column existed: the player was never closed then.
     v.FormStreamingPlayerClose = TrimmedText(rs, "StreamingPlayerClose", DoNotClose);
-    v.FormMixerProfileBefore = ExistingProfile(ctx, TrimmedText(rs, "MixerProfileBefore"));
-    v.FormMixerProfileAfter = ExistingProfile(ctx, TrimmedText(rs, "MixerProfileAfter"));
+    v.FormMixerProfileBefore = ExistingProfile(mixerFolder, TrimmedText(rs, "MixerProfileBefore"));
+    v.FormMixerProfileAfter = ExistingProfile(mixerFolder, TrimmedText(rs, "MixerProfileAfter"));
     return v;
 }
 
@@ -188,9 +183,9 @@ bool ProgramingConflict(AppDatabase& database, const ConflictQuery& query, QStri
     return false;
 }
 
-qint32 UpdateDbFromProgramForm(AppContext& ctx, const ProgramFormValues& v, UpdateMode mode)
+qint32 UpdateDbFromProgramForm(DataControl& programs, const ProgramFormValues& v, UpdateMode mode)
 {
-    Recordset& rs = ctx.database.DataPrograms.recordset();
+    Recordset& rs = programs.recordset();
     if (mode == UpdateMode::Edit)
         rs.Edit();
     else
@@ -208,7 +203,7 @@ qint32 UpdateDbFromProgramForm(AppContext& ctx, const ProgramFormValues& v, Upda
     set("OneTimeDay", v.FormOneTimeDay);
     for (int d = 0; d < 7; ++d)
         set(kDayColumns[d], Field::FromBool(v.FormDays[d]));
-    WriteFormat(ctx.ProgramFormat, rs);
+    WriteFormat(v.FormFormat, rs);
     // Saving brings a stopped or expired program back to life, even when nothing changed.
     set("RecordingCancelled", Field::FromBool(false));
     set("FilenamePrefix", v.FormFilenamePrefix);
@@ -234,8 +229,8 @@ qint32 UpdateDbFromProgramForm(AppContext& ctx, const ProgramFormValues& v, Upda
     set("FrequencyText", frequencyText);
     rs.Update();
     const qint32 id = qint32(mode == UpdateMode::Edit ? rs.Bookmark() : rs.LastModified());
-    ctx.database.DataPrograms.Requery();
-    Recordset& shown = ctx.database.DataPrograms.recordset();
+    programs.Requery();
+    Recordset& shown = programs.recordset();
     shown.FindFirst(QStringLiteral("Id = ") + QString::number(id));
     return id;
 }

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "formats/clsRecordingFormat.h"
 #include "scheduling/StreamingPlayerClose.h"
 
 #include <QString>
 #include <QtGlobal>
 #include <array>
 
-class AppContext;
 class AppDatabase;
+class DataControl;
+class EventLog;
 class Recordset;
 
 // One program as the program editor holds it: what FillProgramFormFromDb puts into the
@@ -37,6 +39,8 @@ struct ProgramFormValues {
     QString FormStreamingPlayerClose;
     QString FormMixerProfileBefore;
     QString FormMixerProfileAfter;
+    // The program's recording format, written with the row.
+    clsRecordingFormat FormFormat;
 };
 
 namespace ProgramEditor {
@@ -61,17 +65,14 @@ QString DiskSpaceText(float mbytes);
 // 25 characters.
 QString DescriptionText(const QString& description, bool enabled);
 
-// The folder of the mixer profiles, beside the database.
-QString MixerFolder(const AppContext& ctx);
-
 // A new program's values: one hour long, starting at the next whole hour from now (which
 // lies between 0 and 1 hour ahead), one time, enabled, with the default file name.
 ProgramFormValues NewProgramValues(double now);
 
 // The values of the row that rs is on, read with the rules for old rows (NULL columns)
-// and for mixer profiles whose file is gone (they count as none). The row's format goes
-// into ctx.ProgramFormat; FormCompressionMethod is the text stored in the row.
-ProgramFormValues ReadProgramRow(AppContext& ctx, Recordset& rs);
+// and for mixer profiles whose file is gone from mixerFolder (they count as none).
+// FormCompressionMethod is the text stored in the row, FormFormat the format read from it.
+ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Recordset& rs);
 
 // What the editor's values are tested against for a conflict.
 struct ConflictQuery {
@@ -90,9 +91,10 @@ bool ProgramingConflict(AppDatabase& database, const ConflictQuery& query, QStri
 
 enum class UpdateMode { AddNew, Edit };
 
-// Writes the values and ctx.ProgramFormat into a new row, or into the current row of the
-// programs list; afterwards the list is requeried and stands on that row. Returns its ID.
-// Failures are left to the caller's trap.
-qint32 UpdateDbFromProgramForm(AppContext& ctx, const ProgramFormValues& values, UpdateMode mode);
+// Writes the values into a new row, or into the current row of the programs list;
+// afterwards the list is requeried and stands on that row. Returns its ID. Failures are
+// left to the caller's trap.
+qint32 UpdateDbFromProgramForm(DataControl& programs, const ProgramFormValues& values,
+                               UpdateMode mode);
 
 } // namespace ProgramEditor

@@ -1,11 +1,13 @@
 #include "scheduling/ProgramListCommands.h"
 
+#include "common/Clock.h"
 #include "common/MessageBox.h"
 #include "diagnostics/Trap.h"
-#include "shell/AppContext.h"
+#include "scheduling/Scheduler.h"
+#include "store/AppDatabase.h"
 
-ProgramListCommands::ProgramListCommands(AppContext& ctx, ProgramListView& view)
-    : m_ctx(ctx)
+ProgramListCommands::ProgramListCommands(const ProgramListServices& services, ProgramListView& view)
+    : m_services(services)
     , m_view(view)
 {
 }
@@ -17,7 +19,7 @@ bool ProgramListCommands::HasCurrentRow() const
 
 bool ProgramListCommands::FindRowToWorkOn()
 {
-    Recordset& rs = m_ctx.database.DataPrograms.recordset();
+    Recordset& rs = m_services.database.DataPrograms.recordset();
     if (HasCurrentRow()) {
         rs.SetBookmark(m_view.CurrentBookmark());
         return true;
@@ -30,6 +32,12 @@ bool ProgramListCommands::FindRowToWorkOn()
     return true;
 }
 
+ProgramFormValues ProgramListCommands::ReadCurrentRow()
+{
+    return ProgramEditor::ReadProgramRow(m_services.log, m_services.mixerFolder,
+                                         m_services.database.DataPrograms.recordset());
+}
+
 void ProgramListCommands::RemoveAllSelBookmarks()
 {
     for (const qint64 bookmark : m_view.SelBookmarks())
@@ -38,17 +46,17 @@ void ProgramListCommands::RemoveAllSelBookmarks()
 
 void ProgramListCommands::AddNewProgram()
 {
-    Trap(m_ctx.log, "AddNewProgram", [&] {
-        m_ctx.ProgramFormat.CopyFrom(m_ctx.WfxDefault);
-        ProgramFormValues initial = ProgramEditor::NewProgramValues(m_ctx.Now());
-        initial.FormCompressionMethod = m_ctx.ProgramFormat.TextCompressionMethod;
+    Trap(m_services.log, "AddNewProgram", [&] {
+        ProgramFormValues initial = ProgramEditor::NewProgramValues(m_services.clock.Now());
+        initial.FormFormat.CopyFrom(m_services.defaultFormat);
+        initial.FormCompressionMethod = initial.FormFormat.TextCompressionMethod;
         ProgramFormValues result;
         if (m_view.ShowProgramForm(initial, false, 0, result)) {
             const qint32 id = ProgramEditor::UpdateDbFromProgramForm(
-                m_ctx, result, ProgramEditor::UpdateMode::AddNew);
+                m_services.database.DataPrograms, result, ProgramEditor::UpdateMode::AddNew);
             RemoveAllSelBookmarks();
             m_view.SetCurrentBookmark(id);
-            m_ctx.scheduler.ScheduleNextRecording();
+            m_services.scheduler.ScheduleNextRecording();
         }
     });
     m_view.UpdateProgramsButtonsAndMenus();
@@ -56,17 +64,16 @@ void ProgramListCommands::AddNewProgram()
 
 void ProgramListCommands::CopyProgram()
 {
-    Trap(m_ctx.log, "CopyProgram", [&] {
+    Trap(m_services.log, "CopyProgram", [&] {
         if (!FindRowToWorkOn())
             return;
-        const ProgramFormValues initial =
-            ProgramEditor::ReadProgramRow(m_ctx, m_ctx.database.DataPrograms.recordset());
+        const ProgramFormValues initial = ReadCurrentRow();
         ProgramFormValues result;
         if (m_view.ShowProgramForm(initial, false, 0, result)) {
             const qint32 id = ProgramEditor::UpdateDbFromProgramForm(
-                m_ctx, result, ProgramEditor::UpdateMode::AddNew);
+                m_services.database.DataPrograms, result, ProgramEditor::UpdateMode::AddNew);
             m_view.SetCurrentBookmark(id);
-            m_ctx.scheduler.ScheduleNextRecording();
+            m_services.scheduler.ScheduleNextRecording();
         }
         // Unlike an added program, a clone clears the selection even when it was cancelled.
         RemoveAllSelBookmarks();
@@ -76,19 +83,20 @@ void ProgramListCommands::CopyProgram()
 
 void ProgramListCommands::EditProgram()
 {
-    Trap(m_ctx.log, "EditProgram", [&] {
+    Trap(m_services.log, "EditProgram", [&] {
         if (!FindRowToWorkOn())
             return;
-        Recordset& rs = m_ctx.database.DataPrograms.recordset();
-        const ProgramFormValues initial = ProgramEditor::ReadProgramRow(m_ctx, rs);
+        Recordset& rs = m_services.database.DataPrograms.recordset();
+        const ProgramFormValues initial = ReadCurrentRow();
         const qint32 id = rs.Value(QStringLiteral("ID")).toInt();
         ProgramFormValues result;
         if (m_view.ShowProgramForm(initial, true, id, result)) {
             // The dialog's events may have moved the list: edit the row that was opened.
-            m_ctx.database.DataPrograms.recordset().SetBookmark(id);
-            ProgramEditor::UpdateDbFromProgramForm(m_ctx, result, ProgramEditor::UpdateMode::Edit);
+            m_services.database.DataPrograms.recordset().SetBookmark(id);
+            ProgramEditor::UpdateDbFromProgramForm(m_services.database.DataPrograms, result,
+                                                   ProgramEditor::UpdateMode::Edit);
             m_view.SetCurrentBookmark(id);
-            m_ctx.scheduler.ScheduleNextRecording();
+            m_services.scheduler.ScheduleNextRecording();
         }
     });
     m_view.UpdateProgramsButtonsAndMenus();
@@ -96,15 +104,15 @@ void ProgramListCommands::EditProgram()
 
 void ProgramListCommands::RemovePrograms()
 {
-    Trap(m_ctx.log, "RemovePrograms", [&] {
-        Recordset& rs = m_ctx.database.DataPrograms.recordset();
+    Trap(m_services.log, "RemovePrograms", [&] {
+        Recordset& rs = m_services.database.DataPrograms.recordset();
         // The row under the cursor always counts, selected or not.
         if (HasCurrentRow())
             m_view.AddSelBookmark(m_view.CurrentBookmark());
         const QList<qint64> selected = m_view.SelBookmarks();
         if (selected.isEmpty())
             return;
-        if (m_ctx.messageBox.Show(
+        if (m_services.messageBox.Show(
                 QStringLiteral("Remove Programs"),
                 QStringLiteral("Are you sure you want to remove the selected programs."),
                 MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
@@ -120,15 +128,15 @@ void ProgramListCommands::RemovePrograms()
         RemoveAllSelBookmarks();
         if (!rs.IsEOF() && !rs.IsBOF())
             m_view.SetCurrentBookmark(rs.Bookmark());
-        m_ctx.scheduler.ScheduleNextRecording();
+        m_services.scheduler.ScheduleNextRecording();
         m_view.UpdateProgramsButtonsAndMenus();
     });
 }
 
 void ProgramListCommands::ToggleProgramEnables()
 {
-    Trap(m_ctx.log, "ToggleProgramEnables", [&] {
-        Recordset& rs = m_ctx.database.DataPrograms.recordset();
+    Trap(m_services.log, "ToggleProgramEnables", [&] {
+        Recordset& rs = m_services.database.DataPrograms.recordset();
         const qint64 current = m_view.CurrentBookmark();
         if (current != -1)
             m_view.AddSelBookmark(current);
@@ -144,8 +152,8 @@ void ProgramListCommands::ToggleProgramEnables()
                 enabled ? QStringLiteral("Are you sure you want to disable the selected program?")
                         : QStringLiteral("Are you sure you want to enable the selected program?");
             // The question has no title of its own: the box carries the program's name.
-            if (m_ctx.messageBox.Show(QStringLiteral("Nightreel 2000"), question, MsgIcon::None,
-                                      MsgButtons::YesNo) != MsgResult::Yes)
+            if (m_services.messageBox.Show(QStringLiteral("Nightreel 2000"), question,
+                                           MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
                 return;
             enable = !enabled;
         } else {
@@ -170,14 +178,14 @@ void ProgramListCommands::ToggleProgramEnables()
             rs.SetBookmark(current);
             m_view.SetCurrentBookmark(current);
         }
-        m_ctx.scheduler.ScheduleNextRecording();
+        m_services.scheduler.ScheduleNextRecording();
     });
 }
 
 void ProgramListCommands::SelectAll()
 {
-    Trap(m_ctx.log, "mnuProgramsSelectAll_Click", [&] {
-        Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
+    Trap(m_services.log, "mnuProgramsSelectAll_Click", [&] {
+        Recordset rs = m_services.database.DataPrograms.recordset().Clone();
         if (rs.RecordCount() < 1)
             return;
         for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext())
@@ -187,7 +195,7 @@ void ProgramListCommands::SelectAll()
 
 void ProgramListCommands::DblClick(bool onRow)
 {
-    Trap(m_ctx.log, "DBGridPrograms_DblClick", [&] {
+    Trap(m_services.log, "DBGridPrograms_DblClick", [&] {
         if (onRow)
             EditProgram();
     });

@@ -5,7 +5,24 @@
 #include <QList>
 #include <QtGlobal>
 
-class AppContext;
+class AppDatabase;
+class Clock;
+class EventLog;
+class MessageBoxPresenter;
+class Scheduler;
+
+// What the program commands work with.
+struct ProgramListServices {
+    EventLog& log;
+    AppDatabase& database;
+    Scheduler& scheduler;
+    MessageBoxPresenter& messageBox;
+    const Clock& clock;
+    // A new program starts with this format.
+    const clsRecordingFormat& defaultFormat;
+    // Where the mixer profiles that rows name are looked for.
+    QString mixerFolder;
+};
 
 // What the program commands need of the programs grid and of the dialogs. The grid's
 // selection is a set of bookmarks (row IDs); its current row is the row under the cursor.
@@ -34,7 +51,7 @@ public:
 // worked out again after a change.
 class ProgramListCommands {
 public:
-    ProgramListCommands(AppContext& ctx, ProgramListView& view);
+    ProgramListCommands(const ProgramListServices& services, ProgramListView& view);
 
     void AddNewProgram();
     void CopyProgram();
@@ -50,7 +67,8 @@ private:
     bool FindRowToWorkOn();
     void RemoveAllSelBookmarks();
     bool HasCurrentRow() const;
+    ProgramFormValues ReadCurrentRow();
 
-    AppContext& m_ctx;
+    ProgramListServices m_services;
     ProgramListView& m_view;
 };

@@ -9,8 +9,8 @@
 #include "gui/FormPlacement.h"
 #include "scheduling/ProgramValidator.h"
 #include "scheduling/frmLaunchProgramInfo.h"
-#include "shell/AppContext.h"
 #include "sideactions/ViewHtmlFile.h"
+#include "store/Options.h"
 
 #include <QCheckBox>
 #include <QDateEdit>
@@ -85,9 +85,9 @@ template <typename T> T* frmProgram::Named(T* widget, const char* name)
     return widget;
 }
 
-frmProgram::frmProgram(AppContext& ctx, QWidget* owner)
+frmProgram::frmProgram(const ProgramFormServices& services, QWidget* owner)
     : QDialog(owner)
-    , m_ctx(ctx)
+    , m_services(services)
 {
     setObjectName(QStringLiteral("frmProgram"));
     setWindowTitle(QStringLiteral("Program"));
@@ -376,9 +376,9 @@ void frmProgram::BuildMixerTab(QWidget* page)
 
 void frmProgram::Form_Load()
 {
-    Trap(m_ctx.log, "Program Form Load", [&] {
+    Trap(m_services.log, "Program Form Load", [&] {
         FormPlacement::PlaceAtMainForm(this, parentWidget(), 100);
-        switch (m_ctx.options.DefaultRecordFileNameFormat) {
+        switch (m_services.options.DefaultRecordFileNameFormat) {
         case 1:
             optDefaultFilename->setText(QStringLiteral("YY&MMDD_hhmmss"));
             break;
@@ -392,8 +392,6 @@ void frmProgram::Form_Load()
         MixerListsFilled = false;
         FormatChanged = false;
         m_programFormOk = false;
-        m_ctx.ProgramFormFormat.CopyFrom(m_ctx.ProgramFormat);
-        TextCompressionMethod->setText(m_ctx.ProgramFormFormat.TextCompressionMethod);
         ApplyFrequencyRule();
         for (QTimeEdit* picker : {dtpkrStartTime, dtpkrEndTime}) {
             const QTime t = picker->time();
@@ -405,6 +403,8 @@ void frmProgram::Form_Load()
 
 void frmProgram::FillProgramForm(const ProgramFormValues& v)
 {
+    m_programFormat.CopyFrom(v.FormFormat);
+    m_formFormat.CopyFrom(v.FormFormat);
     TextCompressionMethod->setText(v.FormCompressionMethod);
     TextProgramDescription->setText(v.FormDescription);
     CheckEnabled->setChecked(v.FormEnabled);
@@ -508,8 +508,8 @@ void frmProgram::CalcTimeDuration()
     DurationMinutes = qint16(DurationSeconds % 3600 / 60);
     DurationSecondsPart = qint16(DurationSeconds % 60);
     LabelDurationData->setText(ProgramEditor::DurationText(DurationSeconds));
-    LabelDiskSpaceData->setText(ProgramEditor::DiskSpaceText(
-        m_ctx.ProgramFormFormat.CalcStorageMbytesSng(DurationSeconds)));
+    LabelDiskSpaceData->setText(
+        ProgramEditor::DiskSpaceText(m_formFormat.CalcStorageMbytesSng(DurationSeconds)));
 }
 
 void frmProgram::ApplyFrequencyRule()
@@ -522,7 +522,7 @@ void frmProgram::ApplyFrequencyRule()
 
 void frmProgram::OptionOneTimeOrDaily_Click()
 {
-    Trap(m_ctx.log, "OptionOneTimeOrDaily_Click", [&] {
+    Trap(m_services.log, "OptionOneTimeOrDaily_Click", [&] {
         ApplyFrequencyRule();
         DoFilenameEnables();
     });
@@ -530,7 +530,7 @@ void frmProgram::OptionOneTimeOrDaily_Click()
 
 void frmProgram::CheckEnabled_Click()
 {
-    Trap(m_ctx.log, "Program Form CheckEnabled_Click", [&] {
+    Trap(m_services.log, "Program Form CheckEnabled_Click", [&] {
         // A disabled program can only be enabled, saved or left. Re-enabling does not
         // re-apply the four rules of the dependants; their next click puts them right.
         const bool on = CheckEnabled->isChecked();
@@ -579,7 +579,7 @@ void frmProgram::FillMixerListBoxes()
 {
     lstMixerProfilePrior->clear();
     lstMixerProfileAfter->clear();
-    const QDir folder(ProgramEditor::MixerFolder(m_ctx));
+    const QDir folder(m_services.mixerFolder);
     const QStringList files =
         folder.exists() ? folder.entryList({QStringLiteral("*.mxr")}, QDir::Files, QDir::Name)
                         : QStringList();
@@ -604,12 +604,12 @@ void frmProgram::SSTab1_Click(int tab)
 
 void frmProgram::ChangeComprMethodButton_Click()
 {
-    Trap(m_ctx.log, "Program Form ChangeComprMethodButton_Click", [&] {
+    Trap(m_services.log, "Program Form ChangeComprMethodButton_Click", [&] {
         // A later cancelled change loses an earlier accepted one; that is intended.
-        FormatChanged =
-            ChangeFormat(m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.ProgramFormFormat, this);
+        FormatChanged = ChangeFormat(m_services.log, m_services.registry, m_services.options,
+                                     m_formFormat, this);
         if (FormatChanged) {
-            TextCompressionMethod->setText(m_ctx.ProgramFormFormat.TextCompressionMethod);
+            TextCompressionMethod->setText(m_formFormat.TextCompressionMethod);
             CalcTimeDuration();
         }
     });
@@ -617,8 +617,8 @@ void frmProgram::ChangeComprMethodButton_Click()
 
 void frmProgram::btnTestUrl_Click()
 {
-    ViewHtmlFile(m_ctx.log, m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder,
-                 Text::Trim(txtLaunchLink->text()));
+    ViewHtmlFile(m_services.log, m_services.messageBox, m_services.launcher,
+                 m_services.runtimeFolder, Text::Trim(txtLaunchLink->text()));
 }
 
 void frmProgram::btnInfo_Click()
@@ -652,9 +652,10 @@ ProgramCheckValues frmProgram::CheckValues() const
 
 bool frmProgram::CommandOkChecks()
 {
-    const ProgramValidator validator(m_ctx.database, m_ctx.clock, m_ctx.options);
+    const ProgramValidator validator(m_services.database, m_services.clock, m_services.options);
     if (const auto failed = validator.FirstFailedCheck(CheckValues())) {
-        m_ctx.messageBox.Show(failed->title, failed->text, MsgIcon::Exclamation, MsgButtons::Ok);
+        m_services.messageBox.Show(failed->title, failed->text, MsgIcon::Exclamation,
+                                   MsgButtons::Ok);
         auto* focus =
             failed->focusControl.isEmpty() ? nullptr : findChild<QWidget*>(failed->focusControl);
         if (focus && focus->isEnabled())
@@ -662,11 +663,11 @@ bool frmProgram::CommandOkChecks()
         return false;
     }
     // The size limit is the recording format's own check; it tells the user itself.
-    if (CheckFor2GbLimit(m_ctx.messageBox, m_ctx.ProgramFormFormat, DurationSeconds))
+    if (CheckFor2GbLimit(m_services.messageBox, m_formFormat, DurationSeconds))
         return false;
     const auto question = validator.LongRecordingQuestion(DurationSeconds);
-    return !question || m_ctx.messageBox.Show(question->title, question->text, MsgIcon::None,
-                                              MsgButtons::YesNo) == MsgResult::Yes;
+    return !question || m_services.messageBox.Show(question->title, question->text, MsgIcon::None,
+                                                   MsgButtons::YesNo) == MsgResult::Yes;
 }
 
 void frmProgram::CopyFormValues()
@@ -715,12 +716,12 @@ void frmProgram::CopyFormValues()
 
 void frmProgram::CommandOk_Click()
 {
-    Trap(m_ctx.log, "Program Form CommandOk_Click", [&] {
+    Trap(m_services.log, "Program Form CommandOk_Click", [&] {
         if (!CommandOkChecks())
             return;
         CopyFormValues();
-        if (FormatChanged)
-            m_ctx.ProgramFormat.CopyFrom(m_ctx.ProgramFormFormat);
+        // A change the user cancelled after accepting one keeps the program's old format.
+        m_values.FormFormat.CopyFrom(FormatChanged ? m_formFormat : m_programFormat);
         m_programFormOk = true;
         accept();
     });

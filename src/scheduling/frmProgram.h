@@ -1,12 +1,12 @@
 #pragma once
 
 #include "scheduling/ProgramEditor.h"
+#include "scheduling/ProgramFormServices.h"
 
 #include <QDialog>
 #include <QList>
 #include <array>
 
-class AppContext;
 struct ProgramCheckValues;
 class QCheckBox;
 class QDateEdit;
@@ -25,7 +25,7 @@ class QTimeEdit;
 class frmProgram : public QDialog {
     Q_OBJECT
 public:
-    frmProgram(AppContext& ctx, QWidget* owner);
+    frmProgram(const ProgramFormServices& services, QWidget* owner);
 
     // Set by the caller before the dialog is shown: an edit is never in conflict with the
     // row it edits.
@@ -78,8 +78,11 @@ private:
     static void SelectProfile(QListWidget* list, const QString& name);
     static QString ProfileOf(const QListWidget* list);
 
-    AppContext& m_ctx;
+    ProgramFormServices m_services;
     ProgramFormValues m_values;
+    // The program's format as it came in, and the working copy the format dialog changes.
+    clsRecordingFormat m_programFormat;
+    clsRecordingFormat m_formFormat;
     bool m_programFormOk = false;
     // Every control that CheckEnabled switches, in the order they were made.
     QList<QWidget*> m_controls;

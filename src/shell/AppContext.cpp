@@ -34,3 +34,21 @@ double AppContext::Now() const
 {
     return clock.Now();
 }
+
+ProgramListServices AppContext::ForProgramList()
+{
+    return {log, database, scheduler, messageBox, clock, WfxDefault, mixerProfiles.Folder()};
+}
+
+ProgramFormServices AppContext::ForProgramForm()
+{
+    return {log,
+            options,
+            registry,
+            messageBox,
+            launcher,
+            database,
+            clock,
+            folders.runtimeFolder,
+            mixerProfiles.Folder()};
+}

@@ -6,6 +6,8 @@
 #include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
 #include "recording/Recorder.h"
+#include "scheduling/ProgramFormServices.h"
+#include "scheduling/ProgramListCommands.h"
 #include "scheduling/Scheduler.h"
 #include "sideactions/MixerProfiles.h"
 #include "store/AppDatabase.h"
@@ -46,6 +48,9 @@ public:
     AppContext& operator=(const AppContext&) = delete;
 
     double Now() const;
+    // What the program list's commands and the program editor are built with.
+    ProgramListServices ForProgramList();
+    ProgramFormServices ForProgramForm();
 
     Clock& clock;
     MessageBoxPresenter& messageBox;
@@ -66,10 +71,7 @@ public:
     Scheduler scheduler;
     // The profiles in the data folder's "mixer".
     MixerProfiles mixerProfiles;
-    // The format of the program being handled, the working copy that the dialogs show and
-    // change, and the default format of the Info row.
-    clsRecordingFormat ProgramFormat;
-    clsRecordingFormat ProgramFormFormat;
+    // The default format of the Info row: new programs and manual recordings start with it.
     clsRecordingFormat WfxDefault;
     // Where WfxDefault is read from and saved to.
     DefaultFormatStore defaultFormats;

@@ -90,5 +90,5 @@ template <typename View = FakeProgramListView> struct ProgramListFixture {
 
     TestContext tc;
     View view{*tc.ctx};
-    ProgramListCommands commands{*tc.ctx, view};
+    ProgramListCommands commands{tc.ctx->ForProgramList(), view};
 };

@@ -1,4 +1,4 @@
-#include "scheduling/ProgramListGrid.h"
+#include "shell/ProgramListGrid.h"
 
 #include "diagnostics/Trap.h"
 #include "gui/GridSelection.h"
@@ -18,7 +18,7 @@ ProgramListGrid::ProgramListGrid(AppContext& ctx, frmMain& form)
     , m_ctx(ctx)
     , m_form(form)
     , m_grid(form.ui.DBGridPrograms)
-    , m_commands(ctx, *this)
+    , m_commands(ctx.ForProgramList(), *this)
 {
     const auto on = [this](const char* name, void (ProgramListCommands::*command)()) {
         connect(m_form.ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
@@ -110,7 +110,7 @@ void ProgramListGrid::SetCurrentBookmark(qint64 bookmark)
 bool ProgramListGrid::ShowProgramForm(const ProgramFormValues& initial, bool editingExisting,
                                       qint32 editProgramId, ProgramFormValues& result)
 {
-    frmProgram form(m_ctx, &m_form);
+    frmProgram form(m_ctx.ForProgramForm(), &m_form);
     form.FillProgramForm(initial);
     form.EditingExisting = editingExisting;
     form.EditProgramId = editProgramId;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+class AppDatabase;
+class Clock;
+class EventLog;
+class MessageBoxPresenter;
+class Options;
+class ProcessLauncher;
+class RegKeys;
+
+// What the program editor works with.
+struct ProgramFormServices {
+    EventLog& log;
+    Options& options;
+    RegKeys& registry;
+    MessageBoxPresenter& messageBox;
+    ProcessLauncher& launcher;
+    AppDatabase& database;
+    const Clock& clock;
+    QString runtimeFolder;
+    QString mixerFolder;
+};
