@@ -1,9 +1,12 @@
+#include "ModalDialogs.h"
 #include "Programs.h"
 #include "TestContext.h"
 #include "common/Twips.h"
 #include "scheduling/DiskForecast.h"
 #include "scheduling/frmDiskStatus.h"
+#include "shell/frmMain.h"
 
+#include <QAction>
 #include <QDir>
 #include <QHeaderView>
 #include <QLabel>
@@ -204,6 +207,40 @@ private slots:
                            tc.diskSpace, forecast, nullptr);
         QCOMPARE(form.exec(), int(QDialog::Rejected));
         QVERIFY(!form.Loaded());
+    }
+
+    // The main window's ways into the forecast, from the menu, the tool bar and the tray,
+    // and into the options.
+    void theMainWindowOpensTheDialogs_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("dialog");
+        QTest::newRow("menu") << "mnuViewDiskStatus"
+                              << "frmDiskStatus";
+        QTest::newRow("tool bar") << "ToolbarMain.DiskStatus"
+                                  << "frmDiskStatus";
+        QTest::newRow("tray") << "mnuSystrayDiskStatus"
+                              << "frmDiskStatus";
+        QTest::newRow("options") << "mnuViewOptions"
+                                 << "frmOptions";
+    }
+    void theMainWindowOpensTheDialogs()
+    {
+        QFETCH(QString, action);
+        TestContext tc;
+        const QString folder = tc.Root() + "/rec";
+        QDir().mkpath(folder);
+        tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", folder);
+        frmMain form(*tc.ctx, false);
+        form.FirstActivate();
+        QString opened;
+        WhenModalOpens([&opened](QDialog* dialog) {
+            opened = dialog->objectName();
+            dialog->reject();
+        });
+        form.ui.Action(action)->trigger();
+        QFETCH(QString, dialog);
+        QCOMPARE(opened, dialog);
     }
 };
 
