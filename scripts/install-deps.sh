@@ -10,6 +10,7 @@ packages=(
     trayer xdotool x11-utils
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
+    desktop-file-utils
 )
 missing=()
 for p in "${packages[@]}"; do

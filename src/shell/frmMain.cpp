@@ -8,7 +8,10 @@
 #include "diagnostics/frmElog.h"
 #include "diagnostics/frmErrors.h"
 #include "diagnostics/frmSysTray.h"
+#include "options/frmOptions.h"
 #include "options/frmSelectRecordDirectory.h"
+#include "scheduling/DiskForecast.h"
+#include "scheduling/frmDiskStatus.h"
 #include "shell/AppContext.h"
 #include "shell/Icons.h"
 #include "shell/ModeDisplay.h"
@@ -87,6 +90,8 @@ frmMain::frmMain(AppContext& ctx, bool startHidden, QWidget* parent, const SysTr
     CreateTray(wrapTray);
     ConnectCommands();
     ConnectTray();
+    ConnectDiskStatus();
+    ConnectOptions();
     m_programList = new ProgramListGrid(m_ctx, *this);
     connect(qApp, &QGuiApplication::commitDataRequest, this,
             [this](QSessionManager&) { m_closingBySystem = true; });
@@ -136,8 +141,8 @@ void frmMain::CreateTray(const SysTrayWrapper& wrapTray)
     }
 }
 
-// The tray menu's commands are those of the window. "&Disk Status" has no handler here: it
-// opens the disk forecast, which connects itself to the item by its name.
+// The tray menu's commands are those of the window. "&Disk Status" has no handler here:
+// ConnectDiskStatus connects it with the window's own entries by its name.
 void frmMain::ConnectTray()
 {
     const frmSysTray& tray = *m_sysTray;
@@ -232,6 +237,35 @@ void frmMain::ConnectMixer()
                 [this] { LaunchMixer(m_ctx.log, m_ctx.launcher, m_ctx.options.MixerFilePath); });
     connect(ui.Action(QStringLiteral("mnuMixerProfiles")), &QAction::triggered, this, [this] {
         frmMixerProfiles(m_ctx.mixerProfiles, m_ctx.log, m_ctx.messageBox, this).exec();
+    });
+}
+
+// The disk forecast, from the menu, the tool bar and the tray menu.
+void frmMain::ConnectDiskStatus()
+{
+    for (const char* name : {"mnuViewDiskStatus", "ToolbarMain.DiskStatus", "mnuSystrayDiskStatus"})
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
+            const DiskForecast forecast(m_ctx.clock, m_ctx.scheduler, m_ctx.log);
+            frmDiskStatus(m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.error, m_ctx.diskSpace,
+                          forecast, this)
+                .exec();
+        });
+}
+
+void frmMain::ConnectOptions()
+{
+    connect(ui.Action(QStringLiteral("mnuViewOptions")), &QAction::triggered, this, [this] {
+        const OptionsFormServices services{m_ctx.log,
+                                           m_ctx.registry,
+                                           m_ctx.options,
+                                           m_ctx.error,
+                                           m_ctx.messageBox,
+                                           m_ctx.WfxDefault,
+                                           m_ctx.defaultFormats,
+                                           [this] { UpdateStatusBarPlus(); },
+                                           QCoreApplication::applicationDirPath()};
+        // The enhanced player's availability is not known to the window yet.
+        frmOptions(services, false, this).exec();
     });
 }
 

@@ -60,6 +60,8 @@ private:
     void ConnectRecordingCommands();
     void ConnectRecorder();
     void ConnectMixer();
+    void ConnectDiskStatus();
+    void ConnectOptions();
     void ShowStatusBar(const StatusBarPlus::Update& update);
     void CreateTray(const SysTrayWrapper& wrapTray);
     void ConnectTray();

@@ -1,0 +1,258 @@
+#include "TestContext.h"
+#include "options/frmOptions.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimeEdit>
+
+namespace {
+
+const QString kEntry = "/xdg/autostart/nightreel.desktop";
+
+// The dialog over a context that has read its options as at start-up, the recording folder
+// in place, and the desktop's configuration in the test's own folder.
+struct OptionsFixture {
+    explicit OptionsFixture(bool folderExists = true)
+    {
+        qputenv("XDG_CONFIG_HOME", (tc.Root() + "/xdg").toLocal8Bit());
+        tc.OpenDatabase();
+        tc.ctx->options.GetOptions(tc.ctx->registry);
+        tc.ctx->defaultFormats.GetWfxDefault(tc.ctx->WfxDefault);
+        const QString folder = tc.Root() + "/rec";
+        if (folderExists)
+            QDir().mkpath(folder);
+        tc.ctx->options.DefaultRecordingDirectory = folder;
+    }
+
+    std::unique_ptr<frmOptions> Open()
+    {
+        AppContext& c = *tc.ctx;
+        const OptionsFormServices services{c.log,
+                                           c.registry,
+                                           c.options,
+                                           c.error,
+                                           c.messageBox,
+                                           c.WfxDefault,
+                                           c.defaultFormats,
+                                           [&c] { c.recorder.UpdateStatusBarPlus(); },
+                                           QStringLiteral(NIGHTREEL_BIN_DIR)};
+        auto form = std::make_unique<frmOptions>(services, false, nullptr);
+        form->show();
+        form->activateWindow();
+        if (!QTest::qWaitForWindowActive(form.get()))
+            qFatal("the options dialog did not become active");
+        return form;
+    }
+
+    QString Setting(const QString& name) const
+    {
+        return tc.ctx->registry.GetSetting("Settings", name, QString());
+    }
+
+    TestContext tc;
+};
+
+// Types into a box as the user does: focus, replace, type. Check boxes and option buttons
+// take "1" or "0".
+void Enter(frmOptions& form, const QString& edit)
+{
+    const QString name = edit.section('=', 0, 0);
+    const QString value = edit.section('=', 1);
+    QWidget* control = form.findChild<QWidget*>(name);
+    QVERIFY2(control, qPrintable(name));
+    if (auto* box = qobject_cast<QLineEdit*>(control)) {
+        // Only a box on the tab in view can take the focus.
+        auto* tabs = form.findChild<QTabWidget*>("SSTab1");
+        for (int i = 0; i < tabs->count(); ++i) {
+            if (tabs->widget(i)->isAncestorOf(box))
+                tabs->setCurrentIndex(i);
+        }
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, value);
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+        button->setChecked(value == "1");
+    }
+}
+
+} // namespace
+
+class TestFrmOptions : public QObject {
+    Q_OBJECT
+
+private slots:
+    // "=" expects the value stored before OK. The disk shows 40 Mbytes free throughout.
+    void okStoresEachGroupWithinItsLimits_data()
+    {
+        QTest::addColumn<bool>("folderExists");
+        QTest::addColumn<QStringList>("edits");
+        QTest::addColumn<bool>("enterInLastBox");
+        QTest::addColumn<QStringList>("stored");
+        QTest::addColumn<bool>("staysOpen");
+        QTest::addColumn<bool>("guardStops");
+        QTest::newRow("a warning under the stop limit takes the stop limit")
+            << true << QStringList{"txtWarnRecMegsLeft=30", "txtStopRecMegsLeft=50"} << false
+            << QStringList{"WarnRecMegsLeft=50", "StopRecMegsLeft=50"} << false << true;
+        QTest::newRow("one limit out of range drops both")
+            << true << QStringList{"txtStopRecMegsLeft=30", "txtWarnRecMegsLeft=5"} << true
+            << QStringList{"WarnRecMegsLeft==", "StopRecMegsLeft=="} << false << false;
+        QTest::newRow("leaving the purge days raises 2 to 3")
+            << true << QStringList{"chkPurgeOldRecordings=1", "txtPurgeDays=2"} << false
+            << QStringList{"PurgeDays=3", "PurgeRecordings=True"} << false << false;
+        QTest::newRow("2 and Enter in the purge days keeps the purge settings, stores the rest")
+            << true
+            << QStringList{"chkShowSplashScreen=0", "chkPurgeOldRecordings=1", "txtPurgeDays=2"}
+            << true << QStringList{"PurgeDays==", "PurgeRecordings==", "ShowSplashScreen=False"}
+            << false << false;
+        QTest::newRow("long recording hours out of range keep both long settings")
+            << true
+            << QStringList{"chkConfirmLongRecordings=0", "txtLongRecordingHours=30",
+                           "TextDurationHours=30"}
+            << false
+            << QStringList{"LongRecordingHours==", "ConfirmLongRecordings==",
+                           "DefaultManualRecordingDurationHours=23"}
+            << false << false;
+        QTest::newRow("a missing folder keeps the dialog open with the start-up mode stored")
+            << false << QStringList{"optHiddenStartupMode=1", "chkShowSplashScreen=0"} << false
+            << QStringList{"HiddenWindowStatupMode=True",
+                           "ShowSplashScreen==", "DefaultRecordingDirectory=="}
+            << true << false;
+    }
+    void okStoresEachGroupWithinItsLimits()
+    {
+        QFETCH(bool, folderExists);
+        QFETCH(QStringList, edits);
+        QFETCH(bool, enterInLastBox);
+        OptionsFixture f(folderExists);
+        f.tc.diskSpace.freeMb = 40.0;
+        QStringList keys;
+        QHash<QString, QString> before;
+        QFETCH(QStringList, stored);
+        for (const QString& s : stored) {
+            keys << s.section('=', 0, 0);
+            before[keys.last()] = f.Setting(keys.last());
+        }
+        auto form = f.Open();
+        for (const QString& edit : edits)
+            Enter(*form, edit);
+        if (enterInLastBox)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        else
+            QTest::mouseClick(form->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+
+        for (const QString& s : stored) {
+            const QString key = s.section('=', 0, 0);
+            const QString value = s.section('=', 1);
+            QCOMPARE(f.Setting(key), value == "=" ? before[key] : value);
+        }
+        QFETCH(bool, staysOpen);
+        QCOMPARE(form->isVisible(), staysOpen);
+        QCOMPARE(f.tc.messageBox.asked.size(), staysOpen ? 1 : 0);
+        if (staysOpen)
+            QCOMPARE(f.tc.messageBox.asked[0].text,
+                     QString("Recordings directory does not exist or could not be created"));
+        QFETCH(bool, guardStops);
+        QCOMPARE(f.tc.ctx->error.DiskLowStopRecording(), guardStops);
+    }
+
+    // What OK stores is what the next start reads.
+    void aFreshReadGetsWhatOkStored()
+    {
+        OptionsFixture f;
+        auto form = f.Open();
+        for (const char* edit :
+             {"chkShowSplashScreen=0", "optHiddenStartupMode=1", "chkConfirmLongRecordings=0",
+              "chkPurgeOldRecordings=1", "txtLongRecordingHours=5", "TextDurationHours=2",
+              "TextDurationMinutes=3", "TextDurationSeconds=4", "txtWarnRecMegsLeft=100",
+              "txtStopRecMegsLeft=60", "txtPurgeDays=10", "txtFwdRev0=20"})
+            Enter(*form, edit);
+        form->findChild<QComboBox*>("comboMinSec0")->setCurrentIndex(1);
+        form->findChild<QComboBox*>("comboDefaultRecordFileNameFormat")->setCurrentIndex(2);
+        form->findChild<QComboBox*>("ComboWavPlayer")->setCurrentText("Windows Default");
+        form->findChild<QTimeEdit*>("dtpkrPurgeTime")->setTime(QTime(3, 30, 15));
+        if (qEnvironmentVariableIsSet("NIGHTREEL_GRAB_DIR")) {
+            auto* tabs = form->findChild<QTabWidget*>("SSTab1");
+            for (int i = 0; i < tabs->count(); ++i) {
+                tabs->setCurrentIndex(i);
+                form->grab().save(qEnvironmentVariable("NIGHTREEL_GRAB_DIR") + "/frmOptions-" +
+                                  tabs->tabText(i) + ".png");
+            }
+        }
+        form->cmdOK_Click();
+        QVERIFY(!form->isVisible());
+
+        Options o;
+        o.GetOptions(f.tc.ctx->registry);
+        QCOMPARE(o.ShowSplashScreen, false);
+        QCOMPARE(o.HiddenWindowStatupMode, true);
+        QCOMPARE(o.ConfirmLongRecordings, false);
+        QCOMPARE(o.LongRecordingHours, qint16(5));
+        QCOMPARE(o.DefaultManualRecordingDurationHours, qint16(2));
+        QCOMPARE(o.DefaultManualRecordingDurationMinutes, qint16(3));
+        QCOMPARE(o.DefaultManualRecordingDurationSeconds, qint16(4));
+        QCOMPARE(o.WarnRecMegsLeft, qint16(100));
+        QCOMPARE(o.StopRecMegsLeft, qint16(60));
+        QCOMPARE(o.PurgeRecordings, true);
+        QCOMPARE(o.PurgeDays, qint16(10));
+        QCOMPARE(AutomationDate::ToDateTime(o.PurgeTime).time(), QTime(3, 30, 15));
+        QCOMPARE(o.DefaultRecordFileNameFormat, qint16(2));
+        QCOMPARE(o.PlayStepSizes[0].Value, 20);
+        QCOMPARE(o.PlayStepSizes[0].Minute, true);
+        QCOMPARE(o.DefaultRecordingDirectory, f.tc.Root() + "/rec");
+        QCOMPARE(f.Setting("WavPlayer"), QString("Windows Default"));
+    }
+
+    void startupBoxWritesTheAutostartEntry_data()
+    {
+        QTest::addColumn<QString>("entryBefore"); // "none", "entry" or "empty"
+        QTest::addColumn<bool>("checkedAtLoad");
+        QTest::addColumn<bool>("check");
+        QTest::newRow("set writes the entry") << "none" << false << true;
+        QTest::newRow("cleared removes the entry") << "entry" << true << false;
+        QTest::newRow("a zero-length entry counts as absent") << "empty" << false << true;
+    }
+    void startupBoxWritesTheAutostartEntry()
+    {
+        QFETCH(QString, entryBefore);
+        OptionsFixture f;
+        const QString entry = f.tc.Root() + kEntry;
+        if (entryBefore != "none") {
+            QDir().mkpath(QFileInfo(entry).path());
+            QFile file(entry);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            if (entryBefore == "entry")
+                file.write("[Desktop Entry]\n");
+        }
+        auto form = f.Open();
+        auto* box = form->findChild<QAbstractButton*>("chkStartupFolder");
+        QFETCH(bool, checkedAtLoad);
+        QCOMPARE(box->isChecked(), checkedAtLoad);
+        QFETCH(bool, check);
+        box->setChecked(check);
+        form->cmdOK_Click();
+
+        QCOMPARE(QFileInfo::exists(entry), check);
+        if (!check)
+            return;
+        QProcess validate;
+        validate.start("desktop-file-validate", {entry});
+        QVERIFY(validate.waitForFinished());
+        QCOMPARE(validate.readAll(), QByteArray());
+        QCOMPARE(validate.exitCode(), 0);
+        QFile file(entry);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString program = QString(NIGHTREEL_BIN_DIR) + "/nightreel";
+        QVERIFY(QString::fromUtf8(file.readAll()).contains("\nExec=" + program + "\n"));
+        QVERIFY(QFileInfo(program).isExecutable());
+    }
+};
+
+QTEST_MAIN(TestFrmOptions)
+#include "test_frmOptions.moc"
