@@ -20,6 +20,7 @@ private slots:
         QVERIFY2(m_report.faults.isEmpty(), qPrintable(m_report.faults.join('\n')));
         QCOMPARE(m_report.missed, 0);
         QCOMPARE(m_report.startedTwice, 0);
+        QVERIFY2(m_report.logged.isEmpty(), qPrintable(m_report.logged.join('\n')));
     }
 
     void startsOfOccurrence_data()

@@ -264,6 +264,7 @@ private:
     std::vector<Program> m_programs;
     std::vector<Occurrence> m_occurrences;
     std::vector<double> m_boundaries;
+    std::vector<double> m_stretchEnds;
     std::vector<Jump> m_jumps;
     std::vector<bool> m_jumpDone;
     std::vector<bool> m_editDone;
@@ -334,6 +335,7 @@ void Soak::WalkOccurrences()
     for (const SoakStretch& s : m_stretches) {
         const double from = AutomationDate::FromDate(s.firstDay);
         const double to = from + s.days;
+        m_stretchEnds.push_back(to);
         for (int p = 0; p < int(m_programs.size()); ++p) {
             for (int v = 0; v < int(m_programs[p].versions.size()); ++v)
                 Walk(m_programs[p], v, p, from, to, m_occurrences);
@@ -541,8 +543,11 @@ void Soak::Judge()
                                    .arg(o.expected);
         if (o.expected == 0) {
             QString why;
+            const bool cut = std::any_of(m_stretchEnds.begin(), m_stretchEnds.end(),
+                                         [&o](double e) { return o.start < e && e < o.end; });
             if (o.visited) {
-                why = "the recorder was busy with " + o.busyWith + " for all of its window";
+                why = "the recorder was busy with " + o.busyWith +
+                      (cut ? " until the run's stretch of days ended" : " for all of its window");
             } else {
                 why = "the clock never read a moment of its window";
                 for (const Jump& j : m_jumps) {
@@ -600,16 +605,19 @@ SoakReport Soak::Run()
                 utc += NearBoundary(reading) ? kFineStepMs : kCoarseStepMs;
             }
             if (m_progress)
-                m_progress(QString("day %1 (%2): %3 recordings in the list, %4 s")
+                m_progress(QString("day %1 (%2): %3 recordings in the list, rss %4 kB, %5 s")
                                .arg(day + 1)
                                .arg(s.firstDay.addDays(d).toString(Qt::ISODate))
                                .arg(m_tc.CountRows("Recordings"))
+                               .arg(RssKb())
                                .arg(wall.elapsed() / 1000.0, 0, 'f', 1));
         }
     }
     if (day > 2)
         m_report.rssGrowthKb = RssKb() - baselineKb;
     Judge();
+    for (const LogEntry& e : m_tc.LogEntries())
+        m_report.logged << QString("type %1: %2: %3").arg(e.type).arg(e.message, e.details);
     m_report.wallSeconds = wall.elapsed() / 1000.0;
     return m_report;
 }

@@ -38,6 +38,8 @@ struct SoakReport {
     QStringList ruleCases;
     // One line per difference between the rules and what reached the task.
     QStringList faults;
+    // The rows of the event log at the end: an unattended run should leave none.
+    QStringList logged;
     // Starts that reached the task, by "program|yyyy-MM-dd HH:mm" of the occurrence's start.
     QHash<QString, int> starts;
 };

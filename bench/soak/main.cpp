@@ -20,6 +20,8 @@ int main(int argc, char* argv[])
                 });
     for (const QString& line : r.ruleCases)
         std::printf("%s\n", qPrintable(line));
+    for (const QString& line : r.logged)
+        std::printf("logged: %s\n", qPrintable(line));
     for (const QString& line : r.faults)
         std::printf("fault: %s\n", qPrintable(line));
     std::printf("occurrences_due=%d\n", r.occurrencesDue);
