@@ -11,7 +11,10 @@ class TestSoak : public QObject {
 private slots:
     void initTestCase()
     {
-        m_report = RunSoak(NIGHTREEL_FAKETASK, {{QDate(2026, 3, 29), 1}, {QDate(2026, 10, 25), 1}});
+        SoakOptions options;
+        options.taskProgram = NIGHTREEL_FAKETASK;
+        options.stretches = {{QDate(2026, 3, 29), 1}, {QDate(2026, 10, 25), 1}};
+        m_report = RunSoak(options);
     }
 
     void everyOccurrenceAsTheRulesGive()

@@ -241,8 +241,7 @@ qint64 RssKb()
 
 class Soak {
 public:
-    Soak(const QString& taskProgram, const QList<SoakStretch>& stretches,
-         const std::function<void(const QString&)>& progress);
+    explicit Soak(const SoakOptions& options);
     SoakReport Run();
 
 private:
@@ -258,8 +257,8 @@ private:
     void ReadTaskLog(double reading);
     void Judge();
 
-    QList<SoakStretch> m_stretches;
-    std::function<void(const QString&)> m_progress;
+    const SoakOptions m_options;
+    const QList<SoakStretch>& m_stretches = m_options.stretches;
     TestContext m_tc;
     std::vector<Program> m_programs;
     std::vector<Occurrence> m_occurrences;
@@ -276,17 +275,15 @@ private:
     SoakReport m_report;
 };
 
-Soak::Soak(const QString& taskProgram, const QList<SoakStretch>& stretches,
-           const std::function<void(const QString&)>& progress)
-    : m_stretches(stretches)
-    , m_progress(progress)
+Soak::Soak(const SoakOptions& options)
+    : m_options(options)
 {
     m_tc.OpenDatabase();
     AppContext& ctx = *m_tc.ctx;
     m_taskLog = m_tc.Root() + "/task.log";
     qputenv("NIGHTREEL_FAKE_PLAN", QByteArray("write=") + QByteArray::number(kFileBytes));
     qputenv("NIGHTREEL_FAKE_LOG", m_taskLog.toUtf8());
-    ctx.recorder.Link().SetTaskProgram(taskProgram);
+    ctx.recorder.Link().SetTaskProgram(options.taskProgram);
     ctx.options.DefaultRecordingDirectory = m_tc.Root() + "/recordings";
     QDir().mkpath(ctx.options.DefaultRecordingDirectory);
     ctx.appStatus.SetReady(true);
@@ -604,18 +601,22 @@ SoakReport Soak::Run()
                 ++m_report.ticks;
                 utc += NearBoundary(reading) ? kFineStepMs : kCoarseStepMs;
             }
-            if (m_progress)
-                m_progress(QString("day %1 (%2): %3 recordings in the list, rss %4 kB, %5 s")
-                               .arg(day + 1)
-                               .arg(s.firstDay.addDays(d).toString(Qt::ISODate))
-                               .arg(m_tc.CountRows("Recordings"))
-                               .arg(RssKb())
-                               .arg(wall.elapsed() / 1000.0, 0, 'f', 1));
+            if (m_options.clearListDaily)
+                m_tc.ctx->recordingsList.ClearRecordingsList();
+            if (m_options.progress)
+                m_options.progress(
+                    QString("day %1 (%2): %3 recordings in the list, rss %4 kB, %5 s")
+                        .arg(day + 1)
+                        .arg(s.firstDay.addDays(d).toString(Qt::ISODate))
+                        .arg(m_tc.CountRows("Recordings"))
+                        .arg(RssKb())
+                        .arg(wall.elapsed() / 1000.0, 0, 'f', 1));
         }
     }
     if (day > 2)
         m_report.rssGrowthKb = RssKb() - baselineKb;
     Judge();
+    m_report.recordingsRows = m_tc.CountRows("Recordings");
     for (const LogEntry& e : m_tc.LogEntries())
         m_report.logged << QString("type %1: %2: %3").arg(e.type).arg(e.message, e.details);
     m_report.wallSeconds = wall.elapsed() / 1000.0;
@@ -624,12 +625,11 @@ SoakReport Soak::Run()
 
 } // namespace
 
-SoakReport RunSoak(const QString& taskProgram, const QList<SoakStretch>& stretches,
-                   const std::function<void(const QString&)>& progress)
+SoakReport RunSoak(const SoakOptions& options)
 {
     // The local time of the run is Berlin's, whatever the machine's.
     qputenv("TZ", "Europe/Berlin");
     tzset();
-    Soak soak(taskProgram, stretches, progress);
+    Soak soak(options);
     return soak.Run();
 }

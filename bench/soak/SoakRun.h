@@ -34,6 +34,8 @@ struct SoakReport {
     qint64 rssGrowthKb = 0;
     double wallSeconds = 0.0;
     qint64 ticks = 0;
+    // Rows of the recordings list at the end: the list is what grows by right.
+    int recordingsRows = 0;
     // One line per occurrence that the rules make fall or start again, with the reason.
     QStringList ruleCases;
     // One line per difference between the rules and what reached the task.
@@ -44,7 +46,15 @@ struct SoakReport {
     QHash<QString, int> starts;
 };
 
-// Runs the stretches one after the other on one recorder. taskProgram is the stand-in.
-// progress, if set, hears one line per simulated day.
-SoakReport RunSoak(const QString& taskProgram, const QList<SoakStretch>& stretches,
-                   const std::function<void(const QString&)>& progress = {});
+struct SoakOptions {
+    QString taskProgram;
+    QList<SoakStretch> stretches;
+    // Empties the recordings list at the end of each day, as the user's "Clear List", so
+    // that what the memory figure shows is not the list's rightful growth.
+    bool clearListDaily = false;
+    // If set, hears one line per simulated day.
+    std::function<void(const QString&)> progress;
+};
+
+// Runs the stretches one after the other on one recorder.
+SoakReport RunSoak(const SoakOptions& options);
