@@ -432,7 +432,7 @@ void Soak::NoteJump(double previous, double reading, int previousOffset, int off
         cause = "clock set back by an hour";
     else
         cause = "the run goes on at its next stretch of days";
-    m_jumps.push_back({previous, reading, QString("%1 to %2, %3").arg(from, to, cause)});
+    m_jumps.push_back({previous, reading, QString("from %1 to %2 (%3)").arg(from, to, cause)});
     if (reading < previous)
         m_lastBackJump = m_jumps.back().cause;
 }
@@ -549,12 +549,12 @@ void Soak::Judge()
                 why = "the clock never read a moment of its window";
                 for (const Jump& j : m_jumps) {
                     if (j.from < o.start && j.to >= o.end)
-                        why = "the clock went from " + j.cause;
+                        why = "the clock went " + j.cause + " over all of its window";
                 }
             }
             m_report.ruleCases << "falls: " + what + ": " + why;
         } else if (o.expected > 1) {
-            m_report.ruleCases << QString("starts %1 times: %2: the clock went back from %3 into "
+            m_report.ruleCases << QString("starts %1 times: %2: the clock went back %3 into "
                                           "its window after its recording, and the next search "
                                           "finds it again")
                                       .arg(o.expected)
