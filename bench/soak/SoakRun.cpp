@@ -439,8 +439,9 @@ void Soak::NoteJump(double previous, double reading, int previousOffset, int off
 
 // The rules as the recorder is to follow them, kept apart from its code: a recording stops at
 // the first tick after its end; an idle recorder starts, from the occurrences in the list
-// whose window holds the reading, the one that began first; a weekly occurrence can start
-// again once its recording is over, a one-time program leaves the list.
+// whose window holds the reading, the one that began first; a weekly occurrence whose
+// recording is over starts again if the clock comes back into its window (its cancellation
+// lapsed at the stop), while a one-time program has left the list.
 void Soak::ModelTick(double reading)
 {
     // A stop ends its tick; the next start comes at the following one.
