@@ -28,7 +28,7 @@ constexpr double kFineSpan = 100 * kSecond;
 constexpr int kFileBytes = 4096;
 
 // The programs. days: seven "0"/"1" from Sunday; none for a one-time program on oneTimeDay.
-struct ProgramSpec {
+struct ProgramEntry {
     const char* name;
     const char* days;
     const char* oneTimeDay;
@@ -37,7 +37,7 @@ struct ProgramSpec {
     bool enabled;
 };
 
-const ProgramSpec kPrograms[] = {
+const ProgramEntry kPrograms[] = {
     {"Early news", "1111111", nullptr, "06:00", "06:30", true},
     {"Morning show", "1111111", nullptr, "07:00", "08:00", true},
     // Inside the morning show on weekdays: it never gets its turn.
@@ -97,7 +97,7 @@ const ProgramSpec kPrograms[] = {
 };
 
 // Changes of the list while the recorder runs, as the program list makes them.
-struct EditSpec {
+struct EditEntry {
     const char* at;
     const char* program;
     int enabled; // -1 keeps it
@@ -106,7 +106,7 @@ struct EditSpec {
     const char* end;
 };
 
-const EditSpec kEdits[] = {
+const EditEntry kEdits[] = {
     {"2026-03-25 12:00", "Paused series", 0, nullptr, nullptr, nullptr},
     {"2026-03-26 12:00", "New series", 1, nullptr, nullptr, nullptr},
     {"2026-03-28 12:00", "Moved show", -1, nullptr, "17:10", "17:50"},
@@ -118,12 +118,12 @@ const EditSpec kEdits[] = {
 };
 
 // The user sets the clock by an hour; each day's two jumps cancel out.
-struct JumpSpec {
+struct JumpEntry {
     const char* at;
     int seconds;
 };
 
-const JumpSpec kJumps[] = {
+const JumpEntry kJumps[] = {
     {"2026-03-29 14:00", 3600},
     {"2026-03-29 20:00", -3600},
     {"2026-10-25 14:00", -3600},
@@ -294,17 +294,18 @@ Soak::Soak(const SoakOptions& options)
 
 void Soak::SetUpPrograms()
 {
-    for (const ProgramSpec& spec : kPrograms) {
+    for (const ProgramEntry& entry : kPrograms) {
         Program p;
-        p.name = spec.name;
+        p.name = entry.name;
         Version v;
-        v.enabled = spec.enabled;
-        v.days = spec.days ? QString(spec.days) : QString();
-        v.oneTimeDay = spec.oneTimeDay ? QDate::fromString(spec.oneTimeDay, Qt::ISODate) : QDate();
-        v.start = spec.start;
-        v.end = spec.end;
+        v.enabled = entry.enabled;
+        v.days = entry.days ? QString(entry.days) : QString();
+        v.oneTimeDay =
+            entry.oneTimeDay ? QDate::fromString(entry.oneTimeDay, Qt::ISODate) : QDate();
+        v.start = entry.start;
+        v.end = entry.end;
         p.versions.push_back(v);
-        for (const EditSpec& edit : kEdits) {
+        for (const EditEntry& edit : kEdits) {
             if (p.name != edit.program)
                 continue;
             Version next = p.versions.back();
@@ -358,9 +359,9 @@ std::vector<double> Soak::Boundaries() const
         b.push_back(o.start);
         b.push_back(o.end);
     }
-    for (const EditSpec& e : kEdits)
+    for (const EditEntry& e : kEdits)
         b.push_back(LocalAt(e.at));
-    for (const JumpSpec& j : kJumps) {
+    for (const JumpEntry& j : kJumps) {
         b.push_back(LocalAt(j.at));
         b.push_back(LocalAt(j.at) + j.seconds * kSecond);
     }
