@@ -11,12 +11,16 @@
 //                     that are no frame
 //   keepalive=N       answers every Nth keep-alive question (0: never; default 1)
 //   stop=MS           posts 1045 MS milliseconds after 1026 (default 0); "ignore" never
+//   write=BYTES       at 1025, writes BYTES zero bytes to the parameter file's output path
+//                     and logs "record PID DESCRIPTION", so that a recording has a file
 // Every start and every message received is appended to the file NIGHTREEL_FAKE_LOG as
 // "start PID" and "recv PID NUMBER"; the number of earlier starts picks the ready code.
+#include "taskcontract/RecParms.h"
 #include "taskcontract/TaskProtocol.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QLocalSocket>
 #include <QTimer>
@@ -56,6 +60,19 @@ void Leave()
     QCoreApplication::exit(0);
 }
 
+// The parameter file lies in the folder of the channel's socket, as the real task finds it.
+void WriteRecording(const QString& pid)
+{
+    const QString folder = QFileInfo(QCoreApplication::arguments().at(1)).path();
+    const std::optional<RecParms> parms = RecParms::Read(RecParms::PathIn(folder));
+    if (!parms)
+        return;
+    QFile out(parms->outputPath);
+    if (out.open(QIODevice::WriteOnly))
+        out.write(QByteArray(plan.value("write").toInt(), char(0)));
+    Log(QStringLiteral("record %1 %2").arg(pid, parms->description));
+}
+
 void OnFrame(const Frame& frame)
 {
     const QString pid = QString::number(QCoreApplication::applicationPid());
@@ -64,6 +81,8 @@ void OnFrame(const Frame& frame)
         qint32 result = 0;
         if (frame.number == REC_MSG_START)
             result = plan.value("start", "0").toInt();
+        if (frame.number == REC_MSG_START && plan.contains("write"))
+            WriteRecording(pid);
         Send(Kind::Reply, frame.number, result);
         if (frame.number == REC_MSG_START) {
             for (const QString& post : plan.value("afterstart").split(u'+', Qt::SkipEmptyParts)) {
