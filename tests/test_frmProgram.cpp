@@ -104,47 +104,50 @@ class TestFrmProgram : public QObject {
     Q_OBJECT
 
 private slots:
-    // The rules and their texts are the validator's; here each control reaches its check,
-    // and the dialog shows what the check says.
+    // The rules are the validator's; here each control reaches its check in the order of
+    // the checks, and the dialog shows the check's title and text.
     void theChecksOfOkRunInTheirOrder_data()
     {
         QTest::addColumn<QStringList>("edits");
         QTest::addColumn<bool>("bigFormat");
         QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("textStart");
+        QTest::addColumn<QString>("text");
+        const QString forbidden =
+            "cannot contain any of the following characters:\n\\ / : * ? \" < > | ";
         QTest::newRow("no day, before the missing description")
             << QStringList{"OptionOneTimeOrDaily(1)=1", "TextProgramDescription="} << false
             << "No days selected"
-            << "At least one day";
+            << "At least one day needs to be selected.";
         QTest::newRow("forbidden character in the user's name")
             << QStringList{"optUserFilename=1", "txtUserFilename=a:b"} << false
             << "Invalid Filename"
-            << "The filename cannot";
+            << "The filename " + forbidden;
         QTest::newRow("prefix") << QStringList{"chkPrefix=1", "txtPrefix=a*"} << false
                                 << "Invalid Filename Prefix"
-                                << "The filename prefix";
+                                << "The filename prefix " + forbidden;
         QTest::newRow("suffix") << QStringList{"chkSuffix=1", "txtSuffix=<x"} << false
                                 << "Invalid Filename Suffix"
-                                << "The filename suffix";
+                                << "The filename suffix " + forbidden;
         QTest::newRow("blank description")
             << QStringList{"TextProgramDescription=   "} << false << "Program description required"
-            << "Please enter";
+            << "Please enter a program description.";
         QTest::newRow("in the past")
             << QStringList{"dtpkrStartTime=11:00:00"} << false << "Invalid date and time"
-            << "The scheduled date";
+            << "The scheduled date and time must be later than the current time.";
         QTest::newRow("size, before the long recording")
             << QStringList{"dtpkrEndTime=12:30:00"} << true << "Recording Size Exceeded"
-            << "The recording exceeds 2 Gigabytes";
+            << "The recording exceeds 2 Gigabytes, which is the maximum size supported.  Please "
+               "shorten the recording time or the recording format frequency.";
         QTest::newRow("long recording, answered no")
             << QStringList{"dtpkrEndTime=17:00:01"} << false << "Long Recording Confirmation"
-            << "A recording longer than 3 hours";
+            << "A recording longer than 3 hours is programmed.  Save this programming? ";
     }
     void theChecksOfOkRunInTheirOrder()
     {
         QFETCH(QStringList, edits);
         QFETCH(bool, bigFormat);
         QFETCH(QString, title);
-        QFETCH(QString, textStart);
+        QFETCH(QString, text);
         Fixture f;
         if (bigFormat)
             f.tc.ctx->WfxDefault.SetToPcm(2, 44100, 16);
@@ -156,7 +159,7 @@ private slots:
         QCOMPARE(f.tc.messageBox.asked.size(), 1);
         const ScriptedMessageBox::Asked& box = f.tc.messageBox.asked.first();
         QCOMPARE(box.title, title);
-        QVERIFY2(box.text.startsWith(textStart), qPrintable(box.text));
+        QCOMPARE(box.text, text);
         if (title == "Long Recording Confirmation") {
             QCOMPARE(box.icon, MsgIcon::None);
             QCOMPARE(box.buttons, MsgButtons::YesNo);
