@@ -90,10 +90,16 @@ private slots:
 
     void cleanupTestCase() { m_pulse.reset(); }
 
-    // Saving and activating through the program is the profiles' test; here a profile whose
-    // default sink was unplugged since still restores the rest.
-    void savedMixerComesBackWithoutAnUnpluggedSink()
+    void savedMixerComesBackExactly_data()
     {
+        QTest::addColumn<bool>("secondSinkGone");
+        QTest::newRow("every device still there") << false;
+        QTest::newRow("the second sink unplugged since") << true;
+    }
+
+    void savedMixerComesBackExactly()
+    {
+        QFETCH(bool, secondSinkGone);
         LoadSecondSink();
         QVERIFY(Run({"set-source-volume", "recmic", "30%", "70%"}));
         QVERIFY(Run({"set-source-mute", "recmic", "1"}));
@@ -112,13 +118,14 @@ private slots:
         QVERIFY(Run({"set-sink-volume", "recsink", "100%"}));
         QVERIFY(Run({"set-default-sink", "recsink"}));
         QVERIFY(Run({"set-default-source", "recsink.monitor"}));
-        UnloadSecondSink();
+        if (secondSinkGone)
+            UnloadSecondSink();
 
         QCOMPARE(Load(profile), MIXSET_OK);
         QCOMPARE(VolumesOf("source", "recmic"), mic);
         QVERIFY(MutedOf("source", "recmic"));
         QCOMPARE(VolumesOf("sink", "recsink"), speakers);
-        QCOMPARE(DefaultOf("sink"), "recsink");
+        QCOMPARE(DefaultOf("sink"), secondSinkGone ? "recsink" : "second");
         QCOMPARE(DefaultOf("source"), "recmic");
     }
 
