@@ -2,7 +2,7 @@
 // real files: a captured recording converted and listed, the queue's order, and every way a
 // conversion ends: done, stopped by the user, stopped beside a live recording, stopped by
 // the disk guard, failed. Results are checked with `lame --decode` and `sox stat`.
-#include "PulseFixture.h"
+#include "LinkedRecording.h"
 #include "SoxTone.h"
 #include "TaskWaveSource.h"
 #include "TestContext.h"
@@ -26,7 +26,6 @@
 #include <memory>
 
 namespace {
-
 const QString kErrorConverting = QStringLiteral("Error Converting to MP3");
 
 struct Row {
@@ -37,29 +36,13 @@ struct Row {
     float size;
 };
 
-// The rough frequency and level of an MP3 stream, decoded by lame.
-bool Mp3ToneOf(const QByteArray& mp3, const QString& scratch, double& frequency, double& rms)
-{
-    return WriteFile(scratch + ".mp3", mp3) &&
-           QProcess::execute("lame", {"--quiet", "--decode", scratch + ".mp3", scratch + ".wav"}) ==
-               0 &&
-           ToneOf(scratch + ".wav", rms, frequency);
-}
-
 // The program's recorder over a fresh context, with the real task and encoder library.
-class Fixture {
+class Fixture : public LinkedRecording {
 public:
     Fixture()
     {
-        tc.OpenDatabase();
-        folder = tc.Root() + "/recordings";
-        QDir().mkpath(folder);
-        ctx().options.DefaultRecordingDirectory = folder;
-        ctx().appStatus.SetReady(true);
         tc.diskSpace.freeMb = 100000.0;
-        const QString build = QCoreApplication::applicationDirPath() + "/../src";
-        recorder().Link().SetTaskProgram(build + "/nightreel-rec");
-        queue().Encoder().SetFolder(build);
+        queue().Encoder().SetFolder(QCoreApplication::applicationDirPath() + "/../src");
     }
 
     ~Fixture() { recorder().Stop(); }
@@ -126,12 +109,9 @@ public:
     QStringList Logged(const QString& message) const
     {
         QStringList details;
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        q.prepare("SELECT Details FROM EventLog WHERE Message = ? ORDER BY ID");
-        q.addBindValue(message);
-        q.exec();
-        while (q.next())
-            details << q.value(0).toString();
+        for (const LogEntry& e : tc.LogEntries())
+            if (e.message == message)
+                details << e.details;
         return details;
     }
 
@@ -152,14 +132,11 @@ public:
 
     void VerifyTone(const QByteArray& mp3)
     {
-        double frequency = 0, rms = 0;
-        QVERIFY(Mp3ToneOf(mp3, tc.Root() + "/decoded", frequency, rms));
-        QVERIFY2(qAbs(frequency - 1000) < 50, qPrintable(QString::number(frequency)));
-        QVERIFY2(rms > 0.2, qPrintable(QString::number(rms)));
+        const Mp3Tone t = DecodeMp3(mp3, tc.Root() + "/decoded");
+        QVERIFY(t.ok);
+        QVERIFY2(qAbs(t.frequency - 1000) < 50, qPrintable(QString::number(t.frequency)));
+        QVERIFY2(t.rms > 0.2, qPrintable(QString::number(t.rms)));
     }
-
-    TestContext tc;
-    QString folder;
 };
 
 } // namespace
@@ -167,341 +144,323 @@ public:
 class TestConversion : public QObject {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void recordingIsConvertedAndListedWhenDone_data();
-    void recordingIsConvertedAndListedWhenDone();
-    void queueConvertsInOrderWhileTheHeartbeatTicks();
-    void stopSavesTheRunningAndDropsTheWaiting_data();
-    void stopSavesTheRunningAndDropsTheWaiting();
-    void failedConversionDeletesItsFilesAndTheQueueGoesOn_data();
-    void failedConversionDeletesItsFilesAndTheQueueGoesOn();
-    void diskGuardSavesThePartialConversion();
-    void diskGuardCountsTheMp3OfARecordingToConvert();
-
 private:
     std::unique_ptr<PulseFixture> m_pulse;
-};
 
-void TestConversion::initTestCase()
-{
-    const QString build = QCoreApplication::applicationDirPath() + "/../src";
-    if (!QFile::exists(build + "/nightreel-rec") || !QFile::exists(build + "/libnightreelenc.so"))
-        QSKIP("the recording task or the encoder library is not built");
-    if (QStandardPaths::findExecutable("sox").isEmpty() ||
-        QStandardPaths::findExecutable("lame").isEmpty())
-        QSKIP("needs sox and lame");
-    m_pulse = std::make_unique<PulseFixture>();
-    if (!m_pulse->Running())
-        QSKIP("no PulseAudio server could be started");
-    QVERIFY(m_pulse->PlayTone());
-}
-
-void TestConversion::recordingIsConvertedAndListedWhenDone_data()
-{
-    QTest::addColumn<bool>("mp3Extension");
-    QTest::newRow("MP3 file with its tag") << true;
-    QTest::newRow("wave file holding MP3") << false;
-}
-
-// A manual recording to convert is captured as PCM, queued, converted and only then
-// listed; the capture is gone, and the result holds the tone.
-void TestConversion::recordingIsConvertedAndListedWhenDone()
-{
-    QFETCH(bool, mp3Extension);
-    Fixture f;
-    const QString description = "An evening concert from the old town hall";
-    RecordingControl& control = f.recorder().Control();
-    f.SetMp3(control.ManualFormat, mp3Extension);
-    const double from = f.tc.clock.Now();
-    control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), description);
-    QVERIFY(f.ctx().appStatus.Recording());
-    QTest::qWait(2500);
-    control.HandleStopRecordingRequest(false);
-    QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
-    QCOMPARE(f.queue().Mp3ConvertQueue.size(), 1);
-    const auto request = f.queue().Mp3ConvertQueue.first();
-    const QList<RiffChunk> capture = DirectChunks(ReadFile(request->SourceFile));
-    quint32 sourceFrames = 0;
-    for (const RiffChunk& c : capture)
-        if (c.id == "data")
-            sourceFrames = quint32(c.data.size() / 4);
-    QVERIFY(sourceFrames > 44100);
-
-    // Not listed while it is written, not even when the folder is added.
-    int rowsWhileConverting = -1;
-    RecordingsList& list = f.ctx().recordingsList;
-    QObject::connect(&f.ctx().appStatus, &clsAppStatus::Update, [&] {
-        if (f.ctx().appStatus.Converting() && rowsWhileConverting < 0) {
-            list.AddFolderToRecordingsList(f.folder);
-            rowsWhileConverting = int(f.Recordings().size());
-        }
-    });
-    f.recorder().Start();
-    QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && !f.Recordings().isEmpty(), 30000);
-    QCOMPARE(rowsWhileConverting, 0);
-
-    QCOMPARE(f.Captures(), QStringList());
-    const QList<Row> rows = f.Recordings();
-    QCOMPARE(rows.size(), 1);
-    QCOMPARE(rows[0].file, request->DestinationFile);
-    QCOMPARE(rows[0].title, description);
-    f.VerifyRowLength(rows[0]);
-    QCOMPARE(f.queue().CurrentConvertRequest->PercentComplete, qint16(100));
-
-    const QByteArray bytes = ReadFile(request->DestinationFile);
-    if (mp3Extension) {
-        QVERIFY(request->DestinationFile.endsWith(".MP3"));
-        const QByteArray tag = bytes.right(128);
-        QCOMPARE(tag.left(3), QByteArray("TAG"));
-        QCOMPARE(tag.mid(3, 30), description.left(30).toLatin1());
-        QCOMPARE(tag.mid(97, 30).left(24), QByteArray("Nightreel 2000 Recording"));
-        QCOMPARE(int(quint8(tag[127])), 12);
-        f.VerifyTone(bytes.chopped(128));
-    } else {
-        QVERIFY(request->DestinationFile.endsWith(".WAV"));
-        QCOMPARE(bytes.left(4), QByteArray("RIFF"));
-        QCOMPARE(bytes.mid(8, 4), QByteArray("WAVE"));
-        const QList<RiffChunk> chunks = DirectChunks(bytes);
-        QStringList ids;
-        for (const RiffChunk& c : chunks)
-            ids << QString::fromLatin1(c.id);
-        QCOMPARE(ids, QStringList({"ISFT", "INAM", "fmt ", "fact", "data"}));
-        QVERIFY(chunks[0].data.startsWith("Nightreel 2000 "));
-        QCOMPARE(chunks[1].data, description.toUtf8() + '\0');
-        QCOMPARE(chunks[2].data, f.recorder().Control().ManualFormat.Record());
-        QCOMPARE(qFromLittleEndian<quint32>(chunks[3].data.constData()), sourceFrames);
-        f.VerifyTone(chunks[4].data);
+private slots:
+    void initTestCase()
+    {
+        if (!QFile::exists(QCoreApplication::applicationDirPath() + "/../src/libnightreelenc.so"))
+            QSKIP("the encoder library is not built");
+        if (QStandardPaths::findExecutable("sox").isEmpty() ||
+            QStandardPaths::findExecutable("lame").isEmpty())
+            QSKIP("needs sox and lame");
+        const QString missing = LinkedRecording::StartSound(m_pulse);
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(missing));
     }
-}
 
-// Two recordings ending close together are converted one after the other, in order, while
-// the heartbeat keeps its pace and the status panel shows the progress.
-void TestConversion::queueConvertsInOrderWhileTheHeartbeatTicks()
-{
-    Fixture f;
-    const auto first = f.Queue("First", 60, "/usr/bin/after %p");
-    const auto second = f.Queue("Second", 60, "/usr/bin/after %p");
-    QVERIFY(first && second);
+    void recordingIsConvertedAndListedWhenDone_data()
+    {
+        QTest::addColumn<bool>("mp3Extension");
+        QTest::newRow("MP3 file with its tag") << true;
+        QTest::newRow("wave file holding MP3") << false;
+    }
 
-    QElapsedTimer sinceTick;
-    qint64 longestGap = 0;
-    int ticksWhileConverting = 0;
-    QObject::connect(&f.recorder().HeartbeatTimer(), &Heartbeat::UpdateStatusBarPlus, [&] {
-        if (f.ctx().appStatus.Converting()) {
-            ++ticksWhileConverting;
-            if (sinceTick.isValid())
-                longestGap = std::max(longestGap, sinceTick.elapsed());
+    // A manual recording to convert is captured as PCM, queued, converted and only then
+    // listed; the capture is gone, and the result holds the tone.
+    void recordingIsConvertedAndListedWhenDone()
+    {
+        QFETCH(bool, mp3Extension);
+        Fixture f;
+        const QString description = "An evening concert from the old town hall";
+        RecordingControl& control = f.recorder().Control();
+        f.SetMp3(control.ManualFormat, mp3Extension);
+        const double from = f.tc.clock.Now();
+        control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), description);
+        QVERIFY(f.ctx().appStatus.Recording());
+        QTest::qWait(2500);
+        control.HandleStopRecordingRequest(false);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
+        QCOMPARE(f.queue().Mp3ConvertQueue.size(), 1);
+        const auto request = f.queue().Mp3ConvertQueue.first();
+        const QList<RiffChunk> capture = DirectChunks(ReadFile(request->SourceFile));
+        quint32 sourceFrames = 0;
+        for (const RiffChunk& c : capture)
+            if (c.id == "data")
+                sourceFrames = quint32(c.data.size() / 4);
+        QVERIFY(sourceFrames > 44100);
+
+        // Not listed while it is written, not even when the folder is added.
+        int rowsWhileConverting = -1;
+        RecordingsList& list = f.ctx().recordingsList;
+        QObject::connect(&f.ctx().appStatus, &clsAppStatus::Update, [&] {
+            if (f.ctx().appStatus.Converting() && rowsWhileConverting < 0) {
+                list.AddFolderToRecordingsList(f.folder);
+                rowsWhileConverting = int(f.Recordings().size());
+            }
+        });
+        f.recorder().Start();
+        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && !f.Recordings().isEmpty(), 30000);
+        QCOMPARE(rowsWhileConverting, 0);
+
+        QCOMPARE(f.Captures(), QStringList());
+        const QList<Row> rows = f.Recordings();
+        QCOMPARE(rows.size(), 1);
+        QCOMPARE(rows[0].file, request->DestinationFile);
+        QCOMPARE(rows[0].title, description);
+        f.VerifyRowLength(rows[0]);
+        QCOMPARE(f.queue().CurrentConvertRequest->PercentComplete, qint16(100));
+
+        const QByteArray bytes = ReadFile(request->DestinationFile);
+        if (mp3Extension) {
+            QVERIFY(request->DestinationFile.endsWith(".MP3"));
+            const QByteArray tag = bytes.right(128);
+            QCOMPARE(tag.left(3), QByteArray("TAG"));
+            QCOMPARE(tag.mid(3, 30), description.left(30).toLatin1());
+            QCOMPARE(tag.mid(97, 30).left(24), QByteArray("Nightreel 2000 Recording"));
+            QCOMPARE(int(quint8(tag[127])), 12);
+            f.VerifyTone(bytes.chopped(128));
+        } else {
+            // The layout itself is the encoder's test; here what the recording puts in it.
+            QVERIFY(request->DestinationFile.endsWith(".WAV"));
+            const QList<RiffChunk> chunks = DirectChunks(bytes);
+            QCOMPARE(chunks.size(), 5);
+            QCOMPARE(chunks[1].data, description.toUtf8() + '\0');
+            QCOMPARE(chunks[2].data, f.recorder().Control().ManualFormat.Record());
+            QCOMPARE(qFromLittleEndian<quint32>(chunks[3].data.constData()), sourceFrames);
+            f.VerifyTone(chunks[4].data);
         }
-        sinceTick.start();
-    });
-    QStringList panelTexts;
-    QObject::connect(&f.recorder(), &Recorder::StatusBarUpdated,
-                     [&](const StatusBarPlus::Update& u) {
-                         if (f.ctx().appStatus.Converting())
-                             panelTexts << u.modeText;
-                     });
+    }
 
-    f.recorder().Start();
-    QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 60000);
-    const QList<Row> rows = f.Recordings();
-    QCOMPARE(rows[0].title, QString("First"));
-    QCOMPARE(rows[1].title, QString("Second"));
-    QCOMPARE(f.tc.launcher.started, QStringList({"/usr/bin/after " + first->DestinationFile,
-                                                 "/usr/bin/after " + second->DestinationFile}));
-    QCOMPARE(f.Captures(), QStringList());
+    // Two recordings ending close together are converted one after the other, in order, while
+    // the heartbeat keeps its pace and the status panel shows the progress.
+    void queueConvertsInOrderWhileTheHeartbeatTicks()
+    {
+        Fixture f;
+        const auto first = f.Queue("First", 60, "/usr/bin/after %p");
+        const auto second = f.Queue("Second", 60, "/usr/bin/after %p");
+        QVERIFY(first && second);
 
-    QVERIFY2(ticksWhileConverting >= 3, "the conversion lasts several heartbeat ticks");
-    // The heartbeat's 250 ms, and at most 100 ms late.
-    QVERIFY2(longestGap <= Heartbeat::TickInterval + 100, qPrintable(QString::number(longestGap)));
-    QVERIFY(!panelTexts.isEmpty());
-    for (const QString& text : panelTexts)
-        QVERIFY2(QRegularExpression("^CONVERTING TO MP3  [0-9]{1,3}%$").match(text).hasMatch(),
-                 qPrintable(text));
-}
+        QElapsedTimer sinceTick;
+        qint64 longestGap = 0;
+        int ticksWhileConverting = 0;
+        QObject::connect(&f.recorder().HeartbeatTimer(), &Heartbeat::UpdateStatusBarPlus, [&] {
+            if (f.ctx().appStatus.Converting()) {
+                ++ticksWhileConverting;
+                if (sinceTick.isValid())
+                    longestGap = std::max(longestGap, sinceTick.elapsed());
+            }
+            sinceTick.start();
+        });
+        QStringList panelTexts;
+        QObject::connect(&f.recorder(), &Recorder::StatusBarUpdated,
+                         [&](const StatusBarPlus::Update& u) {
+                             if (f.ctx().appStatus.Converting())
+                                 panelTexts << u.modeText;
+                         });
 
-void TestConversion::stopSavesTheRunningAndDropsTheWaiting_data()
-{
-    QTest::addColumn<bool>("whileRecording");
-    QTest::newRow("by the user") << false;
-    QTest::newRow("beside a live recording") << true;
-}
+        f.recorder().Start();
+        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 60000);
+        const QList<Row> rows = f.Recordings();
+        QCOMPARE(rows[0].title, QString("First"));
+        QCOMPARE(rows[1].title, QString("Second"));
+        QCOMPARE(f.tc.launcher.started, QStringList({"/usr/bin/after " + first->DestinationFile,
+                                                     "/usr/bin/after " + second->DestinationFile}));
+        QCOMPARE(f.Captures(), QStringList());
 
-// A stop with three waiting: the running MP3 is kept and listed with the length its size
-// gives, the waiting captures are deleted but no file a recording task has open, the queue
-// is empty, and only the running request's launch runs.
-void TestConversion::stopSavesTheRunningAndDropsTheWaiting()
-{
-    QFETCH(bool, whileRecording);
-    Fixture f;
-    QList<std::shared_ptr<clsConvertToMP3Request>> requests;
-    for (const QString name : {"One", "Two", "Three", "Four"})
-        requests << f.Queue(name, 30, "/usr/bin/after-" + name);
-    QVERIFY(!requests.contains(nullptr));
+        QVERIFY2(ticksWhileConverting >= 3, "the conversion lasts several heartbeat ticks");
+        // The heartbeat's 250 ms, and at most 100 ms late.
+        QVERIFY2(longestGap <= Heartbeat::TickInterval + 100,
+                 qPrintable(QString::number(longestGap)));
+        QVERIFY(!panelTexts.isEmpty());
+        for (const QString& text : panelTexts)
+            QVERIFY2(QRegularExpression("^CONVERTING TO MP3  [0-9]{1,3}%$").match(text).hasMatch(),
+                     qPrintable(text));
+    }
 
-    // A capture that another process (another instance's task) holds open.
-    const QString held = f.folder + "/held.WAV.TMP";
-    QFile(held).open(QIODevice::WriteOnly);
-    QProcess holder;
-    holder.start("sh", {"-c", "exec 3<\"$0\"; echo ready; exec sleep 60", held});
-    QVERIFY(holder.waitForReadyRead(5000));
-    const auto endHolder = qScopeGuard([&] {
-        holder.kill();
-        holder.waitForFinished();
-    });
+    void stopSavesTheRunningAndDropsTheWaiting_data()
+    {
+        QTest::addColumn<bool>("whileRecording");
+        QTest::newRow("by the user") << false;
+        QTest::newRow("beside a live recording") << true;
+    }
 
-    QString live;
-    if (whileRecording) {
+    // A stop with three waiting: the running MP3 is kept and listed with the length its size
+    // gives, the waiting captures are deleted but no file a recording task has open, the queue
+    // is empty, and only the running request's launch runs.
+    void stopSavesTheRunningAndDropsTheWaiting()
+    {
+        QFETCH(bool, whileRecording);
+        Fixture f;
+        QList<std::shared_ptr<clsConvertToMP3Request>> requests;
+        for (const QString name : {"One", "Two", "Three", "Four"})
+            requests << f.Queue(name, 30, "/usr/bin/after-" + name);
+        QVERIFY(!requests.contains(nullptr));
+
+        // A capture that another process (another instance's task) holds open.
+        const QString held = f.folder + "/held.WAV.TMP";
+        QFile(held).open(QIODevice::WriteOnly);
+        QProcess holder;
+        holder.start("sh", {"-c", "exec 3<\"$0\"; echo ready; exec sleep 60", held});
+        QVERIFY(holder.waitForReadyRead(5000));
+        const auto endHolder = qScopeGuard([&] {
+            holder.kill();
+            holder.waitForFinished();
+        });
+
+        QString live;
+        if (whileRecording) {
+            RecordingControl& control = f.recorder().Control();
+            f.SetMp3(control.ManualFormat, true);
+            f.tc.clock.AdvanceSeconds(60);
+            const double from = f.tc.clock.Now();
+            control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Live");
+            QVERIFY(f.ctx().appStatus.Recording());
+            live = f.recorder().Status().RecordingFile;
+            QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(live).size() > 44, 5000);
+        }
+
+        QVERIFY(f.ConvertSome(3));
+        if (whileRecording) {
+            // The user's stop reaches the recording first; the disk guard sets the same flag.
+            f.queue().StopMp3Conversion = true;
+        } else {
+            f.tc.messageBox.answers = {MsgResult::Yes};
+            f.recorder().StopCommand(true);
+            QCOMPARE(f.tc.messageBox.asked.size(), 1);
+            QVERIFY(f.tc.messageBox.asked[0].text.contains("abort the remaining MP3 conversions"));
+        }
+        f.queue().TimerConvert_Timer();
+
+        QVERIFY(f.Idle());
+        const QList<Row> rows = f.Recordings();
+        QCOMPARE(rows.size(), 1);
+        QCOMPARE(rows[0].file, requests[0]->DestinationFile);
+        f.VerifyRowLength(rows[0]);
+        const QByteArray mp3 = ReadFile(rows[0].file);
+        // Partial: 30 s at 128 kbit/s would be 480,000 bytes.
+        QVERIFY2(mp3.size() > 10000 && mp3.size() < 400000,
+                 qPrintable(QString::number(mp3.size())));
+        f.VerifyTone(mp3.chopped(128));
+        QCOMPARE(f.tc.launcher.started, QStringList{"/usr/bin/after-One"});
+        QStringList kept = {"held.WAV.TMP"};
+        if (whileRecording)
+            kept << QFileInfo(live).fileName();
+        kept.sort();
+        QCOMPARE(f.Captures(), kept);
+        for (int i = 1; i < 4; ++i)
+            QVERIFY(!QFile::exists(requests[i]->DestinationFile));
+
+        if (whileRecording) {
+            // A second instance's start-up clean-up leaves the live capture alone too.
+            const QString stale = f.folder + "/stale.MP3.TMP";
+            QFile(stale).open(QIODevice::WriteOnly);
+            TestContext second;
+            second.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", f.folder);
+            MainFormController(*second.ctx).CheckDefaultRecordingDirectory([](const QString&) {
+                return QString();
+            });
+            QVERIFY(!QFile::exists(stale));
+            QCOMPARE(f.Captures(), kept);
+
+            // The live recording, once ended, is converted: the stop held only what was queued.
+            f.recorder().StopCommand(false);
+            QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
+            f.recorder().Start();
+            QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 30000);
+            QCOMPARE(f.Recordings()[1].title, QString("Live"));
+        }
+    }
+
+    void failedConversionDeletesItsFilesAndTheQueueGoesOn_data()
+    {
+        QTest::addColumn<bool>("diskFull");
+        QTest::newRow("destination can't be created") << false;
+        QTest::newRow("disk full while converting") << true;
+    }
+
+    // A failure is logged once with its code and the recording's description, both files go,
+    // the launch runs as for a failed recording, and the next request still converts.
+    void failedConversionDeletesItsFilesAndTheQueueGoesOn()
+    {
+        QFETCH(bool, diskFull);
+        Fixture f;
+        QString destination = f.folder + "/no-such-folder/Lost.MP3";
+        int expectedCode = 2003;
+        const QString small = f.tc.Root() + "/small";
+        bool mounted = false;
+        const auto unmount = qScopeGuard([&] {
+            if (mounted)
+                QProcess::execute("umount", {"-l", small});
+        });
+        if (diskFull) {
+            QDir().mkpath(small);
+            mounted =
+                QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=64k", "tmpfs", small}) == 0;
+            if (!mounted)
+                QSKIP("no small file system can be mounted here (needs root)");
+            destination = small + "/Lost.MP3";
+            expectedCode = 2006;
+        }
+        const auto lost = f.Queue("Lost", 20, "/usr/bin/after %p", destination);
+        const auto next = f.Queue("Next", 5);
+        QVERIFY(lost && next);
+
+        f.recorder().Start();
+        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 1, 30000);
+        QCOMPARE(f.Logged(kErrorConverting),
+                 QStringList{QString("Error Code: %1\r\nDescription: Lost").arg(expectedCode)});
+        QVERIFY(!QFile::exists(lost->SourceFile));
+        QVERIFY(!QFile::exists(destination));
+        QCOMPARE(f.tc.launcher.started, QStringList{"/usr/bin/after " + destination});
+        QCOMPARE(f.Recordings()[0].title, QString("Next"));
+        QCOMPARE(f.Captures(), QStringList());
+    }
+
+    // The disk guard stops a conversion on a nearly full disk: the partial MP3 is kept and
+    // listed.
+    void diskGuardSavesThePartialConversion()
+    {
+        Fixture f;
+        const auto request = f.Queue("Guarded", 60);
+        QVERIFY(request);
+        QVERIFY(f.ConvertSome(3));
+        f.tc.diskSpace.freeMb = 0.0;
+        f.recorder().UpdateStatusBarPlus();
+        QVERIFY(f.queue().StopMp3Conversion);
+        f.queue().TimerConvert_Timer();
+
+        QVERIFY(f.Idle());
+        QCOMPARE(f.Logged("MP3 conversion stopped due to insufficient disk space.").size(), 1);
+        const QList<Row> rows = f.Recordings();
+        // What is kept of a stopped conversion is checked with the user's stop.
+        QCOMPARE(rows.size(), 1);
+        QVERIFY(QFileInfo(request->DestinationFile).size() < 60 * 16000);
+        QCOMPARE(f.Captures(), QStringList());
+    }
+
+    // While a recording to convert runs, the guard also counts the MP3 it will need: a disk that
+    // still holds the stop limit, but not with that share, stops the recording.
+    void diskGuardCountsTheMp3OfARecordingToConvert()
+    {
+        Fixture f;
         RecordingControl& control = f.recorder().Control();
         f.SetMp3(control.ManualFormat, true);
-        f.tc.clock.AdvanceSeconds(60);
         const double from = f.tc.clock.Now();
-        control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Live");
+        control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Tight");
         QVERIFY(f.ctx().appStatus.Recording());
-        live = f.recorder().Status().RecordingFile;
-        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(live).size() > 44, 5000);
-    }
-
-    QVERIFY(f.ConvertSome(3));
-    if (whileRecording) {
-        // The user's stop reaches the recording first; the disk guard sets the same flag.
-        f.queue().StopMp3Conversion = true;
-    } else {
-        f.tc.messageBox.answers = {MsgResult::Yes};
-        f.recorder().StopCommand(true);
-        QCOMPARE(f.tc.messageBox.asked.size(), 1);
-        QVERIFY(f.tc.messageBox.asked[0].text.contains("abort the remaining MP3 conversions"));
-    }
-    f.queue().TimerConvert_Timer();
-
-    QVERIFY(f.Idle());
-    const QList<Row> rows = f.Recordings();
-    QCOMPARE(rows.size(), 1);
-    QCOMPARE(rows[0].file, requests[0]->DestinationFile);
-    f.VerifyRowLength(rows[0]);
-    const QByteArray mp3 = ReadFile(rows[0].file);
-    // Partial: 30 s at 128 kbit/s would be 480,000 bytes.
-    QVERIFY2(mp3.size() > 10000 && mp3.size() < 400000, qPrintable(QString::number(mp3.size())));
-    f.VerifyTone(mp3.chopped(128));
-    QCOMPARE(f.tc.launcher.started, QStringList{"/usr/bin/after-One"});
-    QStringList kept = {"held.WAV.TMP"};
-    if (whileRecording)
-        kept << QFileInfo(live).fileName();
-    kept.sort();
-    QCOMPARE(f.Captures(), kept);
-    for (int i = 1; i < 4; ++i)
-        QVERIFY(!QFile::exists(requests[i]->DestinationFile));
-
-    if (whileRecording) {
-        // A second instance's start-up clean-up leaves the live capture alone too.
-        const QString stale = f.folder + "/stale.MP3.TMP";
-        QFile(stale).open(QIODevice::WriteOnly);
-        TestContext second;
-        second.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", f.folder);
-        MainFormController(*second.ctx).CheckDefaultRecordingDirectory([](const QString&) {
-            return QString();
-        });
-        QVERIFY(!QFile::exists(stale));
-        QCOMPARE(f.Captures(), kept);
-
-        // The live recording, once ended, is converted: the stop held only what was queued.
-        f.recorder().StopCommand(false);
+        // Half a megabyte of MP3 is due at the start: above the limit by less than that.
+        f.tc.diskSpace.freeMb = f.ctx().options.StopRecMegsLeft + 0.2;
+        f.recorder().UpdateStatusBarPlus();
         QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
-        f.recorder().Start();
-        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 30000);
-        QCOMPARE(f.Recordings()[1].title, QString("Live"));
+        const QStringList logged = f.Logged("Recording stopped due to insufficient disk space.");
+        QCOMPARE(logged.size(), 1);
+        QVERIFY(logged[0].startsWith("Recording Description: Tight\r\n"));
+        QVERIFY(logged[0].contains("Note: MP3 conversion also requires temporary storage"));
+        QVERIFY(!f.ctx().error.DiskLowStopRecording());
     }
-}
-
-void TestConversion::failedConversionDeletesItsFilesAndTheQueueGoesOn_data()
-{
-    QTest::addColumn<bool>("diskFull");
-    QTest::newRow("destination can't be created") << false;
-    QTest::newRow("disk full while converting") << true;
-}
-
-// A failure is logged once with its code and the recording's description, both files go,
-// the launch runs as for a failed recording, and the next request still converts.
-void TestConversion::failedConversionDeletesItsFilesAndTheQueueGoesOn()
-{
-    QFETCH(bool, diskFull);
-    Fixture f;
-    QString destination = f.folder + "/no-such-folder/Lost.MP3";
-    int expectedCode = 2003;
-    const QString small = f.tc.Root() + "/small";
-    bool mounted = false;
-    const auto unmount = qScopeGuard([&] {
-        if (mounted)
-            QProcess::execute("umount", {"-l", small});
-    });
-    if (diskFull) {
-        QDir().mkpath(small);
-        mounted =
-            QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=64k", "tmpfs", small}) == 0;
-        if (!mounted)
-            QSKIP("no small file system can be mounted here (needs root)");
-        destination = small + "/Lost.MP3";
-        expectedCode = 2006;
-    }
-    const auto lost = f.Queue("Lost", 20, "/usr/bin/after %p", destination);
-    const auto next = f.Queue("Next", 5);
-    QVERIFY(lost && next);
-
-    f.recorder().Start();
-    QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 1, 30000);
-    QCOMPARE(f.Logged(kErrorConverting),
-             QStringList{QString("Error Code: %1\r\nDescription: Lost").arg(expectedCode)});
-    QVERIFY(!QFile::exists(lost->SourceFile));
-    QVERIFY(!QFile::exists(destination));
-    QCOMPARE(f.tc.launcher.started, QStringList{"/usr/bin/after " + destination});
-    QCOMPARE(f.Recordings()[0].title, QString("Next"));
-    QCOMPARE(f.Captures(), QStringList());
-}
-
-// The disk guard stops a conversion on a nearly full disk: the partial MP3 is kept and
-// listed, playable, with the length its size gives.
-void TestConversion::diskGuardSavesThePartialConversion()
-{
-    Fixture f;
-    const auto request = f.Queue("Guarded", 60);
-    QVERIFY(request);
-    QVERIFY(f.ConvertSome(3));
-    f.tc.diskSpace.freeMb = 0.0;
-    f.recorder().UpdateStatusBarPlus();
-    QVERIFY(f.queue().StopMp3Conversion);
-    f.queue().TimerConvert_Timer();
-
-    QVERIFY(f.Idle());
-    QCOMPARE(f.Logged("MP3 conversion stopped due to insufficient disk space.").size(), 1);
-    const QList<Row> rows = f.Recordings();
-    QCOMPARE(rows.size(), 1);
-    f.VerifyRowLength(rows[0]);
-    const QByteArray mp3 = ReadFile(request->DestinationFile);
-    QVERIFY(mp3.size() < 60 * 16000);
-    f.VerifyTone(mp3.chopped(128));
-    QCOMPARE(f.Captures(), QStringList());
-}
-
-// While a recording to convert runs, the guard also counts the MP3 it will need: a disk that
-// still holds the stop limit, but not with that share, stops the recording.
-void TestConversion::diskGuardCountsTheMp3OfARecordingToConvert()
-{
-    Fixture f;
-    RecordingControl& control = f.recorder().Control();
-    f.SetMp3(control.ManualFormat, true);
-    const double from = f.tc.clock.Now();
-    control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Tight");
-    QVERIFY(f.ctx().appStatus.Recording());
-    // Half a megabyte of MP3 is due at the start: above the limit by less than that.
-    f.tc.diskSpace.freeMb = f.ctx().options.StopRecMegsLeft + 0.2;
-    f.recorder().UpdateStatusBarPlus();
-    QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
-    const QStringList logged = f.Logged("Recording stopped due to insufficient disk space.");
-    QCOMPARE(logged.size(), 1);
-    QVERIFY(logged[0].startsWith("Recording Description: Tight\r\n"));
-    QVERIFY(logged[0].contains("Note: MP3 conversion also requires temporary storage"));
-    QVERIFY(!f.ctx().error.DiskLowStopRecording());
-}
+};
 
 QTEST_GUILESS_MAIN(TestConversion)
 #include "test_conversion.moc"

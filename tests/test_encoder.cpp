@@ -9,11 +9,9 @@
 #include "recording/EncoderLibrary.h"
 
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -28,20 +26,12 @@ struct Run {
     int finishedSets = 0; // calls that set finished
     int lastPercent = -1;
     bool percentRises = true;
-    double maxStepMs = 0;
 };
 
 struct Texts {
     QByteArray software = "Nightreel 2000 1.0 ";
     QByteArray date = "6/1/2026 8:00:00 PM ";
     QByteArray title = "Morning  show  "; // with the blank the scheduler adds: "Morning  show "
-};
-
-struct Stat {
-    bool ok = false;
-    double frequency = 0;
-    double rms = 0;
-    double seconds = 0;
 };
 
 struct Frames {
@@ -58,21 +48,20 @@ Frames WalkFrames(const QByteArray& bytes, qint64 begin, qint64 end)
 {
     static const int rates1[] = {44100, 48000, 32000};
     static const int rates2[] = {22050, 24000, 16000};
-    static const int rates25[] = {11025, 12000, 8000};
     static const int kbps1[] = {0, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320};
     static const int kbps2[] = {0, 8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160};
     Frames f;
     qint64 pos = begin;
     while (pos + 4 <= end) {
         const auto* h = reinterpret_cast<const uchar*>(bytes.constData() + pos);
-        const int version = (h[1] >> 3) & 3; // 3 MPEG 1, 2 MPEG 2, 0 MPEG 2.5
+        const int version = (h[1] >> 3) & 3; // 3 MPEG 1, 2 MPEG 2 (the rates we use)
         const int layer = (h[1] >> 1) & 3;   // 1 layer III
         const int rateIndex = (h[2] >> 2) & 3;
         const int kbpsIndex = h[2] >> 4;
-        if (h[0] != 0xff || (h[1] & 0xe0) != 0xe0 || version == 1 || layer != 1 || rateIndex == 3 ||
+        if (h[0] != 0xff || (h[1] & 0xe0) != 0xe0 || version < 2 || layer != 1 || rateIndex == 3 ||
             kbpsIndex == 0 || kbpsIndex == 15)
             return f;
-        const int rate = (version == 3 ? rates1 : version == 2 ? rates2 : rates25)[rateIndex];
+        const int rate = (version == 3 ? rates1 : rates2)[rateIndex];
         const int kbps = (version == 3 ? kbps1 : kbps2)[kbpsIndex];
         const int length = (version == 3 ? 144000 : 72000) * kbps / rate + ((h[2] >> 1) & 1);
         if (f.count == 0) {
@@ -91,13 +80,6 @@ Frames WalkFrames(const QByteArray& bytes, qint64 begin, qint64 end)
     f.end = pos;
     f.ok = pos == end && f.count > 0;
     return f;
-}
-
-double StatValue(const QByteArray& text, const char* name)
-{
-    const QRegularExpression re(QString::fromLatin1(name) + QStringLiteral(R"(:\s*(-?[0-9.]+))"));
-    const QRegularExpressionMatch m = re.match(QString::fromLatin1(text));
-    return m.hasMatch() ? m.captured(1).toDouble() : -1;
 }
 
 // The records as the program's catalogue and the task lay them out.
@@ -151,10 +133,7 @@ class TestEncoder : public QObject {
             }
             qint32 percent = -1;
             qint32 finishedNow = 0;
-            QElapsedTimer timer;
-            timer.start();
             run.code = m_enc.EncodeNextBuffer(&percent, &finishedNow);
-            run.maxStepMs = std::max(run.maxStepMs, timer.nsecsElapsed() / 1e6);
             ++run.steps;
             if (run.code != 0)
                 return run;
@@ -172,33 +151,9 @@ class TestEncoder : public QObject {
         return run;
     }
 
-    // Decodes an MP3 stream with lame and measures it with sox.
-    Stat Decode(const QByteArray& mp3, const QString& name)
-    {
-        Stat s;
-        const QString in = Path(name + QStringLiteral(".decode.mp3"));
-        const QString out = Path(name + QStringLiteral(".decoded.wav"));
-        if (!WriteFile(in, mp3))
-            return s;
-        bool ok = false;
-        RunProgram(QStringLiteral("lame"), {"--quiet", "--decode", in, out}, &ok);
-        if (!ok)
-            return s;
-        QByteArray text;
-        RunProgram(QStringLiteral("sox"), {out, "-n", "remix", "-", "stat"}, &ok, &text);
-        if (!ok)
-            return s;
-        s.frequency = StatValue(text, "Rough   frequency");
-        s.rms = StatValue(text, "RMS     amplitude");
-        s.seconds = StatValue(text, R"(Length \(seconds\))");
-        // Silence has no frequency (sox prints a negative number).
-        s.ok = s.rms >= 0 && s.seconds >= 0;
-        return s;
-    }
-
     // The tone came through: about 1 kHz at about the source's level (RMS of a half-scale
     // sine: 0.354).
-    void VerifyTone(const Stat& s, double seconds)
+    void VerifyTone(const Mp3Tone& s, double seconds)
     {
         QVERIFY(s.ok);
         QVERIFY2(s.frequency > 950 && s.frequency < 1050, qPrintable(QString::number(s.frequency)));
@@ -282,15 +237,12 @@ private slots:
                                   << 3;
         QTest::newRow("8-bit mp3")
             << 22050 << 1 << 8 << 2 << false << 22050 << 1 << 64 << false << 3;
-        QTest::newRow("stale header mp3")
-            << 44100 << 2 << 16 << 2 << true << 44100 << 2 << 128 << false << 1;
         QTest::newRow("stereo wave")
             << 44100 << 2 << 16 << 4 << false << 44100 << 2 << 128 << true << 1;
-        QTest::newRow("mono wave")
-            << 22050 << 1 << 16 << 3 << false << 22050 << 1 << 56 << true << 3;
         // fact counts frames at the format's rate when the rates differ.
         QTest::newRow("resampled wave")
             << 44100 << 2 << 16 << 2 << false << 22050 << 1 << 64 << true << 3;
+        // The source is read by its data chunk, not the header's claim: fact and length show it.
         QTest::newRow("stale header wave")
             << 44100 << 2 << 16 << 2 << true << 44100 << 2 << 128 << true << 1;
     }
@@ -350,13 +302,13 @@ private slots:
             tagged.replace(tagged.size() - 128, 128,
                            QByteArray("TAG").append(QByteArray(124, ' ')).append(char(12)));
             QVERIFY(WalkFrames(tagged, 0, tagged.size() - 128).ok);
-            VerifyTone(Decode(tagged, name + "-tagged"), seconds);
+            VerifyTone(DecodeMp3(tagged, Path(name + "-tagged.decoded")), seconds);
         }
         const Frames f = WalkFrames(mp3, 0, asWave ? mp3.size() : mp3.size() - 128);
         QCOMPARE(f.rate, outRate);
         QCOMPARE(f.kbps, kbps);
         QCOMPARE(f.channelMode, channelMode);
-        VerifyTone(Decode(mp3, name), seconds);
+        VerifyTone(DecodeMp3(mp3, Path(name + ".decoded")), seconds);
     }
 
     void waveTexts()
@@ -384,7 +336,7 @@ private slots:
             const QByteArray bytes = ReadFile(Path("tx.WAV"));
             const QByteArray mp3 =
                 VerifyWaveFile(bytes, record, 44100, c.wantSoftware, c.wantTitle);
-            VerifyTone(Decode(mp3, "tx"), 1);
+            VerifyTone(DecodeMp3(mp3, Path("tx.decoded")), 1);
             QBuffer device;
             device.setData(bytes);
             QVERIFY(device.open(QIODevice::ReadOnly));
@@ -410,13 +362,9 @@ private slots:
             QCOMPARE(Start(Path("df.WAV.TMP"), Path("df.MP3"), in, out, false),
                      NIGHTREELENC_ERR_OUT_OF_ORDER);
             QCOMPARE(m_enc.Mp3ConvertErrorCleanUp(), 0);
-
             // A new conversion works after the clean-up.
-            run = Convert(Path("df.WAV.TMP"), Path("df.MP3"), in, out, false);
-            QCOMPARE(run.code, 0);
-            const QByteArray bytes = ReadFile(Path("df.MP3"));
-            VerifyMp3File(bytes);
-            VerifyTone(Decode(bytes, "df"), 3);
+            QCOMPARE(Convert(Path("df.WAV.TMP"), Path("df.MP3"), in, out, false).code, 0);
+            VerifyMp3File(ReadFile(Path("df.MP3")));
         }
     }
 
@@ -447,7 +395,7 @@ private slots:
         QCOMPARE(m_enc.FinishEncodeMp3("Nightreel 2000 1.0 ", " ", "Title "), 0);
         QCOMPARE(m_enc.FinishEncodeMp3(" ", " ", " "), NIGHTREELENC_ERR_OUT_OF_ORDER);
         QCOMPARE(m_enc.EncodeNextBuffer(&percent, &again), NIGHTREELENC_ERR_OUT_OF_ORDER);
-        VerifyTone(Decode(ReadFile(Path("oo.MP3")), "oo"), 1);
+        VerifyMp3File(ReadFile(Path("oo.MP3")));
         // The clean-up is harmless when idle, and the next start works.
         QCOMPARE(m_enc.Mp3ConvertErrorCleanUp(), 0);
         QCOMPARE(Convert(Path("oo.WAV.TMP"), Path("oo.MP3"), in, out, false).code, 0);
@@ -499,11 +447,11 @@ private slots:
         QTest::addColumn<bool>("asWave");
         QTest::newRow("no step mp3") << 0 << false;
         QTest::newRow("no step wave") << 0 << true;
-        QTest::newRow("3 steps mp3") << 3 << false;
         QTest::newRow("3 steps wave") << 3 << true;
     }
 
-    // Finished before the source is used up: a whole file of what was encoded.
+    // Finished before the source is used up: a whole file of what was encoded (a partial MP3
+    // stopped after some steps is the conversion queue's test, end to end).
     void finishEarly()
     {
         QFETCH(int, steps);
@@ -533,7 +481,8 @@ private slots:
         } else {
             VerifyMp3File(mp3);
         }
-        const Stat s = Decode(mp3, QString::fromLatin1(QTest::currentDataTag()).replace(' ', '-'));
+        const Mp3Tone s = DecodeMp3(
+            mp3, Path(QString::fromLatin1(QTest::currentDataTag()).replace(' ', '-') + ".decoded"));
         QVERIFY2(s.ok, "decodes");
         if (steps == 0)
             QVERIFY(s.seconds < 0.2);
@@ -541,20 +490,6 @@ private slots:
             QVERIFY(s.seconds > 0.1 && s.seconds < 60 && s.frequency > 950 && s.frequency < 1050);
         if (asWave)
             QVERIFY(qAbs(s.seconds - seconds) < 0.1);
-    }
-
-    void stepTimeOnLongSource()
-    {
-        // A loose sanity bound only: the goal of 50 ms is measured by bench/convert-bench.
-        MakeSource("long.WAV.TMP", 44100, 2, 120);
-        const Run run =
-            Convert(Path("long.WAV.TMP"), Path("long.MP3"), TaskWaveSource::PcmRecord(2, 44100),
-                    TaskWaveSource::Mp3Record(2, 44100, 128), false);
-        QCOMPARE(run.code, 0);
-        QCOMPARE(run.finishedSets, 1);
-        QVERIFY(run.steps > 10);
-        qInfo("%d steps, longest %.1f ms", run.steps, run.maxStepMs);
-        QVERIFY2(run.maxStepMs < 200, qPrintable(QString::number(run.maxStepMs)));
     }
 };
 

@@ -1,5 +1,5 @@
 #include "ModalDialogs.h"
-#include "TestContext.h"
+#include "OpenedContext.h"
 #include "diagnostics/frmElog.h"
 
 #include <QAbstractButton>
@@ -54,8 +54,7 @@ private slots:
     // itself and counts as seen; one logged after closing counts again.
     void viewingTheLog()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         LogEntries(tc, {"One", "Two"});
         QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 2);
         {
@@ -93,8 +92,7 @@ private slots:
         QFETCH(bool, byKey);
         QFETCH(MsgResult, answer);
         QFETCH(int, rowsLeft);
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         LogEntries(tc, {"a", "b", "c"});
         tc.ctx->error.SetElogFull(true);
         frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
@@ -127,8 +125,7 @@ private slots:
     void detailsShowTheCurrentRow()
     {
         QFETCH(int, type);
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         tc.clock.Set(QDateTime(QDate(2026, 3, 14), QTime(21, 5, 9)));
         tc.ctx->log.LogEvent(qint16(type), "The headline", "Line one\r\nLine two");
         LogEntries(tc, {"Later"});
@@ -156,8 +153,7 @@ private slots:
 
     void returningFromTheDetailsKeepsTheSelectedRow()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         LogEntries(tc, {"a", "b", "c"});
         frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
@@ -176,8 +172,7 @@ private slots:
 
     void theCornerTogglesTheSelectionOfAllRows()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         LogEntries(tc, {"a", "b", "c"});
         frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
         form.show();
@@ -201,8 +196,7 @@ private slots:
     void layoutIsSavedOnClose()
     {
         QFETCH(bool, maximised);
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         {
             frmElog form(tc.ctx->database, tc.ctx->error, tc.ctx->registry, tc.messageBox, nullptr);
             QCOMPARE(form.size(), QSize(500, 333));

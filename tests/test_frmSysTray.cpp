@@ -5,6 +5,7 @@
 #include "CountingSysTray.h"
 #include "PulseFixture.h"
 #include "TestContext.h"
+#include "XDisplay.h"
 #include "common/AutomationDate.h"
 #include "diagnostics/SysTrayIcon.h"
 #include "diagnostics/clsSysTrayMgr.h"
@@ -14,7 +15,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QMenu>
 #include <QProcess>
@@ -24,81 +24,22 @@
 #include <algorithm>
 
 namespace {
-
-// Xvfb on a display it picks itself, with trayer docked at its top edge.
-class TrayDisplay {
-public:
-    ~TrayDisplay()
-    {
-        for (QProcess* p : {&m_trayer, &m_xvfb}) {
-            if (p->state() != QProcess::NotRunning) {
-                p->terminate();
-                if (!p->waitForFinished(3000))
-                    p->kill();
-                p->waitForFinished(3000);
-            }
-        }
-    }
-
-    // False when no X server can be had; the reason is in Problem().
-    bool StartServer()
-    {
-        if (QStandardPaths::findExecutable("Xvfb").isEmpty())
-            return Fail("Xvfb is not installed");
-        // With -displayfd the server takes a free display and writes its number once it
-        // accepts clients.
-        m_xvfb.start("Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24", "-nolisten", "tcp"});
-        if (!m_xvfb.waitForStarted(5000))
-            return Fail("Xvfb did not start");
-        QByteArray out;
-        QElapsedTimer waited;
-        waited.start();
-        while (!out.contains('\n') && waited.elapsed() < 15000 &&
-               m_xvfb.state() == QProcess::Running) {
-            m_xvfb.waitForReadyRead(200);
-            out += m_xvfb.readAllStandardOutput();
-        }
-        bool ok = false;
-        const int number = out.trimmed().toInt(&ok);
-        if (!ok)
-            return Fail("Xvfb gave no display: " + m_xvfb.readAllStandardError());
-        qputenv("DISPLAY", ":" + QByteArray::number(number));
-        return true;
-    }
-
-    // The notification area; its absence is a failure, not a reason to skip.
-    bool StartTray()
-    {
-        m_trayer.start("trayer", {"--edge", "top", "--align", "right", "--widthtype", "request",
-                                  "--height", "24", "--SetDockType", "true", "--transparent",
-                                  "false", "--tint", "0x404050"});
-        if (!m_trayer.waitForStarted(5000))
-            return Fail("trayer did not start");
-        QElapsedTimer waited;
-        waited.start();
-        while (waited.elapsed() < 10000) {
-            if (QProcess::execute("xdotool", {"search", "--classname", "trayer"}) == 0)
-                return true;
-            QTest::qSleep(100);
-        }
-        return Fail("trayer shows no window");
-    }
-
-    QString Problem() const { return m_problem; }
-
-private:
-    bool Fail(const QString& problem)
-    {
-        m_problem = problem;
+// The notification area docked at the top of the test's display.
+bool StartTray(QProcess& trayer)
+{
+    trayer.start("trayer",
+                 {"--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24",
+                  "--SetDockType", "true", "--transparent", "false", "--tint", "0x404050"});
+    if (!trayer.waitForStarted(5000))
         return false;
+    for (int i = 0; i < 100; ++i) {
+        if (QProcess::execute("xdotool", {"search", "--classname", "trayer"}) == 0)
+            return true;
+        QTest::qSleep(100);
     }
+    return false;
+}
 
-    QProcess m_xvfb;
-    QProcess m_trayer;
-    QString m_problem;
-};
-
-TrayDisplay* g_display = nullptr;
 bool g_haveDisplay = false;
 bool g_haveTray = false;
 
@@ -149,18 +90,6 @@ QStringList Texts(const QMenu* menu)
 class TestFrmSysTray : public QObject {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void iconIsEmbeddedAtStartUpWithTheStoppedTip();
-    void doubleClickRestoresSingleClickDoesNothing();
-    void contextMenuShowsItsSevenItems();
-    void menuFollowsTheMode_data();
-    void menuFollowsTheMode();
-    void iconAnswersWithItsStatus();
-    void recordingAnimatesAndPauseBlinks();
-    void errorTipsAndAQuietStop();
-    void closingTheProgramTakesTheIconOut();
-
 private:
     AppContext& ctx() { return *m_tc->ctx; }
     clsSysTrayMgr& mgr() { return *m_form->SysTrayMgr(); }
@@ -171,289 +100,251 @@ private:
     std::unique_ptr<TestContext> m_tc;
     SysTrayCalls m_calls;
     std::unique_ptr<frmMain> m_form;
-};
 
-// One run of the program for all the tests: the window, its tray and its recorder.
-void TestFrmSysTray::initTestCase()
-{
-    if (!g_haveDisplay)
-        QSKIP(qPrintable("no X display could be made: " + g_display->Problem()));
-    QVERIFY2(g_haveTray, qPrintable(g_display->Problem()));
-    if (QFile::exists(QCoreApplication::applicationDirPath() + "/../src/nightreel-rec")) {
-        m_pulse = std::make_unique<PulseFixture>();
-        if (!m_pulse->Running())
-            m_pulse.reset();
+private slots:
+    // One run of the program for all the tests: the window, its tray and its recorder.
+    void initTestCase()
+    {
+        if (!g_haveDisplay)
+            QSKIP("no X display could be made (Xvfb)");
+        // The notification area's absence is a failure, not a reason to skip.
+        QVERIFY2(g_haveTray, "trayer shows no window");
+        if (QFile::exists(QCoreApplication::applicationDirPath() + "/../src/nightreel-rec")) {
+            m_pulse = std::make_unique<PulseFixture>();
+            if (!m_pulse->Running())
+                m_pulse.reset();
+        }
+
+        m_tc = std::make_unique<TestContext>();
+        QDir().mkpath(m_tc->Root() + "/recordings");
+        ctx().registry.SaveSetting("Settings", "DefaultRecordingDirectory",
+                                   m_tc->Root() + "/recordings");
+        m_form = std::make_unique<frmMain>(
+            ctx(), false, nullptr, [this](std::unique_ptr<cSysTray> icon) {
+                return std::make_unique<CountingSysTray>(m_calls, std::move(icon));
+            });
+        m_form->show();
+        m_form->FirstActivate();
     }
 
-    m_tc = std::make_unique<TestContext>();
-    QDir().mkpath(m_tc->Root() + "/recordings");
-    ctx().registry.SaveSetting("Settings", "DefaultRecordingDirectory",
-                               m_tc->Root() + "/recordings");
-    m_form =
-        std::make_unique<frmMain>(ctx(), false, nullptr, [this](std::unique_ptr<cSysTray> icon) {
-            return std::make_unique<CountingSysTray>(m_calls, std::move(icon));
-        });
-    m_form->show();
-    m_form->FirstActivate();
-}
-
-// The icon is there from the start, before any hiding, with the stopped tip.
-void TestFrmSysTray::iconIsEmbeddedAtStartUpWithTheStoppedTip()
-{
-    QCOMPARE(m_calls.Of("Activate").size(), 1);
-    QTRY_VERIFY_WITH_TIMEOUT(IconWidget() && Embedded(IconWidget()->winId()), 10000);
-    QVERIFY(m_form->isVisible());
-    QCOMPARE(IconTip(), QString("Nightreel 2000 - STOPPED"));
-    QVERIFY(!tray().SingleActivationRestores());
-}
-
-void TestFrmSysTray::doubleClickRestoresSingleClickDoesNothing()
-{
-    m_form->HideToTray();
-    QVERIFY(!m_form->isVisible());
-    QVERIFY(tray().mnuRestore->isEnabled());
-
-    ClickIcon({"1"});
-    QTest::qWait(1000);
-    QVERIFY(!m_form->isVisible());
-    QVERIFY(!QApplication::activePopupWidget());
-
-    ClickIcon({"--repeat", "2", "--delay", "80", "1"});
-    QTRY_VERIFY_WITH_TIMEOUT(m_form->isVisible(), 5000);
-    QVERIFY(!tray().mnuRestore->isEnabled());
-}
-
-void TestFrmSysTray::contextMenuShowsItsSevenItems()
-{
-    QMenu* menu = tray().mnuSystemTray();
-    ClickIcon({"3"});
-    QTRY_VERIFY_WITH_TIMEOUT(menu->isVisible(), 5000);
-    QCOMPARE(Texts(menu),
-             (QStringList{"Restore &Window", "-", "&Disk Status", "&About", "-",
-                          "&Stop Current Recording", "&Pause Recording", "S&uspend", "E&xit"}));
-    QStringList names;
-    for (const QAction* a : menu->actions()) {
-        if (!a->isSeparator())
-            names << a->objectName();
+    // The icon is there from the start, before any hiding, with the stopped tip.
+    void iconIsEmbeddedAtStartUpWithTheStoppedTip()
+    {
+        QCOMPARE(m_calls.Of("Activate").size(), 1);
+        QTRY_VERIFY_WITH_TIMEOUT(IconWidget() && Embedded(IconWidget()->winId()), 10000);
+        QVERIFY(m_form->isVisible());
+        QCOMPARE(IconTip(), QString("Nightreel 2000 - STOPPED"));
+        QVERIFY(!tray().SingleActivationRestores());
     }
-    QCOMPARE(names, (QStringList{"mnuRestore", "mnuSystrayDiskStatus", "mnuSystrayAbout",
-                                 "mnuSystrayStopRecording", "mnuSystrayPauseRecording",
-                                 "mnuSystraySuspend", "mnuExit"}));
-    // Stopped, with the window on screen: nothing to restore, stop or pause.
-    QVERIFY(!tray().mnuRestore->isEnabled());
-    QVERIFY(tray().mnuSystrayDiskStatus->isEnabled());
-    QVERIFY(tray().mnuSystrayAbout->isEnabled());
-    QVERIFY(!tray().mnuSystrayStopRecording->isEnabled());
-    QVERIFY(!tray().mnuSystrayPauseRecording->isEnabled());
-    QVERIFY(tray().mnuExit->isEnabled());
-    QCOMPARE(QProcess::execute("xdotool", {"key", "Escape"}), 0);
-    QTRY_VERIFY_WITH_TIMEOUT(!menu->isVisible(), 5000);
-}
 
-void TestFrmSysTray::menuFollowsTheMode_data()
-{
-    QTest::addColumn<bool>("recording");
-    QTest::addColumn<bool>("paused");
-    QTest::addColumn<bool>("converting");
-    QTest::addColumn<bool>("invalidFolder");
-    QTest::addColumn<bool>("suspended");
-    QTest::addColumn<QString>("pause");
-    QTest::addColumn<QString>("stop");
-    QTest::addColumn<bool>("diskStatus");
+    void doubleClickRestoresSingleClickDoesNothing()
+    {
+        m_form->HideToTray();
+        QVERIFY(!m_form->isVisible());
+        QVERIFY(tray().mnuRestore->isEnabled());
 
-    // An empty caption stands for a disabled item of the usual caption.
-    QTest::newRow("recording") << true << false << false << false << false << "&Pause Recording"
-                               << "&Stop Current Recording" << true;
-    QTest::newRow("paused") << true << true << false << false << false << "&Continue Recording"
-                            << "&Stop Current Recording" << true;
-    QTest::newRow("converting") << false << false << true << false << false << ""
-                                << "&Stop MP3 Conversion" << true;
-    QTest::newRow("recording while converting")
-        << true << false << true << false << false << "&Pause Recording"
-        << "&Stop Current Recording" << true;
-    QTest::newRow("no recording folder") << false << false << false << true << false << ""
-                                         << "" << false;
-    QTest::newRow("suspended") << false << false << false << false << true << ""
-                               << "" << true;
-}
+        ClickIcon({"1"});
+        QTest::qWait(1000);
+        QVERIFY(!m_form->isVisible());
+        QVERIFY(!QApplication::activePopupWidget());
 
-// The flags are set as the recorder sets them, with no task behind them; the items follow
-// through the mode display.
-void TestFrmSysTray::menuFollowsTheMode()
-{
-    QFETCH(bool, recording);
-    QFETCH(bool, paused);
-    QFETCH(bool, converting);
-    QFETCH(bool, invalidFolder);
-    QFETCH(bool, suspended);
-    QFETCH(QString, pause);
-    QFETCH(QString, stop);
-    QFETCH(bool, diskStatus);
+        ClickIcon({"--repeat", "2", "--delay", "80", "1"});
+        QTRY_VERIFY_WITH_TIMEOUT(m_form->isVisible(), 5000);
+        QVERIFY(!tray().mnuRestore->isEnabled());
+    }
 
-    clsAppStatus& s = ctx().appStatus;
-    if (suspended) {
+    void contextMenuShowsItsSevenItems()
+    {
+        QMenu* menu = tray().mnuSystemTray();
+        ClickIcon({"3"});
+        QTRY_VERIFY_WITH_TIMEOUT(menu->isVisible(), 5000);
+        QCOMPARE(Texts(menu),
+                 (QStringList{"Restore &Window", "-", "&Disk Status", "&About", "-",
+                              "&Stop Current Recording", "&Pause Recording", "S&uspend", "E&xit"}));
+        // Stopped, with the window on screen: nothing to restore (stop and pause: the mode table).
+        QVERIFY(!tray().mnuRestore->isEnabled());
+        QCOMPARE(QProcess::execute("xdotool", {"key", "Escape"}), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!menu->isVisible(), 5000);
+    }
+
+    void menuFollowsTheMode_data()
+    {
+        QTest::addColumn<bool>("recording");
+        QTest::addColumn<bool>("paused");
+        QTest::addColumn<bool>("converting");
+        QTest::addColumn<bool>("invalidFolder");
+        QTest::addColumn<bool>("suspended");
+        QTest::addColumn<QString>("pause");
+        QTest::addColumn<QString>("stop");
+        QTest::addColumn<bool>("diskStatus");
+
+        // An empty caption stands for a disabled item of the usual caption.
+        QTest::newRow("recording") << true << false << false << false << false << "&Pause Recording"
+                                   << "&Stop Current Recording" << true;
+        QTest::newRow("paused") << true << true << false << false << false << "&Continue Recording"
+                                << "&Stop Current Recording" << true;
+        QTest::newRow("converting") << false << false << true << false << false << ""
+                                    << "&Stop MP3 Conversion" << true;
+        QTest::newRow("recording while converting")
+            << true << false << true << false << false << "&Pause Recording"
+            << "&Stop Current Recording" << true;
+        QTest::newRow("no recording folder") << false << false << false << true << false << ""
+                                             << "" << false;
+        QTest::newRow("suspended") << false << false << false << false << true << ""
+                                   << "" << true;
+        QTest::newRow("stopped") << false << false << false << false << false << ""
+                                 << "" << true;
+    }
+
+    // The flags are set as the recorder sets them, with no task behind them; the items follow
+    // through the mode display.
+    void menuFollowsTheMode()
+    {
+        QFETCH(bool, recording);
+        QFETCH(bool, paused);
+        QFETCH(bool, converting);
+        QFETCH(bool, invalidFolder);
+        QFETCH(bool, suspended);
+        QFETCH(QString, pause);
+        QFETCH(QString, stop);
+        QFETCH(bool, diskStatus);
+
+        clsAppStatus& s = ctx().appStatus;
+        if (suspended) {
+            m_tc->messageBox.answers << MsgResult::Yes;
+            tray().mnuSystraySuspend->trigger();
+        }
+        ctx().error.SetInvalidRecordingDirectory(invalidFolder);
+        s.SetConverting(converting);
+        s.SetRecording(recording);
+        s.SetPaused(paused);
+
+        QAction* pauseItem = tray().mnuSystrayPauseRecording;
+        QCOMPARE(pauseItem->isEnabled(), !pause.isEmpty());
+        QCOMPARE(pauseItem->text(), pause.isEmpty() ? QString("&Pause Recording") : pause);
+        QAction* stopItem = tray().mnuSystrayStopRecording;
+        QCOMPARE(stopItem->isEnabled(), !stop.isEmpty());
+        QCOMPARE(stopItem->text(), stop.isEmpty() ? QString("&Stop Current Recording") : stop);
+        QCOMPARE(tray().mnuSystrayDiskStatus->isEnabled(), diskStatus);
+        QCOMPARE(tray().mnuSystraySuspend->isChecked(), suspended);
+        QCOMPARE(m_form->ui.Action("mnuFileSuspend")->isChecked(), suspended);
+
+        if (suspended)
+            tray().mnuSystraySuspend->trigger();
+        s.SetPaused(false);
+        s.SetRecording(false);
+        s.SetConverting(false);
+        ctx().error.SetInvalidRecordingDirectory(false);
+        QVERIFY(!s.Suspended());
+        QCOMPARE(IconTip(), QString("Nightreel 2000 - STOPPED"));
+    }
+
+    // The operations of one icon, on a notification area that takes it: the statuses, and a
+    // long tip cut to what the area shows.
+    void iconAnswersWithItsStatus()
+    {
+        SysTrayIcon icon(ctx().log, nullptr, nullptr);
+        const SysTrayPicture normal{SysTrayList::General, SysTrayPicture::Normal};
+        QCOMPARE(icon.ChangeSystemTrayTip("too early"), int(cSysTray::NotActive));
+        QCOMPARE(icon.Delete(), int(cSysTray::NotActiveToDelete));
+        QCOMPARE(icon.Activate(normal, "Nightreel 2000 - STOPPED", false), int(cSysTray::Done));
+        QCOMPARE(icon.Activate(normal, "again", false), int(cSysTray::AlreadyActive));
+        const QString longTip = QString("Nightreel 2000 - ") + QString(60, u'x');
+        QCOMPARE(icon.ChangeSystemTrayIcon({SysTrayList::Record, 7}, longTip), int(cSysTray::Done));
+        QCOMPARE(icon.Icon().toolTip(), longTip.left(63));
+        QCOMPARE(icon.ChangeSystemTrayIcon({SysTrayList::Record, 8}, QString()),
+                 int(cSysTray::Done));
+        QCOMPARE(icon.Icon().toolTip(), longTip.left(63));
+        QCOMPARE(icon.Delete(), int(cSysTray::Done));
+        QVERIFY(!icon.Icon().isVisible());
+        QCOMPARE(icon.ChangeSystemTrayIcon(normal, "late"), int(cSysTray::NotActive));
+    }
+
+    // A manual recording by the real task: the timer starts with it; the icon goes round its
+    // sixteen frames at 500 ms; paused, pictures 1 and 2 alternate and the mode panel blinks in
+    // step; the tray's Stop ends it.
+    void recordingAnimatesAndPauseBlinks()
+    {
+        if (!m_pulse)
+            QSKIP("no recording task or no PulseAudio server");
+        QVERIFY(m_pulse->PlayTone());
+        ctx().options.ConfirmStopManualRecording = false;
+        ctx().recorder.Link().SetTaskProgram(QCoreApplication::applicationDirPath() +
+                                             "/../src/nightreel-rec");
+        RecordingControl& control = ctx().recorder.Control();
+        control.ManualFormat.SetToPcm(1, 22050, 16);
+        ctx().recorder.Status().ProgramId = -1;
+        QCOMPARE(mgr().tmrSystray.Interval(), 0);
+
+        const double now = ctx().Now();
+        qint32 id = -1;
+        QString description = "Tray";
+        control.StartRecording(id, now, AutomationDate::AddSeconds(now, 120), description);
+        QVERIFY(ctx().appStatus.Recording());
+        QCOMPARE(mgr().tmrSystray.Interval(), 500);
+        QCOMPARE(IconTip(), QString("Nightreel 2000 - RECORDING"));
+
+        const qsizetype from = m_calls.calls.size();
+        QTest::qWait(8800);
+        // Each frame follows the last, so sixteen of them show every picture.
+        const QList<SysTrayCalls::Call> frames = m_calls.calls.mid(from);
+        QVERIFY2(frames.size() >= 16, qPrintable(QString::number(frames.size())));
+        for (qsizetype i = 0; i < frames.size(); ++i) {
+            QCOMPARE(frames[i].op, QString("ChangeSystemTrayIcon"));
+            QCOMPARE(frames[i].picture.list, SysTrayList::Record);
+            if (i == 0)
+                continue;
+            QCOMPARE(frames[i].picture.index, frames[i - 1].picture.index % 16 + 1);
+            const qint64 gap = frames[i].ms - frames[i - 1].ms;
+            QVERIFY2(gap > 350 && gap < 650, qPrintable(QString::number(gap)));
+        }
+
+        // Paused through the tray's own item.
+        QList<std::pair<int, QString>> blinks;
+        m_calls.onCall = [&](const SysTrayCalls::Call& c) {
+            if (c.picture.list == SysTrayList::Pause)
+                blinks << std::pair{c.picture.index, m_form->ui.ModeStatus->text()};
+        };
+        tray().mnuSystrayPauseRecording->trigger();
+        QVERIFY(ctx().appStatus.Paused());
+        QCOMPARE(tray().mnuSystrayPauseRecording->text(), QString("&Continue Recording"));
+        QCOMPARE(IconTip(), QString("Nightreel 2000 - RECORDING PAUSED"));
+        QTest::qWait(2800);
+        m_calls.onCall = nullptr;
+        QVERIFY2(blinks.size() >= 5, qPrintable(QString::number(blinks.size())));
+        for (qsizetype i = 0; i < blinks.size(); ++i) {
+            if (i > 0)
+                QCOMPARE(blinks[i].first, 3 - blinks[i - 1].first);
+            QCOMPARE(blinks[i].second,
+                     blinks[i].first == 1 ? QString("RECORDING PAUSED") : QString());
+        }
+        QVERIFY(m_form->ui.ModeStatusPicture->pixmap().isNull());
+
+        tray().mnuSystrayStopRecording->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(!ctx().appStatus.Recording(), 15000);
+        QTRY_COMPARE_WITH_TIMEOUT(IconTip(), QString("Nightreel 2000 - STOPPED"), 2000);
+        QCOMPARE(m_tc->CountRows("Recordings"), 1);
+        m_pulse->StopTone();
+    }
+
+    void closingTheProgramTakesTheIconOut()
+    {
+        QVERIFY(IconWidget());
         m_tc->messageBox.answers << MsgResult::Yes;
-        tray().mnuSystraySuspend->trigger();
+        m_form->close();
+        QVERIFY(!m_form->SysTrayMgr());
+        QTRY_VERIFY_WITH_TIMEOUT(!IconWidget() || !IconWidget()->isVisible(), 5000);
     }
-    ctx().error.SetInvalidRecordingDirectory(invalidFolder);
-    s.SetConverting(converting);
-    s.SetRecording(recording);
-    s.SetPaused(paused);
-
-    QAction* pauseItem = tray().mnuSystrayPauseRecording;
-    QCOMPARE(pauseItem->isEnabled(), !pause.isEmpty());
-    QCOMPARE(pauseItem->text(), pause.isEmpty() ? QString("&Pause Recording") : pause);
-    QAction* stopItem = tray().mnuSystrayStopRecording;
-    QCOMPARE(stopItem->isEnabled(), !stop.isEmpty());
-    QCOMPARE(stopItem->text(), stop.isEmpty() ? QString("&Stop Current Recording") : stop);
-    QCOMPARE(tray().mnuSystrayDiskStatus->isEnabled(), diskStatus);
-    QCOMPARE(tray().mnuSystraySuspend->isChecked(), suspended);
-    QCOMPARE(m_form->ui.Action("mnuFileSuspend")->isChecked(), suspended);
-
-    if (suspended)
-        tray().mnuSystraySuspend->trigger();
-    s.SetPaused(false);
-    s.SetRecording(false);
-    s.SetConverting(false);
-    ctx().error.SetInvalidRecordingDirectory(false);
-    QVERIFY(!s.Suspended());
-    QCOMPARE(IconTip(), QString("Nightreel 2000 - STOPPED"));
-}
-
-// The operations of one icon, on a notification area that takes it: the statuses, and a
-// long tip cut to what the area shows.
-void TestFrmSysTray::iconAnswersWithItsStatus()
-{
-    SysTrayIcon icon(ctx().log, nullptr, nullptr);
-    const SysTrayPicture normal{SysTrayList::General, SysTrayPicture::Normal};
-    QCOMPARE(icon.ChangeSystemTrayTip("too early"), int(cSysTray::NotActive));
-    QCOMPARE(icon.Delete(), int(cSysTray::NotActiveToDelete));
-    QCOMPARE(icon.Activate(normal, "Nightreel 2000 - STOPPED", false), int(cSysTray::Done));
-    QCOMPARE(icon.Activate(normal, "again", false), int(cSysTray::AlreadyActive));
-    const QString longTip = QString("Nightreel 2000 - ") + QString(60, u'x');
-    QCOMPARE(icon.ChangeSystemTrayIcon({SysTrayList::Record, 7}, longTip), int(cSysTray::Done));
-    QCOMPARE(icon.Icon().toolTip(), longTip.left(63));
-    QCOMPARE(icon.ChangeSystemTrayIcon({SysTrayList::Record, 8}, QString()), int(cSysTray::Done));
-    QCOMPARE(icon.Icon().toolTip(), longTip.left(63));
-    QCOMPARE(icon.Delete(), int(cSysTray::Done));
-    QVERIFY(!icon.Icon().isVisible());
-    QCOMPARE(icon.ChangeSystemTrayIcon(normal, "late"), int(cSysTray::NotActive));
-}
-
-// A manual recording by the real task: the timer starts with it; the icon goes round its
-// sixteen frames at 500 ms; paused, pictures 1 and 2 alternate and the mode panel blinks in
-// step; the tray's Stop ends it.
-void TestFrmSysTray::recordingAnimatesAndPauseBlinks()
-{
-    if (!m_pulse)
-        QSKIP("no recording task or no PulseAudio server");
-    QVERIFY(m_pulse->PlayTone());
-    ctx().options.ConfirmStopManualRecording = false;
-    ctx().recorder.Link().SetTaskProgram(QCoreApplication::applicationDirPath() +
-                                         "/../src/nightreel-rec");
-    RecordingControl& control = ctx().recorder.Control();
-    control.ManualFormat.SetToPcm(1, 22050, 16);
-    ctx().recorder.Status().ProgramId = -1;
-    QCOMPARE(mgr().tmrSystray.Interval(), 0);
-
-    const double now = ctx().Now();
-    qint32 id = -1;
-    QString description = "Tray";
-    control.StartRecording(id, now, AutomationDate::AddSeconds(now, 120), description);
-    QVERIFY(ctx().appStatus.Recording());
-    QCOMPARE(mgr().tmrSystray.Interval(), 500);
-    QCOMPARE(IconTip(), QString("Nightreel 2000 - RECORDING"));
-
-    const qsizetype from = m_calls.calls.size();
-    QTest::qWait(8800);
-    QList<SysTrayCalls::Call> frames;
-    for (const auto& c : m_calls.calls.mid(from)) {
-        QCOMPARE(c.op, QString("ChangeSystemTrayIcon"));
-        QCOMPARE(c.picture.list, SysTrayList::Record);
-        frames << c;
-    }
-    QVERIFY2(frames.size() >= 16, qPrintable(QString::number(frames.size())));
-    QList<int> seen;
-    for (qsizetype i = 1; i < frames.size(); ++i) {
-        QCOMPARE(frames[i].picture.index, frames[i - 1].picture.index % 16 + 1);
-        const qint64 gap = frames[i].ms - frames[i - 1].ms;
-        QVERIFY2(gap > 350 && gap < 650, qPrintable(QString::number(gap)));
-    }
-    for (const auto& f : frames)
-        seen << f.picture.index;
-    std::sort(seen.begin(), seen.end());
-    seen.erase(std::unique(seen.begin(), seen.end()), seen.end());
-    QCOMPARE(seen.size(), 16);
-
-    // Paused through the tray's own item.
-    QList<std::pair<int, QString>> blinks;
-    m_calls.onCall = [&](const SysTrayCalls::Call& c) {
-        if (c.picture.list == SysTrayList::Pause)
-            blinks << std::pair{c.picture.index, m_form->ui.ModeStatus->text()};
-    };
-    tray().mnuSystrayPauseRecording->trigger();
-    QVERIFY(ctx().appStatus.Paused());
-    QCOMPARE(tray().mnuSystrayPauseRecording->text(), QString("&Continue Recording"));
-    QCOMPARE(IconTip(), QString("Nightreel 2000 - RECORDING PAUSED"));
-    QTest::qWait(2800);
-    m_calls.onCall = nullptr;
-    QVERIFY2(blinks.size() >= 5, qPrintable(QString::number(blinks.size())));
-    for (qsizetype i = 0; i < blinks.size(); ++i) {
-        if (i > 0)
-            QCOMPARE(blinks[i].first, 3 - blinks[i - 1].first);
-        QCOMPARE(blinks[i].second, blinks[i].first == 1 ? QString("RECORDING PAUSED") : QString());
-    }
-    QVERIFY(m_form->ui.ModeStatusPicture->pixmap().isNull());
-
-    tray().mnuSystrayStopRecording->trigger();
-    QTRY_VERIFY_WITH_TIMEOUT(!ctx().appStatus.Recording(), 15000);
-    QTRY_COMPARE_WITH_TIMEOUT(IconTip(), QString("Nightreel 2000 - STOPPED"), 2000);
-    QCOMPARE(m_tc->CountRows("Recordings"), 1);
-    m_pulse->StopTone();
-}
-
-// After the recording the timer runs on: the log's entries show in the tip, and the stopped
-// state costs no call at all.
-void TestFrmSysTray::errorTipsAndAQuietStop()
-{
-    if (mgr().tmrSystray.Interval() == 0)
-        mgr().StartTimer();
-    ctx().error.ElogViewed();
-    QCOMPARE(IconTip(), QString("Nightreel 2000 - STOPPED"));
-
-    ctx().log.LogEvent(EventError, "Something failed", "while nobody watched");
-    QTRY_COMPARE_WITH_TIMEOUT(IconTip(),
-                              QString("Nightreel 2000 - Error occured, check the error log"), 2000);
-    ctx().log.LogEvent(EventError, "Something else failed", "while nobody watched");
-    QTRY_COMPARE_WITH_TIMEOUT(
-        IconTip(), QString("Nightreel 2000 - Errors occured, check the error log"), 2000);
-    ctx().error.ElogViewed();
-    QTRY_COMPARE_WITH_TIMEOUT(IconTip(), QString("Nightreel 2000 - STOPPED"), 2000);
-
-    const int calls = m_calls.Count();
-    const int phase = mgr().RecordPhase();
-    QTest::qWait(5000);
-    QCOMPARE(m_calls.Count(), calls);
-    QVERIFY(mgr().RecordPhase() != phase);
-}
-
-void TestFrmSysTray::closingTheProgramTakesTheIconOut()
-{
-    QVERIFY(IconWidget());
-    m_tc->messageBox.answers << MsgResult::Yes;
-    m_form->close();
-    QVERIFY(!m_form->SysTrayMgr());
-    QTRY_VERIFY_WITH_TIMEOUT(!IconWidget() || !IconWidget()->isVisible(), 5000);
-}
+};
 
 // The display and its notification area must be there before the application connects.
 int main(int argc, char* argv[])
 {
-    TrayDisplay display;
-    g_display = &display;
-    g_haveDisplay = display.StartServer();
+    XDisplay display(false);
+    QProcess trayer;
+    g_haveDisplay = display.Running();
     if (g_haveDisplay) {
-        g_haveTray = display.StartTray();
+        g_haveTray = StartTray(trayer);
         qputenv("QT_QPA_PLATFORM", "xcb");
         qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     } else {
@@ -466,6 +357,8 @@ int main(int argc, char* argv[])
         TestFrmSysTray test;
         result = QTest::qExec(&test, argc, argv);
     }
+    trayer.terminate();
+    trayer.waitForFinished(3000);
     return result;
 }
 

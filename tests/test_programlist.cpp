@@ -303,11 +303,6 @@ private slots:
             << QDate(2030, 1, 7) << "10:30:00"
             << "11:30:00"
             << "" << true;
-        QTest::newRow("touching ranges")
-            << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << false << QDate()
-            << "11:00:00"
-            << "12:00:00"
-            << "0100000" << false;
         QTest::newRow("disabled other")
             << Disabled(Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000")) << false
             << QDate() << "10:00:00"

@@ -1,5 +1,6 @@
 #include "Programs.h"
 #include "RecordingsListFixture.h"
+#include "TaskWaveSource.h"
 #include "TestFiles.h"
 #include "store/ListFile.h"
 #include "store/SavedLists.h"
@@ -10,33 +11,11 @@
 
 namespace {
 
-// A short PCM wave file that any wave reader takes.
+// A second of silent 8-bit PCM in the recording task's layout, which every wave reader takes.
 void WriteWave(const QString& path)
 {
-    const quint32 dataSize = 8000;
-    QByteArray b;
-    const auto u32 = [&b](quint32 v) {
-        b.append(reinterpret_cast<const char*>(&v), 4);
-    };
-    const auto u16 = [&b](quint16 v) {
-        b.append(reinterpret_cast<const char*>(&v), 2);
-    };
-    b.append("RIFF");
-    u32(36 + dataSize);
-    b.append("WAVEfmt ");
-    u32(16);
-    u16(1);
-    u16(1);
-    u32(8000);
-    u32(8000);
-    u16(1);
-    u16(8);
-    b.append("data");
-    u32(dataSize);
-    b.append(QByteArray(dataSize, char(0x80)));
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(b);
+    QVERIFY(TaskWaveSource::Write(QFile::encodeName(path).toStdString(), 1, 8000,
+                                  std::string(8000, char(0x80)), 0, 8));
 }
 
 QStringList ListedFiles(AppContext& ctx)

@@ -121,8 +121,6 @@ private slots:
         QTest::newRow("clear, whatever is selected")
             << clear << false << MsgResult::Yes << "Clear Recordings List" << clearText
             << MsgIcon::None << 0 << 3;
-        QTest::newRow("clear, no") << clear << true << MsgResult::No << "Clear Recordings List"
-                                   << clearText << MsgIcon::None << 3 << 3;
     }
     void changesToTheListAskFirst()
     {

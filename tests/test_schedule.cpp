@@ -1,6 +1,6 @@
 #include "LogCapture.h"
+#include "OpenedContext.h"
 #include "Programs.h"
-#include "TestContext.h"
 
 #include <QTest>
 
@@ -42,8 +42,7 @@ private slots:
     void aProgramAcrossMidnight()
     {
         QFETCH(double, reference);
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         tc.AddProgram(Programs::Weekly("Late show", "23:00:00", "01:00:00", "0100000"));
         const auto f = Search(*tc.ctx, reference);
         QVERIFY(f);
@@ -73,8 +72,7 @@ private slots:
     void aWeeklyCancellationLapsesStrictly()
     {
         QFETCH(double, reference);
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         QVariantHash row = Programs::Weekly("Daily", "10:00:00", "11:00:00", "1111111");
         row["RecordingCancelled"] = -1;
         row["RecordingCancelledEndDateAndTime"] = At(2026, 6, 3, "11:00:00");
@@ -89,8 +87,7 @@ private slots:
 
     void anOccurrenceStartingAtTheCancelledEndIsSkipped()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         QVariantHash row = Programs::Weekly("Wednesdays", "10:00:00", "11:00:00", "0001000");
         row["RecordingCancelled"] = -1;
         row["RecordingCancelledEndDateAndTime"] = At(2026, 6, 3, "10:00:00");
@@ -99,39 +96,41 @@ private slots:
                  At(2026, 6, 10, "10:00:00"));
     }
 
-    void equalStartsGoByTheGridsOrder_data()
+    // Of two programs due, the one that starts first wins, a running one before a later
+    // one; equal starts go by the grid's order.
+    void theFirstOfTwoProgramsWins_data()
     {
         QTest::addColumn<QString>("order");
+        QTest::addColumn<QString>("alphaStart");
+        QTest::addColumn<QString>("alphaEnd");
         QTest::addColumn<QString>("winner");
-        QTest::newRow("ascending") << "ASC"
-                                   << "Alpha";
-        QTest::newRow("descending") << "DESC"
-                                    << "Bravo";
+        QTest::newRow("equal starts, ascending") << "ASC"
+                                                 << "20:00:00"
+                                                 << "20:30:00"
+                                                 << "Alpha";
+        QTest::newRow("equal starts, descending") << "DESC"
+                                                  << "20:00:00"
+                                                  << "20:30:00"
+                                                  << "Bravo";
+        QTest::newRow("running beats a later start") << "DESC"
+                                                     << "11:00:00"
+                                                     << "21:30:00"
+                                                     << "Alpha";
     }
-    void equalStartsGoByTheGridsOrder()
+    void theFirstOfTwoProgramsWins()
     {
-        TestContext tc;
-        tc.OpenDatabase();
-        tc.AddProgram(Programs::Weekly("Bravo", "20:00:00", "21:00:00", "0100000"));
-        tc.AddProgram(Programs::Weekly("Alpha", "20:00:00", "20:30:00", "0100000"));
-        AppDatabase& db = tc.ctx->database;
         QFETCH(QString, order);
+        QFETCH(QString, alphaStart);
+        QFETCH(QString, alphaEnd);
         QFETCH(QString, winner);
+        OpenedContext tc;
+        tc.AddProgram(Programs::Weekly("Bravo", "20:00:00", "21:00:00", "0100000"));
+        tc.AddProgram(Programs::Weekly("Alpha", alphaStart, alphaEnd, "0100000"));
+        AppDatabase& db = tc.ctx->database;
         db.DataPrograms.SetRecordSource("SELECT * FROM [Programs] ORDER BY [DescriptionText] " +
                                         order);
         db.DataPrograms.Refresh();
         QCOMPARE(Search(*tc.ctx, At(2026, 6, 1, "12:00:00"))->description, winner);
-    }
-
-    void aRunningOccurrenceBeatsAnEarlierStartingOneLater()
-    {
-        TestContext tc;
-        tc.OpenDatabase();
-        tc.AddProgram(Programs::Weekly("Running", "09:00:00", "12:00:00", "0100000"));
-        tc.AddProgram(Programs::Weekly("Soon", "11:00:00", "11:30:00", "0100000"));
-        tc.ctx->database.SortDbgrids();
-        QCOMPARE(Search(*tc.ctx, At(2026, 6, 1, "10:00:00"))->description,
-                 QStringLiteral("Running"));
     }
 
     void oneTimePrograms_data()
@@ -148,8 +147,7 @@ private slots:
     void oneTimePrograms()
     {
         QFETCH(QVariant, cancelled);
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         QVariantHash row =
             Programs::OneTime("Party", At(2026, 12, 31, "00:00:00"), "23:00:00", "01:00:00");
         row["RecordingCancelled"] = cancelled;
@@ -170,8 +168,7 @@ private slots:
     }
     void nothingToScheduleClearsTheNextProgram()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         qint64 id = 0;
         QFETCH(bool, disabledRow);
         if (disabledRow) {
@@ -199,8 +196,7 @@ private slots:
     // a row of NULLs is left out, and a damaged row ends the search with what it found.
     void rowsWithNulls()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         tc.AddProgram({{"Description", "all null"}});
         QVariantHash old = Programs::Weekly("Old", "20:00:00", "21:00:00", "0100000");
         for (const char* added : {"StreamingPlayerClose", "InternetLinkDelay", "LaunchAppDelay"})
@@ -257,8 +253,7 @@ private slots:
     }
     void launchTimesAheadOfTheStart()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         QVariantHash row = Programs::Weekly("Stream", "20:00:00", "21:00:00", "0100000");
         QFETCH(QString, link);
         row["InternetLink"] = link;
@@ -297,8 +292,7 @@ private slots:
     }
     void expiredOneTimeProgramsAreOfferedForRemoval()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         QFETCH(bool, removeExpired);
         tc.ctx->options.RemoveExpiredPrograms = removeExpired;
         QFETCH(MsgResult, answer);
@@ -329,8 +323,7 @@ private slots:
     }
     void cancellingARecording()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         QFETCH(bool, removeExpired);
         tc.ctx->options.RemoveExpiredPrograms = removeExpired;
         QVariantHash row =
@@ -360,8 +353,7 @@ private slots:
     // alike, or Tuesday's program would be put a week later.
     void aSearchJustBeforeMidnightFindsTomorrowsProgram()
     {
-        TestContext tc;
-        tc.OpenDatabase();
+        OpenedContext tc;
         tc.AddProgram(Programs::Weekly("Tuesday show", "08:00:00", "09:00:00", "0010000"));
         tc.clock.Set(QDateTime(QDate(2026, 6, 1), QTime(23, 59, 59, 700)));
         tc.ctx->scheduler.ScheduleNextRecording();

@@ -11,7 +11,6 @@
 #include <QtTest>
 
 namespace {
-
 const QString kSection = QStringLiteral("Settings");
 
 // The stored text, or a null QString when there is no such value. Read from the file on its
@@ -66,321 +65,307 @@ class TestSettings : public QObject {
     Q_OBJECT
 
 private slots:
-    void valuesAreStoredAsText_data();
-    void valuesAreStoredAsText();
-    void failedWriteIsLogged();
-    void readersRepairMissingAndBadValues_data();
-    void readersRepairMissingAndBadValues();
-    void warningBelowStopResetsBoth_data();
-    void warningBelowStopResetsBoth();
-    void oneBadStepValueResetsTheWholeTable_data();
-    void oneBadStepValueResetsTheWholeTable();
-    void recentRecordingTimeReadsBackAsWritten_data();
-    void recentRecordingTimeReadsBackAsWritten();
-    void recentRecordingIsClearedWhenItsFileIsGone();
-};
+    void valuesAreStoredAsText_data()
+    {
+        QTest::addColumn<QString>("value"); // null: never written
+        QTest::addColumn<bool>("deleteAfter");
+        QTest::addColumn<QString>("stored"); // null: no value in the file
+        QTest::addColumn<QString>("readBack");
 
-void TestSettings::valuesAreStoredAsText_data()
-{
-    QTest::addColumn<QString>("value"); // null: never written
-    QTest::addColumn<bool>("deleteAfter");
-    QTest::addColumn<QString>("stored"); // null: no value in the file
-    QTest::addColumn<QString>("readBack");
-
-    const auto row = [](const char* tag, const QString& value, bool deleteAfter,
-                        const QString& stored, const QString& readBack) {
-        QTest::newRow(tag) << value << deleteAfter << stored << readBack;
-    };
-    row("plain", "abc", false, "abc", "abc");
-    row("empty is one blank", "", false, " ", " ");
-    row("blanks are kept", " a b ", false, " a b ", " a b ");
-    row("comma is no list", "a, b", false, "a, b", "a, b");
-    row("never written", QString(), false, QString(), "fallback");
-    row("deleted", "abc", true, QString(), "fallback");
-}
-
-void TestSettings::valuesAreStoredAsText()
-{
-    QFETCH(QString, value);
-    QFETCH(bool, deleteAfter);
-    QFETCH(QString, stored);
-    QFETCH(QString, readBack);
-
-    TestContext tc;
-    RegKeys& registry = tc.ctx->registry;
-    if (!value.isNull())
-        registry.SaveSetting(kSection, "Name", value);
-    if (deleteAfter)
-        registry.DeleteSetting(kSection, "Name");
-
-    QCOMPARE(Stored(tc, "Name"), stored);
-    QCOMPARE(registry.GetSetting(kSection, "Name", "fallback"), readBack);
-}
-
-void TestSettings::failedWriteIsLogged()
-{
-    TestContext tc;
-    tc.OpenDatabase();
-    QSqlQuery query(tc.ctx->database.db.Connection());
-    const QString errors = "SELECT Message, Details FROM EventLog WHERE Type = 2 ORDER BY ID";
-
-    tc.ctx->registry.SaveSetting(kSection, "PurgeDays", "12");
-    QVERIFY(query.exec(errors));
-    QVERIFY2(!query.next(), "a write that worked was logged");
-
-    // A folder where the file should be: the write fails even for root.
-    QVERIFY(QFile::remove(tc.SettingsFile()));
-    QVERIFY(QDir().mkpath(tc.SettingsFile()));
-    tc.ctx->registry.SaveSetting(kSection, "PurgeDays", "14");
-    tc.ctx->registry.SaveSetting(kSection, "PurgeRecordings", "");
-
-    // Every failed write has its own entry, with what was to be written.
-    QStringList details;
-    QVERIFY(query.exec(errors));
-    while (query.next()) {
-        QCOMPARE(query.value("Message").toString(), QString("Error saving setting in registry."));
-        details << query.value("Details").toString();
+        const auto row = [](const char* tag, const QString& value, bool deleteAfter,
+                            const QString& stored, const QString& readBack) {
+            QTest::newRow(tag) << value << deleteAfter << stored << readBack;
+        };
+        row("plain", "abc", false, "abc", "abc");
+        row("empty is one blank", "", false, " ", " ");
+        row("blanks are kept", " a b ", false, " a b ", " a b ");
+        row("comma is no list", "a, b", false, "a, b", "a, b");
+        row("never written", QString(), false, QString(), "fallback");
+        row("deleted", "abc", true, QString(), "fallback");
     }
-    QCOMPARE(details, QStringList({"Settings PurgeDays 14", "Settings PurgeRecordings "}));
-}
 
-void TestSettings::readersRepairMissingAndBadValues_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text");        // null: absent, as at the first start
-    QTest::addColumn<QVariant>("value");      // %1 is the test's folder
-    QTest::addColumn<QString>("storedAfter"); // null: nothing stored
+    void valuesAreStoredAsText()
+    {
+        QFETCH(QString, value);
+        QFETCH(bool, deleteAfter);
+        QFETCH(QString, stored);
+        QFETCH(QString, readBack);
 
-    const auto row = [](const char* tag, const char* name, const char* text, const QVariant& value,
-                        const char* storedAfter) {
-        QTest::newRow(tag) << QString(name) << QString(text) << value << QString(storedAfter);
-    };
-    // The first start writes the default of every typed reader, and of nothing else.
-    row("first WarnRecMegsLeft", "WarnRecMegsLeft", nullptr, 50, "50");
-    row("first StopRecMegsLeft", "StopRecMegsLeft", nullptr, 25, "25");
-    row("first ConfirmLongRecordings", "ConfirmLongRecordings", nullptr, true, "True");
-    row("first ConvertToMP3", "ConvertToMP3", nullptr, false, "False");
-    row("first PurgeDays", "PurgeDays", nullptr, 30, "30");
-    row("first PurgeTime", "PurgeTime", nullptr, 0, "12:00:00 AM");
-    row("first HiddenWindowStatupMode", "HiddenWindowStatupMode", nullptr, false, "False");
-    row("first MixerFilePath", "MixerFilePath", nullptr, "pavucontrol", "pavucontrol");
-    row("first step", "PlayStepSizeValue5", nullptr, {}, "10");
-    row("first folder", "DefaultRecordingDirectory", nullptr, "", nullptr);
-    row("first recent file", "RecentRecordingFilename", nullptr, {}, nullptr);
+        TestContext tc;
+        RegKeys& registry = tc.ctx->registry;
+        if (!value.isNull())
+            registry.SaveSetting(kSection, "Name", value);
+        if (deleteAfter)
+            registry.DeleteSetting(kSection, "Name");
 
-    row("folder saved empty", "DefaultRecordingDirectory", " ", "", " ");
-
-    row("warn 5", "WarnRecMegsLeft", "5", 50, "50");
-    row("warn 20000", "WarnRecMegsLeft", "20000", 20000, "20000");
-    row("stop 4", "StopRecMegsLeft", "4", 25, "25");
-    row("name format 3", "DefaultRecordFileNameFormat", "3", 0, "0");
-    row("manual seconds -1", "DefaultManualRecordingDurationSeconds", "-1", 0, "0");
-    row("purge days 2", "PurgeDays", "2", 30, "30");
-    row("purge days 1000", "PurgeDays", "1000", 30, "30");
-    row("purge days 3", "PurgeDays", "3", 3, "3");
-    row("blanks around a number", "PurgeDays", "  7 ", 7, "  7 ");
-    row("half rounds to even, up", "PurgeDays", "7.5", 8, "7.5");
-    row("half rounds to even, down", "PurgeDays", "6.5", 6, "6.5");
-    row("leading number", "PurgeDays", "12abc", 12, "12abc");
-    row("no number", "PurgeDays", "many", 30, "30");
-    row("huge number", "PurgeDays", "1e400", 30, "30");
-
-    row("True", "ConfirmLongRecordings", "True", true, "True");
-    row("lower-case true", "ConfirmLongRecordings", "true", true, "True");
-    row("upper-case TRUE", "PurgeRecordings", "TRUE", false, "False");
-    row("the system's -1", "PurgeRecordings", "-1", false, "False");
-    row("blank before True", "ShowSplashScreen", " True", true, "True");
-
-    row("midnight, 12-hour", "PurgeTime", "12:00:00 AM", 0, "12:00:00 AM");
-    row("afternoon, 12-hour", "PurgeTime", "3:30:15 PM", 55815, "3:30:15 PM");
-    row("24-hour", "PurgeTime", "15:30:15", 55815, "15:30:15");
-    row("24-hour, no seconds", "PurgeTime", "23:05", 83100, "23:05");
-    row("date and time", "PurgeTime", "6/1/2026 6:00:00 AM", 21600, "6/1/2026 6:00:00 AM");
-    row("no time", "PurgeTime", "soon", 0, "12:00:00 AM");
-    row("hour 25", "PurgeTime", "25:00:00", 0, "12:00:00 AM");
-
-    row("mixer file", "MixerFilePath", " %1/mixer ", "%1/mixer", " %1/mixer ");
-    row("mixer on the path", "MixerFilePath", "sh", "sh", "sh");
-    row("mixer file missing", "MixerFilePath", "%1/gone", "pavucontrol", "pavucontrol");
-    row("mixer file empty", "MixerFilePath", "%1/empty", "pavucontrol", "pavucontrol");
-    row("mixer not on the path", "MixerFilePath", "no-such-mixer", "pavucontrol", "pavucontrol");
-}
-
-void TestSettings::readersRepairMissingAndBadValues()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    QFETCH(QVariant, value);
-    QFETCH(QString, storedAfter);
-
-    TestContext tc;
-    QVERIFY(WriteFile(tc.Root() + "/mixer", "#!/bin/sh\n"));
-    QVERIFY(WriteFile(tc.Root() + "/empty", ""));
-    const auto inRoot = [&](QString s) {
-        return s.isNull() ? s : s.replace("%1", tc.Root());
-    };
-    if (text.isNull())
-        QVERIFY(!QFile::exists(tc.SettingsFile()));
-    else
-        Preset(tc, name, inRoot(text));
-    tc.ctx->options.GetOptions(tc.ctx->registry);
-
-    QCOMPARE(Stored(tc, name), inRoot(storedAfter));
-    if (value.isValid()) {
-        const QVariant expected =
-            value.typeId() == QMetaType::QString ? QVariant(inRoot(value.toString())) : value;
-        QCOMPARE(Member(tc.ctx->options, name), expected);
+        QCOMPARE(Stored(tc, "Name"), stored);
+        QCOMPARE(registry.GetSetting(kSection, "Name", "fallback"), readBack);
     }
-}
 
-void TestSettings::warningBelowStopResetsBoth_data()
-{
-    QTest::addColumn<QString>("warn");
-    QTest::addColumn<QString>("stop");
-    QTest::addColumn<QString>("warnAfter");
-    QTest::addColumn<QString>("stopAfter");
+    void failedWriteIsLogged()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        QSqlQuery query(tc.ctx->database.db.Connection());
+        const QString errors = "SELECT Message, Details FROM EventLog WHERE Type = 2 ORDER BY ID";
 
-    const auto row = [](const char* tag, const char* warn, const char* stop, const char* warnAfter,
-                        const char* stopAfter) {
-        QTest::newRow(tag) << QString(warn) << QString(stop) << QString(warnAfter)
-                           << QString(stopAfter);
-    };
-    row("10 and 20", "10", "20", "50", "25");
-    row("equal", "25", "25", "25", "25");
-    row("warn above stop", "100", "20", "100", "20");
-    // The stop limit falls back to 25 first; then the warning lies below it.
-    row("stop out of range", "20", "3", "50", "25");
-}
+        tc.ctx->registry.SaveSetting(kSection, "PurgeDays", "12");
+        QVERIFY(query.exec(errors));
+        QVERIFY2(!query.next(), "a write that worked was logged");
 
-void TestSettings::warningBelowStopResetsBoth()
-{
-    QFETCH(QString, warn);
-    QFETCH(QString, stop);
-    QFETCH(QString, warnAfter);
-    QFETCH(QString, stopAfter);
+        // A folder where the file should be: the write fails even for root.
+        QVERIFY(QFile::remove(tc.SettingsFile()));
+        QVERIFY(QDir().mkpath(tc.SettingsFile()));
+        tc.ctx->registry.SaveSetting(kSection, "PurgeDays", "14");
+        tc.ctx->registry.SaveSetting(kSection, "PurgeRecordings", "");
 
-    TestContext tc;
-    Preset(tc, "WarnRecMegsLeft", warn);
-    Preset(tc, "StopRecMegsLeft", stop);
-    tc.ctx->options.GetOptions(tc.ctx->registry);
+        // Every failed write has its own entry, with what was to be written.
+        QStringList details;
+        QVERIFY(query.exec(errors));
+        while (query.next()) {
+            QCOMPARE(query.value("Message").toString(),
+                     QString("Error saving setting in registry."));
+            details << query.value("Details").toString();
+        }
+        QCOMPARE(details, QStringList({"Settings PurgeDays 14", "Settings PurgeRecordings "}));
+    }
 
-    QCOMPARE(QString::number(tc.ctx->options.WarnRecMegsLeft), warnAfter);
-    QCOMPARE(QString::number(tc.ctx->options.StopRecMegsLeft), stopAfter);
-    QCOMPARE(Stored(tc, "WarnRecMegsLeft"), warnAfter);
-    QCOMPARE(Stored(tc, "StopRecMegsLeft"), stopAfter);
-}
+    void readersRepairMissingAndBadValues_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");        // null: absent, as at the first start
+        QTest::addColumn<QVariant>("value");      // %1 is the test's folder
+        QTest::addColumn<QString>("storedAfter"); // null: nothing stored
 
-void TestSettings::oneBadStepValueResetsTheWholeTable_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text"); // null: the value is removed
-    QTest::addColumn<bool>("reset");
+        const auto row = [](const char* tag, const char* name, const char* text,
+                            const QVariant& value, const char* storedAfter) {
+            QTest::newRow(tag) << QString(name) << QString(text) << value << QString(storedAfter);
+        };
+        // The first start writes the default of each kind of typed reader, and of nothing else.
+        row("first WarnRecMegsLeft", "WarnRecMegsLeft", nullptr, 50, "50");
+        row("first ConfirmLongRecordings", "ConfirmLongRecordings", nullptr, true, "True");
+        row("first PurgeTime", "PurgeTime", nullptr, 0, "12:00:00 AM");
+        row("first MixerFilePath", "MixerFilePath", nullptr, "pavucontrol", "pavucontrol");
+        row("first step", "PlayStepSizeValue5", nullptr, {}, "10");
+        row("first folder", "DefaultRecordingDirectory", nullptr, "", nullptr);
+        row("first recent file", "RecentRecordingFilename", nullptr, {}, nullptr);
 
-    const auto row = [](const char* tag, const char* name, const char* text, bool reset) {
-        QTest::newRow(tag) << QString(name) << QString(text) << reset;
-    };
-    row("value 60", "PlayStepSizeValue3", "60", true);
-    row("value 0", "PlayStepSizeValue0", "0", true);
-    row("value missing", "PlayStepSizeValue5", nullptr, true);
-    row("minute 2", "PlayStepSizeMinute5", "2", true);
-    row("minute no number", "PlayStepSizeMinute1", "x", true);
-    row("value 59 with blanks", "PlayStepSizeValue2", " 59 ", false);
-    row("value 1", "PlayStepSizeValue1", "1", false);
-}
+        row("folder saved empty", "DefaultRecordingDirectory", " ", "", " ");
 
-void TestSettings::oneBadStepValueResetsTheWholeTable()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    QFETCH(bool, reset);
+        row("warn 5", "WarnRecMegsLeft", "5", 50, "50");
+        row("warn 20000", "WarnRecMegsLeft", "20000", 20000, "20000");
+        row("stop 4", "StopRecMegsLeft", "4", 25, "25");
+        row("name format 3", "DefaultRecordFileNameFormat", "3", 0, "0");
+        row("manual seconds -1", "DefaultManualRecordingDurationSeconds", "-1", 0, "0");
+        row("purge days 2", "PurgeDays", "2", 30, "30");
+        row("purge days 1000", "PurgeDays", "1000", 30, "30");
+        row("purge days 3", "PurgeDays", "3", 3, "3");
+        row("blanks around a number", "PurgeDays", "  7 ", 7, "  7 ");
+        row("half rounds to even, up", "PurgeDays", "7.5", 8, "7.5");
+        row("half rounds to even, down", "PurgeDays", "6.5", 6, "6.5");
+        row("leading number", "PurgeDays", "12abc", 12, "12abc");
+        row("no number", "PurgeDays", "many", 30, "30");
+        row("huge number", "PurgeDays", "1e400", 30, "30");
 
-    TestContext tc;
-    Options& options = tc.ctx->options;
-    options.PlayStepSizes = {{{true, 3}, {true, 4}, {false, 5}, {false, 6}, {false, 7}, {true, 8}}};
-    options.SaveCurrentStepSizeSettings(tc.ctx->registry);
-    if (text.isNull())
-        tc.ctx->registry.DeleteSetting(kSection, name);
-    else
-        Preset(tc, name, text);
+        row("True", "ConfirmLongRecordings", "True", true, "True");
+        row("lower-case true", "ConfirmLongRecordings", "true", true, "True");
+        row("upper-case TRUE", "PurgeRecordings", "TRUE", false, "False");
+        row("the system's -1", "PurgeRecordings", "-1", false, "False");
+        row("blank before True", "ShowSplashScreen", " True", true, "True");
 
-    auto expected = options.PlayStepSizes;
-    if (reset)
-        expected = Options::FactoryPlayStepSizes;
-    else
-        expected[name.right(1).toInt()].Value = text.trimmed().toInt();
-    options.PlayStepSizes = {};
-    options.GetPlayStepSizes(tc.ctx->registry);
+        row("midnight, 12-hour", "PurgeTime", "12:00:00 AM", 0, "12:00:00 AM");
+        row("afternoon, 12-hour", "PurgeTime", "3:30:15 PM", 55815, "3:30:15 PM");
+        row("24-hour", "PurgeTime", "15:30:15", 55815, "15:30:15");
+        row("24-hour, no seconds", "PurgeTime", "23:05", 83100, "23:05");
+        row("date and time", "PurgeTime", "6/1/2026 6:00:00 AM", 21600, "6/1/2026 6:00:00 AM");
+        row("no time", "PurgeTime", "soon", 0, "12:00:00 AM");
+        row("hour 25", "PurgeTime", "25:00:00", 0, "12:00:00 AM");
 
-    for (size_t n = 0; n < expected.size(); ++n) {
-        QCOMPARE(options.PlayStepSizes[n].Minute, expected[n].Minute);
-        QCOMPARE(options.PlayStepSizes[n].Value, expected[n].Value);
-        if (reset) {
-            QCOMPARE(Stored(tc, QString("PlayStepSizeMinute%1").arg(n)),
-                     QString(expected[n].Minute ? "1" : "0"));
-            QCOMPARE(Stored(tc, QString("PlayStepSizeValue%1").arg(n)),
-                     QString::number(expected[n].Value));
+        row("mixer file", "MixerFilePath", " %1/mixer ", "%1/mixer", " %1/mixer ");
+        row("mixer on the path", "MixerFilePath", "sh", "sh", "sh");
+        row("mixer file missing", "MixerFilePath", "%1/gone", "pavucontrol", "pavucontrol");
+        row("mixer file empty", "MixerFilePath", "%1/empty", "pavucontrol", "pavucontrol");
+        row("mixer not on the path", "MixerFilePath", "no-such-mixer", "pavucontrol",
+            "pavucontrol");
+    }
+
+    void readersRepairMissingAndBadValues()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(QVariant, value);
+        QFETCH(QString, storedAfter);
+
+        TestContext tc;
+        QVERIFY(WriteFile(tc.Root() + "/mixer", "#!/bin/sh\n"));
+        QVERIFY(WriteFile(tc.Root() + "/empty", ""));
+        const auto inRoot = [&](QString s) {
+            return s.isNull() ? s : s.replace("%1", tc.Root());
+        };
+        if (text.isNull())
+            QVERIFY(!QFile::exists(tc.SettingsFile()));
+        else
+            Preset(tc, name, inRoot(text));
+        tc.ctx->options.GetOptions(tc.ctx->registry);
+
+        QCOMPARE(Stored(tc, name), inRoot(storedAfter));
+        if (value.isValid()) {
+            const QVariant expected =
+                value.typeId() == QMetaType::QString ? QVariant(inRoot(value.toString())) : value;
+            QCOMPARE(Member(tc.ctx->options, name), expected);
         }
     }
-}
 
-void TestSettings::recentRecordingTimeReadsBackAsWritten_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QDateTime>("time"); // invalid: none (0)
+    void warningBelowStopResetsBoth_data()
+    {
+        QTest::addColumn<QString>("warn");
+        QTest::addColumn<QString>("stop");
+        QTest::addColumn<QString>("warnAfter");
+        QTest::addColumn<QString>("stopAfter");
 
-    // Locales whose short dates have two-digit years and whose long times name the zone.
-    for (const char* locale : {"en_US", "de_DE", "C"}) {
-        const auto row = [&](const char* tag, const QDateTime& time) {
-            QTest::addRow("%s, %s", locale, tag) << QString(locale) << time;
+        const auto row = [](const char* tag, const char* warn, const char* stop,
+                            const char* warnAfter, const char* stopAfter) {
+            QTest::newRow(tag) << QString(warn) << QString(stop) << QString(warnAfter)
+                               << QString(stopAfter);
         };
-        row("afternoon", QDateTime(QDate(2026, 6, 1), QTime(14, 30, 15)));
-        row("last century", QDateTime(QDate(1950, 3, 4), QTime(8, 0, 1)));
-        row("midnight", QDateTime(QDate(2026, 12, 31), QTime(0, 0)));
-        row("none", QDateTime());
+        row("10 and 20", "10", "20", "50", "25");
+        row("equal", "25", "25", "25", "25");
+        row("warn above stop", "100", "20", "100", "20");
+        // The stop limit falls back to 25 first; then the warning lies below it.
+        row("stop out of range", "20", "3", "50", "25");
     }
-}
 
-void TestSettings::recentRecordingTimeReadsBackAsWritten()
-{
-    QFETCH(QString, locale);
-    QFETCH(QDateTime, time);
-    const double written = time.isValid() ? AutomationDate::FromDateTime(time) : 0.0;
+    void warningBelowStopResetsBoth()
+    {
+        QFETCH(QString, warn);
+        QFETCH(QString, stop);
+        QFETCH(QString, warnAfter);
+        QFETCH(QString, stopAfter);
 
-    const QLocale previous;
-    QLocale::setDefault(QLocale(locale));
-    const auto restore = qScopeGuard([&] { QLocale::setDefault(previous); });
-    TestContext tc;
-    const QString file = tc.Root() + "/take.wav";
-    QVERIFY(WriteFile(file, "RIFF"));
-    tc.ctx->options.SaveRecentRecording(tc.ctx->registry, file, "Evening news", written);
+        TestContext tc;
+        Preset(tc, "WarnRecMegsLeft", warn);
+        Preset(tc, "StopRecMegsLeft", stop);
+        tc.ctx->options.GetOptions(tc.ctx->registry);
 
-    Options read;
-    read.GetRecentRecording(tc.ctx->registry);
-    QCOMPARE(read.RecentRecordingFilename, file);
-    QCOMPARE(read.RecentRecordingDescription, QString("Evening news"));
-    QCOMPARE(AutomationDate::ToDateTime(read.RecentRecordingTime),
-             AutomationDate::ToDateTime(written));
-}
+        QCOMPARE(QString::number(tc.ctx->options.WarnRecMegsLeft), warnAfter);
+        QCOMPARE(QString::number(tc.ctx->options.StopRecMegsLeft), stopAfter);
+        QCOMPARE(Stored(tc, "WarnRecMegsLeft"), warnAfter);
+        QCOMPARE(Stored(tc, "StopRecMegsLeft"), stopAfter);
+    }
 
-void TestSettings::recentRecordingIsClearedWhenItsFileIsGone()
-{
-    TestContext tc;
-    Preset(tc, "RecentRecordingFilename", tc.Root() + "/gone.wav");
-    Preset(tc, "RecentRecordingDescription", "Evening news");
-    Preset(tc, "RecentRecordingTime", "6/1/2026 2:30:00 PM");
+    void oneBadStepValueResetsTheWholeTable_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text"); // null: the value is removed
+        QTest::addColumn<bool>("reset");
 
-    Options& options = tc.ctx->options;
-    options.GetRecentRecording(tc.ctx->registry);
-    QCOMPARE(options.RecentRecordingFilename, QString());
-    QCOMPARE(options.RecentRecordingDescription, QString());
-    QCOMPARE(options.RecentRecordingTime, 0.0);
+        const auto row = [](const char* tag, const char* name, const char* text, bool reset) {
+            QTest::newRow(tag) << QString(name) << QString(text) << reset;
+        };
+        row("value 60", "PlayStepSizeValue3", "60", true);
+        row("value 0", "PlayStepSizeValue0", "0", true);
+        row("value missing", "PlayStepSizeValue5", nullptr, true);
+        row("minute 2", "PlayStepSizeMinute5", "2", true);
+        row("minute no number", "PlayStepSizeMinute1", "x", true);
+        row("value 59 with blanks", "PlayStepSizeValue2", " 59 ", false);
+        row("value 1", "PlayStepSizeValue1", "1", false);
+    }
 
-    // Cleared in the store too: the next start finds nothing.
-    Options next;
-    next.GetRecentRecording(tc.ctx->registry);
-    QCOMPARE(next.RecentRecordingDescription, QString());
-    QCOMPARE(next.RecentRecordingTime, 0.0);
-}
+    void oneBadStepValueResetsTheWholeTable()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(bool, reset);
+
+        TestContext tc;
+        Options& options = tc.ctx->options;
+        options.PlayStepSizes = {
+            {{true, 3}, {true, 4}, {false, 5}, {false, 6}, {false, 7}, {true, 8}}};
+        options.SaveCurrentStepSizeSettings(tc.ctx->registry);
+        if (text.isNull())
+            tc.ctx->registry.DeleteSetting(kSection, name);
+        else
+            Preset(tc, name, text);
+
+        auto expected = options.PlayStepSizes;
+        if (reset)
+            expected = Options::FactoryPlayStepSizes;
+        else
+            expected[name.right(1).toInt()].Value = text.trimmed().toInt();
+        options.PlayStepSizes = {};
+        options.GetPlayStepSizes(tc.ctx->registry);
+
+        for (size_t n = 0; n < expected.size(); ++n) {
+            QCOMPARE(options.PlayStepSizes[n].Minute, expected[n].Minute);
+            QCOMPARE(options.PlayStepSizes[n].Value, expected[n].Value);
+            if (reset) {
+                QCOMPARE(Stored(tc, QString("PlayStepSizeMinute%1").arg(n)),
+                         QString(expected[n].Minute ? "1" : "0"));
+                QCOMPARE(Stored(tc, QString("PlayStepSizeValue%1").arg(n)),
+                         QString::number(expected[n].Value));
+            }
+        }
+    }
+
+    void recentRecordingTimeReadsBackAsWritten_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QDateTime>("time"); // invalid: none (0)
+
+        // Locales whose short dates have two-digit years and whose long times name the zone.
+        for (const char* locale : {"en_US", "de_DE", "C"}) {
+            const auto row = [&](const char* tag, const QDateTime& time) {
+                QTest::addRow("%s, %s", locale, tag) << QString(locale) << time;
+            };
+            row("afternoon", QDateTime(QDate(2026, 6, 1), QTime(14, 30, 15)));
+            row("last century", QDateTime(QDate(1950, 3, 4), QTime(8, 0, 1)));
+            row("midnight", QDateTime(QDate(2026, 12, 31), QTime(0, 0)));
+            row("none", QDateTime());
+        }
+    }
+
+    void recentRecordingTimeReadsBackAsWritten()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QDateTime, time);
+        const double written = time.isValid() ? AutomationDate::FromDateTime(time) : 0.0;
+
+        const QLocale previous;
+        QLocale::setDefault(QLocale(locale));
+        const auto restore = qScopeGuard([&] { QLocale::setDefault(previous); });
+        TestContext tc;
+        const QString file = tc.Root() + "/take.wav";
+        QVERIFY(WriteFile(file, "RIFF"));
+        tc.ctx->options.SaveRecentRecording(tc.ctx->registry, file, "Evening news", written);
+
+        Options read;
+        read.GetRecentRecording(tc.ctx->registry);
+        QCOMPARE(read.RecentRecordingFilename, file);
+        QCOMPARE(read.RecentRecordingDescription, QString("Evening news"));
+        QCOMPARE(AutomationDate::ToDateTime(read.RecentRecordingTime),
+                 AutomationDate::ToDateTime(written));
+    }
+
+    void recentRecordingIsClearedWhenItsFileIsGone()
+    {
+        TestContext tc;
+        Preset(tc, "RecentRecordingFilename", tc.Root() + "/gone.wav");
+        Preset(tc, "RecentRecordingDescription", "Evening news");
+        Preset(tc, "RecentRecordingTime", "6/1/2026 2:30:00 PM");
+
+        Options& options = tc.ctx->options;
+        options.GetRecentRecording(tc.ctx->registry);
+        QCOMPARE(options.RecentRecordingFilename, QString());
+        QCOMPARE(options.RecentRecordingDescription, QString());
+        QCOMPARE(options.RecentRecordingTime, 0.0);
+
+        // Cleared in the store too: the next start finds nothing.
+        Options next;
+        next.GetRecentRecording(tc.ctx->registry);
+        QCOMPARE(next.RecentRecordingDescription, QString());
+        QCOMPARE(next.RecentRecordingTime, 0.0);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestSettings)
 #include "test_settings.moc"

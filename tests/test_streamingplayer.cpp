@@ -13,7 +13,6 @@
 #include <memory>
 
 namespace {
-
 QTemporaryDir& Desktop()
 {
     static QTemporaryDir dir;
@@ -34,126 +33,119 @@ QList<WindowHandle> WindowsTitled(WindowList& windows, const QString& title)
 class TestStreamingPlayer : public QObject {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void closingAtTheEndOfTheRecording_data();
-    void closingAtTheEndOfTheRecording();
-    void automaticSearchClosesOnlyTheNewWindows();
-    void newWindowsCountOnlyNearTheSnapshot_data();
-    void newWindowsCountOnlyNearTheSnapshot();
-
 private:
     std::unique_ptr<PulseFixture> m_pulse;
     std::unique_ptr<XDisplay> m_display;
-};
 
-void TestStreamingPlayer::initTestCase()
-{
-    m_display = std::make_unique<XDisplay>(qEnvironmentVariableIsSet("NIGHTREEL_TEST_WM"));
-    if (!m_display->Running())
-        QSKIP("no X display (or window manager) could be started");
-    const QString missing = LinkedRecording::StartSound(m_pulse);
-    if (!missing.isEmpty())
-        QSKIP(qPrintable(missing));
-}
-
-void TestStreamingPlayer::cleanupTestCase()
-{
-    m_pulse.reset();
-    m_display.reset();
-}
-
-void TestStreamingPlayer::closingAtTheEndOfTheRecording_data()
-{
-    QTest::addColumn<QString>("playerClose");
-    QTest::addColumn<QStringList>("titles");
-    QTest::addColumn<bool>("firstRefuses");
-    QTest::addColumn<QList<bool>>("closed");
-    const QStringList titles{"Media PLAYER", "player - radio", "Notes"};
-    QTest::newRow("by part of the title")
-        << "  player " << titles << false << QList<bool>{true, true, false};
-    QTest::newRow("never") << "DO_NOT_CLOSE" << titles << false << QList<bool>{false, false, false};
-    QTest::newRow("player refuses")
-        << "player" << titles << true << QList<bool>{false, true, false};
-    QTest::newRow("own windows too") << "nightreel" << QStringList{"Nightreel 2000", "Notes"}
-                                     << false << QList<bool>{true, false};
-}
-
-void TestStreamingPlayer::closingAtTheEndOfTheRecording()
-{
-    QFETCH(QString, playerClose);
-    QFETCH(QStringList, titles);
-    QFETCH(bool, firstRefuses);
-    QFETCH(QList<bool>, closed);
-
-    QList<QProcess*> windows;
-    // A failed check leaves the function early; its windows are not to meet the next row.
-    const auto closeAll = qScopeGuard([&] {
-        for (QProcess* w : windows)
-            w->kill();
-    });
-    for (int i = 0; i < titles.size(); ++i) {
-        windows << m_display->OpenWindow(titles[i], i == 0 && firstRefuses);
-        QVERIFY(windows.last());
+private slots:
+    void initTestCase()
+    {
+        m_display = std::make_unique<XDisplay>(qEnvironmentVariableIsSet("NIGHTREEL_TEST_WM"));
+        if (!m_display->Running())
+            QSKIP("no X display (or window manager) could be started");
+        const QString missing = LinkedRecording::StartSound(m_pulse);
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(missing));
     }
-    LinkedRecording r;
-    r.AddProgram(
-        {{"InternetLink", "http://radio.example/live"}, {"StreamingPlayerClose", playerClose}});
-    QVERIFY(r.Run(LinkedRecording::At("10:00:03")));
-    QCOMPARE(r.RecordingRows(), 1);
-    for (int i = 0; i < windows.size(); ++i)
-        QVERIFY2(XDisplay::Closed(windows[i], closed[i] ? 3000 : 500) == closed[i],
-                 qPrintable(titles[i]));
-}
 
-void TestStreamingPlayer::automaticSearchClosesOnlyTheNewWindows()
-{
-    // The link's browser (registered in main) opens a window of the same title as one that
-    // was there before.
-    QProcess* before = m_display->OpenWindow("Radio");
-    QVERIFY(before);
-    LinkedRecording r;
-    r.tc.launcher.desktopPages = true;
-    const QList<WindowHandle> old = WindowsTitled(r.tc.windows, "Radio");
-    QCOMPARE(old.size(), 1);
+    void cleanupTestCase()
+    {
+        m_pulse.reset();
+        m_display.reset();
+    }
 
-    r.AddProgram({{"InternetLink", "http://radio.example/live"}, {"StreamingPlayerClose", ""}});
-    int radiosAtStart = 0;
-    QVERIFY(r.Run(LinkedRecording::At("10:00:03"),
-                  [&] { radiosAtStart = WindowsTitled(r.tc.windows, "Radio").size(); }));
-    QCOMPARE(radiosAtStart, 2);
-    QCOMPARE(r.RecordingRows(), 1);
-    QTRY_COMPARE_WITH_TIMEOUT(WindowsTitled(r.tc.windows, "Radio"), old, 3000);
-    QVERIFY(!XDisplay::Closed(before, 200));
-    before->kill();
-}
+    void closingAtTheEndOfTheRecording_data()
+    {
+        QTest::addColumn<QString>("playerClose");
+        QTest::addColumn<QStringList>("titles");
+        QTest::addColumn<bool>("firstRefuses");
+        QTest::addColumn<QList<bool>>("closed");
+        const QStringList titles{"Media PLAYER", "player - radio", "Notes"};
+        QTest::newRow("by part of the title")
+            << "  player " << titles << false << QList<bool>{true, true, false};
+        QTest::newRow("never") << "DO_NOT_CLOSE" << titles << false
+                               << QList<bool>{false, false, false};
+        QTest::newRow("player refuses")
+            << "player" << titles << true << QList<bool>{false, true, false};
+        QTest::newRow("own windows too") << "nightreel" << QStringList{"Nightreel 2000", "Notes"}
+                                         << false << QList<bool>{true, false};
+    }
 
-void TestStreamingPlayer::newWindowsCountOnlyNearTheSnapshot_data()
-{
-    QTest::addColumn<int>("seconds");
-    QTest::addColumn<bool>("closed");
-    QTest::newRow("149 s") << 149 << true;
-    QTest::newRow("151 s") << 151 << false;
-}
+    void closingAtTheEndOfTheRecording()
+    {
+        QFETCH(QString, playerClose);
+        QFETCH(QStringList, titles);
+        QFETCH(bool, firstRefuses);
+        QFETCH(QList<bool>, closed);
 
-void TestStreamingPlayer::newWindowsCountOnlyNearTheSnapshot()
-{
-    QFETCH(int, seconds);
-    QFETCH(bool, closed);
-    TestContext tc;
-    StreamingPlayer& player = tc.ctx->recorder.Control().Player();
-    const double t0 = LinkedRecording::At("10:00:00");
-    tc.clock.Set(t0);
-    player.SnapshotWindowsBeforeLink();
-    QProcess* window = m_display->OpenWindow("Stream player");
-    QVERIFY(window);
-    tc.clock.Set(AutomationDate::AddSeconds(t0, seconds));
-    player.SnapshotWindowsAtRecordingStart();
-    player.CloseNewWindows();
-    QCOMPARE(XDisplay::Closed(window, closed ? 3000 : 500), closed);
-    window->kill();
-}
+        QList<QProcess*> windows;
+        // A failed check leaves the function early; its windows are not to meet the next row.
+        const auto closeAll = qScopeGuard([&] {
+            for (QProcess* w : windows)
+                w->kill();
+        });
+        for (int i = 0; i < titles.size(); ++i) {
+            windows << m_display->OpenWindow(titles[i], i == 0 && firstRefuses);
+            QVERIFY(windows.last());
+        }
+        LinkedRecording r;
+        r.AddProgram(
+            {{"InternetLink", "http://radio.example/live"}, {"StreamingPlayerClose", playerClose}});
+        QVERIFY(r.Run(LinkedRecording::At("10:00:03")));
+        QCOMPARE(r.RecordingRows(), 1);
+        for (int i = 0; i < windows.size(); ++i)
+            QVERIFY2(XDisplay::Closed(windows[i], closed[i] ? 3000 : 500) == closed[i],
+                     qPrintable(titles[i]));
+    }
+
+    void automaticSearchClosesOnlyTheNewWindows()
+    {
+        // The link's browser (registered in main) opens a window of the same title as one that
+        // was there before.
+        QProcess* before = m_display->OpenWindow("Radio");
+        QVERIFY(before);
+        LinkedRecording r;
+        r.tc.launcher.desktopPages = true;
+        const QList<WindowHandle> old = WindowsTitled(r.tc.windows, "Radio");
+        QCOMPARE(old.size(), 1);
+
+        r.AddProgram({{"InternetLink", "http://radio.example/live"}, {"StreamingPlayerClose", ""}});
+        int radiosAtStart = 0;
+        QVERIFY(r.Run(LinkedRecording::At("10:00:03"),
+                      [&] { radiosAtStart = WindowsTitled(r.tc.windows, "Radio").size(); }));
+        QCOMPARE(radiosAtStart, 2);
+        QCOMPARE(r.RecordingRows(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(WindowsTitled(r.tc.windows, "Radio"), old, 3000);
+        QVERIFY(!XDisplay::Closed(before, 200));
+        before->kill();
+    }
+
+    void newWindowsCountOnlyNearTheSnapshot_data()
+    {
+        QTest::addColumn<int>("seconds");
+        QTest::addColumn<bool>("closed");
+        QTest::newRow("149 s") << 149 << true;
+        QTest::newRow("151 s") << 151 << false;
+    }
+
+    void newWindowsCountOnlyNearTheSnapshot()
+    {
+        QFETCH(int, seconds);
+        QFETCH(bool, closed);
+        TestContext tc;
+        StreamingPlayer& player = tc.ctx->recorder.Control().Player();
+        const double t0 = LinkedRecording::At("10:00:00");
+        tc.clock.Set(t0);
+        player.SnapshotWindowsBeforeLink();
+        QProcess* window = m_display->OpenWindow("Stream player");
+        QVERIFY(window);
+        tc.clock.Set(AutomationDate::AddSeconds(t0, seconds));
+        player.SnapshotWindowsAtRecordingStart();
+        player.CloseNewWindows();
+        QCOMPARE(XDisplay::Closed(window, closed ? 3000 : 500), closed);
+        window->kill();
+    }
+};
 
 int main(int argc, char* argv[])
 {

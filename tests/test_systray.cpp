@@ -8,7 +8,6 @@
 #include <QTest>
 
 namespace {
-
 // A manager over a fresh context; its icon is the counting stand-in.
 struct Tray {
     Tray()
@@ -44,14 +43,6 @@ struct Tray {
     std::unique_ptr<clsSysTrayMgr> mgr;
 };
 
-QList<int> Range(int from, int to)
-{
-    QList<int> r;
-    for (int i = from; i <= to; ++i)
-        r << i;
-    return r;
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(SysTrayList)
@@ -60,212 +51,206 @@ class TestSysTray : public QObject {
     Q_OBJECT
 
 private slots:
-    void stateChoosesPictureAndTip_data();
-    void stateChoosesPictureAndTip();
-    void recordingGoesRoundSixteenFramesAndPhasesAreNeverReset();
-    void pausedAlternatesAndBlinksInStep_data();
-    void pausedAlternatesAndBlinksInStep();
-    void onlyChangesReachThePlatform();
-    void timerRunsFromItsStartAndOnlyWhenReady();
-};
+    void stateChoosesPictureAndTip_data()
+    {
+        QTest::addColumn<bool>("suspended");
+        QTest::addColumn<bool>("recording");
+        QTest::addColumn<bool>("paused");
+        QTest::addColumn<bool>("playing");
+        QTest::addColumn<bool>("converting");
+        QTest::addColumn<bool>("warning");
+        QTest::addColumn<int>("unviewed");
+        QTest::addColumn<QString>("tip");
+        QTest::addColumn<SysTrayList>("list");
+        QTest::addColumn<int>("index");
 
-void TestSysTray::stateChoosesPictureAndTip_data()
-{
-    QTest::addColumn<bool>("suspended");
-    QTest::addColumn<bool>("recording");
-    QTest::addColumn<bool>("paused");
-    QTest::addColumn<bool>("playing");
-    QTest::addColumn<bool>("converting");
-    QTest::addColumn<bool>("warning");
-    QTest::addColumn<int>("unviewed");
-    QTest::addColumn<QString>("tip");
-    QTest::addColumn<SysTrayList>("list");
-    QTest::addColumn<int>("index");
-
-    using L = SysTrayList;
-    // Each row also sets what lower rows look at, to show that the first match wins. The
-    // phases are at 1: odd, so a pause shows its second picture.
-    QTest::newRow("suspended") << true << false << false << true << true << true << 2
-                               << "Nightreel 2000 - SUSPENDED" << L::General << 4;
-    QTest::newRow("paused") << false << true << true << false << true << true << 0
-                            << "Nightreel 2000 - RECORDING PAUSED" << L::Pause << 2;
-    QTest::newRow("paused, playing") << false << true << true << true << false << false << 0
-                                     << "Nightreel 2000 - RECORDING PAUSED" << L::Pause << 4;
-    QTest::newRow("recording, playing")
-        << false << true << false << true << true << false << 0
-        << "Nightreel 2000 - PLAYING and RECORDING" << L::RecordAndPlay << 1;
-    QTest::newRow("recording hides a warning")
-        << false << true << false << false << true << true << 1 << "Nightreel 2000 - RECORDING"
-        << L::Record << 1;
-    QTest::newRow("converting, playing")
-        << false << false << false << true << true << true << 0
-        << "Nightreel 2000 - PLAYING & CONVERTING TO MP3" << L::ConvertAndPlay << 1;
-    QTest::newRow("converting") << false << false << false << false << true << true << 0
-                                << "Nightreel 2000 - CONVERTING TO MP3" << L::Convert << 1;
-    QTest::newRow("playing hides a warning") << false << false << false << true << false << true
-                                             << 2 << "Nightreel 2000 - PLAYING" << L::General << 3;
-    QTest::newRow("warning before the log")
-        << false << false << false << false << false << true << 2
-        << "Nightreel 2000 - Errors or warnings are present." << L::General << 2;
-    QTest::newRow("one unviewed entry")
-        << false << false << false << false << false << false << 1
-        << "Nightreel 2000 - Error occured, check the error log" << L::General << 2;
-    QTest::newRow("two unviewed entries")
-        << false << false << false << false << false << false << 2
-        << "Nightreel 2000 - Errors occured, check the error log" << L::General << 2;
-    QTest::newRow("nothing") << false << false << false << false << false << false << 0
-                             << "Nightreel 2000 - STOPPED" << L::General << 1;
-}
-
-// The state is set through the flags and the log as the program sets it; nothing calls
-// Update by hand: the manager follows the changes by itself.
-void TestSysTray::stateChoosesPictureAndTip()
-{
-    QFETCH(bool, suspended);
-    QFETCH(bool, recording);
-    QFETCH(bool, paused);
-    QFETCH(bool, playing);
-    QFETCH(bool, converting);
-    QFETCH(bool, warning);
-    QFETCH(int, unviewed);
-    QFETCH(QString, tip);
-    QFETCH(SysTrayList, list);
-    QFETCH(int, index);
-
-    Tray t;
-    clsAppStatus& s = t.ctx().appStatus;
-    t.LogErrors(unviewed);
-    t.ctx().error.SetDiskLowWarn(warning);
-    if (suspended)
-        t.Suspend();
-    s.SetPlaying(playing);
-    s.SetConverting(converting);
-    s.SetRecording(recording);
-    s.SetPaused(paused);
-
-    QCOMPARE(t.mgr->CurrentTip(), tip);
-    QVERIFY((t.mgr->CurrentIcon() == SysTrayPicture{list, index}));
-    // What the icon was last given is what the manager holds.
-    QString lastTip;
-    SysTrayPicture lastPicture{SysTrayList::General, SysTrayPicture::Normal};
-    for (const auto& c : t.calls.calls) {
-        if (c.op != "ChangeSystemTrayTip")
-            lastPicture = c.picture;
-        lastTip = c.tip;
+        using L = SysTrayList;
+        // Each row also sets what lower rows look at, to show that the first match wins. The
+        // phases are at 1: odd, so a pause shows its second picture.
+        QTest::newRow("suspended") << true << false << false << true << true << true << 2
+                                   << "Nightreel 2000 - SUSPENDED" << L::General << 4;
+        QTest::newRow("paused") << false << true << true << false << true << true << 0
+                                << "Nightreel 2000 - RECORDING PAUSED" << L::Pause << 2;
+        QTest::newRow("paused, playing") << false << true << true << true << false << false << 0
+                                         << "Nightreel 2000 - RECORDING PAUSED" << L::Pause << 4;
+        QTest::newRow("recording, playing")
+            << false << true << false << true << true << false << 0
+            << "Nightreel 2000 - PLAYING and RECORDING" << L::RecordAndPlay << 1;
+        QTest::newRow("recording hides a warning")
+            << false << true << false << false << true << true << 1 << "Nightreel 2000 - RECORDING"
+            << L::Record << 1;
+        QTest::newRow("converting, playing")
+            << false << false << false << true << true << true << 0
+            << "Nightreel 2000 - PLAYING & CONVERTING TO MP3" << L::ConvertAndPlay << 1;
+        QTest::newRow("converting") << false << false << false << false << true << true << 0
+                                    << "Nightreel 2000 - CONVERTING TO MP3" << L::Convert << 1;
+        QTest::newRow("playing hides a warning")
+            << false << false << false << true << false << true << 2 << "Nightreel 2000 - PLAYING"
+            << L::General << 3;
+        QTest::newRow("warning before the log")
+            << false << false << false << false << false << true << 2
+            << "Nightreel 2000 - Errors or warnings are present." << L::General << 2;
+        QTest::newRow("one unviewed entry")
+            << false << false << false << false << false << false << 1
+            << "Nightreel 2000 - Error occured, check the error log" << L::General << 2;
+        QTest::newRow("two unviewed entries")
+            << false << false << false << false << false << false << 2
+            << "Nightreel 2000 - Errors occured, check the error log" << L::General << 2;
+        QTest::newRow("nothing") << false << false << false << false << false << false << 0
+                                 << "Nightreel 2000 - STOPPED" << L::General << 1;
     }
-    QCOMPARE(lastTip, tip);
-    QVERIFY((lastPicture == SysTrayPicture{list, index}));
-}
 
-// Each event shows the next frame, one call each; a conversion that follows starts at the
-// convert phase that the events reached, not at its first frame.
-void TestSysTray::recordingGoesRoundSixteenFramesAndPhasesAreNeverReset()
-{
-    Tray t;
-    t.ctx().appStatus.SetRecording(true);
-    const qsizetype before = t.calls.calls.size();
-    for (int i = 0; i < 18; ++i)
-        t.mgr->HandleTimerEvent();
-    // Frame 1 is on show since the recording began; the events go on from there.
-    QCOMPARE(t.Frames(before), Range(2, 16) + QList<int>({1, 2}));
-    QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 0);
-    QCOMPARE(t.mgr->RecordPhase(), 3);
-    QCOMPARE(t.mgr->ConvertPhase(), 18 % 5 + 1);
+    // The state is set through the flags and the log as the program sets it; nothing calls
+    // Update by hand: the manager follows the changes by itself.
+    void stateChoosesPictureAndTip()
+    {
+        QFETCH(bool, suspended);
+        QFETCH(bool, recording);
+        QFETCH(bool, paused);
+        QFETCH(bool, playing);
+        QFETCH(bool, converting);
+        QFETCH(bool, warning);
+        QFETCH(int, unviewed);
+        QFETCH(QString, tip);
+        QFETCH(SysTrayList, list);
+        QFETCH(int, index);
 
-    t.ctx().appStatus.SetConverting(true);
-    t.ctx().appStatus.SetRecording(false);
-    QVERIFY((t.mgr->CurrentIcon() == SysTrayPicture{SysTrayList::Convert, 4}));
-    QCOMPARE(t.mgr->CurrentTip(), QString("Nightreel 2000 - CONVERTING TO MP3"));
-    const qsizetype converting = t.calls.calls.size();
-    for (int i = 0; i < 5; ++i)
-        t.mgr->HandleTimerEvent();
-    // Frame 4 is on show already: the first event changes nothing.
-    QCOMPARE(t.Frames(converting), (QList<int>{5, 1, 2, 3}));
-}
+        Tray t;
+        clsAppStatus& s = t.ctx().appStatus;
+        t.LogErrors(unviewed);
+        t.ctx().error.SetDiskLowWarn(warning);
+        if (suspended)
+            t.Suspend();
+        s.SetPlaying(playing);
+        s.SetConverting(converting);
+        s.SetRecording(recording);
+        s.SetPaused(paused);
 
-void TestSysTray::pausedAlternatesAndBlinksInStep_data()
-{
-    QTest::addColumn<bool>("playing");
-    QTest::addColumn<int>("on");
-    QTest::addColumn<int>("off");
-    QTest::newRow("recording") << false << 1 << 2;
-    QTest::newRow("recording and playing") << true << 3 << 4;
-}
+        QCOMPARE(t.mgr->CurrentTip(), tip);
+        QVERIFY((t.mgr->CurrentIcon() == SysTrayPicture{list, index}));
+        // What the icon was last given is what the manager holds.
+        QString lastTip;
+        SysTrayPicture lastPicture{SysTrayList::General, SysTrayPicture::Normal};
+        for (const auto& c : t.calls.calls) {
+            if (c.op != "ChangeSystemTrayTip")
+                lastPicture = c.picture;
+            lastTip = c.tip;
+        }
+        QCOMPARE(lastTip, tip);
+        QVERIFY((lastPicture == SysTrayPicture{list, index}));
+    }
 
-// Paused, the picture changes every event and the mode panel blinks with it: on (picture 1
-// or 3) on an even phase, off on an odd one.
-void TestSysTray::pausedAlternatesAndBlinksInStep()
-{
-    QFETCH(bool, playing);
-    QFETCH(int, on);
-    QFETCH(int, off);
+    // Each event shows the next frame, one call each; a conversion that follows starts at the
+    // convert phase that the events reached, not at its first frame.
+    void recordingGoesRoundSixteenFramesAndPhasesAreNeverReset()
+    {
+        Tray t;
+        t.ctx().appStatus.SetRecording(true);
+        const qsizetype before = t.calls.calls.size();
+        for (int i = 0; i < 18; ++i)
+            t.mgr->HandleTimerEvent();
+        // Frame 1 is on show since the recording began; the events go on from there.
+        QCOMPARE(t.Frames(before),
+                 (QList<int>{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 1, 2}));
+        QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 0);
+        QCOMPARE(t.mgr->RecordPhase(), 3);
+        QCOMPARE(t.mgr->ConvertPhase(), 18 % 5 + 1);
 
-    Tray t;
-    t.ctx().appStatus.SetPlaying(playing);
-    t.ctx().appStatus.SetRecording(true);
-    QSignalSpy blink(t.mgr.get(), &clsSysTrayMgr::PausedBlink);
-    t.ctx().appStatus.SetPaused(true);
-    const qsizetype before = t.calls.calls.size();
-    for (int i = 0; i < 4; ++i)
-        t.mgr->HandleTimerEvent();
-    // The pause showed its odd picture at once; the events continue at phases 1 to 4.
-    QCOMPARE(t.Frames(before), (QList<int>{on, off, on}));
-    QList<bool> blinks;
-    for (const auto& args : blink)
-        blinks << args[0].toBool();
-    QCOMPARE(blinks, (QList<bool>{false, false, true, false, true}));
-    QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 0);
-}
+        t.ctx().appStatus.SetConverting(true);
+        t.ctx().appStatus.SetRecording(false);
+        QVERIFY((t.mgr->CurrentIcon() == SysTrayPicture{SysTrayList::Convert, 4}));
+        QCOMPARE(t.mgr->CurrentTip(), QString("Nightreel 2000 - CONVERTING TO MP3"));
+        const qsizetype converting = t.calls.calls.size();
+        for (int i = 0; i < 5; ++i)
+            t.mgr->HandleTimerEvent();
+        // Frame 4 is on show already: the first event changes nothing.
+        QCOMPARE(t.Frames(converting), (QList<int>{5, 1, 2, 3}));
+    }
 
-// At creation the icon goes in at once with the picture at rest and the stopped tip, and the
-// timer does not run before a recording has started. Then the steady states make no call; a
-// change of tip alone changes only the tip; a change of picture sends both in one call.
-void TestSysTray::onlyChangesReachThePlatform()
-{
-    Tray t;
-    QCOMPARE(t.calls.Count(), 1);
-    const auto& activate = t.calls.calls[0];
-    QCOMPARE(activate.op, QString("Activate"));
-    QVERIFY((activate.picture == SysTrayPicture{SysTrayList::General, SysTrayPicture::Normal}));
-    QCOMPARE(activate.tip, QString("Nightreel 2000 - STOPPED"));
-    QCOMPARE(t.mgr->tmrSystray.Interval(), 0);
-    for (int i = 0; i < 40; ++i)
-        t.mgr->HandleTimerEvent();
-    QCOMPARE(t.calls.Count(), 1);
+    void pausedAlternatesAndBlinksInStep_data()
+    {
+        QTest::addColumn<bool>("playing");
+        QTest::addColumn<int>("on");
+        QTest::addColumn<int>("off");
+        QTest::newRow("recording") << false << 1 << 2;
+        QTest::newRow("recording and playing") << true << 3 << 4;
+    }
 
-    t.ctx().error.SetDiskLowWarn(true);
-    QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 1);
-    // The log entry raises the unviewed count while the warning still decides.
-    t.LogErrors(1);
-    QCOMPARE(t.calls.Count(), 2);
-    t.ctx().error.SetDiskLowWarn(false);
-    QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 1);
-    QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 1);
-    QCOMPARE(t.calls.calls.last().tip, t.mgr->CurrentTip());
-    t.LogErrors(1);
-    QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 2);
-    QCOMPARE(t.calls.calls.last().tip, t.mgr->CurrentTip());
-    for (int i = 0; i < 40; ++i)
-        t.mgr->HandleTimerEvent();
-    QCOMPARE(t.calls.Count(), 4);
+    // Paused, the picture changes every event and the mode panel blinks with it: on (picture 1
+    // or 3) on an even phase, off on an odd one.
+    void pausedAlternatesAndBlinksInStep()
+    {
+        QFETCH(bool, playing);
+        QFETCH(int, on);
+        QFETCH(int, off);
 
-    t.ctx().error.ElogViewed();
-    QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 2);
-    QCOMPARE(t.calls.calls.last().tip, QString("Nightreel 2000 - STOPPED"));
-}
+        Tray t;
+        t.ctx().appStatus.SetPlaying(playing);
+        t.ctx().appStatus.SetRecording(true);
+        QSignalSpy blink(t.mgr.get(), &clsSysTrayMgr::PausedBlink);
+        t.ctx().appStatus.SetPaused(true);
+        const qsizetype before = t.calls.calls.size();
+        for (int i = 0; i < 4; ++i)
+            t.mgr->HandleTimerEvent();
+        // The pause showed its odd picture at once; the events continue at phases 1 to 4.
+        QCOMPARE(t.Frames(before), (QList<int>{on, off, on}));
+        QList<bool> blinks;
+        for (const auto& args : blink)
+            blinks << args[0].toBool();
+        QCOMPARE(blinks, (QList<bool>{false, false, true, false, true}));
+        QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 0);
+    }
 
-// The timer waits for its start, and its events do nothing until the application is ready.
-void TestSysTray::timerRunsFromItsStartAndOnlyWhenReady()
-{
-    Tray t;
-    t.ctx().appStatus.SetReady(false);
-    t.mgr->StartTimer();
-    QCOMPARE(t.mgr->tmrSystray.Interval(), 500);
-    QTest::qWait(1200);
-    QCOMPARE(t.mgr->RecordPhase(), 1);
-    t.ctx().appStatus.SetReady(true);
-    QTRY_COMPARE_WITH_TIMEOUT(t.mgr->RecordPhase(), 3, 1400);
-}
+    // At creation the icon goes in at once with the picture at rest and the stopped tip, and the
+    // timer does not run before a recording has started. Then the steady states make no call; a
+    // change of tip alone changes only the tip; a change of picture sends both in one call.
+    void onlyChangesReachThePlatform()
+    {
+        Tray t;
+        QCOMPARE(t.calls.Count(), 1);
+        const auto& activate = t.calls.calls[0];
+        QCOMPARE(activate.op, QString("Activate"));
+        QVERIFY((activate.picture == SysTrayPicture{SysTrayList::General, SysTrayPicture::Normal}));
+        QCOMPARE(activate.tip, QString("Nightreel 2000 - STOPPED"));
+        QCOMPARE(t.mgr->tmrSystray.Interval(), 0);
+        for (int i = 0; i < 40; ++i)
+            t.mgr->HandleTimerEvent();
+        QCOMPARE(t.calls.Count(), 1);
+
+        t.ctx().error.SetDiskLowWarn(true);
+        QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 1);
+        // The log entry raises the unviewed count while the warning still decides.
+        t.LogErrors(1);
+        QCOMPARE(t.calls.Count(), 2);
+        t.ctx().error.SetDiskLowWarn(false);
+        QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 1);
+        QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 1);
+        QCOMPARE(t.calls.calls.last().tip, t.mgr->CurrentTip());
+        t.LogErrors(1);
+        QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 2);
+        QCOMPARE(t.calls.calls.last().tip, t.mgr->CurrentTip());
+        for (int i = 0; i < 40; ++i)
+            t.mgr->HandleTimerEvent();
+        QCOMPARE(t.calls.Count(), 4);
+
+        t.ctx().error.ElogViewed();
+        QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 2);
+        QCOMPARE(t.calls.calls.last().tip, QString("Nightreel 2000 - STOPPED"));
+    }
+
+    // The timer waits for its start, and its events do nothing until the application is ready.
+    void timerRunsFromItsStartAndOnlyWhenReady()
+    {
+        Tray t;
+        t.ctx().appStatus.SetReady(false);
+        t.mgr->StartTimer();
+        QCOMPARE(t.mgr->tmrSystray.Interval(), 500);
+        QTest::qWait(1200);
+        QCOMPARE(t.mgr->RecordPhase(), 1);
+        t.ctx().appStatus.SetReady(true);
+        QTRY_COMPARE_WITH_TIMEOUT(t.mgr->RecordPhase(), 3, 1400);
+    }
+};
 
 QTEST_MAIN(TestSysTray)
 #include "test_systray.moc"

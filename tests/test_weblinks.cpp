@@ -13,7 +13,6 @@
 #include <memory>
 
 namespace {
-
 // The private desktop lives for the whole run: the desktop library reads its folders once.
 QTemporaryDir& Desktop()
 {
@@ -56,118 +55,114 @@ bool RegisterBrowser()
 class TestWebLinks : public QObject {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void pageOpensThroughTheHtmlHandler_data();
-    void pageOpensThroughTheHtmlHandler();
-    void withoutBrowserTheRecordingStartsAllTheSame();
-    void linkReachesTheBrowserAtItsTime();
-
 private:
     std::unique_ptr<PulseFixture> m_pulse;
+
+private slots:
+    void initTestCase()
+    {
+        const QString missing = LinkedRecording::StartSound(m_pulse);
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(missing));
+    }
+
+    void pageOpensThroughTheHtmlHandler_data()
+    {
+        QTest::addColumn<QString>("handler");
+        QTest::addColumn<bool>("startFails");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("opened") << "browser.desktop" << false << ""
+                                << "";
+        QTest::newRow("no browser") << "" << false << "Browser Not Found"
+                                    << "Could not find associated Browser";
+        QTest::newRow("start fails") << "browser.desktop" << true << "URL Failed"
+                                     << "Web Page not Opened";
+    }
+
+    void pageOpensThroughTheHtmlHandler()
+    {
+        QFETCH(QString, handler);
+        QFETCH(bool, startFails);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+
+        TestContext tc;
+        tc.launcher.handler = handler;
+        if (startFails)
+            tc.launcher.failing.insert(kUrl);
+        const QString folder = tc.ctx->folders.runtimeFolder;
+        ViewHtmlFile(tc.ctx->log, tc.messageBox, tc.launcher, folder, kUrl);
+
+        // The handler is asked about the page file, not about the URL.
+        QCOMPARE(tc.launcher.probed, QStringList{folder + "/temphtm.HTM"});
+        QVERIFY(!QFile::exists(folder + "/temphtm.HTM"));
+        if (!handler.isEmpty()) {
+            QCOMPARE(tc.launcher.started, QStringList{handler + " " + kUrl});
+            QCOMPARE(tc.launcher.styles, QList<int>{WindowStyleNormal});
+        }
+        QCOMPARE(tc.messageBox.asked.size(), title.isEmpty() ? 0 : 1);
+        if (!title.isEmpty()) {
+            QCOMPARE(tc.messageBox.asked[0].title, title);
+            QCOMPARE(tc.messageBox.asked[0].text, text);
+            QCOMPARE(tc.messageBox.asked[0].icon, MsgIcon::Exclamation);
+        }
+    }
+
+    void withoutBrowserTheRecordingStartsAllTheSame()
+    {
+        if (WithBrowser())
+            QSKIP("the desktop has a browser in this run");
+        LinkedRecording r;
+        r.tc.launcher.desktopPages = true;
+        r.AddProgram({{"InternetLink", kUrl},
+                      {"InternetLinkDelay", 3},
+                      {"StreamingPlayerClose", "DO_NOT_CLOSE"}});
+        QVERIFY(r.Run(LinkedRecording::At("10:00:03")));
+
+        QCOMPARE(r.tc.messageBox.asked.size(), 1);
+        QCOMPARE(r.tc.messageBox.asked[0].title, QString("Browser Not Found"));
+        QCOMPARE(r.tc.messageBox.asked[0].text, QString("Could not find associated Browser"));
+        QCOMPARE(r.RecordingRows(), 1);
+        QVERIFY(!QFile::exists(r.tc.ctx->folders.runtimeFolder + "/temphtm.HTM"));
+    }
+
+    void linkReachesTheBrowserAtItsTime()
+    {
+        if (!WithBrowser())
+            QSKIP("the desktop has no browser in this run");
+        const QString opened = Opened();
+        LinkedRecording r;
+        r.tc.launcher.desktopPages = true;
+        // The player is to be found by itself, so the windows are noted before the link opens,
+        // and the link keeps a lead of 5 seconds although 3 are asked for.
+        r.AddProgram(
+            {{"InternetLink", kUrl}, {"InternetLinkDelay", 3}, {"StreamingPlayerClose", ""}});
+        double snapshotAt = 0;
+        qsizetype launchesAtSnapshot = -1;
+        QObject::connect(&r.tc.ctx->recorder.HeartbeatTimer(),
+                         &Heartbeat::SnapshotWindowsBeforeLink, [&] {
+                             snapshotAt = r.tc.clock.Now();
+                             launchesAtSnapshot = r.tc.launcher.started.size();
+                         });
+        qsizetype launchesAtStart = 0;
+        QVERIFY(r.Run(LinkedRecording::At("10:00:03"),
+                      [&] { launchesAtStart = r.tc.launcher.started.size(); }));
+        QCOMPARE(launchesAtSnapshot, 0);
+        QCOMPARE(launchesAtStart, 1);
+        const qint64 sinceLinkTime =
+            AutomationDate::SecondsBetween(LinkedRecording::At("10:00:05"), snapshotAt);
+        QVERIFY2(sinceLinkTime >= 0 && sinceLinkTime <= 1,
+                 qPrintable(QString::number(sinceLinkTime)));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(opened), 5000);
+        QFile f(opened);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromUtf8(f.readAll()), kUrl);
+        QCOMPARE(r.tc.launcher.styles, QList<int>{WindowStyleNormal});
+        QVERIFY(r.tc.messageBox.asked.isEmpty());
+        QCOMPARE(r.RecordingRows(), 1);
+    }
 };
-
-void TestWebLinks::initTestCase()
-{
-    const QString missing = LinkedRecording::StartSound(m_pulse);
-    if (!missing.isEmpty())
-        QSKIP(qPrintable(missing));
-}
-
-void TestWebLinks::pageOpensThroughTheHtmlHandler_data()
-{
-    QTest::addColumn<QString>("handler");
-    QTest::addColumn<bool>("startFails");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("opened") << "browser.desktop" << false << ""
-                            << "";
-    QTest::newRow("no browser") << "" << false << "Browser Not Found"
-                                << "Could not find associated Browser";
-    QTest::newRow("start fails") << "browser.desktop" << true << "URL Failed"
-                                 << "Web Page not Opened";
-}
-
-void TestWebLinks::pageOpensThroughTheHtmlHandler()
-{
-    QFETCH(QString, handler);
-    QFETCH(bool, startFails);
-    QFETCH(QString, title);
-    QFETCH(QString, text);
-
-    TestContext tc;
-    tc.launcher.handler = handler;
-    if (startFails)
-        tc.launcher.failing.insert(kUrl);
-    const QString folder = tc.ctx->folders.runtimeFolder;
-    ViewHtmlFile(tc.ctx->log, tc.messageBox, tc.launcher, folder, kUrl);
-
-    // The handler is asked about the page file, not about the URL.
-    QCOMPARE(tc.launcher.probed, QStringList{folder + "/temphtm.HTM"});
-    QVERIFY(!QFile::exists(folder + "/temphtm.HTM"));
-    if (!handler.isEmpty()) {
-        QCOMPARE(tc.launcher.started, QStringList{handler + " " + kUrl});
-        QCOMPARE(tc.launcher.styles, QList<int>{WindowStyleNormal});
-    }
-    QCOMPARE(tc.messageBox.asked.size(), title.isEmpty() ? 0 : 1);
-    if (!title.isEmpty()) {
-        QCOMPARE(tc.messageBox.asked[0].title, title);
-        QCOMPARE(tc.messageBox.asked[0].text, text);
-        QCOMPARE(tc.messageBox.asked[0].icon, MsgIcon::Exclamation);
-    }
-}
-
-void TestWebLinks::withoutBrowserTheRecordingStartsAllTheSame()
-{
-    if (WithBrowser())
-        QSKIP("the desktop has a browser in this run");
-    LinkedRecording r;
-    r.tc.launcher.desktopPages = true;
-    r.AddProgram({{"InternetLink", kUrl},
-                  {"InternetLinkDelay", 3},
-                  {"StreamingPlayerClose", "DO_NOT_CLOSE"}});
-    QVERIFY(r.Run(LinkedRecording::At("10:00:03")));
-
-    QCOMPARE(r.tc.messageBox.asked.size(), 1);
-    QCOMPARE(r.tc.messageBox.asked[0].title, QString("Browser Not Found"));
-    QCOMPARE(r.tc.messageBox.asked[0].text, QString("Could not find associated Browser"));
-    QCOMPARE(r.RecordingRows(), 1);
-    QVERIFY(!QFile::exists(r.tc.ctx->folders.runtimeFolder + "/temphtm.HTM"));
-}
-
-void TestWebLinks::linkReachesTheBrowserAtItsTime()
-{
-    if (!WithBrowser())
-        QSKIP("the desktop has no browser in this run");
-    const QString opened = Opened();
-    LinkedRecording r;
-    r.tc.launcher.desktopPages = true;
-    // The player is to be found by itself, so the windows are noted before the link opens,
-    // and the link keeps a lead of 5 seconds although 3 are asked for.
-    r.AddProgram({{"InternetLink", kUrl}, {"InternetLinkDelay", 3}, {"StreamingPlayerClose", ""}});
-    double snapshotAt = 0;
-    qsizetype launchesAtSnapshot = -1;
-    QObject::connect(&r.tc.ctx->recorder.HeartbeatTimer(), &Heartbeat::SnapshotWindowsBeforeLink,
-                     [&] {
-                         snapshotAt = r.tc.clock.Now();
-                         launchesAtSnapshot = r.tc.launcher.started.size();
-                     });
-    qsizetype launchesAtStart = 0;
-    QVERIFY(r.Run(LinkedRecording::At("10:00:03"),
-                  [&] { launchesAtStart = r.tc.launcher.started.size(); }));
-    QCOMPARE(launchesAtSnapshot, 0);
-    QCOMPARE(launchesAtStart, 1);
-    const qint64 sinceLinkTime =
-        AutomationDate::SecondsBetween(LinkedRecording::At("10:00:05"), snapshotAt);
-    QVERIFY2(sinceLinkTime >= 0 && sinceLinkTime <= 1, qPrintable(QString::number(sinceLinkTime)));
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(opened), 5000);
-    QFile f(opened);
-    QVERIFY(f.open(QIODevice::ReadOnly));
-    QCOMPARE(QString::fromUtf8(f.readAll()), kUrl);
-    QCOMPARE(r.tc.launcher.styles, QList<int>{WindowStyleNormal});
-    QVERIFY(r.tc.messageBox.asked.isEmpty());
-    QCOMPARE(r.RecordingRows(), 1);
-}
 
 int main(int argc, char* argv[])
 {

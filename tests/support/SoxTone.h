@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QString>
@@ -34,4 +35,30 @@ inline std::string RawTone(int rate, int channels, double seconds, int bits = 16
     if (!sox.waitForFinished(60000) || sox.exitCode() != 0)
         return {};
     return sox.readAllStandardOutput().toStdString();
+}
+
+// What lame decodes from an MP3 stream (written to scratch.mp3, decoded to scratch.wav), as
+// sox measures it; the frequency is negative for silence.
+struct Mp3Tone {
+    bool ok = false;
+    double rms = -1, frequency = -1, seconds = -1;
+};
+
+inline Mp3Tone DecodeMp3(const QByteArray& mp3, const QString& scratch)
+{
+    Mp3Tone t;
+    QFile file(scratch + ".mp3");
+    if (!file.open(QIODevice::WriteOnly) || file.write(mp3) != mp3.size())
+        return t;
+    file.close();
+    if (QProcess::execute("lame", {"--quiet", "--decode", scratch + ".mp3", scratch + ".wav"}) != 0)
+        return t;
+    QProcess soxi;
+    soxi.start("soxi", {"-D", scratch + ".wav"});
+    if (!soxi.waitForFinished(30000) || soxi.exitCode() != 0)
+        return t;
+    t.seconds = soxi.readAllStandardOutput().trimmed().toDouble();
+    ToneOf(scratch + ".wav", t.rms, t.frequency);
+    t.ok = t.rms >= 0;
+    return t;
 }
