@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QTimer>
 #include <chrono>
+#include <cmath>
+#include <cstdlib>
 #include <pulse/error.h>
 #include <thread>
 
@@ -24,6 +26,12 @@ bool IsDialogRate(quint32 rate)
             return true;
     }
     return false;
+}
+
+// A peak as a fraction of full scale, in tenths of a dBFS.
+qint32 LevelOf(double peak)
+{
+    return peak > 0.0 ? qint32(std::lround(200.0 * std::log10(peak))) : NoSignalLevel;
 }
 
 int CaptureErrorCode(int paError)
@@ -215,6 +223,10 @@ int RecordingTask::OpenCapture()
         pa_threaded_mainloop_wait(m_mainloop);
     }
     m_streaming = code == 0;
+    if (m_streaming) {
+        if (const char* name = pa_stream_get_device_name(m_stream))
+            m_sourceName = name;
+    }
     pa_threaded_mainloop_unlock(m_mainloop);
     return code;
 }
@@ -276,8 +288,12 @@ void RecordingTask::OnSound(const char* sound, size_t bytes)
     }
     if (last <= first)
         return;
+    const char* kept = sound + first * qint64(m_frameBytes);
+    const size_t keptBytes = size_t(last - first) * m_frameBytes;
+    if (m_parms.silenceSeconds > 0)
+        MeasureSilence(kept, keptBytes);
     std::lock_guard lock(m_fileLock);
-    int code = Store(sound + first * qint64(m_frameBytes), size_t(last - first) * m_frameBytes);
+    int code = Store(kept, keptBytes);
     if (code == 0 && m_sinceHeaderUpdate.elapsed() >= HeaderUpdateMilliseconds) {
         code = m_file.UpdateHeader();
         m_sinceHeaderUpdate.restart();
@@ -307,6 +323,50 @@ int RecordingTask::Store(const char* pcm, size_t bytes)
     if (encoded < 0)
         return TaskError::WriteFailed;
     return encoded > 0 ? m_file.Append(m_mp3Buffer.data(), size_t(encoded)) : 0;
+}
+
+void RecordingTask::MeasureSilence(const char* pcm, size_t bytes)
+{
+    int peak = 0;
+    double fullScale = 32768.0;
+    if (m_spec.format == PA_SAMPLE_U8) {
+        fullScale = 128.0;
+        for (size_t i = 0; i < bytes; ++i)
+            peak = std::max(peak, std::abs(int(quint8(pcm[i])) - 128));
+    } else {
+        for (size_t i = 0; i + 1 < bytes; i += 2)
+            peak = std::max(peak, std::abs(int(qFromLittleEndian<qint16>(pcm + i))));
+    }
+    const double level = peak / fullScale;
+    const double threshold = std::pow(10.0, m_parms.silenceThresholdDb / 20.0);
+    if (level < threshold) {
+        m_silentFrames += qint64(bytes / m_frameBytes);
+        m_silentPeak = std::max(m_silentPeak, level);
+        if (!m_silenceReported && m_silentFrames >= qint64(m_parms.silenceSeconds) * m_spec.rate) {
+            m_silenceReported = true;
+            SendLevel(REC_MSG_SILENT, LevelOf(m_silentPeak));
+        }
+        return;
+    }
+    if (m_silenceReported)
+        SendLevel(REC_MSG_SOUND_RETURNED, LevelOf(level));
+    m_silenceReported = false;
+    m_silentFrames = 0;
+    m_silentPeak = 0.0;
+}
+
+// From the capture thread: the channel is the main thread's.
+void RecordingTask::SendLevel(quint32 number, qint32 level)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, number, level] {
+            if (m_socket.state() != QLocalSocket::ConnectedState)
+                return;
+            m_socket.write(Encode(Frame{Kind::Post, number, level, m_sourceName}));
+            m_socket.flush();
+        },
+        Qt::QueuedConnection);
 }
 
 void RecordingTask::Send(Kind kind, quint32 number, qint32 argument)

@@ -36,6 +36,9 @@ private:
     static void OnStreamRead(pa_stream* stream, size_t bytes, void* self);
     void OnSound(const char* sound, size_t bytes);
     int Store(const char* pcm, size_t bytes);
+    // The silence alarm: follows the peak of what is stored, fragment by fragment.
+    void MeasureSilence(const char* pcm, size_t bytes);
+    void SendLevel(quint32 number, qint32 level);
     void OnReadyRead();
     void OnCall(quint32 number);
     void OnPost(quint32 number);
@@ -74,4 +77,9 @@ private:
     QElapsedTimer m_clock;
     std::atomic<qint64> m_startedAt{0};
     std::atomic<qint64> m_stoppedAt{0};
+    // Of the capture thread, but for the source's name, set before capture begins.
+    QByteArray m_sourceName;
+    qint64 m_silentFrames = 0;
+    double m_silentPeak = 0.0;
+    bool m_silenceReported = false;
 };

@@ -40,11 +40,18 @@ void Preset(const TestContext& tc, const QString& name, const QString& text)
 QVariant Member(const Options& o, const QString& name)
 {
     static const QHash<QString, qint16 Options::*> ints = {
-        MEMBER(WarnRecMegsLeft), MEMBER(StopRecMegsLeft), MEMBER(DefaultRecordFileNameFormat),
-        MEMBER(DefaultManualRecordingDurationSeconds), MEMBER(PurgeDays)};
+        MEMBER(WarnRecMegsLeft),
+        MEMBER(StopRecMegsLeft),
+        MEMBER(DefaultRecordFileNameFormat),
+        MEMBER(DefaultManualRecordingDurationSeconds),
+        MEMBER(PurgeDays),
+        MEMBER(SilenceThresholdDb),
+        MEMBER(SilenceAlarmSeconds)};
     static const QHash<QString, bool Options::*> bools = {
-        MEMBER(ConfirmLongRecordings), MEMBER(ConvertToMP3), MEMBER(PurgeRecordings),
-        MEMBER(HiddenWindowStatupMode), MEMBER(ShowSplashScreen)};
+        MEMBER(ConfirmLongRecordings), MEMBER(ConvertToMP3),
+        MEMBER(PurgeRecordings),       MEMBER(HiddenWindowStatupMode),
+        MEMBER(ShowSplashScreen),      MEMBER(KeepAwakeForRecordings),
+        MEMBER(SilenceAlarm)};
     static const QHash<QString, QString Options::*> texts = {MEMBER(DefaultRecordingDirectory),
                                                              MEMBER(MixerFilePath)};
     if (ints.contains(name))
@@ -149,6 +156,9 @@ private slots:
         row("first step", "PlayStepSizeValue5", nullptr, {}, "10");
         row("first folder", "DefaultRecordingDirectory", nullptr, "", nullptr);
         row("first recent file", "RecentRecordingFilename", nullptr, {}, nullptr);
+        row("first KeepAwakeForRecordings", "KeepAwakeForRecordings", nullptr, true, "True");
+        row("first SilenceAlarm", "SilenceAlarm", nullptr, true, "True");
+        row("first SilenceAlarmSeconds", "SilenceAlarmSeconds", nullptr, 120, "120");
 
         row("folder saved empty", "DefaultRecordingDirectory", " ", "", " ");
 
@@ -160,6 +170,8 @@ private slots:
         row("purge days 2", "PurgeDays", "2", 30, "30");
         row("purge days 1000", "PurgeDays", "1000", 30, "30");
         row("purge days 3", "PurgeDays", "3", 3, "3");
+        row("silence threshold 0", "SilenceThresholdDb", "0", -60, "-60");
+        row("silence threshold -90", "SilenceThresholdDb", "-90", -90, "-90");
         row("blanks around a number", "PurgeDays", "  7 ", 7, "  7 ");
         row("half rounds to even, up", "PurgeDays", "7.5", 8, "7.5");
         row("half rounds to even, down", "PurgeDays", "6.5", 6, "6.5");

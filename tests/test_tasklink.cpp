@@ -370,8 +370,8 @@ private slots:
     {
         QTest::addColumn<QString>("plan");
         QTest::addColumn<QString>("code");
-        QTest::newRow("an unknown number") << "afterstart=1048:0"
-                                           << "Code= 1048 If problem";
+        QTest::newRow("an unknown number") << "afterstart=1050:0"
+                                           << "Code= 1050 If problem";
         QTest::newRow("bytes that are no message") << "afterstart=raw"
                                                    << "Code=-1 If problem";
     }

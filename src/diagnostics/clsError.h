@@ -32,11 +32,15 @@ public:
     bool DiskLowWarn() const { return m_diskLowWarn; }
     void SetDiskLowStopRecording(bool value) { SetFlag(m_diskLowStopRecording, value); }
     bool DiskLowStopRecording() const { return m_diskLowStopRecording; }
+    // The recording in progress hears nothing; a warning, cleared when sound returns or the
+    // recording ends.
+    void SetRecordingSilent(bool value) { SetFlag(m_recordingSilent, value); }
+    bool RecordingSilent() const { return m_recordingSilent; }
 
     bool UnviewedElogErrors() const { return m_numUnviewedElogErrors >= 1; }
     bool AnyCurrentErrorsOrWarnings() const { return AnyCurrentErrors() || AnyCurrentWarnings(); }
     bool AnyCurrentErrors() const;
-    bool AnyCurrentWarnings() const { return m_diskLowWarn || m_elogFull; }
+    bool AnyCurrentWarnings() const { return m_diskLowWarn || m_elogFull || m_recordingSilent; }
 
     void ElogViewed();
     void NewElogMsgAdded();
@@ -64,4 +68,5 @@ private:
     bool m_forceUpdate = true;
     bool m_elogVisible = false;
     ErrorIndication m_indication;
+    bool m_recordingSilent = false;
 };

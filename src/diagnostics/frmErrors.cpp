@@ -49,6 +49,11 @@ QString ErrorListText(const clsError& error)
                                "Go to Tools/Advanced/Restore Original Database "
                                "to create new database.") +
                 end;
+    if (error.RecordingSilent())
+        text += QStringLiteral("Recording is silent.  "
+                               "Check that the source is playing and that its mixer levels "
+                               "are up; see the Error Log for the source.") +
+                end;
     return text;
 }
 

@@ -12,6 +12,9 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
                   services.scheduler, services.appStatus, m_status)
     , m_statusBar(services.clock, services.log, services.options, services.appStatus,
                   services.error, m_status, m_conversion, services.diskSpace)
+    , m_silenceAlarm(services.log, services.error, m_status)
+    , m_keepAwake(services.clock, services.log, services.options, services.appStatus,
+                  services.scheduler, m_status, m_conversion, services.sleepInhibitor)
 {
     connect(&m_heartbeat, &Heartbeat::StartRecordingDue, &m_control,
             &RecordingControl::StartRecording);
@@ -35,6 +38,20 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     connect(&m_conversion, &ConversionQueue::UpdateRecordingsButtonsAndMenus, this,
             &Recorder::UpdateRecordingsButtonsAndMenus);
     connect(&m_conversion, &ConversionQueue::UpdateModeDisplay, this, &Recorder::UpdateModeDisplay);
+    ConnectUnattended();
+}
+
+void Recorder::ConnectUnattended()
+{
+    connect(&m_link, &RecordingTaskLink::InputSilent, &m_silenceAlarm, &SilenceAlarm::InputSilent);
+    connect(&m_link, &RecordingTaskLink::SoundReturned, &m_silenceAlarm,
+            &SilenceAlarm::SoundReturned);
+    connect(&m_control, &RecordingControl::RecordingStarted, &m_silenceAlarm, &SilenceAlarm::Reset);
+    connect(&m_control, &RecordingControl::RecordingEnded, &m_silenceAlarm, &SilenceAlarm::Reset);
+    // Each tick, and at once when a recording or a conversion ends.
+    connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, &m_keepAwake, &KeepAwake::Update);
+    connect(&m_control, &RecordingControl::RecordingEnded, &m_keepAwake, &KeepAwake::Update);
+    connect(&m_conversion, &ConversionQueue::UpdateModeDisplay, &m_keepAwake, &KeepAwake::Update);
 }
 
 void Recorder::Start()

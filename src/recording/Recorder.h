@@ -2,9 +2,11 @@
 
 #include "recording/ConversionQueue.h"
 #include "recording/Heartbeat.h"
+#include "recording/KeepAwake.h"
 #include "recording/RecorderServices.h"
 #include "recording/RecordingControl.h"
 #include "recording/RecordingTaskLink.h"
+#include "recording/SilenceAlarm.h"
 #include "recording/StatusBarPlus.h"
 #include "recording/clsRecordingStatus.h"
 
@@ -36,6 +38,7 @@ public:
     RecordingControl& Control() { return m_control; }
     Heartbeat& HeartbeatTimer() { return m_heartbeat; }
     const StatusBarPlus& StatusBar() const { return m_statusBar; }
+    KeepAwake& KeepAwakeControl() { return m_keepAwake; }
 
 signals:
     void StatusBarUpdated(const StatusBarPlus::Update& update);
@@ -51,6 +54,8 @@ signals:
 
 private:
     void OpenInternetLink(const QString& link);
+    // The keep-awake and the silence alarm.
+    void ConnectUnattended();
 
     RecorderServices m_s;
     clsRecordingStatus m_status;
@@ -59,4 +64,6 @@ private:
     RecordingControl m_control;
     Heartbeat m_heartbeat;
     StatusBarPlus m_statusBar;
+    SilenceAlarm m_silenceAlarm;
+    KeepAwake m_keepAwake;
 };

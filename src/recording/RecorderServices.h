@@ -11,6 +11,7 @@ class MixerProfiles;
 class NetworkConnections;
 class Options;
 class ProcessLauncher;
+class SleepInhibitor;
 class RegKeys;
 class Scheduler;
 class WindowList;
@@ -37,4 +38,6 @@ struct RecorderServices {
     NetworkConnections& network;
     // The socket to the recording task and its parameter file lie here.
     QString runtimeFolder;
+    // The machine's sleep, idling and wake alarm, kept in step with the recordings.
+    SleepInhibitor& sleepInhibitor;
 };

@@ -284,6 +284,8 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     parms.outputPath = status.RecordingFile;
     parms.lengthSeconds = status.DurationSeconds;
     parms.format = capture->WaveFormat();
+    parms.silenceThresholdDb = m_s.options.SilenceThresholdDb;
+    parms.silenceSeconds = m_s.options.SilenceAlarm ? m_s.options.SilenceAlarmSeconds : 0;
 
     // The keep-alive runs from before the parameter file is written.
     m_link.StartKeepAlive();
@@ -467,6 +469,7 @@ void RecordingControl::StopRecordingSteps()
     m_s.scheduler.ScheduleNextRecording();
     emit UpdateRecordingsButtonsAndMenus();
     emit UpdateModeDisplay();
+    emit RecordingEnded();
 }
 
 void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString& File,

@@ -63,6 +63,8 @@ signals:
     // Puts the elapsed time of the recording on the task bar in a small window of its own.
     void ShowRecordingStatusForm();
     void UnloadRecordingStatusForm();
+    // The recording is over, however it ended (a conversion may follow).
+    void RecordingEnded();
 
 private:
     void StartRecordingSteps(qint32 ProgramId, double StartTime, double EndTime,

@@ -137,6 +137,7 @@ void RecordingTaskLink::OnReadyRead(QLocalSocket* socket)
         case Kind::Post:
             if (c->helloSeen) {
                 qint32 result = 0;
+                m_postPayload = frame.payload;
                 sbcls1_WndProc(frame.number, 0, frame.argument, result);
                 break;
             }
@@ -316,6 +317,12 @@ void RecordingTaskLink::Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint
         break;
     case WM_SYSCOMMAND:
         emit MinimizeToTray();
+        break;
+    case REC_MSG_SILENT:
+        emit InputSilent(lParam, QString::fromUtf8(m_postPayload));
+        break;
+    case REC_MSG_SOUND_RETURNED:
+        emit SoundReturned(lParam, QString::fromUtf8(m_postPayload));
         break;
     default:
         UnexpectedCode(msg);

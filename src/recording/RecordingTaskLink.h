@@ -81,6 +81,10 @@ signals:
     void TaskNotResponding();
     // The main window was asked to minimise: it goes to the tray instead.
     void MinimizeToTray();
+    // The task's silence alarm: the input has been silent for the set time, or sound is back.
+    // The level is in tenths of a dBFS; the source is the capture source's name.
+    void InputSilent(qint32 level, const QString& source);
+    void SoundReturned(qint32 level, const QString& source);
 
 private:
     struct Connection {
@@ -121,4 +125,6 @@ private:
     qint32 m_taskStatusCode = 0;
     bool m_timedOut = false;
     int m_activationTimeout = 10000;
+    // The payload of the message being dispatched; only the silence alarm's carry one.
+    QByteArray m_postPayload;
 };

@@ -24,6 +24,7 @@ class MessageBoxPresenter;
 class Mixer;
 class NetworkConnections;
 class ProcessLauncher;
+class SleepInhibitor;
 class WindowList;
 
 // The seams that tests replace; everything else in the context is real.
@@ -36,6 +37,7 @@ struct Seams {
     Mixer& mixer;
     WindowList& windows;
     NetworkConnections& network;
+    SleepInhibitor& sleepInhibitor;
 };
 
 // The composition root: what the system holds for the whole run, built in the entry

@@ -8,6 +8,7 @@
 #include "platform/DiskSpace.h"
 #include "platform/Mixer.h"
 #include "platform/NetworkConnections.h"
+#include "platform/SleepInhibitor.h"
 #include "platform/WindowList.h"
 #include "shell/AppContext.h"
 #include "shell/WidgetMessageBox.h"
@@ -54,9 +55,11 @@ int Inspect(int argc, char* argv[])
     MixsetMixer mixer;
     XcbWindowList windows;
     NetworkManagerConnections network;
-    AppContext ctx(
-        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
-        AppFolders::ForCurrentUser());
+    // Inspecting a file records nothing: no bus, no alarm.
+    LogindSleepInhibitor sleepInhibitor{QDBusConnection(QString()), QString()};
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows,
+                         network, sleepInhibitor},
+                   AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx.log, QString::fromLocal8Bit(argv[2]), out);
 }
@@ -81,6 +84,8 @@ int Main(int argc, char* argv[])
     MixsetMixer mixer;
     XcbWindowList windows;
     NetworkManagerConnections network;
+    LogindSleepInhibitor sleepInhibitor{QDBusConnection::systemBus(),
+                                        QStringLiteral("/sys/class/rtc/rtc0/wakealarm")};
     const AppFolders folders = AppFolders::ForCurrentUser();
 
     QLockFile instanceLock(folders.runtimeFolder + QStringLiteral("/nightreel.lock"));
@@ -91,9 +96,9 @@ int Main(int argc, char* argv[])
     }
 
     folders.InstallDatabaseOnFirstRun();
-    AppContext ctx(
-        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
-        folders);
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows,
+                         network, sleepInhibitor},
+                   folders);
     bool showSplash = true;
     Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),
                           ctx.options.HiddenWindowStatupMode, false);

@@ -281,6 +281,13 @@ void Options::GetOptions(RegKeys& registry)
     GetRecentRecording(registry);
     GetPlayStepSizes(registry);
 
+    // Unattended running
+    GetBlnOption(registry, QStringLiteral("KeepAwakeForRecordings"), KeepAwakeForRecordings, true);
+    GetBlnOption(registry, QStringLiteral("SilenceAlarm"), SilenceAlarm, true);
+    GetIntOption(registry, QStringLiteral("SilenceThresholdDb"), SilenceThresholdDb, -90, -1, -60);
+    GetIntOption(registry, QStringLiteral("SilenceAlarmSeconds"), SilenceAlarmSeconds, 1, 32767,
+                 120);
+
     // A warning that comes after the stop would never be seen: both go back to the defaults.
     if (WarnRecMegsLeft < StopRecMegsLeft) {
         WarnRecMegsLeft = DefaultWarnRecMegsLeft;

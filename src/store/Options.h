@@ -77,6 +77,14 @@ public:
 
     std::array<PlayStep, 6> PlayStepSizes = FactoryPlayStepSizes;
 
+    // Unattended running: the machine kept awake from a program's pre-launch time to the end
+    // of its recording and conversion, and a warning when a recording's input stays below
+    // the threshold (dBFS) for the given seconds.
+    bool KeepAwakeForRecordings = true;
+    bool SilenceAlarm = true;
+    qint16 SilenceThresholdDb = -60;
+    qint16 SilenceAlarmSeconds = 120;
+
     // Reads every option but the window layout and the player choice, in a fixed order,
     // then repairs a warning limit set below the stopping limit.
     void GetOptions(RegKeys& registry);

@@ -52,6 +52,8 @@ void RecParms::Write(const QString& path) const
         bytes += NumberLine(value);
     for (int i = 0; i < format.cbSize; ++i)
         bytes += NumberLine(i < format.extra.size() ? quint8(format.extra.at(i)) : 0);
+    if (silenceSeconds > 0)
+        bytes += NumberLine(silenceThresholdDb) + NumberLine(silenceSeconds);
     if (file.write(bytes) != bytes.size() || !file.flush())
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("Path/File access error"));
 }
@@ -108,6 +110,11 @@ std::optional<RecParms> RecParms::Read(const QString& path, bool* couldOpen)
         if (byte < 0 || byte > 255)
             return std::nullopt;
         f.extra.append(char(byte));
+    }
+    const int alarmLine = 12 + cbSize;
+    if (lines.size() >= alarmLine + 2) {
+        p.silenceThresholdDb = number(alarmLine);
+        p.silenceSeconds = number(alarmLine + 1);
     }
     if (!ok)
         return std::nullopt;

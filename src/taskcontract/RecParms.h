@@ -21,6 +21,11 @@ struct RecParms {
     qint32 lengthSeconds = 0;
     // The format the task captures in, 11025 Hz 8-bit mono PCM unless set.
     WaveFormatRecord format{WaveFormatRecord::TagPcm, 1, 11025, 11025, 1, 8, 0, {}};
+    // The silence alarm, in two lines after the format's extra bytes that are written only
+    // when it is on; a file without them (as older schedulers wrote) has no alarm, so the
+    // task never sends such a scheduler a message that it does not know.
+    qint32 silenceThresholdDb = -60;
+    qint32 silenceSeconds = 0;
 
     // Deletes any old file and writes this one; throws RuntimeError on failure.
     void Write(const QString& path) const;

@@ -28,6 +28,13 @@ constexpr quint32 REC_MSG_STOPPED = 1045;
 constexpr quint32 REC_MSG_ERROR = 1046;
 // Both ways: the question and its answer.
 constexpr quint32 REC_MSG_KEEPALIVE = 1047;
+// Task to scheduler, only when the parameter file asks for the silence alarm: the input has
+// stayed below the threshold for the set time, and later sound has returned. The argument is
+// the peak level in tenths of a dBFS (NoSignalLevel for digital silence), the payload the
+// capture source's name.
+constexpr quint32 REC_MSG_SILENT = 1048;
+constexpr quint32 REC_MSG_SOUND_RETURNED = 1049;
+constexpr qint32 NoSignalLevel = -32768;
 // The main window's own system command, handled beside the task's messages.
 constexpr quint32 WM_SYSCOMMAND = 274;
 constexpr qint32 SC_MINIMIZE = 61472;

@@ -1,17 +1,34 @@
 #include "TestContext.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QSqlQuery>
 
-TestContext::TestContext()
+namespace {
+
+QDBusConnection TestSystemBus()
 {
+    static int count = 0;
+    const QByteArray address = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    if (address.isEmpty())
+        return QDBusConnection(QString());
+    return QDBusConnection::connectToBus(QString::fromUtf8(address),
+                                         QStringLiteral("nightreel-test-system-%1").arg(++count));
+}
+
+} // namespace
+
+TestContext::TestContext()
+    : sleepInhibitor(TestSystemBus(), WakeAlarmFile())
+{
+    QFile(WakeAlarmFile()).open(QIODevice::WriteOnly);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.path() + "/config");
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
     const AppFolders folders = AppFolders::Under(m_dir.path());
     folders.InstallDatabaseOnFirstRun();
-    ctx = std::make_unique<AppContext>(
-        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
-        folders);
+    ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace,
+                                             mixer, windows, network, sleepInhibitor},
+                                       folders);
 }
 
 TestContext::~TestContext()

@@ -8,6 +8,7 @@
 #include "platform/DiskSpace.h"
 #include "platform/Mixer.h"
 #include "platform/NetworkConnections.h"
+#include "platform/SleepInhibitor.h"
 #include "platform/WindowList.h"
 #include "shell/AppContext.h"
 
@@ -73,5 +74,9 @@ public:
     // The real desktop: the tests that use them make their own display and system bus.
     XcbWindowList windows;
     NetworkManagerConnections network;
+    // logind on the test's own system bus when it has one (DBUS_SYSTEM_BUS_ADDRESS), else
+    // none; the wake alarm is the empty file WakeAlarmFile().
+    QString WakeAlarmFile() const { return m_dir.path() + "/wakealarm"; }
+    LogindSleepInhibitor sleepInhibitor;
     std::unique_ptr<AppContext> ctx;
 };

@@ -1,0 +1,145 @@
+// Keeping the machine awake for a recording, against logind's stand-in on a system bus of
+// the test's own, with the program's recorder, the real recording task and a sound server of
+// the test's own.
+#include "LinkedRecording.h"
+#include "LogindStandIn.h"
+#include "Programs.h"
+#include "TestContext.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+QString WakeAlarm(const TestContext& tc)
+{
+    QFile file(tc.WakeAlarmFile());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).trimmed() : "gone";
+}
+
+QString EpochText(double date)
+{
+    return QString::number(AutomationDate::ToDateTime(date).toSecsSinceEpoch());
+}
+
+} // namespace
+
+class TestKeepAwake : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        if (!LogindStandIn().Running())
+            QSKIP("logind's stand-in could not be started");
+    }
+
+    void oneBlockFromThePreLaunchTimeToTheEnd_data()
+    {
+        QTest::addColumn<bool>("withBus");
+        QTest::addColumn<bool>("taskFails");
+        QTest::newRow("ends by the clock") << true << false;
+        QTest::newRow("the task fails") << true << true;
+        QTest::newRow("no bus") << false << false;
+    }
+    void oneBlockFromThePreLaunchTimeToTheEnd()
+    {
+        QFETCH(bool, withBus);
+        QFETCH(bool, taskFails);
+        std::unique_ptr<PulseFixture> pulse;
+        if (const QString why = LinkedRecording::StartSound(pulse); !why.isEmpty())
+            QSKIP(qPrintable(why));
+        // The context finds the bus that is there when it is made.
+        std::unique_ptr<LogindStandIn> logind;
+        if (withBus)
+            logind = std::make_unique<LogindStandIn>();
+        LinkedRecording r;
+        // Starts at 10:00:10; the application before it is launched 90 seconds ahead.
+        r.AddProgram({{"LaunchAppPrior", "/usr/bin/player"}, {"LaunchAppDelay", 90}});
+        auto tick = [&r](const QString& time) {
+            r.tc.clock.Set(LinkedRecording::At(time));
+            r.tc.ctx->recorder.HeartbeatTimer().Timer1_Timer();
+        };
+        r.tc.clock.Set(LinkedRecording::At("09:58:00"));
+        r.tc.ctx->scheduler.ScheduleNextRecording();
+        tick("09:58:00");
+        QCOMPARE(WakeAlarm(r.tc), EpochText(LinkedRecording::At("09:58:40")));
+        if (logind) {
+            QCOMPARE(logind->Inhibitors(), QStringList{"sleep|Notes a recording that the sleep "
+                                                       "will miss|delay"});
+            tick("09:58:39");
+            QCOMPARE(logind->BlockInhibitors(), 0);
+            tick("09:58:40");
+            QCOMPARE(logind->Inhibitors().filter("|block"),
+                     QStringList{"sleep:idle|Recording Stream|block"});
+        }
+        int blocksWhileRecording = -1;
+        QVERIFY(r.Run(LinkedRecording::At("10:00:08"), [&] {
+            if (logind)
+                blocksWhileRecording = logind->BlockInhibitors();
+            if (taskFails) {
+                QTest::qWait(1000);
+                pulse->Stop();
+            }
+        }));
+        QCOMPARE(r.RecordingRows(), taskFails ? 0 : 1);
+        QCOMPARE(r.LoggedMessages().size(), taskFails ? 1 : 0);
+        if (logind) {
+            QCOMPARE(blocksWhileRecording, 1);
+            QTRY_COMPARE(logind->BlockInhibitors(), 0);
+        }
+        // The next occurrence is a week later: the alarm follows it.
+        QCOMPARE(WakeAlarm(r.tc), EpochText(LinkedRecording::At("09:58:40") + 7));
+    }
+
+    void sleepWithAProgramDue_data()
+    {
+        QTest::addColumn<bool>("programDue");
+        QTest::addColumn<bool>("wakeAlarm");
+        QTest::addColumn<QStringList>("messages");
+        QTest::newRow("due, no wake alarm")
+            << true << false << QStringList{"No wake alarm", "Computer going to sleep"};
+        QTest::newRow("due, the wake alarm set") << true << true << QStringList{};
+        QTest::newRow("nothing due") << false << false << QStringList{};
+    }
+    void sleepWithAProgramDue()
+    {
+        QFETCH(bool, programDue);
+        QFETCH(bool, wakeAlarm);
+        QFETCH(QStringList, messages);
+        LogindStandIn logind;
+        TestContext tc;
+        tc.OpenDatabase();
+        if (programDue)
+            tc.AddProgram(Programs::Weekly("Night news", "22:00:00", "22:30:00", "0100000"));
+        tc.ctx->database.DataPrograms.Requery();
+        if (!wakeAlarm)
+            QFile::remove(tc.WakeAlarmFile());
+        tc.clock.Set(LinkedRecording::At("12:00:00"));
+        tc.ctx->scheduler.ScheduleNextRecording();
+        tc.ctx->recorder.KeepAwakeControl().Update();
+        QCOMPARE(logind.Inhibitors().filter("|delay").size(), 1);
+
+        QVERIFY(logind.EmitPrepareForSleep(true));
+        // The sleep may go on once the warning is out: the delay lock goes.
+        QTRY_COMPARE(logind.Inhibitors().filter("|delay").size(), 0);
+        QList<LogEntry> entries = tc.LogEntries();
+        QStringList logged;
+        for (const LogEntry& e : entries)
+            logged << e.message;
+        QCOMPARE(logged, messages);
+        if (!messages.isEmpty()) {
+            QCOMPARE(entries.last().type, 1);
+            QVERIFY(entries.last().details.contains("Night news"));
+            QVERIFY(entries.last().details.contains(
+                Options::DateText(LinkedRecording::At("22:00:00"))));
+        }
+        // After waking it is taken anew for the next sleep.
+        QVERIFY(logind.EmitPrepareForSleep(false));
+        QTRY_COMPARE(logind.Inhibitors().filter("|delay").size(), 1);
+        QCOMPARE(logind.BlockInhibitors(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestKeepAwake)
+#include "test_keepawake.moc"

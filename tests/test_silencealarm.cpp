@@ -1,0 +1,111 @@
+// The silence alarm of a scheduled recording, made by the program's recorder and the real
+// recording task from a sound server of the test's own whose tone the test stops and starts.
+#include "LinkedRecording.h"
+#include "Programs.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QSqlQuery>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+double SoxiSeconds(const QString& file)
+{
+    QProcess soxi;
+    soxi.start("soxi", {"-D", file});
+    soxi.waitForFinished(10000);
+    return soxi.exitCode() == 0 ? soxi.readAllStandardOutput().trimmed().toDouble() : -1.0;
+}
+
+} // namespace
+
+class TestSilenceAlarm : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        const QString why = LinkedRecording::StartSound(m_pulse);
+        if (!why.isEmpty())
+            QSKIP(qPrintable(why));
+    }
+    void cleanupTestCase() { m_pulse.reset(); }
+
+    // A twelve-second recording with the alarm after three seconds of silence.
+    void silentStretchIsReportedOnce_data()
+    {
+        QTest::addColumn<int>("toneStopsAt");
+        QTest::addColumn<int>("toneReturnsAt");
+        QTest::addColumn<QStringList>("messages");
+        QTest::newRow("steady tone") << -1 << -1 << QStringList{};
+        QTest::newRow("silent for five seconds")
+            << 2000 << 7000 << QStringList{"Recording is silent", "Recording has sound again"};
+    }
+    void silentStretchIsReportedOnce()
+    {
+        QFETCH(int, toneStopsAt);
+        QFETCH(int, toneReturnsAt);
+        QFETCH(QStringList, messages);
+        LinkedRecording r;
+        r.tc.ctx->options.SilenceAlarmSeconds = 3;
+        QVariantHash row = Programs::WithPcmFormat(
+            Programs::Weekly("Night watch", "10:00:10", "10:00:22", "0100000"));
+        row.insert({{"MixerProfileBefore", ""}, {"MixerProfileAfter", ""}});
+        r.tc.AddProgram(row);
+        r.tc.ctx->database.DataPrograms.Requery();
+
+        // The tone's changes count from the moment the task captures; the file is to hold all
+        // that it captured, up to the end of the recording.
+        bool warnedWhileSilent = false;
+        QElapsedTimer captured;
+        double capturedSeconds = 0.0;
+        QObject::connect(&r.tc.ctx->recorder, &Recorder::RecordingStarted, [&] {
+            captured.start();
+            if (toneStopsAt < 0)
+                return;
+            QTimer::singleShot(toneStopsAt, [this] { m_pulse->StopTone(); });
+            QTimer::singleShot(toneReturnsAt - 500, [&] {
+                warnedWhileSilent =
+                    r.tc.ctx->error.RecordingSilent() && r.tc.ctx->error.Indication().buttonVisible;
+            });
+            QTimer::singleShot(toneReturnsAt, [this] { m_pulse->PlayTone(); });
+        });
+        QObject::connect(&r.tc.ctx->recorder.Control(), &RecordingControl::RecordingEnded,
+                         [&] { capturedSeconds = captured.elapsed() / 1000.0; });
+        QVERIFY(r.Run(LinkedRecording::At("10:00:08")));
+
+        const QList<LogEntry> entries = r.tc.LogEntries();
+        QStringList logged;
+        for (const LogEntry& e : entries)
+            logged << e.message;
+        QCOMPARE(logged, messages);
+        if (!messages.isEmpty()) {
+            QVERIFY(warnedWhileSilent);
+            QCOMPARE(entries[0].type, 1);
+            QCOMPARE(entries[1].type, 0);
+            for (const LogEntry& e : entries) {
+                QVERIFY2(e.details.contains("Recording: Night watch\r\nSource: recmic\r\n"),
+                         qPrintable(e.details));
+            }
+            QVERIFY(entries[0].details.endsWith("Peak level: no signal at all"));
+            QVERIFY(entries[1].details.endsWith(" dBFS"));
+        }
+        QVERIFY(!r.tc.ctx->error.RecordingSilent());
+
+        // The recording went on through the silence: the file holds all that was captured.
+        QSqlQuery q(r.tc.ctx->database.db.Connection());
+        QVERIFY(q.exec("SELECT File FROM Recordings") && q.next());
+        const double seconds = SoxiSeconds(q.value(0).toString());
+        QVERIFY2(capturedSeconds > 8.0 && std::abs(seconds - capturedSeconds) < 0.6,
+                 qPrintable(
+                     QString("%1 s in the file, %2 s captured").arg(seconds).arg(capturedSeconds)));
+    }
+
+private:
+    std::unique_ptr<PulseFixture> m_pulse;
+};
+
+QTEST_GUILESS_MAIN(TestSilenceAlarm)
+#include "test_silencealarm.moc"
