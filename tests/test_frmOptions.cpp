@@ -171,7 +171,8 @@ private slots:
              {"chkShowSplashScreen=0", "optHiddenStartupMode=1", "chkConfirmLongRecordings=0",
               "chkPurgeOldRecordings=1", "txtLongRecordingHours=5", "TextDurationHours=2",
               "TextDurationMinutes=3", "TextDurationSeconds=4", "txtWarnRecMegsLeft=100",
-              "txtStopRecMegsLeft=60", "txtPurgeDays=10", "txtFwdRev0=20"})
+              "txtStopRecMegsLeft=60", "txtPurgeDays=10", "txtFwdRev0=20",
+              "chkKeepAwakeForRecordings=0", "chkSilenceAlarm=0"})
             Enter(*form, edit);
         form->findChild<QComboBox*>("comboMinSec0")->setCurrentIndex(1);
         form->findChild<QComboBox*>("comboDefaultRecordFileNameFormat")->setCurrentIndex(2);
@@ -203,6 +204,8 @@ private slots:
         QCOMPARE(o.PurgeDays, qint16(10));
         QCOMPARE(AutomationDate::ToDateTime(o.PurgeTime).time(), QTime(3, 30, 15));
         QCOMPARE(o.DefaultRecordFileNameFormat, qint16(2));
+        QCOMPARE(o.KeepAwakeForRecordings, false);
+        QCOMPARE(o.SilenceAlarm, false);
         QCOMPARE(o.PlayStepSizes[0].Value, 20);
         QCOMPARE(o.PlayStepSizes[0].Minute, true);
         QCOMPARE(o.DefaultRecordingDirectory, f.tc.Root() + "/rec");

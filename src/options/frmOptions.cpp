@@ -329,8 +329,16 @@ QWidget* frmOptions::BuildAdvancedTab()
     chkShowRecordingTimeInTaskBar =
         Named(new QCheckBox(QStringLiteral("Show elapsed recording time in Windows task &bar")),
               QStringLiteral("chkShowRecordingTimeInTaskBar"));
+    // For a machine left alone: no sleep while a recording is due, and a warning in the log
+    // when the input stays silent.
+    chkKeepAwakeForRecordings =
+        Named(new QCheckBox(QStringLiteral("&Keep the computer awake for recordings")),
+              QStringLiteral("chkKeepAwakeForRecordings"));
+    chkSilenceAlarm = Named(new QCheckBox(QStringLiteral("&Warn when a recording is silent")),
+                            QStringLiteral("chkSilenceAlarm"));
     for (QCheckBox* box :
-         {chkAllowJoystickActivation, chkRemoveExpiredPrograms, chkShowRecordingTimeInTaskBar})
+         {chkAllowJoystickActivation, chkRemoveExpiredPrograms, chkShowRecordingTimeInTaskBar,
+          chkKeepAwakeForRecordings, chkSilenceAlarm})
         layout->addWidget(box);
     comboDefaultRecordFileNameFormat =
         Named(new QComboBox, QStringLiteral("comboDefaultRecordFileNameFormat"));
@@ -414,6 +422,8 @@ void frmOptions::FormLoad(bool mediaPlayerAvailable)
         chkAllowJoystickActivation->setChecked(o.AllowJoystickActivation);
         chkRemoveExpiredPrograms->setChecked(o.RemoveExpiredPrograms);
         chkShowRecordingTimeInTaskBar->setChecked(o.ShowRecordingTimeInTaskBar);
+        chkKeepAwakeForRecordings->setChecked(o.KeepAwakeForRecordings);
+        chkSilenceAlarm->setChecked(o.SilenceAlarm);
         comboDefaultRecordFileNameFormat->setCurrentIndex(o.DefaultRecordFileNameFormat);
         lblMixerControl->setText(m_workingMixerPath);
 
@@ -593,6 +603,9 @@ void frmOptions::cmdOK_Click()
                   chkRemoveExpiredPrograms->isChecked());
         storeBool("ShowRecordingTimeInTaskBar", o.ShowRecordingTimeInTaskBar,
                   chkShowRecordingTimeInTaskBar->isChecked());
+        storeBool("KeepAwakeForRecordings", o.KeepAwakeForRecordings,
+                  chkKeepAwakeForRecordings->isChecked());
+        storeBool("SilenceAlarm", o.SilenceAlarm, chkSilenceAlarm->isChecked());
         o.MixerFilePath = m_workingMixerPath;
         store("MixerFilePath", m_workingMixerPath);
         storeBool("AllowJoystickActivation", o.AllowJoystickActivation,

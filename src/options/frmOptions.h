@@ -117,6 +117,8 @@ private:
     QCheckBox* chkAllowJoystickActivation;
     QCheckBox* chkRemoveExpiredPrograms;
     QCheckBox* chkShowRecordingTimeInTaskBar;
+    QCheckBox* chkKeepAwakeForRecordings;
+    QCheckBox* chkSilenceAlarm;
     QComboBox* comboDefaultRecordFileNameFormat;
     QLabel* lblMixerControl;
     QPushButton* btnSelectMixer;
