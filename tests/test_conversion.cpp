@@ -212,7 +212,7 @@ void TestConversion::recordingIsConvertedAndListedWhenDone()
     Fixture f;
     const QString description = "An evening concert from the old town hall";
     RecordingControl& control = f.recorder().Control();
-    f.SetMp3(control.ManualFormat, mp3Extension);
+    f.SetMp3(f.recorder().Manual().Format, mp3Extension);
     const double from = f.tc.clock.Now();
     control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), description);
     QVERIFY(f.ctx().appStatus.Recording());
@@ -269,7 +269,7 @@ void TestConversion::recordingIsConvertedAndListedWhenDone()
         QCOMPARE(ids, QStringList({"ISFT", "INAM", "fmt ", "fact", "data"}));
         QVERIFY(chunks[0].data.startsWith("Nightreel 2000 "));
         QCOMPARE(chunks[1].data, description.toUtf8() + '\0');
-        QCOMPARE(chunks[2].data, f.recorder().Control().ManualFormat.Record());
+        QCOMPARE(chunks[2].data, f.recorder().Manual().Format.Record());
         QCOMPARE(qFromLittleEndian<quint32>(chunks[3].data.constData()), sourceFrames);
         f.VerifyTone(chunks[4].data);
     }
@@ -353,7 +353,7 @@ void TestConversion::stopSavesTheRunningAndDropsTheWaiting()
     QString live;
     if (whileRecording) {
         RecordingControl& control = f.recorder().Control();
-        f.SetMp3(control.ManualFormat, true);
+        f.SetMp3(f.recorder().Manual().Format, true);
         f.tc.clock.AdvanceSeconds(60);
         const double from = f.tc.clock.Now();
         control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Live");
@@ -488,7 +488,7 @@ void TestConversion::diskGuardCountsTheMp3OfARecordingToConvert()
 {
     Fixture f;
     RecordingControl& control = f.recorder().Control();
-    f.SetMp3(control.ManualFormat, true);
+    f.SetMp3(f.recorder().Manual().Format, true);
     const double from = f.tc.clock.Now();
     control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Tight");
     QVERIFY(f.ctx().appStatus.Recording());

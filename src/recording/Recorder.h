@@ -6,6 +6,7 @@
 #include "recording/RecordingControl.h"
 #include "recording/RecordingTaskLink.h"
 #include "recording/StatusBarPlus.h"
+#include "recording/clsManualRecord.h"
 #include "recording/clsRecordingStatus.h"
 
 #include <QObject>
@@ -36,6 +37,8 @@ public:
     RecordingControl& Control() { return m_control; }
     Heartbeat& HeartbeatTimer() { return m_heartbeat; }
     const StatusBarPlus& StatusBar() const { return m_statusBar; }
+    // The manual request that a recording of program -1 starts from.
+    clsManualRecord& Manual() { return m_manual; }
 
 signals:
     void StatusBarUpdated(const StatusBarPlus::Update& update);
@@ -54,6 +57,7 @@ private:
 
     RecorderServices m_s;
     clsRecordingStatus m_status;
+    clsManualRecord m_manual;
     ConversionQueue m_conversion;
     RecordingTaskLink m_link;
     RecordingControl m_control;

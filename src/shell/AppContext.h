@@ -18,6 +18,7 @@
 class AudioDevices;
 class Clock;
 class DiskSpace;
+class Joystick;
 class MessageBoxPresenter;
 class Mixer;
 class NetworkConnections;
@@ -34,6 +35,7 @@ struct Seams {
     Mixer& mixer;
     WindowList& windows;
     NetworkConnections& network;
+    Joystick& joystick;
 };
 
 // The composition root: what the system holds for the whole run, built in the entry
@@ -76,4 +78,6 @@ public:
     Recorder recorder;
     RecordingsList recordingsList;
     SavedLists savedLists;
+    // Its buttons start, pause and stop manual recordings.
+    Joystick& joystick;
 };

@@ -6,6 +6,7 @@
 #include "formats/FileRowPreview.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
+#include "platform/Joystick.h"
 #include "platform/Mixer.h"
 #include "platform/NetworkConnections.h"
 #include "platform/WindowList.h"
@@ -54,9 +55,10 @@ int Inspect(int argc, char* argv[])
     MixsetMixer mixer;
     XcbWindowList windows;
     NetworkManagerConnections network;
-    AppContext ctx(
-        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
-        AppFolders::ForCurrentUser());
+    LinuxJoystick joystick;
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows,
+                         network, joystick},
+                   AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx.log, QString::fromLocal8Bit(argv[2]), out);
 }
@@ -91,9 +93,11 @@ int Main(int argc, char* argv[])
     }
 
     folders.InstallDatabaseOnFirstRun();
-    AppContext ctx(
-        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
-        folders);
+    LinuxJoystick joystick;
+    joystick.Watch(QStringLiteral("/dev/input"));
+    AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows,
+                         network, joystick},
+                   folders);
     bool showSplash = true;
     Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),
                           ctx.options.HiddenWindowStatupMode, false);

@@ -15,6 +15,7 @@ class ProgramListGrid;
 class RecordingsListGrid;
 class frmRecordingStatus;
 class frmSysTray;
+class ManualRecordCommands;
 class clsSysTrayMgr;
 class cSysTray;
 struct ModeDisplay;
@@ -60,6 +61,7 @@ private:
     void ConnectRecordingCommands();
     void ConnectRecorder();
     void ConnectMixer();
+    void ConnectManualRecording();
     void ShowStatusBar(const StatusBarPlus::Update& update);
     void CreateTray(const SysTrayWrapper& wrapTray);
     void ConnectTray();
@@ -93,4 +95,6 @@ private:
     ProgramListGrid* m_programList = nullptr;
     // The recordings grid as its commands see it; ConnectRecordingCommands wires the actions.
     RecordingsListGrid* m_recordingsList = nullptr;
+    // The dialog, the quick start and the recording keys and joystick buttons.
+    ManualRecordCommands* m_manualRecording = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "TestContext.h"
 
+#include <QDir>
 #include <QSettings>
 #include <QSqlQuery>
 
@@ -9,9 +10,11 @@ TestContext::TestContext()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
     const AppFolders folders = AppFolders::Under(m_dir.path());
     folders.InstallDatabaseOnFirstRun();
-    ctx = std::make_unique<AppContext>(
-        Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows, network},
-        folders);
+    QDir().mkpath(JoystickFolder());
+    joystick.Watch(JoystickFolder());
+    ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace,
+                                             mixer, windows, network, joystick},
+                                       folders);
 }
 
 TestContext::~TestContext()

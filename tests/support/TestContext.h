@@ -6,6 +6,7 @@
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
+#include "platform/Joystick.h"
 #include "platform/Mixer.h"
 #include "platform/NetworkConnections.h"
 #include "platform/WindowList.h"
@@ -73,5 +74,9 @@ public:
     // The real desktop: the tests that use them make their own display and system bus.
     XcbWindowList windows;
     NetworkManagerConnections network;
+    // The real reader, over the folder JoystickFolder(): a test puts a pipe named js0 there
+    // and writes the driver's events into it.
+    LinuxJoystick joystick;
+    QString JoystickFolder() const { return m_dir.path() + "/input"; }
     std::unique_ptr<AppContext> ctx;
 };
