@@ -175,7 +175,7 @@ private slots:
         Fixture f;
         const QString description = "An evening concert from the old town hall";
         RecordingControl& control = f.recorder().Control();
-        f.SetMp3(control.ManualFormat, mp3Extension);
+        f.SetMp3(f.recorder().Manual().Format, mp3Extension);
         const double from = f.tc.clock.Now();
         control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), description);
         QVERIFY(f.ctx().appStatus.Recording());
@@ -227,7 +227,7 @@ private slots:
             const QList<RiffChunk> chunks = DirectChunks(bytes);
             QCOMPARE(chunks.size(), 5);
             QCOMPARE(chunks[1].data, description.toUtf8() + '\0');
-            QCOMPARE(chunks[2].data, f.recorder().Control().ManualFormat.Record());
+            QCOMPARE(chunks[2].data, f.recorder().Manual().Format.Record());
             QCOMPARE(qFromLittleEndian<quint32>(chunks[3].data.constData()), sourceFrames);
             f.VerifyTone(chunks[4].data);
         }
@@ -312,7 +312,7 @@ private slots:
         QString live;
         if (whileRecording) {
             RecordingControl& control = f.recorder().Control();
-            f.SetMp3(control.ManualFormat, true);
+            f.SetMp3(f.recorder().Manual().Format, true);
             f.tc.clock.AdvanceSeconds(60);
             const double from = f.tc.clock.Now();
             control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Live");
@@ -446,7 +446,7 @@ private slots:
     {
         Fixture f;
         RecordingControl& control = f.recorder().Control();
-        f.SetMp3(control.ManualFormat, true);
+        f.SetMp3(f.recorder().Manual().Format, true);
         const double from = f.tc.clock.Now();
         control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Tight");
         QVERIFY(f.ctx().appStatus.Recording());

@@ -272,7 +272,7 @@ private slots:
         ctx().recorder.Link().SetTaskProgram(QCoreApplication::applicationDirPath() +
                                              "/../src/nightreel-rec");
         RecordingControl& control = ctx().recorder.Control();
-        control.ManualFormat.SetToPcm(1, 22050, 16);
+        ctx().recorder.Manual().Format.SetToPcm(1, 22050, 16);
         ctx().recorder.Status().ProgramId = -1;
         QCOMPARE(mgr().tmrSystray.Interval(), 0);
 

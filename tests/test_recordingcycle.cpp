@@ -315,7 +315,7 @@ void TestRecordingCycle::dayLongRecordingStopsByTheClock()
     Cycle c;
     AppContext& ctx = c.ctx();
     c.recorder().Status().ProgramId = -1;
-    c.control->ManualFormat.SetToPcm(1, 22050, 16);
+    c.recorder().Manual().Format.SetToPcm(1, 22050, 16);
     const double from = At("12:00:00");
     c.tc.clock.Set(from);
     qint32 id = -1;
@@ -370,7 +370,7 @@ void TestRecordingCycle::manualRecordingNeedsHalfAMegabyteAboveTheLimit()
     ctx.options.StopRecMegsLeft = 25;
     ctx.options.ConfirmStopManualRecording = false;
     c.recorder().Status().ProgramId = -1;
-    c.control->ManualFormat.SetToPcm(1, 22050, 16);
+    c.recorder().Manual().Format.SetToPcm(1, 22050, 16);
     c.tc.diskSpace.freeMb = 25.25;
     const double now = At("12:00:00");
     c.tc.clock.Set(now);
@@ -404,10 +404,10 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
     Cycle c;
     AppContext& ctx = c.ctx();
     c.recorder().Status().ProgramId = -1;
-    c.control->ManualFormat.SetWaveFormatEx(
+    c.recorder().Manual().Format.SetWaveFormatEx(
         ctx.log, WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(2, 22050, 64)).value());
-    c.control->ManualFormat.ConvertToMP3 = true;
-    c.control->ManualFormat.SaveMP3FileExtension = true;
+    c.recorder().Manual().Format.ConvertToMP3 = true;
+    c.recorder().Manual().Format.SaveMP3FileExtension = true;
     c.tc.diskSpace.freeMb = 100000.0;
     const double from = At("12:00:00");
     c.tc.clock.Set(from);

@@ -1,6 +1,7 @@
 // The recording task for real: nightreel-rec started by the scheduler's side of the link,
 // recording from a PulseAudio server of the test's own, its files checked by outside tools.
 #include "PulseFixture.h"
+#include "SoxTone.h"
 #include "TestContext.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/WaveFileChunks.h"
@@ -121,15 +122,6 @@ ToneFigures Measure(const QString& file)
     f.frequency = figure("Rough\\s+frequency");
     f.ok = sox.exitCode() == 0 && f.rms >= 0;
     return f;
-}
-
-QString Soxi(const QString& option, const QString& file)
-{
-    QProcess soxi;
-    soxi.start("soxi", {option, file});
-    soxi.waitForFinished(10000);
-    return soxi.exitCode() == 0 ? QString::fromUtf8(soxi.readAllStandardOutput()).trimmed()
-                                : QString();
 }
 
 bool Decode(const QString& mp3, const QString& wav)

@@ -1,5 +1,7 @@
 #include "common/PathHelpers.h"
 
+#include "common/TextHelpers.h"
+
 bool InvalidFilenameCharacters(const QString& name)
 {
     static const QString forbidden = QStringLiteral("/\\:*?\"<>|");
@@ -8,4 +10,13 @@ bool InvalidFilenameCharacters(const QString& name)
             return true;
     }
     return false;
+}
+
+QString UserFilenameBase(const QString& typed)
+{
+    QString base = Text::Trim(typed);
+    const QString upper = base.toUpper();
+    if (upper.endsWith(QStringLiteral(".MP3")) || upper.endsWith(QStringLiteral(".WAV")))
+        base.chop(4);
+    return Text::Trim(base);
 }

@@ -7,7 +7,7 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     , m_s(services)
     , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status)
     , m_link(services.log, services.appStatus, services.runtimeFolder)
-    , m_control(services, m_link, m_status, m_conversion)
+    , m_control(services, m_link, m_status, m_conversion, m_manual)
     , m_heartbeat(services.clock, services.log, services.options, services.launcher,
                   services.scheduler, services.appStatus, m_status)
     , m_statusBar(services.clock, services.log, services.options, services.appStatus,

@@ -8,6 +8,7 @@
 #include "recording/RecordingTaskLink.h"
 #include "recording/SilenceAlarm.h"
 #include "recording/StatusBarPlus.h"
+#include "recording/clsManualRecord.h"
 #include "recording/clsRecordingStatus.h"
 
 #include <QObject>
@@ -39,6 +40,8 @@ public:
     Heartbeat& HeartbeatTimer() { return m_heartbeat; }
     const StatusBarPlus& StatusBar() const { return m_statusBar; }
     KeepAwake& KeepAwakeControl() { return m_keepAwake; }
+    // The manual request that a recording of program -1 starts from.
+    clsManualRecord& Manual() { return m_manual; }
 
 signals:
     void StatusBarUpdated(const StatusBarPlus::Update& update);
@@ -59,6 +62,7 @@ private:
 
     RecorderServices m_s;
     clsRecordingStatus m_status;
+    clsManualRecord m_manual;
     ConversionQueue m_conversion;
     RecordingTaskLink m_link;
     RecordingControl m_control;

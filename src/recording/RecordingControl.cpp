@@ -66,12 +66,13 @@ QString WithClosingSeparator(const QString& folder)
 
 RecordingControl::RecordingControl(const RecorderServices& services, RecordingTaskLink& link,
                                    clsRecordingStatus& status, ConversionQueue& conversion,
-                                   QObject* parent)
+                                   const clsManualRecord& manual, QObject* parent)
     : QObject(parent)
     , m_s(services)
     , m_link(link)
     , m_status(status)
     , m_conversion(conversion)
+    , m_manual(manual)
     , m_player(services.clock, services.windows)
 {
     connect(&m_link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
@@ -182,8 +183,8 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         ReadFormat(m_s.log, chosen, programs);
     } else if (!folder.isEmpty()) {
         description = Description;
-        chosen.CopyFrom(ManualFormat);
-        userName = ManualFilenameUser;
+        chosen.CopyFrom(m_manual.Format);
+        userName = m_manual.Filename;
         status.LaunchAppAfter.clear();
         status.InternetLink.clear();
         status.MixerProfileBefore.clear();

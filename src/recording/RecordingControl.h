@@ -3,6 +3,7 @@
 #include "formats/clsRecordingFormat.h"
 #include "recording/RecorderServices.h"
 #include "recording/clsConvertToMP3Request.h"
+#include "recording/clsManualRecord.h"
 #include "sideactions/StreamingPlayer.h"
 
 #include <QObject>
@@ -22,7 +23,7 @@ class RecordingControl : public QObject {
 public:
     RecordingControl(const RecorderServices& services, RecordingTaskLink& link,
                      clsRecordingStatus& status, ConversionQueue& conversion,
-                     QObject* parent = nullptr);
+                     const clsManualRecord& manual, QObject* parent = nullptr);
     ~RecordingControl() override;
 
     // ProgramId is a row of Programs, or -1 for a manual recording; StartTime is the moment
@@ -49,11 +50,6 @@ public:
     // The player that a program's web link opened, closed at the end of its recording.
     StreamingPlayer& Player() { return m_player; }
 
-    // What the manual recording dialog leaves for StartRecording: the format and the
-    // user's own file name.
-    clsRecordingFormat ManualFormat;
-    QString ManualFilenameUser;
-
 signals:
     // The task captures: the recording has started for good. The tray animates from the
     // first of these on.
@@ -78,6 +74,8 @@ private:
     RecordingTaskLink& m_link;
     clsRecordingStatus& m_status;
     ConversionQueue& m_conversion;
+    // A manual recording takes its format and the user's file name from here.
+    const clsManualRecord& m_manual;
     // The recording in progress: the format the user chose and, for one to be converted,
     // the request that the conversion queue takes when the capture is over.
     clsRecordingFormat m_format;

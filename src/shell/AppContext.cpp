@@ -27,6 +27,7 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
                                             recorder.Conversion().RunningDestination()};
                      })
     , savedLists(database, recordingsList, folders.dataFolder)
+    , joystick(seams.joystick)
 {
 }
 

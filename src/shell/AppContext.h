@@ -20,6 +20,7 @@
 class AudioDevices;
 class Clock;
 class DiskSpace;
+class Joystick;
 class MessageBoxPresenter;
 class Mixer;
 class NetworkConnections;
@@ -38,6 +39,7 @@ struct Seams {
     WindowList& windows;
     NetworkConnections& network;
     SleepInhibitor& sleepInhibitor;
+    Joystick& joystick;
 };
 
 // The composition root: what the system holds for the whole run, built in the entry
@@ -80,4 +82,6 @@ public:
     Recorder recorder;
     RecordingsList recordingsList;
     SavedLists savedLists;
+    // Its buttons start, pause and stop manual recordings.
+    Joystick& joystick;
 };

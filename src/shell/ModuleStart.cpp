@@ -6,6 +6,7 @@
 #include "formats/FileRowPreview.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
+#include "platform/Joystick.h"
 #include "platform/Mixer.h"
 #include "platform/NetworkConnections.h"
 #include "platform/SleepInhibitor.h"
@@ -57,8 +58,9 @@ int Inspect(int argc, char* argv[])
     NetworkManagerConnections network;
     // Inspecting a file records nothing: no bus, no alarm.
     LogindSleepInhibitor sleepInhibitor{QDBusConnection(QString()), QString()};
+    LinuxJoystick joystick;
     AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows,
-                         network, sleepInhibitor},
+                         network, sleepInhibitor, joystick},
                    AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx.log, QString::fromLocal8Bit(argv[2]), out);
@@ -96,8 +98,10 @@ int Main(int argc, char* argv[])
     }
 
     folders.InstallDatabaseOnFirstRun();
+    LinuxJoystick joystick;
+    joystick.Watch(QStringLiteral("/dev/input"));
     AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows,
-                         network, sleepInhibitor},
+                         network, sleepInhibitor, joystick},
                    folders);
     bool showSplash = true;
     Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),

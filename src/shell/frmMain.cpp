@@ -10,6 +10,8 @@
 #include "diagnostics/frmSysTray.h"
 #include "options/frmOptions.h"
 #include "options/frmSelectRecordDirectory.h"
+#include "platform/Joystick.h"
+#include "recording/ManualRecordCommands.h"
 #include "scheduling/DiskForecast.h"
 #include "scheduling/frmDiskStatus.h"
 #include "shell/AppContext.h"
@@ -227,6 +229,7 @@ void frmMain::ConnectCommands()
     ConnectRecordingCommands();
     ConnectRecorder();
     ConnectMixer();
+    ConnectManualRecording();
 }
 
 // The mixer application for adjusting by hand, and the profiles.
@@ -267,6 +270,25 @@ void frmMain::ConnectOptions()
         // The enhanced player's availability is not known to the window yet.
         frmOptions(services, false, this).exec();
     });
+}
+
+// Record on the toolbar and in the menu opens the dialog. The recording keys work wherever
+// the focus is in the window's lists and tabs, and the joystick's buttons at any time.
+void frmMain::ConnectManualRecording()
+{
+    m_manualRecording = new ManualRecordCommands(
+        ManualRecordServices{m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.messageBox,
+                             m_ctx.appStatus, m_ctx.recorder.Manual(), m_ctx.WfxDefault},
+        m_ctx.recorder, m_ctx.clock, this);
+    for (const char* name : {"ToolbarMain.Record", "mnuManualRecording"})
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, m_manualRecording,
+                &ManualRecordCommands::ToolbarRecord);
+    for (QWidget* keySensitive :
+         {static_cast<QWidget*>(ui.DBGridPrograms), static_cast<QWidget*>(ui.DBGridRecordings),
+          static_cast<QWidget*>(ui.SSTab1)})
+        keySensitive->installEventFilter(m_manualRecording);
+    connect(&m_ctx.joystick, &Joystick::ButtonPressed, m_manualRecording,
+            &ManualRecordCommands::JoystickButtonPress);
 }
 
 // The window observes the recorder and forwards the user's commands to it.

@@ -15,6 +15,7 @@ class ProgramListGrid;
 class RecordingsListGrid;
 class frmRecordingStatus;
 class frmSysTray;
+class ManualRecordCommands;
 class clsSysTrayMgr;
 class cSysTray;
 struct ModeDisplay;
@@ -62,6 +63,7 @@ private:
     void ConnectMixer();
     void ConnectDiskStatus();
     void ConnectOptions();
+    void ConnectManualRecording();
     void ShowStatusBar(const StatusBarPlus::Update& update);
     void CreateTray(const SysTrayWrapper& wrapTray);
     void ConnectTray();
@@ -95,4 +97,6 @@ private:
     ProgramListGrid* m_programList = nullptr;
     // The recordings grid as its commands see it; ConnectRecordingCommands wires the actions.
     RecordingsListGrid* m_recordingsList = nullptr;
+    // The dialog, the quick start and the recording keys and joystick buttons.
+    ManualRecordCommands* m_manualRecording = nullptr;
 };

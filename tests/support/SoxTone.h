@@ -24,6 +24,17 @@ inline bool ToneOf(const QString& path, double& rms, double& frequency, double s
     return rms >= 0 && frequency >= 0;
 }
 
+// One figure that soxi gives of a sound file ("-r" rate, "-c" channels, "-D" seconds...);
+// empty when soxi can't read the file.
+inline QString Soxi(const QString& option, const QString& file)
+{
+    QProcess soxi;
+    soxi.start("soxi", {option, file});
+    soxi.waitForFinished(10000);
+    return soxi.exitCode() == 0 ? QString::fromUtf8(soxi.readAllStandardOutput()).trimmed()
+                                : QString();
+}
+
 // Raw little-endian samples of a 1 kHz tone at half scale, as the recording task captures
 // them (8-bit samples unsigned, wider ones signed); empty when sox fails.
 inline std::string RawTone(int rate, int channels, double seconds, int bits = 16)

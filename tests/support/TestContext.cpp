@@ -1,5 +1,6 @@
 #include "TestContext.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QSqlQuery>
@@ -26,8 +27,10 @@ TestContext::TestContext()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
     const AppFolders folders = AppFolders::Under(m_dir.path());
     folders.InstallDatabaseOnFirstRun();
+    QDir().mkpath(JoystickFolder());
+    joystick.Watch(JoystickFolder());
     ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace,
-                                             mixer, windows, network, sleepInhibitor},
+                                             mixer, windows, network, sleepInhibitor, joystick},
                                        folders);
 }
 

@@ -6,6 +6,7 @@
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
+#include "platform/Joystick.h"
 #include "platform/Mixer.h"
 #include "platform/NetworkConnections.h"
 #include "platform/SleepInhibitor.h"
@@ -78,5 +79,9 @@ public:
     // none; the wake alarm is the empty file WakeAlarmFile().
     QString WakeAlarmFile() const { return m_dir.path() + "/wakealarm"; }
     LogindSleepInhibitor sleepInhibitor;
+    // The real reader, over the folder JoystickFolder(): a test puts a pipe named js0 there
+    // and writes the driver's events into it.
+    LinuxJoystick joystick;
+    QString JoystickFolder() const { return m_dir.path() + "/input"; }
     std::unique_ptr<AppContext> ctx;
 };

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QDialog>
+
+class EventLog;
+class MessageBoxPresenter;
+class Options;
+class RegKeys;
+class clsAppStatus;
+class clsRecordingFormat;
+struct clsManualRecord;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+// What the manual recording dialog uses of the rest of the system.
+struct ManualRecordServices {
+    EventLog& log;
+    RegKeys& registry;
+    Options& options;
+    MessageBoxPresenter& messageBox;
+    clsAppStatus& appStatus;
+    // Where the dialog leaves its answer.
+    clsManualRecord& request;
+    // The default format the dialog starts from.
+    const clsRecordingFormat& defaultFormat;
+};
+
+// "Manual Record": the length, description, format and file name of a recording that starts
+// now. It writes its answer into the request and sets Requested only when all checks pass.
+// The quick start of keys and joystick loads it without showing it and presses OK itself;
+// then the long-recording question is not asked.
+class frmManualRecord : public QDialog {
+    Q_OBJECT
+public:
+    frmManualRecord(const ManualRecordServices& services, bool quickStart, QWidget* owner);
+
+    const bool QuickStart;
+    // The user confirmed a format with Modify.
+    bool FormatChanged = false;
+
+    void CommandOk_Click();
+    void CalcStorage();
+
+    QLineEdit* TextProgramDescription;
+    QLineEdit* TextDurationHours;
+    QLineEdit* TextDurationMinutes;
+    QLineEdit* TextDurationSeconds;
+    QLineEdit* TextCompressionMethod;
+    QPushButton* ChangeComprMethodButton;
+    QLabel* LabelDiskSpaceData;
+    QRadioButton* optDefaultFilename;
+    QRadioButton* optUserFilename;
+    QLineEdit* txtFilename;
+    QPushButton* CommandOk;
+    QPushButton* CommandCancel;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QLineEdit* MakeDurationBox(const char* name, const char* upDownName, int max, int start,
+                               QWidget*& withArrows);
+    void Form_Load();
+    void ChangeComprMethodButton_Click();
+    // The rule on leaving a duration box: its value forced into the range, two digits.
+    void ClampDurationBox(QLineEdit* box);
+    qint32 DurationSecondsOfFields() const;
+
+    ManualRecordServices m_s;
+    // The format that Modify changes; it is used only when the change was accepted.
+    clsRecordingFormat m_workingFormat;
+};

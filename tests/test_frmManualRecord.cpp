@@ -1,0 +1,482 @@
+// Manual recordings in the real main window with the real recording task and a tone from a
+// PulseAudio server of the test's own: the quick start of Ctrl+R and of the joystick, the
+// dialog of the toolbar, the other recording keys, and a scheduled program that waits for a
+// manual recording to end.
+#include "ModalDialogs.h"
+#include "Programs.h"
+#include "PulseFixture.h"
+#include "SoxTone.h"
+#include "TestContext.h"
+#include "formats/CodecCatalogue.h"
+#include "recording/frmManualRecord.h"
+#include "shell/frmMain.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+#include <fcntl.h>
+#include <linux/joystick.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+double At(const QString& time)
+{
+    return Programs::At(2026, 6, 1, time);
+}
+
+// The main window, activated, with the real recording task and a default format of 16-bit
+// mono PCM at 44.1 kHz; the clock runs at real speed from Monday 1 June 2026, 12:00:00.
+struct Window {
+    Window()
+    {
+        QDir().mkpath(folder);
+        tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", folder);
+        form = std::make_unique<frmMain>(*tc.ctx, false);
+        form->FirstActivate();
+        ctx().recorder.Link().SetTaskProgram(QCoreApplication::applicationDirPath() +
+                                             "/../src/nightreel-rec");
+        ctx().WfxDefault.SetToPcm(1, 44100, 16);
+        ctx().WfxDefault.CalculateTextCompressionMethodString();
+        SetDefaultDuration(0, 0, 3);
+        tc.clock.Set(At("12:00:00"));
+        elapsed.start();
+        QObject::connect(&clockTimer, &QTimer::timeout, [this] {
+            tc.clock.Set(AutomationDate::AddSeconds(At("12:00:00"), elapsed.elapsed() / 1000.0));
+        });
+        clockTimer.start(20);
+    }
+
+    AppContext& ctx() { return *tc.ctx; }
+    ManualRecordServices Services()
+    {
+        return {ctx().log,       ctx().registry,          ctx().options,   tc.messageBox,
+                ctx().appStatus, ctx().recorder.Manual(), ctx().WfxDefault};
+    }
+    void SetDefaultDuration(int hours, int minutes, int seconds)
+    {
+        ctx().options.DefaultManualRecordingDurationHours = qint16(hours);
+        ctx().options.DefaultManualRecordingDurationMinutes = qint16(minutes);
+        ctx().options.DefaultManualRecordingDurationSeconds = qint16(seconds);
+    }
+    bool WaitUntilStopped(int ms = 20000)
+    {
+        return QTest::qWaitFor([this] { return !ctx().appStatus.Recording(); }, ms);
+    }
+    QStringList Files() const { return QDir(folder).entryList(QDir::Files, QDir::Name); }
+    QStringList RecordingTitles() const
+    {
+        QStringList titles;
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec("SELECT Title FROM Recordings ORDER BY ID");
+        while (q.next())
+            titles << q.value(0).toString();
+        return titles;
+    }
+    QString ProgramsTable() const
+    {
+        QString rows;
+        QSqlQuery q(tc.ctx->database.db.Connection());
+        q.exec("SELECT * FROM Programs ORDER BY ID");
+        while (q.next())
+            for (int c = 0; c < q.record().count(); ++c)
+                rows += q.value(c).toString() + u'|';
+        return rows;
+    }
+
+    TestContext tc;
+    QString folder = tc.Root() + "/recordings";
+    std::unique_ptr<frmMain> form;
+    QElapsedTimer elapsed;
+    QTimer clockTimer;
+};
+
+// The write end of a pipe that the joystick reader takes for a device.
+class JoystickPipe {
+public:
+    explicit JoystickPipe(TestContext& tc)
+    {
+        const QByteArray path = QFile::encodeName(tc.JoystickFolder() + "/js0");
+        if (::mkfifo(path.constData(), 0600) != 0)
+            return;
+        QTRY_VERIFY(tc.joystick.IsOpen());
+        m_fd = ::open(path.constData(), O_WRONLY | O_NONBLOCK);
+    }
+    ~JoystickPipe()
+    {
+        if (m_fd >= 0)
+            ::close(m_fd);
+    }
+    bool IsOpen() const { return m_fd >= 0; }
+    // A press and a release of a button numbered from 1, as the driver reports them.
+    void Press(int button, quint8 flags = 0)
+    {
+        for (qint16 value : {1, 0}) {
+            const js_event event{0, value, quint8(JS_EVENT_BUTTON | flags), quint8(button - 1)};
+            QCOMPARE(::write(m_fd, &event, sizeof event), ssize_t(sizeof event));
+        }
+        QTest::qWait(300);
+    }
+
+private:
+    int m_fd = -1;
+};
+
+} // namespace
+
+class TestFrmManualRecord : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void ctrlRRecordsTheDefaultAtOnce();
+    void recordingKeys_data();
+    void recordingKeys();
+    void durationBoxes_data();
+    void durationBoxes();
+    void longRecordingQuestion_data();
+    void longRecordingQuestion();
+    void dialogNameAndFormatServeOneRecording();
+    void joystickButtonsDriveARecording();
+    void scheduledProgramStartsLateAfterAManualOne();
+    void grabTheForm();
+
+private:
+    std::unique_ptr<PulseFixture> m_pulse;
+};
+
+void TestFrmManualRecord::initTestCase()
+{
+    m_pulse = std::make_unique<PulseFixture>();
+    if (!m_pulse->Running() || !m_pulse->PlayTone())
+        m_pulse.reset();
+}
+
+// Ctrl+R on the programs grid records the default length of the tone into a stamped file
+// and lists it; a second Ctrl+R while it runs neither asks nor starts anything.
+void TestFrmManualRecord::ctrlRRecordsTheDefaultAtOnce()
+{
+    if (!m_pulse)
+        QSKIP("no PulseAudio server");
+    Window w;
+    w.tc.AddProgram(Programs::Weekly("Evening", "20:00:00", "21:00:00", "1111111"));
+    const QString programs = w.ProgramsTable();
+    const qint64 pressed = w.elapsed.elapsed();
+    QTest::keyClick(w.form->ui.DBGridPrograms, Qt::Key_R, Qt::ControlModifier);
+    QVERIFY(w.ctx().appStatus.Recording());
+    QTest::keyClick(w.form->ui.DBGridPrograms, Qt::Key_R, Qt::ControlModifier);
+    QVERIFY(w.WaitUntilStopped());
+    const double wall = (w.elapsed.elapsed() - pressed) / 1000.0;
+    QVERIFY2(wall > 2.9 && wall < 8.0, qPrintable(QString::number(wall)));
+
+    QCOMPARE(w.ctx().recorder.Link().StartedTasks().size(), 1);
+    QVERIFY(w.tc.messageBox.asked.isEmpty());
+    QCOMPARE(w.Files(), QStringList{"060126_120000.WAV"});
+    const QString file = w.folder + "/060126_120000.WAV";
+    const double seconds = Soxi("-D", file).toDouble();
+    // The task's hand-shake and the sound server's start take their share of the three.
+    QVERIFY2(seconds > 0.8 && seconds < 3.5, qPrintable(QString::number(seconds)));
+    double rms = 0, frequency = 0;
+    QVERIFY(ToneOf(file, rms, frequency, 0.5));
+    QVERIFY2(std::abs(frequency - 1000) < 100, qPrintable(QString::number(frequency)));
+    QCOMPARE(w.RecordingTitles(), QStringList{"Manual Record"});
+    QVERIFY(w.tc.launcher.started.isEmpty());
+    QCOMPARE(w.ProgramsTable(), programs);
+}
+
+void TestFrmManualRecord::recordingKeys_data()
+{
+    QTest::addColumn<QString>("widget");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<bool>("disabled");
+    QTest::addColumn<bool>("acts");
+    const int ctrl = Qt::ControlModifier;
+    QTest::newRow("Ctrl+P pauses") << "SSTab1" << int(Qt::Key_P) << ctrl << false << true;
+    QTest::newRow("Ctrl+U resumes") << "DBGridPrograms" << int(Qt::Key_U) << ctrl << false << true;
+    QTest::newRow("Ctrl+T toggles") << "DBGridPrograms" << int(Qt::Key_T) << ctrl << false << true;
+    QTest::newRow("Ctrl+Shift+R") << "DBGridPrograms" << int(Qt::Key_R)
+                                  << int(ctrl | Qt::ShiftModifier) << false << false;
+    QTest::newRow("Ctrl+Alt+R") << "SSTab1" << int(Qt::Key_R) << int(ctrl | Qt::AltModifier)
+                                << false << false;
+    for (int key : {Qt::Key_R, Qt::Key_S, Qt::Key_P, Qt::Key_U, Qt::Key_T})
+        QTest::addRow("disabled Ctrl+%c", char(key))
+            << "DBGridPrograms" << key << ctrl << true << false;
+}
+
+// The keys act with Ctrl alone and the keys not turned off. S, P, U and T are tried on a
+// recording as the start leaves it, without a task; R with none running.
+void TestFrmManualRecord::recordingKeys()
+{
+    QFETCH(QString, widget);
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(bool, disabled);
+    QFETCH(bool, acts);
+    Window w;
+    AppContext& ctx = w.ctx();
+    ctx.options.DisableKeyboardActivatedRecording = disabled;
+    ctx.options.ConfirmStopManualRecording = false;
+    const bool quickStart = key == Qt::Key_R;
+    if (!quickStart) {
+        ctx.appStatus.SetRecording(true);
+        ctx.recorder.Status().ProgramId = -1;
+        ctx.appStatus.SetPaused(key == Qt::Key_U);
+    }
+    QTest::keyClick(Control(w.form.get(), widget), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    const bool changed = quickStart ? !ctx.recorder.Link().StartedTasks().isEmpty()
+                                    : ctx.recorder.Status().StopRequested ||
+                                          ctx.appStatus.Paused() != (key == Qt::Key_U);
+    QCOMPARE(changed, acts);
+    QVERIFY(w.tc.messageBox.asked.isEmpty());
+    ctx.appStatus.SetRecording(false);
+}
+
+void TestFrmManualRecord::durationBoxes_data()
+{
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("storageWhileTyping");
+    QTest::addColumn<QString>("left");
+    QTest::addColumn<QString>("storageAfter");
+    // Phone quality: 11025 bytes a second.
+    QTest::newRow("99 hours") << "TextDurationHours"
+                              << "99"
+                              << "3747.3 Mbytes"
+                              << "23"
+                              << "870.6 Mbytes";
+    QTest::newRow("abc hours") << "TextDurationHours"
+                               << "abc"
+                               << "0 Kbytes"
+                               << "00"
+                               << "0 Kbytes";
+    QTest::newRow("10 seconds") << "TextDurationSeconds"
+                                << "10"
+                                << "107.666 Kbytes"
+                                << "10"
+                                << "107.666 Kbytes";
+}
+
+// A duration box takes any text; on leaving it the value is forced into its range and shown
+// with two digits. The storage figure follows each change.
+void TestFrmManualRecord::durationBoxes()
+{
+    QFETCH(QString, box);
+    QFETCH(QString, typed);
+    QFETCH(QString, storageWhileTyping);
+    QFETCH(QString, left);
+    QFETCH(QString, storageAfter);
+    Window w;
+    w.ctx().WfxDefault.SetToPcmPhoneQuality();
+    w.SetDefaultDuration(0, 0, 0);
+    frmManualRecord form(w.Services(), false, nullptr);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    auto* edit = Control<QLineEdit>(&form, box);
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, typed);
+    QCOMPARE(edit->text(), typed);
+    QCOMPARE(form.LabelDiskSpaceData->text(), storageWhileTyping);
+    form.TextProgramDescription->setFocus();
+    QCOMPARE(edit->text(), left);
+    QCOMPARE(form.LabelDiskSpaceData->text(), storageAfter);
+}
+
+void TestFrmManualRecord::longRecordingQuestion_data()
+{
+    QTest::addColumn<bool>("quickStart");
+    QTest::addColumn<QString>("duration");
+    QTest::addColumn<bool>("asked");
+    QTest::newRow("2:00:30, seconds don't count") << false << "02:00:30" << false;
+    QTest::newRow("2:01:00") << false << "02:01:00" << true;
+    QTest::newRow("quick start of 5:00:00") << true << "05:00:00" << false;
+}
+
+// With LongRecordingHours at 2 the dialog asks about whole minutes beyond two hours; No
+// keeps it open with nothing requested. The quick start never asks.
+void TestFrmManualRecord::longRecordingQuestion()
+{
+    QFETCH(bool, quickStart);
+    QFETCH(QString, duration);
+    QFETCH(bool, asked);
+    Window w;
+    w.ctx().options.LongRecordingHours = 2;
+    w.ctx().options.ConfirmLongRecordings = true;
+    const QStringList parts = duration.split(':');
+    w.SetDefaultDuration(parts[0].toInt(), parts[1].toInt(), parts[2].toInt());
+    if (quickStart) {
+        // No task behind it: what counts is what was asked before the start.
+        w.ctx().recorder.Link().SetTaskProgram(w.tc.Root() + "/no-such-task");
+        w.ctx().recorder.Link().SetActivationTimeout(200);
+        QTest::keyClick(w.form->ui.DBGridPrograms, Qt::Key_R, Qt::ControlModifier);
+    } else {
+        frmManualRecord form(w.Services(), false, nullptr);
+        form.show();
+        form.CommandOk->click();
+        QCOMPARE(form.isVisible(), asked);
+    }
+    if (asked) {
+        QCOMPARE(w.tc.messageBox.asked.size(), 1);
+        QCOMPARE(w.tc.messageBox.asked[0].title, QString("Long Recording Confirmation"));
+        QCOMPARE(w.tc.messageBox.asked[0].text,
+                 QString("A recording longer than 2 hours is programmed.  Record? "));
+        QCOMPARE(w.tc.messageBox.asked[0].buttons, MsgButtons::YesNo);
+    } else {
+        QVERIFY(w.tc.messageBox.asked.isEmpty());
+    }
+    QCOMPARE(w.ctx().recorder.Manual().Requested, !asked);
+}
+
+// Through the toolbar: a user name with an extension records under the name with the
+// recording's own extension, in the format chosen with Modify, until Ctrl+S stops it after
+// its question; the next opening of the dialog shows the default format again.
+void TestFrmManualRecord::dialogNameAndFormatServeOneRecording()
+{
+    if (!m_pulse)
+        QSKIP("no PulseAudio server");
+    Window w;
+    const QString defaultText = w.ctx().WfxDefault.TextCompressionMethod;
+    WhenModalOpens([](QDialog* dialog) {
+        Control<QRadioButton>(dialog, "optUserFilename")->click();
+        Control<QLineEdit>(dialog, "txtFilename")->setText(" notes.mp3 ");
+        WhenModalOpens([](QDialog* format) {
+            Control<QRadioButton>(format, "OptionMono")->click();
+            Control<QRadioButton>(format, "Option16bit")->click();
+            auto* rates = Control<QComboBox>(format, "ComboSampleRate");
+            rates->setCurrentIndex(int(CodecCatalogue::SampleRates().indexOf(22050u)));
+            Control<QPushButton>(format, "CommandOk")->click();
+        });
+        Control<QPushButton>(dialog, "ChangeComprMethodButton")->click();
+        Control<QPushButton>(dialog, "CommandOk")->click();
+    });
+    w.SetDefaultDuration(0, 1, 0);
+    w.ctx().options.ConfirmStopManualRecording = true;
+    w.tc.messageBox.answers << MsgResult::Yes;
+    w.form->ui.Action("ToolbarMain.Record")->trigger();
+    QVERIFY(w.ctx().appStatus.Recording());
+    QTest::qWait(2500);
+    QTest::keyClick(w.form->ui.DBGridRecordings, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(w.WaitUntilStopped());
+    QCOMPARE(w.tc.messageBox.asked.size(), 1);
+    QCOMPARE(w.tc.messageBox.asked[0].text,
+             QString("This will stop and save the recording in progress.  Are you sure you want "
+                     "to stop recording?"));
+    QCOMPARE(w.Files(), QStringList{"notes.WAV"});
+    const QString file = w.folder + "/notes.WAV";
+    QCOMPARE(Soxi("-r", file), QString("22050"));
+    QCOMPARE(Soxi("-c", file), QString("1"));
+    const double seconds = Soxi("-D", file).toDouble();
+    QVERIFY2(seconds > 0.5 && seconds < 4.0, qPrintable(QString::number(seconds)));
+
+    QString shown;
+    WhenModalOpens([&shown](QDialog* dialog) {
+        shown = Control<QLineEdit>(dialog, "TextCompressionMethod")->text();
+        Control<QPushButton>(dialog, "CommandCancel")->click();
+    });
+    w.form->ui.Action("mnuManualRecording")->trigger();
+    QCOMPARE(shown, defaultText);
+    QVERIFY(!w.ctx().appStatus.Recording());
+}
+
+// The real joystick reader on a pipe: initial states and turned-off buttons start nothing,
+// a button beyond four is logged, 3 starts, 2 pauses, 1 resumes, 4 stops without asking.
+void TestFrmManualRecord::joystickButtonsDriveARecording()
+{
+    if (!m_pulse)
+        QSKIP("no PulseAudio server");
+    Window w;
+    AppContext& ctx = w.ctx();
+    ctx.options.ConfirmStopManualRecording = true;
+    w.SetDefaultDuration(0, 1, 0);
+    JoystickPipe joystick(w.tc);
+    QVERIFY(joystick.IsOpen());
+
+    joystick.Press(3, JS_EVENT_INIT);
+    ctx.options.EnableJoystickButton3 = false;
+    joystick.Press(3);
+    QVERIFY(!ctx.appStatus.Recording());
+    joystick.Press(7);
+    const QList<LogEntry> entries = w.tc.LogEntries();
+    QCOMPARE(std::count_if(entries.begin(), entries.end(),
+                           [](const LogEntry& e) {
+                               return e.details.contains("Module: Joystick_ButtonPress");
+                           }),
+             1);
+
+    ctx.options.EnableJoystickButton3 = true;
+    QElapsedTimer wall;
+    wall.start();
+    joystick.Press(3);
+    QVERIFY(ctx.appStatus.Recording());
+    QTest::qWait(1200);
+    joystick.Press(2);
+    QVERIFY(ctx.appStatus.Paused());
+    QTest::qWait(3000);
+    joystick.Press(1);
+    QVERIFY(!ctx.appStatus.Paused());
+    QTest::qWait(1200);
+    joystick.Press(4);
+    const double wallSeconds = wall.elapsed() / 1000.0;
+    QVERIFY(w.WaitUntilStopped());
+    QVERIFY(w.tc.messageBox.asked.isEmpty());
+    // Three seconds paused are missing from the file, more than a slow start could explain.
+    const double seconds = Soxi("-D", w.folder + "/060126_120000.WAV").toDouble();
+    QVERIFY2(seconds > 0.5 && seconds < wallSeconds - 2.5,
+             qPrintable(QStringLiteral("%1 of %2").arg(seconds).arg(wallSeconds)));
+}
+
+// A program from 12:00:05 to 12:00:12 passes its start while a manual recording runs until
+// 12:00:08; it is recorded after it, late, until its end.
+void TestFrmManualRecord::scheduledProgramStartsLateAfterAManualOne()
+{
+    if (!m_pulse)
+        QSKIP("no PulseAudio server");
+    Window w;
+    w.tc.AddProgram(
+        Programs::WithPcmFormat(Programs::Weekly("Noon news", "12:00:05", "12:00:12", "0100000")));
+    w.ctx().database.DataPrograms.Requery();
+    w.ctx().scheduler.ScheduleNextRecording();
+    w.SetDefaultDuration(0, 0, 8);
+    QTest::keyClick(w.form->ui.DBGridPrograms, Qt::Key_R, Qt::ControlModifier);
+    QVERIFY(w.ctx().appStatus.Recording());
+    QTRY_COMPARE_WITH_TIMEOUT(w.RecordingTitles().size(), 2, 25000);
+    QVERIFY(w.WaitUntilStopped());
+    QCOMPARE(w.RecordingTitles(), (QStringList{"Manual Record", "Noon news"}));
+    const QStringList files = w.Files();
+    QCOMPARE(files.size(), 2);
+    QCOMPARE(files[0], QString("060126_120000.WAV"));
+    // Started once the manual recording had ended, not at 12:00:05.
+    QVERIFY2(files[1] >= QString("060126_120008.WAV"), qPrintable(files[1]));
+    const double seconds = Soxi("-D", w.folder + "/" + files[1]).toDouble();
+    QVERIFY2(seconds > 0.0 && seconds < 5.0, qPrintable(QString::number(seconds)));
+}
+
+// A picture of the dialog for a reviewer, when a folder is given.
+void TestFrmManualRecord::grabTheForm()
+{
+    const QString folder = qEnvironmentVariable("NIGHTREEL_PNG_DIR");
+    if (folder.isEmpty())
+        QSKIP("set NIGHTREEL_PNG_DIR to write the picture");
+    QDir().mkpath(folder);
+    Window w;
+    w.SetDefaultDuration(1, 30, 0);
+    frmManualRecord form(w.Services(), false, nullptr);
+    form.adjustSize();
+    QVERIFY(form.grab().save(folder + "/frmManualRecord.png"));
+}
+
+QTEST_MAIN(TestFrmManualRecord)
+#include "test_frmManualRecord.moc"
