@@ -9,6 +9,8 @@
 #include "diagnostics/frmErrors.h"
 #include "diagnostics/frmSysTray.h"
 #include "options/frmSelectRecordDirectory.h"
+#include "player/PlayPanels.h"
+#include "player/PlayerChoice.h"
 #include "scheduling/ProgramListGrid.h"
 #include "shell/AppContext.h"
 #include "shell/Icons.h"
@@ -222,6 +224,7 @@ void frmMain::ConnectCommands()
     ConnectRecordingCommands();
     ConnectRecorder();
     ConnectMixer();
+    ConnectPlayers();
 }
 
 // The mixer application for adjusting by hand, and the profiles.
@@ -233,6 +236,23 @@ void frmMain::ConnectMixer()
     connect(ui.Action(QStringLiteral("mnuMixerProfiles")), &QAction::triggered, this, [this] {
         frmMixerProfiles(m_ctx.mixerProfiles, m_ctx.log, m_ctx.messageBox, this).exec();
     });
+}
+
+// The players: the choice is settled once the options are read, and the recent recording
+// plays from the tool bar and the menu; the recordings grid plays through Players().
+void frmMain::ConnectPlayers()
+{
+    m_playPanels =
+        std::make_unique<PlayPanels>(m_ctx.log, m_ctx.options, m_ctx.appStatus, m_ctx.mixer, this);
+    m_playerChoice = std::make_unique<PlayerChoice>(m_ctx.log, m_ctx.registry, m_ctx.options,
+                                                    m_ctx.messageBox, *m_playPanels);
+    m_playerChoice->CheckMediaPlayerControl();
+    m_playerChoice->GetPlayerSetting();
+    for (const char* name : {"ToolbarMain.Play", "mnuPlayRecent"})
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
+            m_playerChoice->ToolbarPlay();
+            UpdateModeDisplay();
+        });
 }
 
 // The window observes the recorder and forwards the user's commands to it.

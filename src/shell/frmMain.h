@@ -15,6 +15,8 @@ class ProgramListGrid;
 class RecordingsListGrid;
 class frmRecordingStatus;
 class frmSysTray;
+class PlayerChoice;
+class PlayPanels;
 class clsSysTrayMgr;
 class cSysTray;
 struct ModeDisplay;
@@ -48,6 +50,9 @@ public:
     // The tray icon's manager, from the load to the unload.
     clsSysTrayMgr* SysTrayMgr() { return m_sysTrayMgr.get(); }
     frmSysTray& SysTray() { return *m_sysTray; }
+    // Which player plays a recording, and the panels it opens.
+    PlayerChoice& Players() { return *m_playerChoice; }
+    PlayPanels& Panels() { return *m_playPanels; }
     frmMainUi ui;
 
 protected:
@@ -60,6 +65,7 @@ private:
     void ConnectRecordingCommands();
     void ConnectRecorder();
     void ConnectMixer();
+    void ConnectPlayers();
     void ShowStatusBar(const StatusBarPlus::Update& update);
     void CreateTray(const SysTrayWrapper& wrapTray);
     void ConnectTray();
@@ -93,4 +99,6 @@ private:
     ProgramListGrid* m_programList = nullptr;
     // The recordings grid as its commands see it; ConnectRecordingCommands wires the actions.
     RecordingsListGrid* m_recordingsList = nullptr;
+    std::unique_ptr<PlayPanels> m_playPanels;
+    std::unique_ptr<PlayerChoice> m_playerChoice;
 };
