@@ -14,6 +14,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QTest>
 #include <QToolButton>
@@ -217,6 +218,13 @@ private slots:
             else
                 QVERIFY2(qAbs(heard - expected) < 0.3, what);
         }
+        // The level is the player's own: the server's volume of its stream stays at 100 %.
+        QByteArray streams;
+        QVERIFY(Pactl::Run({"list", "sink-inputs"}, &streams));
+        static const QRegularExpression percent("(\\d+)% /");
+        QVERIFY2(streams.contains("% /"), streams);
+        for (const auto& m : percent.globalMatch(QString::fromUtf8(streams)))
+            QCOMPARE(m.captured(1), "100");
         frmPlayPanelMP& next = f.Enhanced();
         QCOMPARE(next.VSliderVolume->value(), volume);
     }

@@ -11,10 +11,8 @@
 #include "sideactions/Volume.h"
 #include "store/Options.h"
 
-#include <QCloseEvent>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -73,69 +71,41 @@ QString LoadErrorDetails(int number)
     }
 }
 
-QToolButton* DeviceButton(QWidget* parent, const char* name, QStyle::StandardPixmap icon,
-                          const QString& tip)
-{
-    auto* button = new QToolButton(parent);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setIcon(parent->style()->standardIcon(icon));
-    button->setToolTip(tip);
-    button->setAutoRaise(false);
-    return button;
-}
-
 } // namespace
 
 frmPlayPanel::frmPlayPanel(EventLog& log, const Options& options, clsAppStatus& appStatus,
                            Mixer& mixer, QWidget* mainForm)
-    : QWidget(nullptr, Qt::Window)
-    , m_log(log)
-    , m_options(options)
-    , m_appStatus(appStatus)
+    : PlayPanelForm(log, options, appStatus, mainForm)
     , m_mixer(mixer)
-    , m_mainForm(mainForm)
 {
     setObjectName(QStringLiteral("frmPlayPanel"));
-    setWindowTitle(QStringLiteral("Play Recording"));
     BuildForm();
-    m_statusTimer.setInterval(100);
-    connect(&m_statusTimer, &QTimer::timeout, this, &frmPlayPanel::mciWave_StatusUpdate);
+    m_timer.setInterval(100);
+    connect(&m_timer, &QTimer::timeout, this, &frmPlayPanel::mciWave_StatusUpdate);
 }
-
-frmPlayPanel::~frmPlayPanel() = default;
 
 void frmPlayPanel::BuildForm()
 {
     mciWave = new QFrame(this);
     mciWave->setObjectName(QStringLiteral("mciWave"));
     mciWave->setFrameShape(QFrame::StyledPanel);
-    btnPrev =
-        DeviceButton(mciWave, "btnPrev", QStyle::SP_MediaSkipBackward, QStringLiteral("Prev"));
-    btnNext = DeviceButton(mciWave, "btnNext", QStyle::SP_MediaSkipForward, QStringLiteral("Next"));
-    btnPlay = DeviceButton(mciWave, "btnPlay", QStyle::SP_MediaPlay, QStringLiteral("Play"));
-    btnPause = DeviceButton(mciWave, "btnPause", QStyle::SP_MediaPause, QStringLiteral("Pause"));
-    btnStop = DeviceButton(mciWave, "btnStop", QStyle::SP_MediaStop, QStringLiteral("Stop"));
+    btnPrev = MediaButton(mciWave, "btnPrev", QStyle::SP_MediaSkipBackward, QStringLiteral("Prev"));
+    btnNext = MediaButton(mciWave, "btnNext", QStyle::SP_MediaSkipForward, QStringLiteral("Next"));
+    btnPlay = MediaButton(mciWave, "btnPlay", QStyle::SP_MediaPlay, QStringLiteral("Play"));
+    btnPause = MediaButton(mciWave, "btnPause", QStyle::SP_MediaPause, QStringLiteral("Pause"));
+    btnStop = MediaButton(mciWave, "btnStop", QStyle::SP_MediaStop, QStringLiteral("Stop"));
     auto* device = new QHBoxLayout(mciWave);
     device->setContentsMargins(2, 2, 2, 2);
     device->setSpacing(1);
     for (QToolButton* b : {btnPrev, btnNext, btnPlay, btnPause, btnStop})
         device->addWidget(b);
 
-    steps = new PlayStepButtons(m_options.PlayStepSizes, this);
-    sldTime = new TimeSlider(this);
-    sldTime->setObjectName(QStringLiteral("sldTime"));
     // Upside down: 0 at the top is full volume.
     VSlider1 = new QSlider(Qt::Vertical, this);
     VSlider1->setObjectName(QStringLiteral("VSlider1"));
     VSlider1->setRange(0, 100);
     VSlider1->setInvertedAppearance(true);
     VSlider1->setToolTip(QStringLiteral("Volume"));
-    lblTime = new QLabel(QStringLiteral("0:00:00"), this);
-    lblTime->setObjectName(QStringLiteral("lblTime"));
-    lblLength = new QLabel(this);
-    lblLength->setObjectName(QStringLiteral("lblLength"));
-    btnExit = new QPushButton(QStringLiteral("E&xit"), this);
-    btnExit->setObjectName(QStringLiteral("btnExit"));
 
     auto* times = new QHBoxLayout;
     times->addWidget(lblTime);
@@ -167,16 +137,7 @@ void frmPlayPanel::BuildForm()
     connect(VSlider1, &QSlider::valueChanged, this, [this](int value) {
         Trap(m_log, "VSlider1_Change", [&] { Volume::SetVolume(m_log, m_mixer, 100 - value); });
     });
-    connect(btnExit, &QPushButton::clicked, this, &QWidget::close);
-    installEventFilter(this);
-    for (QWidget* child : findChildren<QWidget*>())
-        child->installEventFilter(this);
-}
-
-QString frmPlayPanel::StartTimeText() const
-{
-    return m_options.ShowActualTimeInPlayer ? PlayTime::ClockText(m_startTime, 0)
-                                            : QStringLiteral("0:00:00");
+    WatchKeys();
 }
 
 qint64 frmPlayPanel::PositionMs() const
@@ -200,7 +161,7 @@ void frmPlayPanel::Form_Load(const QString& file, double startTime)
         VSlider1->setValue(100 - (volume < 0 ? -1 : volume));
     }
     m_engine.Open(file);
-    lblTime->setText(StartTimeText());
+    lblTime->setText(TimeText(0));
     sldTime->setValue(0);
     if (!m_engine.WaitForOpen(OpenTimeoutMs)) {
         const int number = LoadErrorNumber(m_engine.Failure());
@@ -208,7 +169,7 @@ void frmPlayPanel::Form_Load(const QString& file, double startTime)
         return;
     }
     lblLength->setText(PlayTime::HourMinSecsText(LengthMs() / 1000));
-    m_statusTimer.start();
+    m_timer.start();
     m_engine.Play();
 }
 
@@ -219,11 +180,17 @@ void frmPlayPanel::mciWave_StatusUpdate()
             return;
         const qint64 position = PositionMs();
         const qint64 seconds = std::llround(position / 1000.0);
-        lblTime->setText(m_options.ShowActualTimeInPlayer
-                             ? PlayTime::ClockText(m_startTime, seconds)
-                             : PlayTime::HourMinSecsText(position / 1000));
+        // The clock rounds to the nearest second; the count from the start only counts
+        // whole seconds played.
+        lblTime->setText(m_options.ShowActualTimeInPlayer ? TimeText(seconds)
+                                                          : TimeText(position / 1000));
         const qint64 length = LengthMs();
         sldTime->setValue(length == 0 ? 0 : int(double(position) / length * sldTime->maximum()));
+        // The device's buttons offer what can be done in its present mode.
+        const PlaybackEngine::PlayState state = m_engine.State();
+        btnPlay->setEnabled(state != PlaybackEngine::PlayState::Playing);
+        btnPause->setEnabled(state == PlaybackEngine::PlayState::Playing);
+        btnStop->setEnabled(state != PlaybackEngine::PlayState::Stopped);
     });
 }
 
@@ -231,7 +198,7 @@ void frmPlayPanel::mciWave_PrevClick()
 {
     Trap(m_log, "mciWave_PrevClick", [&] {
         m_engine.SetCurrentPosition(0.0);
-        lblTime->setText(StartTimeText());
+        lblTime->setText(TimeText(0));
         sldTime->setValue(0);
         m_engine.Play();
     });
@@ -242,9 +209,7 @@ void frmPlayPanel::mciWave_NextClick()
     Trap(m_log, "mciWave_NextClick", [&] {
         const qint64 seconds = std::llround(LengthMs() / 1000.0);
         m_engine.SetCurrentPosition(m_engine.Duration());
-        lblTime->setText(m_options.ShowActualTimeInPlayer
-                             ? PlayTime::ClockText(m_startTime, seconds)
-                             : lblLength->text());
+        lblTime->setText(m_options.ShowActualTimeInPlayer ? TimeText(seconds) : lblLength->text());
         sldTime->setValue(sldTime->maximum());
     });
 }
@@ -259,22 +224,21 @@ void frmPlayPanel::SeekAndPlay(qint64 toMs)
     m_engine.Play();
 }
 
+void frmPlayPanel::Step(int index, int direction, const char* procedureName)
+{
+    Trap(m_log, procedureName, [&] {
+        SeekAndPlay(std::max<qint64>(PositionMs() + direction * StepSeconds(index) * 1000LL, 0));
+    });
+}
+
 void frmPlayPanel::btnForward_Click(int index)
 {
-    Trap(m_log, "Play Panel btnForward_Click", [&] {
-        const qint64 step =
-            qint64(PlayTime::StepSeconds(m_options.PlayStepSizes[size_t(index)])) * 1000;
-        SeekAndPlay(PositionMs() + step);
-    });
+    Step(index, 1, "Play Panel btnForward_Click");
 }
 
 void frmPlayPanel::btnReverse_Click(int index)
 {
-    Trap(m_log, "Play Panel btnReverse_Click", [&] {
-        const qint64 step =
-            qint64(PlayTime::StepSeconds(m_options.PlayStepSizes[size_t(index)])) * 1000;
-        SeekAndPlay(std::max<qint64>(PositionMs() - step, 0));
-    });
+    Step(index, -1, "Play Panel btnReverse_Click");
 }
 
 void frmPlayPanel::sldTime_MouseDown(int value)
@@ -288,8 +252,7 @@ void frmPlayPanel::sldTime_MouseDown(int value)
 
 bool frmPlayPanel::CheckKeys(int key, Qt::KeyboardModifiers modifiers)
 {
-    const Qt::KeyboardModifiers state =
-        modifiers & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    const Qt::KeyboardModifiers state = ShiftState(modifiers);
     if (key < Qt::Key_1 || key > Qt::Key_6)
         return false;
     if (state == Qt::AltModifier)
@@ -299,22 +262,4 @@ bool frmPlayPanel::CheckKeys(int key, Qt::KeyboardModifiers modifiers)
     else
         return false;
     return true;
-}
-
-bool frmPlayPanel::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::KeyPress) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (CheckKeys(key->key(), key->modifiers()))
-            return true;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-void frmPlayPanel::closeEvent(QCloseEvent* event)
-{
-    m_statusTimer.stop();
-    m_engine.Close();
-    m_appStatus.SetPlaying(false);
-    QWidget::closeEvent(event);
 }

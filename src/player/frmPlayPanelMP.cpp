@@ -8,10 +8,8 @@
 #include "player/TimeSlider.h"
 #include "store/Options.h"
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -21,17 +19,6 @@
 #include <cmath>
 
 namespace {
-
-QToolButton* TransportButton(QWidget* parent, const char* name, QStyle::StandardPixmap icon,
-                             const QString& tip)
-{
-    auto* button = new QToolButton(parent);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setIcon(parent->style()->standardIcon(icon));
-    button->setToolTip(tip);
-    button->setIconSize(QSize(24, 24));
-    return button;
-}
 
 QSlider* Slider(QWidget* parent, const char* name, Qt::Orientation orientation, int min, int max)
 {
@@ -45,18 +32,13 @@ QSlider* Slider(QWidget* parent, const char* name, Qt::Orientation orientation, 
 
 frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStatus& appStatus,
                                int& volume, QWidget* mainForm)
-    : QWidget(nullptr, Qt::Window)
-    , m_log(log)
-    , m_options(options)
-    , m_appStatus(appStatus)
+    : PlayPanelForm(log, options, appStatus, mainForm)
     , m_volume(volume)
-    , m_mainForm(mainForm)
 {
     setObjectName(QStringLiteral("frmPlayPanelMP"));
-    setWindowTitle(QStringLiteral("Play Recording"));
     BuildForm();
-    m_timer1.setInterval(250);
-    connect(&m_timer1, &QTimer::timeout, this, [this] {
+    m_timer.setInterval(250);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
         if (!m_loaded)
             return;
         UpdateCurrentPlayTime();
@@ -75,22 +57,14 @@ frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStat
             [this](const QString& text) { lblError->setText(text); });
 }
 
-frmPlayPanelMP::~frmPlayPanelMP() = default;
-
 void frmPlayPanelMP::BuildForm()
 {
-    btnBeginning = TransportButton(this, "btnBeginning", QStyle::SP_MediaSkipBackward,
-                                   QStringLiteral("Go to Beginning"));
-    btnPlay = TransportButton(this, "btnPlay", QStyle::SP_MediaPlay, QStringLiteral("Play"));
-    btnPause = TransportButton(this, "btnPause", QStyle::SP_MediaPause, QStringLiteral("Pause"));
-    btnStop = TransportButton(this, "btnStop", QStyle::SP_MediaStop, QStringLiteral("Stop"));
-    btnEnd =
-        TransportButton(this, "btnEnd", QStyle::SP_MediaSkipForward, QStringLiteral("Go to End"));
-    btnExit = new QPushButton(QStringLiteral("E&xit"), this);
-    btnExit->setObjectName(QStringLiteral("btnExit"));
-    steps = new PlayStepButtons(m_options.PlayStepSizes, this);
-    sldTime = new TimeSlider(this);
-    sldTime->setObjectName(QStringLiteral("sldTime"));
+    btnBeginning = MediaButton(this, "btnBeginning", QStyle::SP_MediaSkipBackward,
+                               QStringLiteral("Go to Beginning"));
+    btnPlay = MediaButton(this, "btnPlay", QStyle::SP_MediaPlay, QStringLiteral("Play"));
+    btnPause = MediaButton(this, "btnPause", QStyle::SP_MediaPause, QStringLiteral("Pause"));
+    btnStop = MediaButton(this, "btnStop", QStyle::SP_MediaStop, QStringLiteral("Stop"));
+    btnEnd = MediaButton(this, "btnEnd", QStyle::SP_MediaSkipForward, QStringLiteral("Go to End"));
     // 0 at the top is full volume; the scale is logarithmic in the level (see the change).
     VSliderVolume = Slider(this, "VSliderVolume", Qt::Vertical, 0, 100);
     VSliderVolume->setInvertedAppearance(true);
@@ -108,8 +82,6 @@ void frmPlayPanelMP::BuildForm()
         l->setObjectName(QString::fromLatin1(name));
         return l;
     };
-    lblTime = label("lblTime", QStringLiteral("0:00:00"));
-    lblLength = label("lblLength", QString());
     lblStatus = label("lblStatus", QString());
     lblStatus->setAlignment(Qt::AlignCenter);
     lblError = label("lblError", QString());
@@ -155,7 +127,6 @@ void frmPlayPanelMP::BuildForm()
     connect(btnStop, &QToolButton::clicked, this, &frmPlayPanelMP::btnStop_Click);
     connect(btnBeginning, &QToolButton::clicked, this, &frmPlayPanelMP::btnBeginning_Click);
     connect(btnEnd, &QToolButton::clicked, this, &frmPlayPanelMP::btnEnd_Click);
-    connect(btnExit, &QPushButton::clicked, this, &QWidget::close);
     connect(steps, &PlayStepButtons::Forward, this, &frmPlayPanelMP::btnForward_Click);
     connect(steps, &PlayStepButtons::Reverse, this, &frmPlayPanelMP::btnReverse_Click);
     connect(sldTime, &TimeSlider::Jumped, this, &frmPlayPanelMP::sldTime_Jump);
@@ -164,9 +135,7 @@ void frmPlayPanelMP::BuildForm()
             [this](int value) { m_engine.SetBalance(value); });
     connect(HSliderRate, &QSlider::valueChanged, this,
             [this](int value) { m_engine.SetRate(value / 100.0); });
-    installEventFilter(this);
-    for (QWidget* child : findChildren<QWidget*>())
-        child->installEventFilter(this);
+    WatchKeys();
 }
 
 void frmPlayPanelMP::Form_Load(const QString& file, double startTime)
@@ -175,8 +144,7 @@ void frmPlayPanelMP::Form_Load(const QString& file, double startTime)
         FormPlacement::PlaceAtMainForm(this, m_mainForm, 500);
         m_startTime = startTime;
         m_loaded = false;
-        lblTime->setText(m_options.ShowActualTimeInPlayer ? PlayTime::ClockText(startTime, 0)
-                                                          : QStringLiteral("0:00:00"));
+        lblTime->setText(TimeText(0));
         sldTime->setValue(0);
         m_volume = std::clamp(m_volume, -10000, 0);
         m_engine.SetVolume(m_volume);
@@ -185,7 +153,7 @@ void frmPlayPanelMP::Form_Load(const QString& file, double startTime)
         m_engine.Open(file);
         if (m_engine.Failure() == PlaybackEngine::FailureKind::None)
             lblStatus->setText(QStringLiteral("Loading"));
-        m_timer1.start();
+        m_timer.start();
     });
 }
 
@@ -217,9 +185,7 @@ void frmPlayPanelMP::UpdateCurrentPlayTime()
     Trap(m_log, "MP:UpdateCurrentPlayTime", [&] {
         sldTime->setValue(TimeSliderValue());
         const qint64 seconds = std::llround(std::max(m_engine.CurrentPosition(), 0.0));
-        lblTime->setText(m_options.ShowActualTimeInPlayer
-                             ? PlayTime::ClockText(m_startTime, seconds)
-                             : PlayTime::HourMinSecsText(seconds));
+        lblTime->setText(TimeText(seconds));
     });
 }
 
@@ -300,7 +266,7 @@ void frmPlayPanelMP::SkipTo(double position, const char* procedureName)
 
 void frmPlayPanelMP::btnForward_Click(int index)
 {
-    const double step = PlayTime::StepSeconds(m_options.PlayStepSizes[size_t(index)]);
+    const double step = StepSeconds(index);
     double position = std::round(m_engine.CurrentPosition() + step);
     // Past the end lands a second before it, so that the end is still heard.
     if (position > m_engine.Duration())
@@ -310,7 +276,7 @@ void frmPlayPanelMP::btnForward_Click(int index)
 
 void frmPlayPanelMP::btnReverse_Click(int index)
 {
-    const double step = PlayTime::StepSeconds(m_options.PlayStepSizes[size_t(index)]);
+    const double step = StepSeconds(index);
     SkipTo(std::max(std::round(m_engine.CurrentPosition() - step), 0.0),
            "Play Panel btnReverse_Click");
 }
@@ -337,8 +303,7 @@ bool frmPlayPanelMP::CheckKeys(int key, Qt::KeyboardModifiers modifiers)
     bool handled = false;
     Trap(m_log, "MP:CheckKeys", [&] {
         // Only an exact state counts: Ctrl and Alt together do nothing.
-        const Qt::KeyboardModifiers state =
-            modifiers & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+        const Qt::KeyboardModifiers state = ShiftState(modifiers);
         const bool step = key >= Qt::Key_1 && key <= Qt::Key_6;
         if (state == Qt::AltModifier) {
             handled = true;
@@ -363,23 +328,4 @@ bool frmPlayPanelMP::CheckKeys(int key, Qt::KeyboardModifiers modifiers)
         }
     });
     return handled;
-}
-
-bool frmPlayPanelMP::eventFilter(QObject* watched, QEvent* event)
-{
-    // The form sees the keys before the control that has the focus.
-    if (event->type() == QEvent::KeyPress) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (CheckKeys(key->key(), key->modifiers()))
-            return true;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-void frmPlayPanelMP::closeEvent(QCloseEvent* event)
-{
-    m_timer1.stop();
-    m_engine.Close();
-    m_appStatus.SetPlaying(false);
-    QWidget::closeEvent(event);
 }
