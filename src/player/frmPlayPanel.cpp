@@ -157,8 +157,8 @@ void frmPlayPanel::Form_Load(const QString& file, double startTime)
     {
         // Showing the master volume must not set it.
         const QSignalBlocker quiet(VSlider1);
-        const int volume = Volume::GetVolume(m_log, m_mixer);
-        VSlider1->setValue(100 - (volume < 0 ? -1 : volume));
+        // A failed reading (-1) gives 101, which the slider takes as its bottom.
+        VSlider1->setValue(100 - Volume::GetVolume(m_log, m_mixer));
     }
     m_engine.Open(file);
     lblTime->setText(TimeText(0));
