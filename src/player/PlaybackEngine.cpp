@@ -319,6 +319,9 @@ void PlaybackEngine::Handle(void* raw)
             // The player takes the output's volume element for its own volume: ours wins.
             ApplyVolume();
             ApplyBalance();
+            // A rate chosen while the file was opening takes effect from the start.
+            if (m_rate != 1.0)
+                Seek(0.0);
             Q_EMIT Opened();
         }
         break;
