@@ -8,6 +8,7 @@ packages=(
     libpulse-dev pulseaudio pulseaudio-utils libmp3lame-dev lame sox
     clang libclang-rt-14-dev xvfb xauth
     trayer xdotool x11-utils
+    libgstreamer1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
     desktop-file-utils

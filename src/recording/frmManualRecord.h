@@ -1,5 +1,7 @@
 #pragma once
 
+#include "formats/clsRecordingFormat.h"
+
 #include <QDialog>
 
 class EventLog;
@@ -7,7 +9,7 @@ class MessageBoxPresenter;
 class Options;
 class RegKeys;
 class clsAppStatus;
-class clsRecordingFormat;
+
 struct clsManualRecord;
 class QLabel;
 class QLineEdit;

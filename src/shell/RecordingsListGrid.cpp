@@ -2,6 +2,7 @@
 
 #include "gui/GridSelection.h"
 #include "options/frmSelectExistingRecordDirectory.h"
+#include "player/PlayerChoice.h"
 #include "shell/AppContext.h"
 #include "shell/frmMain.h"
 #include "store/RecordsetModel.h"
@@ -109,4 +110,9 @@ void RecordingsListGrid::UpdateStatusBarPlus()
 void RecordingsListGrid::UpdateModeDisplay()
 {
     m_form.UpdateModeDisplay();
+}
+
+void RecordingsListGrid::PlayRecording(const QString& file, const QString& title, double startTime)
+{
+    m_form.Players().PlayExistingFile(file, title, startTime);
 }

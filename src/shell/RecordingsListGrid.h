@@ -30,6 +30,7 @@ public:
     void ShowSaveList() override;
     void CopyToClipboard(const QString& text) override;
     void OpenFolder(const QString& folder) override;
+    void PlayRecording(const QString& file, const QString& title, double startTime) override;
     void UpdateRecordingsButtonsAndMenus() override;
     void UpdateStatusBarPlus() override;
     void UpdateModeDisplay() override;

@@ -11,6 +11,9 @@
 #include "options/frmOptions.h"
 #include "options/frmSelectRecordDirectory.h"
 #include "platform/Joystick.h"
+#include "player/MediaPlayerAvailable.h"
+#include "player/PlayPanels.h"
+#include "player/PlayerChoice.h"
 #include "recording/ManualRecordCommands.h"
 #include "scheduling/DiskForecast.h"
 #include "scheduling/frmDiskStatus.h"
@@ -230,6 +233,7 @@ void frmMain::ConnectCommands()
     ConnectRecorder();
     ConnectMixer();
     ConnectManualRecording();
+    ConnectPlayers();
 }
 
 // The mixer application for adjusting by hand, and the profiles.
@@ -267,8 +271,7 @@ void frmMain::ConnectOptions()
                                            m_ctx.defaultFormats,
                                            [this] { UpdateStatusBarPlus(); },
                                            QCoreApplication::applicationDirPath()};
-        // The enhanced player's availability is not known to the window yet.
-        frmOptions(services, false, this).exec();
+        frmOptions(services, MediaPlayerAvailable(), this).exec();
     });
 }
 
@@ -289,6 +292,23 @@ void frmMain::ConnectManualRecording()
         keySensitive->installEventFilter(m_manualRecording);
     connect(&m_ctx.joystick, &Joystick::ButtonPressed, m_manualRecording,
             &ManualRecordCommands::JoystickButtonPress);
+}
+
+// The players: the choice is settled once the options are read, and the recent recording
+// plays from the tool bar and the menu; the recordings grid plays through Players().
+void frmMain::ConnectPlayers()
+{
+    m_playPanels =
+        std::make_unique<PlayPanels>(m_ctx.log, m_ctx.options, m_ctx.appStatus, m_ctx.mixer, this);
+    m_playerChoice = std::make_unique<PlayerChoice>(m_ctx.log, m_ctx.registry, m_ctx.options,
+                                                    m_ctx.messageBox, *m_playPanels);
+    m_playerChoice->CheckMediaPlayerControl();
+    m_playerChoice->GetPlayerSetting();
+    for (const char* name : {"ToolbarMain.Play", "mnuPlayRecent"})
+        connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
+            m_playerChoice->ToolbarPlay();
+            UpdateModeDisplay();
+        });
 }
 
 // The window observes the recorder and forwards the user's commands to it.

@@ -16,6 +16,8 @@ class RecordingsListGrid;
 class frmRecordingStatus;
 class frmSysTray;
 class ManualRecordCommands;
+class PlayerChoice;
+class PlayPanels;
 class clsSysTrayMgr;
 class cSysTray;
 struct ModeDisplay;
@@ -49,6 +51,9 @@ public:
     // The tray icon's manager, from the load to the unload.
     clsSysTrayMgr* SysTrayMgr() { return m_sysTrayMgr.get(); }
     frmSysTray& SysTray() { return *m_sysTray; }
+    // Which player plays a recording, and the panels it opens.
+    PlayerChoice& Players() { return *m_playerChoice; }
+    PlayPanels& Panels() { return *m_playPanels; }
     frmMainUi ui;
 
 protected:
@@ -64,6 +69,7 @@ private:
     void ConnectDiskStatus();
     void ConnectOptions();
     void ConnectManualRecording();
+    void ConnectPlayers();
     void ShowStatusBar(const StatusBarPlus::Update& update);
     void CreateTray(const SysTrayWrapper& wrapTray);
     void ConnectTray();
@@ -99,4 +105,6 @@ private:
     RecordingsListGrid* m_recordingsList = nullptr;
     // The dialog, the quick start and the recording keys and joystick buttons.
     ManualRecordCommands* m_manualRecording = nullptr;
+    std::unique_ptr<PlayPanels> m_playPanels;
+    std::unique_ptr<PlayerChoice> m_playerChoice;
 };

@@ -1,5 +1,6 @@
 #include "store/RecordingsListCommands.h"
 
+#include "common/FileHelpers.h"
 #include "common/MessageBox.h"
 #include "diagnostics/Trap.h"
 #include "store/AppDatabase.h"
@@ -42,7 +43,11 @@ void RecordingsListCommands::RecordingsPlay()
         Recordset rs;
         if (!RecordingCommandRow(rs))
             return;
-        if (!QFileInfo(rs.Value(QStringLiteral("File")).toString()).isFile())
+        const QString file = rs.Value(QStringLiteral("File")).toString();
+        if (FileExistsOrClear(file))
+            m_view.PlayRecording(file, rs.Value(QStringLiteral("Title")).toString(),
+                                 rs.Value(QStringLiteral("StartTime")).toDouble());
+        else
             m_messageBox.Show(
                 QStringLiteral("Recording file not found"),
                 QStringLiteral("This recording was not found on disk.  The disk file may have "

@@ -30,6 +30,12 @@ public:
     virtual void ShowSaveList() = 0;
     virtual void CopyToClipboard(const QString& text) = 0;
     virtual void OpenFolder(const QString& folder) = 0;
+    // Plays a recording whose file exists in the player chosen for it; the start time is an
+    // automation date.
+    virtual void PlayRecording(const QString& /*file*/, const QString& /*title*/,
+                               double /*startTime*/)
+    {
+    }
 
     // What the main window shows of the list, the disk and the mode follows a change.
     virtual void UpdateRecordingsButtonsAndMenus() = 0;

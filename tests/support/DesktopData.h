@@ -24,19 +24,25 @@ inline void UsePrivateFolders(const QString& root)
 }
 
 // Registers a program that runs `exec` (a desktop entry's Exec line) as the default for
-// text/html. The desktop library learns a type's programs from the lists of associations,
+// mimeType. The desktop library learns a type's programs from the lists of associations,
 // not from the entries' MimeType lines, so the entry is named in mimeapps.list as well.
-inline bool RegisterHtmlHandler(const QString& root, const QString& id, const QString& exec)
+inline bool RegisterHandler(const QString& root, const QString& id, const QString& exec,
+                            const QString& mimeType)
 {
     QFile entry(root + "/data/applications/" + id);
     QFile defaults(root + "/config/mimeapps.list");
     if (!entry.open(QIODevice::WriteOnly) || !defaults.open(QIODevice::WriteOnly))
         return false;
-    entry.write(("[Desktop Entry]\nType=Application\nName=Test browser\nExec=" + exec +
-                 "\nMimeType=text/html;\n")
+    entry.write(("[Desktop Entry]\nType=Application\nName=Test handler\nExec=" + exec +
+                 "\nMimeType=" + mimeType + ";\n")
                     .toUtf8());
-    defaults.write(("[Default Applications]\ntext/html=" + id + "\n").toUtf8());
+    defaults.write(("[Default Applications]\n" + mimeType + "=" + id + "\n").toUtf8());
     return true;
+}
+
+inline bool RegisterHtmlHandler(const QString& root, const QString& id, const QString& exec)
+{
+    return RegisterHandler(root, id, exec, "text/html");
 }
 
 } // namespace DesktopData

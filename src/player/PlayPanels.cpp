@@ -1,0 +1,52 @@
+#include "player/PlayPanels.h"
+
+#include "common/clsAppStatus.h"
+#include "player/frmPlayPanel.h"
+#include "player/frmPlayPanelMP.h"
+
+namespace {
+
+const QString kTitle = QStringLiteral("Nightreel 2000 playing - ");
+
+// Closing the old panel ends its play (and clears Playing) before the new one begins.
+template <typename Panel> void Unload(std::unique_ptr<Panel>& panel)
+{
+    if (panel)
+        panel->close();
+    panel.reset();
+}
+
+} // namespace
+
+PlayPanels::PlayPanels(EventLog& log, const Options& options, clsAppStatus& appStatus, Mixer& mixer,
+                       QWidget* mainForm)
+    : m_log(log)
+    , m_options(options)
+    , m_appStatus(appStatus)
+    , m_mixer(mixer)
+    , m_mainForm(mainForm)
+{
+}
+
+PlayPanels::~PlayPanels() = default;
+
+void PlayPanels::OpenEnhanced(const QString& file, const QString& title, double startTime)
+{
+    Unload(m_enhanced);
+    m_enhanced =
+        std::make_unique<frmPlayPanelMP>(m_log, m_options, m_appStatus, m_volume, m_mainForm);
+    m_enhanced->setWindowTitle(kTitle + title);
+    m_enhanced->Form_Load(file, startTime);
+    m_appStatus.SetPlaying(true);
+    m_enhanced->show();
+}
+
+void PlayPanels::OpenClassic(const QString& file, const QString& title, double startTime)
+{
+    Unload(m_classic);
+    m_classic = std::make_unique<frmPlayPanel>(m_log, m_options, m_appStatus, m_mixer, m_mainForm);
+    m_classic->setWindowTitle(kTitle + title);
+    m_classic->Form_Load(file, startTime);
+    m_appStatus.SetPlaying(true);
+    m_classic->show();
+}

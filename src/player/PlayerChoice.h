@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+class EventLog;
+class MessageBoxPresenter;
+class Options;
+class PlayerPanels;
+class RegKeys;
+
+// Which player plays a recording: the enhanced panel, the classic panel (WAV only) or the
+// desktop's default program, by the file's extension and the settings WavPlayer and
+// Mp3Player. The settings are repaired at start-up to what this installation can play, and
+// the repair is stored: a player installed later is not taken up by itself.
+class PlayerChoice {
+public:
+    // The stored names of the players; the texts are those of every settings store.
+    static inline const QString EnhancedPlayer = QStringLiteral("Nightreel Enhanced Player");
+    static inline const QString ClassicPlayer = QStringLiteral("Nightreel Classic Player");
+    static inline const QString DefaultPlayer = QStringLiteral("Windows Default");
+
+    // probe tells whether the enhanced player can run; opener opens a file in the default
+    // program (see OpenWithDefaultProgram). Tests put in their own.
+    PlayerChoice(EventLog& log, RegKeys& registry, Options& options,
+                 MessageBoxPresenter& messageBox, PlayerPanels& panels,
+                 std::function<bool()> probe = {}, std::function<int(const QString&)> opener = {});
+
+    // At the first activation, before GetPlayerSetting.
+    void CheckMediaPlayerControl();
+    bool MediaPlayerAvailable() const { return m_mediaPlayerAvailable; }
+    // Sets Options::WavPlayer and Mp3Player from the settings, repaired and written back.
+    void GetPlayerSetting();
+
+    // Plays a file known to exist in the player chosen for it.
+    void PlayExistingFile(const QString& file, const QString& title, double startTime);
+    // The most recent recording; one that is gone is forgotten, here and in the settings,
+    // after telling the user.
+    void ToolbarPlay();
+
+    static bool HasMP3FileExtension(const QString& file);
+
+private:
+    EventLog& m_log;
+    RegKeys& m_registry;
+    Options& m_options;
+    MessageBoxPresenter& m_messageBox;
+    PlayerPanels& m_panels;
+    std::function<bool()> m_probe;
+    std::function<int(const QString&)> m_opener;
+    bool m_mediaPlayerAvailable = false;
+};

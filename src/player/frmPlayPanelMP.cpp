@@ -1,0 +1,331 @@
+#include "player/frmPlayPanelMP.h"
+
+#include "common/clsAppStatus.h"
+#include "diagnostics/Trap.h"
+#include "gui/FormPlacement.h"
+#include "player/PlayStepButtons.h"
+#include "player/PlayTime.h"
+#include "player/TimeSlider.h"
+#include "store/Options.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QSlider* Slider(QWidget* parent, const char* name, Qt::Orientation orientation, int min, int max)
+{
+    auto* slider = new QSlider(orientation, parent);
+    slider->setObjectName(QString::fromLatin1(name));
+    slider->setRange(min, max);
+    return slider;
+}
+
+} // namespace
+
+frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStatus& appStatus,
+                               int& volume, QWidget* mainForm)
+    : PlayPanelForm(log, options, appStatus, mainForm)
+    , m_volume(volume)
+{
+    setObjectName(QStringLiteral("frmPlayPanelMP"));
+    BuildForm();
+    m_timer.setInterval(250);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        if (!m_loaded)
+            return;
+        UpdateCurrentPlayTime();
+        UpdateButtonEnables();
+    });
+    connect(&m_engine, &PlaybackEngine::Opened, this, &frmPlayPanelMP::OpenStateChange);
+    connect(&m_engine, &PlaybackEngine::PlayStateChanged, this, [this] {
+        if (m_loaded)
+            UpdateButtonEnables();
+    });
+    connect(&m_engine, &PlaybackEngine::Failed, this, [this] {
+        lblStatus->setText(QStringLiteral("Error"));
+        lblError->setText(m_engine.ErrorDescription());
+    });
+    connect(&m_engine, &PlaybackEngine::Warning, this,
+            [this](const QString& text) { lblError->setText(text); });
+}
+
+void frmPlayPanelMP::BuildForm()
+{
+    btnBeginning = MediaButton(this, "btnBeginning", QStyle::SP_MediaSkipBackward,
+                               QStringLiteral("Go to Beginning"));
+    btnPlay = MediaButton(this, "btnPlay", QStyle::SP_MediaPlay, QStringLiteral("Play"));
+    btnPause = MediaButton(this, "btnPause", QStyle::SP_MediaPause, QStringLiteral("Pause"));
+    btnStop = MediaButton(this, "btnStop", QStyle::SP_MediaStop, QStringLiteral("Stop"));
+    btnEnd = MediaButton(this, "btnEnd", QStyle::SP_MediaSkipForward, QStringLiteral("Go to End"));
+    // 0 at the top is full volume; the scale is logarithmic in the level (see the change).
+    VSliderVolume = Slider(this, "VSliderVolume", Qt::Vertical, 0, 100);
+    VSliderVolume->setInvertedAppearance(true);
+    VSliderVolume->setToolTip(QStringLiteral("Volume"));
+    HSliderBalance = Slider(this, "HSliderBalance", Qt::Horizontal, -10000, 10000);
+    HSliderBalance->setSingleStep(100);
+    HSliderBalance->setPageStep(1000);
+    HSliderBalance->setToolTip(QStringLiteral("Balance"));
+    HSliderRate = Slider(this, "HSliderRate", Qt::Horizontal, 50, 300);
+    HSliderRate->setValue(100);
+    HSliderRate->setPageStep(25);
+    HSliderRate->setToolTip(QStringLiteral("Playback at a faster or slower rate"));
+    const auto label = [this](const char* name, const QString& text) {
+        auto* l = new QLabel(text, this);
+        l->setObjectName(QString::fromLatin1(name));
+        return l;
+    };
+    lblStatus = label("lblStatus", QString());
+    lblStatus->setAlignment(Qt::AlignCenter);
+    lblError = label("lblError", QString());
+    lblError->setWordWrap(true);
+    QPalette errorPalette = lblError->palette();
+    errorPalette.setColor(QPalette::WindowText, Qt::darkRed);
+    lblError->setPalette(errorPalette);
+
+    auto* times = new QHBoxLayout;
+    times->addWidget(lblTime);
+    times->addWidget(lblStatus, 1);
+    times->addWidget(lblLength);
+    auto* transport = new QHBoxLayout;
+    for (QToolButton* b : {btnBeginning, btnPlay, btnPause, btnStop, btnEnd})
+        transport->addWidget(b);
+    transport->addStretch(1);
+    auto* mix = new QGridLayout;
+    mix->addWidget(label("lblBalanceCaption", QStringLiteral("Balance")), 0, 0);
+    mix->addWidget(HSliderBalance, 0, 1);
+    mix->addWidget(label("lblRateCaption", QStringLiteral("Rate")), 1, 0);
+    mix->addWidget(HSliderRate, 1, 1);
+    auto* left = new QVBoxLayout;
+    left->addWidget(sldTime);
+    left->addLayout(times);
+    left->addLayout(transport);
+    left->addWidget(steps);
+    left->addLayout(mix);
+    auto* volume = new QVBoxLayout;
+    volume->addWidget(label("lblVolumeCaption", QStringLiteral("Volume")), 0, Qt::AlignHCenter);
+    volume->addWidget(VSliderVolume, 1, Qt::AlignHCenter);
+    auto* top = new QHBoxLayout;
+    top->addLayout(left, 1);
+    top->addLayout(volume);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(lblError, 1);
+    bottom->addWidget(btnExit, 0, Qt::AlignBottom);
+    auto* form = new QVBoxLayout(this);
+    form->addLayout(top);
+    form->addLayout(bottom);
+
+    connect(btnPlay, &QToolButton::clicked, this, &frmPlayPanelMP::btnPlay_Click);
+    connect(btnPause, &QToolButton::clicked, this, &frmPlayPanelMP::btnPause_Click);
+    connect(btnStop, &QToolButton::clicked, this, &frmPlayPanelMP::btnStop_Click);
+    connect(btnBeginning, &QToolButton::clicked, this, &frmPlayPanelMP::btnBeginning_Click);
+    connect(btnEnd, &QToolButton::clicked, this, &frmPlayPanelMP::btnEnd_Click);
+    connect(steps, &PlayStepButtons::Forward, this, &frmPlayPanelMP::btnForward_Click);
+    connect(steps, &PlayStepButtons::Reverse, this, &frmPlayPanelMP::btnReverse_Click);
+    connect(sldTime, &TimeSlider::Jumped, this, &frmPlayPanelMP::sldTime_Jump);
+    connect(VSliderVolume, &QSlider::valueChanged, this, &frmPlayPanelMP::VSliderVolume_Change);
+    connect(HSliderBalance, &QSlider::valueChanged, this,
+            [this](int value) { m_engine.SetBalance(value); });
+    connect(HSliderRate, &QSlider::valueChanged, this,
+            [this](int value) { m_engine.SetRate(value / 100.0); });
+    WatchKeys();
+}
+
+void frmPlayPanelMP::Form_Load(const QString& file, double startTime)
+{
+    Trap(m_log, "MP:Form_Load", [&] {
+        FormPlacement::PlaceAtMainForm(this, m_mainForm, 500);
+        m_startTime = startTime;
+        m_loaded = false;
+        lblTime->setText(TimeText(0));
+        sldTime->setValue(0);
+        m_volume = std::clamp(m_volume, -10000, 0);
+        m_engine.SetVolume(m_volume);
+        VSliderVolume->setValue(int(std::lround(25.0 * std::log10(1.0 - m_volume))));
+        UpdateButtonEnables();
+        m_engine.Open(file);
+        if (m_engine.Failure() == PlaybackEngine::FailureKind::None)
+            lblStatus->setText(QStringLiteral("Loading"));
+        m_timer.start();
+    });
+}
+
+void frmPlayPanelMP::OpenStateChange()
+{
+    Trap(m_log, "MediaPlayer1_OpenStateChange", [&] {
+        m_loaded = true;
+        lblLength->setText(PlayTime::HourMinSecsText(std::llround(m_engine.Duration())));
+        lblStatus->clear();
+        UpdateButtonEnables();
+    });
+}
+
+int frmPlayPanelMP::TimeSliderValue() const
+{
+    int value = 0;
+    Trap(m_log, "TimeSliderValue", [&] {
+        const double duration = m_engine.Duration();
+        if (duration > 0)
+            value = int(m_engine.CurrentPosition() / duration *
+                            (sldTime->maximum() - sldTime->minimum()) +
+                        sldTime->minimum());
+    });
+    return value;
+}
+
+void frmPlayPanelMP::UpdateCurrentPlayTime()
+{
+    Trap(m_log, "MP:UpdateCurrentPlayTime", [&] {
+        sldTime->setValue(TimeSliderValue());
+        const qint64 seconds = std::llround(std::max(m_engine.CurrentPosition(), 0.0));
+        lblTime->setText(TimeText(seconds));
+    });
+}
+
+void frmPlayPanelMP::UpdateButtonEnables()
+{
+    Trap(m_log, "MP:UpdateButtonEnables", [&] {
+        const double position = m_engine.CurrentPosition();
+        const PlaybackEngine::PlayState state = m_engine.State();
+        btnEnd->setEnabled(m_engine.IsOpen() && position < m_engine.Duration() - 0.1);
+        btnBeginning->setEnabled(m_engine.IsOpen() && position != 0.0);
+        btnPlay->setEnabled(state != PlaybackEngine::PlayState::Playing);
+        btnStop->setEnabled(state != PlaybackEngine::PlayState::Stopped);
+        btnPause->setEnabled(state != PlaybackEngine::PlayState::Stopped);
+    });
+}
+
+void frmPlayPanelMP::Resume()
+{
+    if (m_engine.State() != PlaybackEngine::PlayState::Playing)
+        m_engine.Play();
+}
+
+void frmPlayPanelMP::btnPlay_Click()
+{
+    if (m_engine.CurrentPosition() != -1.0)
+        m_engine.Play();
+}
+
+void frmPlayPanelMP::btnPause_Click()
+{
+    Trap(m_log, "MP:btnPause_Click", [&] {
+        if (m_engine.CurrentPosition() == -1.0)
+            return;
+        if (m_engine.State() == PlaybackEngine::PlayState::Paused)
+            m_engine.Play();
+        else
+            m_engine.Pause();
+    });
+}
+
+void frmPlayPanelMP::btnStop_Click()
+{
+    Trap(m_log, "MP:btnStop_Click", [&] {
+        if (m_engine.CurrentPosition() == -1.0)
+            return;
+        m_engine.Stop();
+        sldTime->setValue(TimeSliderValue());
+    });
+}
+
+void frmPlayPanelMP::btnBeginning_Click()
+{
+    Trap(m_log, "btnBeginning_Click", [&] {
+        sldTime->setValue(0);
+        m_engine.SetCurrentPosition(0.0);
+        Resume();
+    });
+}
+
+void frmPlayPanelMP::btnEnd_Click()
+{
+    Trap(m_log, "btnEnd_Click", [&] {
+        sldTime->setValue(sldTime->maximum());
+        m_engine.SetCurrentPosition(m_engine.Duration());
+    });
+}
+
+void frmPlayPanelMP::SkipTo(double position, const char* procedureName)
+{
+    Trap(m_log, procedureName, [&] {
+        if (!m_engine.IsOpen())
+            return;
+        m_engine.SetCurrentPosition(position);
+        Resume();
+        sldTime->setValue(TimeSliderValue());
+    });
+}
+
+void frmPlayPanelMP::btnForward_Click(int index)
+{
+    const double step = StepSeconds(index);
+    double position = std::round(m_engine.CurrentPosition() + step);
+    // Past the end lands a second before it, so that the end is still heard.
+    if (position > m_engine.Duration())
+        position = std::round(m_engine.Duration() - 1.0);
+    SkipTo(position, "Play Panel btnForward_Click");
+}
+
+void frmPlayPanelMP::btnReverse_Click(int index)
+{
+    const double step = StepSeconds(index);
+    SkipTo(std::max(std::round(m_engine.CurrentPosition() - step), 0.0),
+           "Play Panel btnReverse_Click");
+}
+
+void frmPlayPanelMP::sldTime_Jump(int value)
+{
+    if (sldTime->maximum() == 0 || !m_engine.IsOpen())
+        return;
+    m_engine.SetCurrentPosition(std::round(m_engine.Duration() * value / sldTime->maximum()));
+    Resume();
+}
+
+void frmPlayPanelMP::VSliderVolume_Change(int value)
+{
+    Trap(m_log, "MP:VsliderVolume_Change", [&] {
+        const double level = std::round(1.0 - std::pow(10.0, value * 0.04));
+        m_engine.SetVolume(int(std::clamp(level, -10000.0, 0.0)));
+        m_volume = m_engine.Volume();
+    });
+}
+
+bool frmPlayPanelMP::CheckKeys(int key, Qt::KeyboardModifiers modifiers)
+{
+    bool handled = false;
+    Trap(m_log, "MP:CheckKeys", [&] {
+        // Only an exact state counts: Ctrl and Alt together do nothing.
+        const Qt::KeyboardModifiers state = ShiftState(modifiers);
+        const bool step = key >= Qt::Key_1 && key <= Qt::Key_6;
+        if (state == Qt::AltModifier) {
+            handled = true;
+            if (step)
+                btnForward_Click(key - Qt::Key_1);
+            else if (key == Qt::Key_B && btnBeginning->isEnabled())
+                btnBeginning_Click();
+            else if (key == Qt::Key_E && btnEnd->isEnabled())
+                btnEnd_Click();
+            else if (key == Qt::Key_P && btnPlay->isEnabled())
+                btnPlay_Click();
+            else if (key == Qt::Key_U)
+                btnPause_Click();
+            else if (key == Qt::Key_S && btnStop->isEnabled())
+                btnStop_Click();
+            else
+                handled =
+                    key == Qt::Key_B || key == Qt::Key_E || key == Qt::Key_P || key == Qt::Key_S;
+        } else if (state == Qt::ControlModifier && step) {
+            handled = true;
+            btnReverse_Click(key - Qt::Key_1);
+        }
+    });
+    return handled;
+}

@@ -1,0 +1,237 @@
+// Which player plays a recording: the settings repaired to what this installation can play,
+// the choice by extension, the desktop's default program through a private handler
+// registry, and recordings that are gone.
+#include "DesktopData.h"
+#include "RecordingsListFixture.h"
+#include "player/PlayerChoice.h"
+#include "player/PlayerPanels.h"
+#include "store/RecordingsListCommands.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString kEnhanced = PlayerChoice::EnhancedPlayer;
+const QString kClassic = PlayerChoice::ClassicPlayer;
+const QString kDefault = PlayerChoice::DefaultPlayer;
+
+// The private desktop lives for the whole run: the desktop library reads its folders once.
+QTemporaryDir& Desktop()
+{
+    static QTemporaryDir dir;
+    return dir;
+}
+
+QString Opened()
+{
+    return Desktop().path() + "/opened.txt";
+}
+
+struct FakePanels : PlayerPanels {
+    void OpenEnhanced(const QString& file, const QString&, double) override
+    {
+        opened = "enhanced " + QFileInfo(file).fileName();
+    }
+    void OpenClassic(const QString& file, const QString&, double) override
+    {
+        opened = "classic " + QFileInfo(file).fileName();
+    }
+    QString opened;
+};
+
+// The recordings grid with one row as the command row; plays go to the choice.
+struct GridView : RecordingsListView {
+    QList<qint64> SelectedRows() const override { return {row}; }
+    qint64 CommandRow() const override { return row; }
+    void ClearSelection() override {}
+    void SelectAll() override {}
+    QString AskForFile(const QString&) override { return {}; }
+    QString AskForFolder(const QString&) override { return {}; }
+    void ShowRecordingDetails(const Recordset&) override {}
+    void ShowLoadList() override {}
+    void ShowSaveList() override {}
+    void CopyToClipboard(const QString&) override {}
+    void OpenFolder(const QString&) override {}
+    void UpdateRecordingsButtonsAndMenus() override {}
+    void UpdateStatusBarPlus() override {}
+    void UpdateModeDisplay() override {}
+    void PlayRecording(const QString& file, const QString& title, double startTime) override
+    {
+        choice->PlayExistingFile(file, title, startTime);
+    }
+    PlayerChoice* choice = nullptr;
+    qint64 row = -1;
+};
+
+struct Fixture : RecordingsListFixture {
+    explicit Fixture(bool available = true)
+        : choice(ctx.log, ctx.registry, ctx.options, tc.messageBox, panels,
+                 [available] { return available; })
+    {
+        choice.CheckMediaPlayerControl();
+    }
+    QString Stored(const QString& name) const
+    {
+        return ctx.registry.GetSetting("Settings", name, "<none>");
+    }
+    QString Write(const QString& name, const QByteArray& content) const
+    {
+        QFile f(File(name));
+        f.open(QIODevice::WriteOnly);
+        f.write(content);
+        return f.fileName();
+    }
+    AppContext& ctx = *tc.ctx;
+    FakePanels panels;
+    PlayerChoice choice;
+};
+
+} // namespace
+
+class TestPlayerChoice : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        DesktopData::UsePrivateFolders(Desktop().path());
+        const QString script = Desktop().path() + "/handler.sh";
+        QFile f(script);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(("#!/bin/sh\nprintf '%s' \"$1\" > " + Opened() + ".part && mv " + Opened() +
+                 ".part " + Opened() + "\n")
+                    .toUtf8());
+        f.close();
+        f.setPermissions(f.permissions() | QFileDevice::ExeOwner);
+        QVERIFY(DesktopData::RegisterHandler(Desktop().path(), "test-wav.desktop", script + " %f",
+                                             "audio/x-wav"));
+    }
+
+    void repairs_data()
+    {
+        QTest::addColumn<bool>("available");
+        QTest::addColumn<QString>("wav");
+        QTest::addColumn<QString>("mp3");
+        QTest::addColumn<QString>("wavAfter");
+        QTest::addColumn<QString>("mp3After");
+        QTest::newRow("enhanced gone") << false << kEnhanced << kEnhanced << kClassic << kDefault;
+        QTest::newRow("empty, player there") << true << ""
+                                             << "" << kEnhanced << kEnhanced;
+        QTest::newRow("empty, no player") << false << ""
+                                          << "" << kClassic << kDefault;
+        QTest::newRow("classic for MP3") << true << kClassic << kClassic << kClassic << kEnhanced;
+        QTest::newRow("classic for MP3, no player")
+            << false << kDefault << kClassic << kDefault << kDefault;
+        QTest::newRow("unknown names") << true << "Some Player"
+                                       << "x" << kEnhanced << kEnhanced;
+        QTest::newRow("blanks trimmed")
+            << true << " " + kDefault + " " << kEnhanced + " " << kDefault << kEnhanced;
+    }
+
+    void repairs()
+    {
+        QFETCH(bool, available);
+        QFETCH(QString, wav);
+        QFETCH(QString, mp3);
+        Fixture f(available);
+        f.ctx.registry.SaveSetting("Settings", "WavPlayer", wav);
+        f.ctx.registry.SaveSetting("Settings", "Mp3Player", mp3);
+        f.choice.GetPlayerSetting();
+        QTEST(f.ctx.options.WavPlayer, "wavAfter");
+        QTEST(f.ctx.options.Mp3Player, "mp3After");
+        // Only a change is written: a name read right but for blanks stays as it was.
+        QTEST(f.Stored("WavPlayer").trimmed(), "wavAfter");
+        QTEST(f.Stored("Mp3Player").trimmed(), "mp3After");
+    }
+
+    void choice_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("wav");
+        QTest::addColumn<QString>("mp3");
+        QTest::addColumn<QString>("opened");
+        QTest::newRow("MP3, enhanced") << "a.MP3" << kClassic << kEnhanced << "enhanced a.MP3";
+        QTest::newRow("WAV, enhanced") << "a.wav" << kEnhanced << kDefault << "enhanced a.wav";
+        QTest::newRow("WAV, classic") << "a.wav" << kClassic << kEnhanced << "classic a.wav";
+        QTest::newRow("WAV, default") << "a.wav" << kDefault << kEnhanced << "default";
+        QTest::newRow("MP3, default") << "a.mp3" << kEnhanced << kDefault << "message";
+    }
+
+    // The default program of a WAV is the test's handler; an MP3 has none here.
+    void choice()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, opened);
+        Fixture f;
+        QFile::remove(Opened());
+        QFETCH(QString, wav);
+        QFETCH(QString, mp3);
+        f.ctx.options.WavPlayer = wav;
+        f.ctx.options.Mp3Player = mp3;
+        const QString path = f.Write(file, "RIFF");
+        f.choice.PlayExistingFile(path, "Title", 0.0);
+
+        if (opened == "default") {
+            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Opened()), 10000);
+            QFile got(Opened());
+            got.open(QIODevice::ReadOnly);
+            QCOMPARE(QString::fromUtf8(got.readAll()), path);
+        } else if (opened == "message") {
+            QCOMPARE(f.tc.messageBox.asked.size(), 1);
+            QCOMPARE(f.tc.messageBox.asked[0].text,
+                     "Error Launching default Windows MP3 player. Error Code=31\nPerhaps there "
+                     "is no Windows application associated with MP3 files.");
+            QCOMPARE(f.tc.messageBox.asked[0].icon, MsgIcon::Exclamation);
+        } else {
+            QCOMPARE(f.panels.opened, opened);
+        }
+        if (opened != "message")
+            QVERIFY(f.tc.messageBox.asked.isEmpty());
+        // Nobody knows when the default program stops: the application isn't playing.
+        QVERIFY(!f.ctx.appStatus.Playing());
+    }
+
+    void goneRecordings_data()
+    {
+        QTest::addColumn<bool>("fromGrid");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("grid") << true << "Recording file not found";
+        QTest::newRow("tool bar") << false << "Recent Recording Not Found";
+    }
+
+    // A file of no length counts as gone and goes; the recent one is forgotten as well.
+    void goneRecordings()
+    {
+        QFETCH(bool, fromGrid);
+        Fixture f;
+        f.ctx.options.WavPlayer = kEnhanced;
+        const QString path = f.Write("empty.wav", QByteArray());
+        if (fromGrid) {
+            GridView view;
+            view.choice = &f.choice;
+            RecordingsListCommands commands(f.ctx.database, f.list, f.ctx.log, f.tc.messageBox,
+                                            f.ctx.options, view);
+            Recordset& rs = f.ctx.database.DataRecordings.recordset();
+            rs.AddNew();
+            rs.SetValue("File", path);
+            rs.Update();
+            view.row = rs.LastModified();
+            commands.RecordingsPlay();
+        } else {
+            f.ctx.options.SaveRecentRecording(f.ctx.registry, path, "Recent", 45000.5);
+            f.choice.ToolbarPlay();
+            QCOMPARE(f.ctx.options.RecentRecordingFilename, QString());
+            QCOMPARE(f.Stored("RecentRecordingFilename").trimmed(), QString());
+            QCOMPARE(f.Stored("RecentRecordingDescription").trimmed(), QString());
+        }
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QTEST(f.tc.messageBox.asked[0].title, "title");
+        QVERIFY(!QFile::exists(path));
+        QVERIFY(f.panels.opened.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPlayerChoice)
+#include "test_playerchoice.moc"
