@@ -4,8 +4,10 @@
 #include "common/TextHelpers.h"
 
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
+#include <ctime>
 
 using namespace AutomationDate;
 
@@ -27,6 +29,22 @@ private slots:
         QFETCH(double, date);
         QCOMPARE(FromDateTime(local), date);
         QCOMPARE(ToDateTime(date), local);
+    }
+
+    // A wall time that the change to summer time skipped is the moment after the gap, so that
+    // a limit worked out from it still compares with real times.
+    void aSkippedWallTimeIsTheMomentAfterTheGap()
+    {
+        const QByteArray zone = qgetenv("TZ");
+        const auto restore = qScopeGuard([&] {
+            qputenv("TZ", zone);
+            tzset();
+        });
+        qputenv("TZ", "Europe/Berlin");
+        tzset();
+        const QDateTime t =
+            ToDateTime(FromDateTime(QDateTime(QDate(2026, 3, 29), QTime(0, 0))) + 2.5 / 24);
+        QCOMPARE(t, QDateTime(QDate(2026, 3, 29), QTime(3, 30)));
     }
 
     void partsOfADate()

@@ -140,11 +140,12 @@ double TimeOfDay(const QString& hhmm)
     return Programs::TimeOfDay(hhmm + ":00");
 }
 
-// Readable whatever the zone: a time inside the skipped hour is no valid local time.
+// The wall time the date names, also inside the hour skipped in spring (which no local time
+// shows): counted from the epoch in UTC, where no hour is skipped.
 QString Stamp(double date, const char* format = "yyyy-MM-dd HH:mm")
 {
-    const QDateTime local = AutomationDate::ToDateTime(date);
-    return QDateTime(local.date(), local.time(), QTimeZone::utc()).toString(format);
+    const QDateTime epoch(QDate(1899, 12, 30), QTime(0, 0), QTimeZone::utc());
+    return epoch.addSecs(qRound64(date * 86400.0)).toString(format);
 }
 
 // One state of a program's row: as created, or as an edit left it, for local times from

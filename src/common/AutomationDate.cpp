@@ -70,8 +70,15 @@ QDateTime ToDateTime(double date)
 {
     const qint64 ms = LinearMilliseconds(date);
     const qint64 day = FloorDiv(ms, kMillisecondsPerDay);
-    return QDateTime(kEpoch.addDays(day),
-                     QTime::fromMSecsSinceStartOfDay(int(ms - day * kMillisecondsPerDay)));
+    const QDate calendarDay = kEpoch.addDays(day);
+    const QTime time = QTime::fromMSecsSinceStartOfDay(int(ms - day * kMillisecondsPerDay));
+    const QDateTime local(calendarDay, time);
+    if (local.isValid())
+        return local;
+    // A wall time that the clocks skipped when they went forward: read with the offset that
+    // held before the change, it is as far after the change as it was after the gap's start.
+    const int offsetBefore = QDateTime(calendarDay.addDays(-1), time).offsetFromUtc();
+    return QDateTime(calendarDay, time, Qt::OffsetFromUTC, offsetBefore).toLocalTime();
 }
 
 double DatePart(double date)
