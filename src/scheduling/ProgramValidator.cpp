@@ -40,11 +40,7 @@ ProgramValidator::FirstFailedCheck(const ProgramCheckValues& v) const
                            QStringLiteral("The filename cannot contain any of the following "
                                           "characters:\n") +
                                kForbiddenList);
-        QString base = Text::Trim(v.filenameUser);
-        const QString upper = base.toUpper();
-        if (upper.endsWith(QStringLiteral(".MP3")) || upper.endsWith(QStringLiteral(".WAV")))
-            base.chop(4);
-        if (Text::Trim(base).isEmpty())
+        if (UserFilenameBase(v.filenameUser).isEmpty())
             return Refused(QStringLiteral("Invalid Filename"), QStringLiteral("Invalid Filename"));
     } else {
         if (v.prefixChecked && InvalidFilenameCharacters(v.prefix))
