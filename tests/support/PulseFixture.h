@@ -71,8 +71,11 @@ public:
         m_synth.setStandardOutputProcess(&m_player);
         m_synth.start("sox", {"-n", "-t", "raw", "-r", "44100", "-c", "2", "-b", "16", "-e",
                               "signed", "-", "synth", "600", "sine", "1000", "vol", "0.5"});
-        m_player.start("pacat",
-                       {"--device=recsink", "--rate=44100", "--channels=2", "--format=s16le"});
+        // With its default buffer of about two seconds the player makes the null sink, and so
+        // its monitor, move sound in blocks that long: a capture would get its first sound
+        // late, as no sound card would give it.
+        m_player.start("pacat", {"--device=recsink", "--latency-msec=50", "--rate=44100",
+                                 "--channels=2", "--format=s16le"});
         if (!m_synth.waitForStarted(3000) || !m_player.waitForStarted(3000))
             return false;
         QProcess warmUp;
