@@ -1,6 +1,7 @@
 #include "recording/ConversionQueue.h"
 
 #include "common/AutomationDate.h"
+#include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
@@ -46,6 +47,7 @@ void ConversionQueue::TimerConvert_Timer()
     // Stopped for the tick, so that the events let through inside it can't enter it again;
     // each branch sets the interval as its last step.
     TimerConvert.SetInterval(0);
+    const UnattendedPath unattended;
     // Converting stays as it was: an interrupted conversion goes on at the next tick.
     if (!Trap(m_log, "Convert MP3 Timer", [&] { Tick(); }))
         TimerConvert.SetInterval(IdleInterval);
@@ -67,7 +69,7 @@ void ConversionQueue::Tick()
 void ConversionQueue::IdleBranch()
 {
     if (Mp3ConvertQueue.isEmpty()) {
-        QCoreApplication::processEvents();
+        UnattendedPath::LetEventsRun();
         TimerConvert.SetInterval(IdleInterval);
         return;
     }
@@ -89,7 +91,7 @@ void ConversionQueue::IdleBranch()
         return;
     }
     m_appStatus.SetConverting(true);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
     TimerConvert.SetInterval(ConvertingInterval);
 }
 
@@ -105,7 +107,7 @@ void ConversionQueue::StepBranch()
     }
     request.PercentComplete = qint16(percent);
     if (finished != 1) {
-        QCoreApplication::processEvents();
+        UnattendedPath::LetEventsRun();
         TimerConvert.SetInterval(ConvertingInterval);
         return;
     }
@@ -124,7 +126,7 @@ void ConversionQueue::StepBranch()
     m_appStatus.SetConverting(false);
     LaunchAfterRecording(m_log, m_launcher, true, request.LaunchAppAfter,
                          request.LaunchAfterOnlyIfOk, request.DestinationFile);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
     TimerConvert.SetInterval(IdleInterval);
 }
 
@@ -155,7 +157,7 @@ void ConversionQueue::StopBranch(const QString& folder)
     emit UpdateModeDisplay();
     RemoveCaptures(captures);
     m_appStatus.SetConverting(false);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
     LaunchAfterRecording(m_log, m_launcher, true, request.LaunchAppAfter,
                          request.LaunchAfterOnlyIfOk, request.DestinationFile);
     TimerConvert.SetInterval(IdleInterval);

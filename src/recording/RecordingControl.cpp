@@ -5,6 +5,7 @@
 #include "common/MessageBox.h"
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
+#include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
@@ -300,9 +301,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
 
     const QString parameterFile = m_link.ParameterFile();
     QFile::remove(parameterFile);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
     parms.Write(parameterFile);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
 
     status.Failed = false;
     if (!m_link.ActivateNightreeltask()) {
@@ -316,7 +317,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     // The mixer is set once the task is up and right before capture, never earlier.
     if (!Text::Trim(status.MixerProfileBefore).isEmpty())
         m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileBefore);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
 
     const qint32 result = m_link.SendMessage(REC_MSG_START);
     if (result >= 1) {

@@ -1,6 +1,7 @@
 #include "recording/RecordingTaskLink.h"
 
 #include "common/TextHelpers.h"
+#include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
@@ -101,6 +102,7 @@ void RecordingTaskLink::OnDisconnected(QLocalSocket* socket)
 
 void RecordingTaskLink::OnReadyRead(QLocalSocket* socket)
 {
+    const UnattendedPath unattended;
     Connection* c = Find(socket);
     if (!c)
         return;
@@ -237,8 +239,8 @@ bool RecordingTaskLink::ActivateNightreeltask()
                 m_taskResponded = false;
                 StartTask();
                 for (;;) {
-                    QCoreApplication::processEvents(QEventLoop::AllEvents |
-                                                    QEventLoop::WaitForMoreEvents);
+                    UnattendedPath::LetEventsRun(QEventLoop::AllEvents |
+                                                 QEventLoop::WaitForMoreEvents);
                     if (m_timedOut) {
                         if (reporting)
                             m_log.LogEvent(
@@ -359,6 +361,7 @@ void RecordingTaskLink::StopKeepAlive()
 
 void RecordingTaskLink::tmrKeepAlive_Timer()
 {
+    const UnattendedPath unattended;
     Trap(m_log, "tmrKeepAlive_Timer", [&] {
         if (!m_appStatus.Recording())
             return;
@@ -373,6 +376,7 @@ void RecordingTaskLink::tmrKeepAlive_Timer()
 
 void RecordingTaskLink::tmrStopRecording_Timer()
 {
+    const UnattendedPath unattended;
     Trap(m_log, "tmrStopRecording_Timer", [&] {
         tmrStopRecording.SetInterval(0);
         emit StopRecording();
