@@ -408,7 +408,7 @@ void RecordingControl::StopRecording()
 void RecordingControl::StopRecordingSteps()
 {
     clsRecordingStatus& status = m_status;
-    m_link.StopKeepAlive();
+    m_link.RecordingOver();
     emit UpdateModeDisplay();
     // The task has closed the file; give the file system a moment. No events run here.
     QThread::msleep(250);

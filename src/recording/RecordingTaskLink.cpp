@@ -13,6 +13,7 @@
 #include <QLocalSocket>
 #include <QProcess>
 #include <QThread>
+#include <utility>
 
 using namespace TaskProtocol;
 
@@ -195,9 +196,15 @@ qint32 RecordingTaskLink::SendMessage(quint32 msg)
     socket->write(Encode(Kind::Call, msg, 0));
     socket->flush();
     while (!call.answered && socket && socket->state() == QLocalSocket::ConnectedState)
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        UnattendedPath::LetEventsRun(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     m_pendingCalls.removeOne(&call);
-    return call.answered ? call.result : 0;
+    const qint32 result = call.answered ? call.result : 0;
+    if (msg == REC_MSG_START && result < 1) {
+        m_capturing = true;
+        if (std::exchange(m_stopHeld, false))
+            PostStop();
+    }
+    return result;
 }
 
 void RecordingTaskLink::StartTask()
@@ -212,6 +219,7 @@ void RecordingTaskLink::StartTask()
 bool RecordingTaskLink::ActivateNightreeltask()
 {
     bool activated = false;
+    m_capturing = false;
     Trap(m_log, "ActivateNightreeltask", [&] {
         for (int attempt = 0; attempt <= 2; ++attempt) {
             // Only the last attempt reports; the first two failures are silent.
@@ -344,19 +352,27 @@ void RecordingTaskLink::UnexpectedCode(qint64 number)
 
 void RecordingTaskLink::PostStop()
 {
+    // Before the start command the task would drop the stop, or the old task would get it.
+    if (!m_capturing) {
+        m_stopHeld = true;
+        return;
+    }
     PostMessage(REC_MSG_STOP);
     tmrStopRecording.SetInterval(StopWatchdogInterval);
+}
+
+void RecordingTaskLink::RecordingOver()
+{
+    tmrKeepAlive.SetInterval(0);
+    tmrStopRecording.SetInterval(0);
+    m_capturing = false;
+    m_stopHeld = false;
 }
 
 void RecordingTaskLink::StartKeepAlive()
 {
     KeepAliveMissCount = 0;
     tmrKeepAlive.SetInterval(KeepAliveInterval);
-}
-
-void RecordingTaskLink::StopKeepAlive()
-{
-    tmrKeepAlive.SetInterval(0);
 }
 
 void RecordingTaskLink::tmrKeepAlive_Timer()
