@@ -45,4 +45,11 @@ constexpr qint32 DeviceBusy = 1050;
 constexpr qint32 NoAudioDriver = 1051;
 constexpr qint32 OutOfMemory = 1052;
 constexpr qint32 BadFormat = 1053;
+
+// The file could not be written on during capture (a full disk, a drive gone): the task has
+// closed what it wrote, which is a recording up to that moment.
+constexpr bool IsWriteError(qint32 code)
+{
+    return code == WriteFailed || code == FlushFailed;
+}
 } // namespace TaskError
