@@ -17,21 +17,31 @@
 #include <memory>
 #include <optional>
 
-// A sound system with as many capture sources as the test says.
+// A sound system with as many capture sources as the test says, or one that fails to answer.
 class FakeAudioDevices : public AudioDevices {
 public:
-    int CountCaptureSources() override { return sources; }
+    int CountCaptureSources() override
+    {
+        if (fails)
+            throw RuntimeError(ErrorNumber::PathFileAccess, "the sound system did not answer");
+        return sources;
+    }
     int sources = 1;
+    bool fails = false;
 };
 
-// The real file systems, unless the test names the free megabytes it wants seen.
+// The real file systems, unless the test names the free megabytes it wants seen, or makes
+// the measuring fail.
 class TestDiskSpace : public StorageDiskSpace {
 public:
     std::optional<double> freeMb;
+    bool fails = false;
 
 protected:
     DiskSpaceMb Measure(const QString& folder) override
     {
+        if (fails)
+            throw RuntimeError(ErrorNumber::PathFileAccess, "the disk did not answer");
         DiskSpaceMb d = StorageDiskSpace::Measure(folder);
         if (freeMb)
             d.free = *freeMb;
