@@ -169,7 +169,7 @@ void TestInstall::installedProgramRecordsConvertsAndLists()
     const QDate today = now.date();
     QVariantHash row = Programs::OneTime(
         "Night news", Programs::At(today.year(), today.month(), today.day(), "00:00:00"),
-        now.addSecs(4).toString("HH:mm:ss"), now.addSecs(8).toString("HH:mm:ss"));
+        now.addSecs(6).toString("HH:mm:ss"), now.addSecs(10).toString("HH:mm:ss"));
     const WaveFormatRecord mp3 = *WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(1, 22050, 32));
     row.insert({{"wfx_wFormatTag", mp3.wFormatTag},
                 {"wfx_nChannels", mp3.nChannels},
