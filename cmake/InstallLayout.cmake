@@ -27,3 +27,26 @@ set(NIGHTREEL_LAYOUT_DEFINITIONS
     NIGHTREEL_LIBRARIES_FROM_BIN="${libraries_from_bin}"
     NIGHTREEL_DATA_FROM_BIN="${data_from_bin}"
     NIGHTREEL_APPLICATIONS_FROM_BIN="${applications_from_bin}")
+
+# Installs the file that template (NAME.in) makes, as NAME, into destination (a folder under
+# the prefix). Some files must name programs by absolute paths (desktop entries; D-Bus service
+# files and systemd units likewise): in the template @NIGHTREEL_BINDIR@ and
+# @NIGHTREEL_LIBEXECDIR@ stand for the folders of bin/ and of the private programs, filled in
+# at install time, so that they are right under the prefix that `cmake --install` or CPack
+# uses.
+function(nightreel_install_with_paths template destination)
+    cmake_path(GET template STEM LAST_ONLY name)
+    set(made ${CMAKE_CURRENT_BINARY_DIR}/installed/${name})
+    install(CODE "
+        set(bindir \"${CMAKE_INSTALL_BINDIR}\")
+        set(libexecdir \"${NIGHTREEL_INSTALL_LIBEXECDIR}\")
+        cmake_path(ABSOLUTE_PATH bindir BASE_DIRECTORY \"\${CMAKE_INSTALL_PREFIX}\" NORMALIZE)
+        cmake_path(ABSOLUTE_PATH libexecdir BASE_DIRECTORY \"\${CMAKE_INSTALL_PREFIX}\" NORMALIZE)
+        file(READ \"${template}\" text)
+        string(REPLACE \"@NIGHTREEL_BINDIR@\" \"\${bindir}\" text \"\${text}\")
+        string(REPLACE \"@NIGHTREEL_LIBEXECDIR@\" \"\${libexecdir}\" text \"\${text}\")
+        file(WRITE \"${made}\" \"\${text}\")
+        file(INSTALL DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${destination}\" TYPE FILE
+            FILES \"${made}\")
+    ")
+endfunction()

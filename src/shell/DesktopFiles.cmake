@@ -4,21 +4,13 @@
 # The desktop entry names the program by its full path. The build puts one beside the
 # program, from where the options dialog copies it into the desktop's autostart folder; the
 # installed one goes to the applications folder.
-set(NIGHTREEL_EXEC "$<TARGET_FILE:nightreel>")
+set(NIGHTREEL_BINDIR "$<TARGET_FILE_DIR:nightreel>")
 configure_file(${CMAKE_CURRENT_LIST_DIR}/nightreel.desktop.in
     ${CMAKE_CURRENT_BINARY_DIR}/nightreel.desktop.build @ONLY)
 file(GENERATE OUTPUT $<TARGET_FILE_DIR:nightreel>/nightreel.desktop
     INPUT ${CMAKE_CURRENT_BINARY_DIR}/nightreel.desktop.build)
-# The installed entry is made at install time, so that it names the program where
-# `cmake --install --prefix` puts it.
-install(CODE "
-    file(READ \"${CMAKE_CURRENT_LIST_DIR}/nightreel.desktop.in\" entry)
-    string(REPLACE \"@NIGHTREEL_EXEC@\" \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/nightreel\"
-        entry \"\${entry}\")
-    file(WRITE \"${CMAKE_CURRENT_BINARY_DIR}/installed/nightreel.desktop\" \"\${entry}\")
-    file(INSTALL DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/applications\"
-        TYPE FILE FILES \"${CMAKE_CURRENT_BINARY_DIR}/installed/nightreel.desktop\")
-")
+nightreel_install_with_paths(${CMAKE_CURRENT_LIST_DIR}/nightreel.desktop.in
+    ${CMAKE_INSTALL_DATADIR}/applications)
 
 # The icon: scalable, and rendered at the sizes that desktops without SVG support look for.
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
