@@ -23,7 +23,13 @@ private slots:
         QVERIFY2(m_report.faults.isEmpty(), qPrintable(m_report.faults.join('\n')));
         QCOMPARE(m_report.missed, 0);
         QCOMPARE(m_report.startedTwice, 0);
-        QVERIFY2(m_report.logged.isEmpty(), qPrintable(m_report.logged.join('\n')));
+        // An occurrence started again in its window (the hour that comes twice, the clock
+        // set back) takes the next free name instead of replacing the first recording; the
+        // log notes those renames and nothing else.
+        QVERIFY(!m_report.logged.isEmpty());
+        for (const QString& line : m_report.logged)
+            QVERIFY2(line.startsWith("type 0: Recording saved under a new name: "),
+                     qPrintable(line));
     }
 
     void startsOfOccurrence_data()

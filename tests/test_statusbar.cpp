@@ -2,6 +2,7 @@
 // recorder that runs them on every tick.
 #include "Programs.h"
 #include "TestContext.h"
+#include "recording/RecordingTaskLink.h"
 
 #include <QDir>
 #include <QTest>
@@ -62,6 +63,8 @@ private slots:
         Recorder& recorder = tc.ctx->recorder;
         tc.ctx->appStatus.SetRecording(true);
         recorder.Status().Description = "Concert";
+        // The task has answered the start command (none here answers at once): it captures.
+        recorder.Link().SendMessage(TaskProtocol::REC_MSG_START);
         recorder.UpdateStatusBarPlus();
         QVERIFY(recorder.Status().StopRequested);
         QCOMPARE(recorder.Link().tmrStopRecording.Interval(), 10000);

@@ -189,6 +189,19 @@ void RecordingTaskLink::PostMessage(quint32 msg)
 
 qint32 RecordingTaskLink::SendMessage(quint32 msg)
 {
+    const qint32 result = Call(msg);
+    // Once the start command is answered (a task that is gone answers 0 too), a stop goes
+    // to the task and the watchdog watches it.
+    if (msg == REC_MSG_START && result < 1) {
+        m_capturing = true;
+        if (std::exchange(m_stopHeld, false))
+            PostStop();
+    }
+    return result;
+}
+
+qint32 RecordingTaskLink::Call(quint32 msg)
+{
     QPointer<QLocalSocket> socket = m_window;
     if (!socket || socket->state() != QLocalSocket::ConnectedState)
         return 0;
@@ -199,13 +212,7 @@ qint32 RecordingTaskLink::SendMessage(quint32 msg)
     while (!call.answered && socket && socket->state() == QLocalSocket::ConnectedState)
         UnattendedPath::LetEventsRun(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     m_pendingCalls.removeOne(&call);
-    const qint32 result = call.answered ? call.result : 0;
-    if (msg == REC_MSG_START && result < 1) {
-        m_capturing = true;
-        if (std::exchange(m_stopHeld, false))
-            PostStop();
-    }
-    return result;
+    return call.answered ? call.result : 0;
 }
 
 void RecordingTaskLink::StartTask()

@@ -112,6 +112,7 @@ private:
     // The live, identified connection of a task; also refreshes the window handle.
     QLocalSocket* FindWindowA();
     void Post(QLocalSocket* socket, quint32 msg);
+    qint32 Call(quint32 msg);
     void StartTask();
     void UnexpectedCode(qint64 number);
     void Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint32& result);
