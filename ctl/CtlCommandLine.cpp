@@ -5,7 +5,7 @@
 namespace CtlCommandLine {
 namespace {
 
-struct CommandSpec {
+struct CommandUsage {
     QString name;
     QString usage;
     QString summary;
@@ -14,9 +14,9 @@ struct CommandSpec {
     QStringList options;
 };
 
-const QList<CommandSpec>& Commands()
+const QList<CommandUsage>& Commands()
 {
-    static const QList<CommandSpec> commands = {
+    static const QList<CommandUsage> commands = {
         {"status", "status", "What the recorder does now and which program comes next.", 0, 0, {}},
         {"next",
          "next [N]",
@@ -55,11 +55,11 @@ const QList<CommandSpec>& Commands()
     return commands;
 }
 
-const CommandSpec* Find(const QString& name)
+const CommandUsage* Find(const QString& name)
 {
-    for (const CommandSpec& spec : Commands())
-        if (spec.name == name)
-            return &spec;
+    for (const CommandUsage& command : Commands())
+        if (command.name == name)
+            return &command;
     return nullptr;
 }
 
@@ -70,15 +70,15 @@ const QStringList kValueOptions = {"once", "weekly", "start", "end", "desc", "fo
 
 QString Usage(const QString& command)
 {
-    if (const CommandSpec* spec = Find(command))
+    if (const CommandUsage* usage = Find(command))
         return QStringLiteral("Usage: nightreel-ctl [--json] %1\n\n%2\n")
-            .arg(spec->usage, spec->summary);
+            .arg(usage->usage, usage->summary);
     QString text =
         QStringLiteral("Usage: nightreel-ctl [--json] COMMAND [ARGUMENTS]\n\n"
                        "Controls the Nightreel 2000 recorder of this user over the session bus.\n\n"
                        "Commands:\n");
-    for (const CommandSpec& spec : Commands())
-        text += QStringLiteral("  %1\n").arg(spec.usage.section(u'\n', 0, 0));
+    for (const CommandUsage& each : Commands())
+        text += QStringLiteral("  %1\n").arg(each.usage.section(u'\n', 0, 0));
     text += QStringLiteral(
         "\nOptions:\n"
         "  --json   print the answer as JSON\n"
@@ -119,17 +119,17 @@ Parsed Parse(const QStringList& arguments)
     }
     if (request.help)
         return {request, {}};
-    const CommandSpec* spec = Find(request.command);
-    if (!spec)
+    const CommandUsage* usage = Find(request.command);
+    if (!usage)
         return {std::nullopt, request.command.isEmpty()
                                   ? QStringLiteral("a command is needed")
                                   : QStringLiteral("unknown command: ") + request.command};
     for (auto it = request.options.cbegin(); it != request.options.cend(); ++it)
-        if (!spec->options.contains(it.key()))
+        if (!usage->options.contains(it.key()))
             return {std::nullopt,
-                    QStringLiteral("%1 takes no option --%2").arg(spec->name, it.key())};
-    if (request.arguments.size() < spec->leastWords || request.arguments.size() > spec->mostWords)
-        return {std::nullopt, QStringLiteral("wrong number of arguments for ") + spec->name};
+                    QStringLiteral("%1 takes no option --%2").arg(usage->name, it.key())};
+    if (request.arguments.size() < usage->leastWords || request.arguments.size() > usage->mostWords)
+        return {std::nullopt, QStringLiteral("wrong number of arguments for ") + usage->name};
     return {request, {}};
 }
 

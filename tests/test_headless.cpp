@@ -30,6 +30,7 @@ class SignalRecord : public QObject {
 public:
     QStringList started;
     QList<QVariantList> ended;
+    QStringList modes;
 
 public slots:
     void RecordingStarted(const QString& description, const QString& file)
@@ -40,6 +41,7 @@ public slots:
     {
         ended << QVariantList{file, ok, reason};
     }
+    void ModeChanged(const QString& mode) { modes << mode; }
 };
 
 } // namespace
@@ -120,6 +122,7 @@ private slots:
                     SLOT(RecordingStarted(QString, QString)));
         bus.connect(service, path, service, "RecordingEnded", &m_signals,
                     SLOT(RecordingEnded(QString, bool, QString)));
+        bus.connect(service, path, service, "ModeChanged", &m_signals, SLOT(ModeChanged(QString)));
         m_recorder.setProcessEnvironment(Environment());
         m_recorder.setProcessChannelMode(QProcess::ForwardedChannels);
         m_recorder.start(NIGHTREEL_PATH, {"--headless"});
@@ -212,6 +215,8 @@ private slots:
         QTRY_COMPARE(m_signals.ended.size(), 1);
         QCOMPARE(m_signals.started, QStringList{"x|" + file});
         QCOMPARE(m_signals.ended[0], (QVariantList{file, true, QString()}));
+        QCOMPARE(m_signals.modes.mid(0, 1), QStringList{"RECORDING"});
+        QCOMPARE(m_signals.modes.last(), QString("STOPPED"));
     }
 
     void aProgramAddedTenSecondsAheadIsRecorded()
