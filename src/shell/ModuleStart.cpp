@@ -3,7 +3,6 @@
 #include "common/TextHelpers.h"
 #include "control/CallMessageBox.h"
 #include "formats/FileRowPreview.h"
-#include "shell/HeadlessStart.h"
 #include "shell/InstanceLock.h"
 #include "shell/SystemSeams.h"
 #include "shell/WidgetMessageBox.h"
@@ -35,8 +34,6 @@ int Main(int argc, char* argv[])
 {
     if (argc == 3 && qstrcmp(argv[1], "--inspect") == 0)
         return Inspect(argc, argv);
-    if (argc == 2 && qstrcmp(argv[1], "--headless") == 0)
-        return HeadlessStart::Main(argc, argv);
     QApplication app(argc, argv);
     SetApplicationNames();
     QApplication::setQuitOnLastWindowClosed(false);
