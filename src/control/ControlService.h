@@ -12,6 +12,7 @@ class CallMessageBox;
 class Clock;
 class EventLog;
 class Options;
+class ProgramListCommands;
 class Recorder;
 class RecordingsList;
 class Scheduler;
@@ -79,7 +80,7 @@ private:
     void Serve(const std::function<void()>& body);
     // Runs one of the program list's commands on the program, as the bus asks it.
     qint64 RunProgramCommand(qint64 bookmark, const QVariantMap& changes,
-                             const std::function<void(class ProgramListCommands&)>& command);
+                             const std::function<void(ProgramListCommands&)>& command);
     void RequireProgram(qint64 id);
     QString CurrentMode();
     void OnModeMaybeChanged();
