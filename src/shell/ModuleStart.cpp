@@ -5,6 +5,7 @@
 #include "common/TextHelpers.h"
 #include "formats/FileRowPreview.h"
 #include "platform/AudioDevices.h"
+#include "platform/DesktopNotifications.h"
 #include "platform/DiskSpace.h"
 #include "platform/Joystick.h"
 #include "platform/Mixer.h"
@@ -59,8 +60,9 @@ int Inspect(int argc, char* argv[])
     // Inspecting a file records nothing: no bus, no alarm.
     LogindSleepInhibitor sleepInhibitor{QDBusConnection(QString()), QString()};
     LinuxJoystick joystick;
+    NoDesktopNotifications notifications;
     AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows,
-                         network, sleepInhibitor, joystick},
+                         network, sleepInhibitor, joystick, notifications},
                    AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx.log, QString::fromLocal8Bit(argv[2]), out);
@@ -100,8 +102,9 @@ int Main(int argc, char* argv[])
     folders.InstallDatabaseOnFirstRun();
     LinuxJoystick joystick;
     joystick.Watch(QStringLiteral("/dev/input"));
+    FreedesktopNotifications notifications{QDBusConnection::sessionBus()};
     AppContext ctx(Seams{clock, messageBox, launcher, audioDevices, diskSpace, mixer, windows,
-                         network, sleepInhibitor, joystick},
+                         network, sleepInhibitor, joystick, notifications},
                    folders);
     bool showSplash = true;
     Options::GetBlnOption(ctx.registry, QStringLiteral("HiddenWindowStatupMode"),
