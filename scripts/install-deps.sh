@@ -12,7 +12,7 @@ packages=(
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
     weston qt6-wayland
-    desktop-file-utils
+    desktop-file-utils appstream librsvg2-bin dpkg-dev file
 )
 missing=()
 for p in "${packages[@]}"; do
