@@ -133,21 +133,18 @@ private:
             p.start("pactl", args);
             return p.waitForFinished(5000) && p.exitCode() == 0;
         };
-        for (int i = 0; !pactl({"info"}); ++i)
-            if (i == 100)
-                return false;
-            else
-                QTest::qWait(100);
-        if (!pactl({"load-module", "module-null-sink", "sink_name=recsink"}) ||
-            !pactl({"load-module", "module-remap-source", "source_name=recmic",
-                    "master=recsink.monitor"}))
+        // The server takes requests a moment after it starts, the default a moment later.
+        const auto retried = [&pactl](const QStringList& args) {
+            for (int i = 0; i < 100; ++i, QTest::qWait(100))
+                if (pactl(args))
+                    return true;
             return false;
-        for (int i = 0; !pactl({"set-default-source", "recmic"}); ++i)
-            if (i == 100)
-                return false;
-            else
-                QTest::qWait(100);
-        return true;
+        };
+        return retried({"info"}) &&
+               pactl({"load-module", "module-null-sink", "sink_name=recsink"}) &&
+               pactl({"load-module", "module-remap-source", "source_name=recmic",
+                      "master=recsink.monitor"}) &&
+               retried({"set-default-source", "recmic"});
     }
 
     QTemporaryDir m_dir;
