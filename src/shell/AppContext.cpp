@@ -31,6 +31,9 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , desktopNotifications(seams.notifications)
     , recorderNotifications(log, options, appStatus, error, recorder, desktopNotifications)
 {
+    // The purge is part of the recorder's run, with a window or without; a window that is
+    // there shows the list afterwards.
+    QObject::connect(&recorder, &Recorder::PurgeDue, &recorder, [this] { recordingsList.Purge(); });
 }
 
 double AppContext::Now() const
@@ -54,4 +57,11 @@ ProgramFormServices AppContext::ForProgramForm()
             clock,
             folders.runtimeFolder,
             mixerProfiles.Folder()};
+}
+
+ControlServices AppContext::ForControl(CallMessageBox& callBox)
+{
+    return {recorder,   scheduler,      database, log,
+            error,      appStatus,      options,  clock,
+            WfxDefault, recordingsList, callBox,  mixerProfiles.Folder()};
 }
