@@ -2,7 +2,6 @@
 
 #include "common/Clock.h"
 #include "diagnostics/EventLog.h"
-#include "platform/DisplayAvailable.h"
 #include "sideactions/ViewHtmlFile.h"
 
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
@@ -97,7 +96,7 @@ ModeDisplay Recorder::Mode(ModeDisplay::Extra extra) const
 
 void Recorder::OpenInternetLink(const QString& link)
 {
-    if (!DisplayAvailable()) {
+    if (!m_s.hasDisplay) {
         m_s.log.LogEvent(EventInformation, QStringLiteral("Web link not opened"),
                          QStringLiteral("There is no display to open it on: ") + link);
         return;

@@ -40,4 +40,6 @@ struct RecorderServices {
     QString runtimeFolder;
     // The machine's sleep, idling and wake alarm, kept in step with the recordings.
     SleepInhibitor& sleepInhibitor;
+    // Whether a desktop is there to open a browser or close a player window on.
+    bool hasDisplay = true;
 };

@@ -3,6 +3,7 @@
 #include "control/CallMessageBox.h"
 #include "diagnostics/JournalLog.h"
 #include "diagnostics/LoggedMessageBox.h"
+#include "platform/DisplayAvailable.h"
 #include "platform/TerminationSignals.h"
 #include "shell/InstanceLock.h"
 #include "shell/MainFormController.h"
@@ -51,7 +52,9 @@ int Main(int argc, char* argv[])
     LoggedMessageBox loggedBox;
     CallMessageBox messageBox(loggedBox);
     SystemSeams seams;
-    AppContext ctx(seams.With(messageBox), folders);
+    Seams withoutWindow = seams.With(messageBox);
+    withoutWindow.hasDisplay = DisplayAvailable();
+    AppContext ctx(withoutWindow, folders);
     loggedBox.Attach(ctx.log);
 
     // The steps of the window's load and first activation that need no window; a missing
