@@ -25,13 +25,23 @@ TestContext::TestContext()
     QFile(WakeAlarmFile()).open(QIODevice::WriteOnly);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.path() + "/config");
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
-    const AppFolders folders = AppFolders::Under(m_dir.path());
-    folders.InstallDatabaseOnFirstRun();
+    AppFolders::Under(m_dir.path()).InstallDatabaseOnFirstRun();
     QDir().mkpath(JoystickFolder());
     joystick.Watch(JoystickFolder());
+    MakeContext();
+}
+
+void TestContext::MakeContext()
+{
     ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace,
                                              mixer, windows, network, sleepInhibitor, joystick},
-                                       folders);
+                                       AppFolders::Under(m_dir.path()));
+}
+
+void TestContext::Restart()
+{
+    ctx.reset();
+    MakeContext();
 }
 
 TestContext::~TestContext()
