@@ -52,7 +52,7 @@ void KeepAwake::Update()
         if (on && m_appStatus.Recording())
             why = QStringLiteral("Recording ") + m_status.Description;
         // A capture to convert waits in the queue for a moment before its conversion starts.
-        else if (on && (m_appStatus.Converting() || !m_conversion.Mp3ConvertQueue.isEmpty()))
+        else if (on && m_conversion.HasWork())
             why = QStringLiteral("Converting a recording to MP3");
         else if (on && next.NextProgramFound && now >= WindowStart(next) &&
                  now < next.NextProgramEnd)

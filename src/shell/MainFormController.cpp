@@ -94,8 +94,12 @@ void MainFormController::RemoveTemporaryRecordings(const QString& folder)
          dir.entryList({QStringLiteral("*.WAV.TMP"), QStringLiteral("*.MP3.TMP")},
                        QDir::Files | QDir::Hidden))
         leftovers << dir.filePath(name);
-    // A second instance must leave alone what the first one is recording.
-    OpenFiles::RemoveUnlessInUse(leftovers);
+    // A second instance must leave alone what the first one is recording, and the captures
+    // that the saved conversion queue holds are converted in this run. An incomplete result
+    // goes: its capture is converted again.
+    ConversionQueue& conversion = m_ctx.recorder.Conversion();
+    conversion.LoadSavedQueue();
+    OpenFiles::RemoveUnlessInUse(leftovers, conversion.QueuedCaptures());
 }
 
 bool MainFormController::QueryUnload(bool closedBySystem)
