@@ -489,7 +489,8 @@ private slots:
 
     // Whatever ends the run before the queue is done, its recordings are converted at the
     // next start, in order: no partial result ever carries a recording's name, and a missing
-    // encoder library holds the queue (logged once, with the loader's own words).
+    // encoder library holds the queue (logged once, with the loader's own words). A capture
+    // cut short by the end is kept and listed.
     void queueOutlivesTheProgram()
     {
         QFETCH(QString, end);
@@ -498,6 +499,10 @@ private slots:
         const auto second = f.Queue("Second", 5);
         QVERIFY(first && second);
         if (end == "killed") {
+            // And a recording to convert was being captured: its task finished the file.
+            QVERIFY(TaskWaveSource::Write(
+                QFile::encodeName(f.folder + "/Interrupted.WAV.TMP").toStdString(), 2, 44100,
+                RawTone(44100, 2, 2)));
             QVERIFY(f.ConvertSome(3));
             QVERIFY(!QFile::exists(first->DestinationFile));
             // What the end of the process does to the library's open conversion.
@@ -516,8 +521,15 @@ private slots:
         QCOMPARE(f.Recordings().size(), 0);
 
         f.Restart();
-        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 30000);
-        const QList<Row> rows = f.Recordings();
+        const int interrupted = end == "killed" ? 1 : 0;
+        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2 + interrupted, 30000);
+        QList<Row> rows = f.Recordings();
+        if (interrupted) {
+            const Row kept = rows.takeFirst();
+            QCOMPARE(kept.file, f.folder + "/Interrupted.WAV");
+            QCOMPARE(kept.title, QString("Test source"));
+            QCOMPARE(f.Logged(kKept).filter(kept.file).size(), 1);
+        }
         QCOMPARE(rows[0].file, first->DestinationFile);
         QCOMPARE(rows[1].file, second->DestinationFile);
         f.VerifyRowLength(rows[0]);

@@ -88,6 +88,33 @@ QStringList ConversionQueue::QueuedCaptures() const
     return captures;
 }
 
+QStringList ConversionQueue::KeepLeftCaptures(const QStringList& captures)
+{
+    const QStringList queued = QueuedCaptures();
+    const QSet<QString> held = OpenFiles::HeldByOtherProcesses(captures);
+    QStringList kept;
+    for (const QString& capture : captures) {
+        if (queued.contains(capture) || held.contains(capture))
+            continue;
+        // Judged as the end of a recording judges one: under a thousandth of a megabyte,
+        // no sound was written.
+        if (ModuleFileTime::GetFileSizeMbytes(capture) < 0.001f) {
+            QFile::remove(capture);
+            continue;
+        }
+        const QString wave = FreeFileName(capture.chopped(4));
+        if (!QFile::rename(capture, wave))
+            continue;
+        kept << wave;
+        m_log.LogEvent(EventWarning, QStringLiteral("Recording kept in PCM format"),
+                       QStringLiteral("The following recording was being made when Nightreel "
+                                      "2000 ended; it was not converted to MP3 and is kept as a "
+                                      "PCM wave file.\r\nFile: ") +
+                           wave);
+    }
+    return kept;
+}
+
 bool ConversionQueue::HasWork() const
 {
     return m_appStatus.Converting() || (!Mp3ConvertQueue.isEmpty() && !m_heldForLibrary);

@@ -52,8 +52,13 @@ public:
     void Add(const std::shared_ptr<clsConvertToMP3Request>& request);
     // Puts the queue that an earlier run saved in front of this one's; once per run.
     void LoadSavedQueue();
-    // The captures still to convert: the start-up clean-up leaves them alone.
+    // The captures still to convert.
     QStringList QueuedCaptures() const;
+    // Of `captures`, those that no queue holds and no process writes are recordings that an
+    // earlier run was making when it ended (the task finished their files): each that holds
+    // sound is kept as a PCM wave file and logged, the others go. Returns the kept files, for
+    // the recordings list.
+    QStringList KeepLeftCaptures(const QStringList& captures);
     // A conversion runs or waits, and can go on in this run.
     bool HasWork() const;
 
