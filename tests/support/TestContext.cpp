@@ -19,9 +19,10 @@ QDBusConnection TestSystemBus()
 
 } // namespace
 
-TestContext::TestContext()
+TestContext::TestContext(DesktopNotifications* notifications)
     : sleepInhibitor(TestSystemBus(), WakeAlarmFile())
 {
+    m_notifications = notifications ? notifications : &noNotifications;
     QFile(WakeAlarmFile()).open(QIODevice::WriteOnly);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.path() + "/config");
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
@@ -34,7 +35,8 @@ TestContext::TestContext()
 void TestContext::MakeContext()
 {
     ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace,
-                                             mixer, windows, network, sleepInhibitor, joystick},
+                                             mixer, windows, network, sleepInhibitor, joystick,
+                                             *m_notifications},
                                        AppFolders::Under(m_dir.path()));
 }
 
