@@ -7,7 +7,8 @@
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
     : QObject(parent)
     , m_s(services)
-    , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status)
+    , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status,
+                   services.diskSpace, services.dataFolder + QStringLiteral("/conversions.json"))
     , m_link(services.log, services.appStatus, services.runtimeFolder)
     , m_control(services, m_link, m_status, m_conversion, m_manual)
     , m_heartbeat(services.clock, services.log, services.options, services.launcher,

@@ -423,7 +423,7 @@ void RecordingControl::StopRecordingSteps()
         // The conversion takes over: it writes the row and runs the launch after it.
         if (m_convertRequest) {
             m_convertRequest->EndTime = m_s.clock.Now();
-            m_conversion.Mp3ConvertQueue.append(m_convertRequest);
+            m_conversion.Add(m_convertRequest);
         }
     } else if (size >= kLeastRecordingMbytes) {
         // A failure here leaves the file on disk without a row; the after-actions go on.
