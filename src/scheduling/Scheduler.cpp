@@ -108,8 +108,9 @@ Scheduler::Scheduler(const Clock& clock, AppDatabase& database, EventLog& log,
 {
 }
 
-std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool readOnly,
-                                                                           double referenceDate)
+std::optional<ProgramOccurrence>
+Scheduler::DetermineNextProgramToSchedule(bool readOnly, double referenceDate,
+                                          std::optional<qint32> onlyProgram)
 {
     std::optional<ProgramOccurrence> best;
     Trap(m_log, "DetermineNextProgramToSchedule", [&] {
@@ -121,6 +122,8 @@ std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool 
             return;
         const ProgramColumns c(rs);
         for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
+            if (onlyProgram && rs.Value(c.id).toInt() != *onlyProgram)
+                continue;
             double start = longAgo;
             double end = longAgo;
             if (!IsOneTime(rs.Value(c.frequency))) {
