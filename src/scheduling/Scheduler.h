@@ -65,6 +65,9 @@ signals:
     void ProgramListChanged();
 
 private:
+    // Widens the occurrence by the padding option, for the heartbeat's start and stop.
+    void Pad(const ProgramOccurrence& found, NextProgram& n);
+
     const Clock& m_clock;
     AppDatabase& m_database;
     EventLog& m_log;
