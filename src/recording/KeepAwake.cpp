@@ -84,8 +84,9 @@ void KeepAwake::UpdateWakeAlarm(double now)
         m_wakeAlarmMissingSaid = true;
         m_log.LogEvent(EventInformation, QStringLiteral("No wake alarm"),
                        QStringLiteral("The computer's clock has no wake alarm that Nightreel "
-                                      "2000 may set, so a computer that sleeps will not wake "
-                                      "by itself for a recording."));
+                                      "2000 may set (its helper nightreel-wake is not installed "
+                                      "or not allowed), so a computer that sleeps will not "
+                                      "wake by itself for a recording."));
     }
 }
 

@@ -86,8 +86,7 @@ int Main(int argc, char* argv[])
     MixsetMixer mixer;
     XcbWindowList windows;
     NetworkManagerConnections network;
-    LogindSleepInhibitor sleepInhibitor{QDBusConnection::systemBus(),
-                                        QStringLiteral("/sys/class/rtc/rtc0/wakealarm")};
+    LogindSleepInhibitor sleepInhibitor{QDBusConnection::systemBus(), QString()};
     const AppFolders folders = AppFolders::ForCurrentUser();
 
     QLockFile instanceLock(folders.runtimeFolder + QStringLiteral("/nightreel.lock"));
