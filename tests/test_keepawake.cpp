@@ -60,9 +60,9 @@ private slots:
             r.tc.clock.Set(LinkedRecording::At(time));
             r.tc.ctx->recorder.HeartbeatTimer().Timer1_Timer();
         };
-        r.tc.clock.Set(LinkedRecording::At("09:58:00"));
+        r.tc.clock.Set(LinkedRecording::At("09:57:30"));
         r.tc.ctx->scheduler.ScheduleNextRecording();
-        tick("09:58:00");
+        tick("09:57:30");
         QCOMPARE(WakeAlarm(r.tc), EpochText(LinkedRecording::At("09:58:40")));
         if (logind) {
             QCOMPARE(logind->Inhibitors(), QStringList{"sleep|Notes a recording that the sleep "

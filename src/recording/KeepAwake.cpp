@@ -71,7 +71,10 @@ void KeepAwake::UpdateWakeAlarm(double now)
     qint64 alarm = 0;
     if (m_options.KeepAwakeForRecordings && next.NextProgramFound) {
         const double wake = WindowStart(next);
-        // An alarm in the past does nothing: the machine is up and blocked by then.
+        // An alarm in the past does nothing: the machine is up and blocked by then. The
+        // clock's helper takes none within the coming minute; the one set stays.
+        if (wake > now && wake < AutomationDate::AddSeconds(now, LeadSeconds))
+            return;
         if (wake > now)
             alarm = AutomationDate::ToDateTime(wake).toSecsSinceEpoch();
     }
