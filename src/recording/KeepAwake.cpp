@@ -71,7 +71,10 @@ void KeepAwake::UpdateWakeAlarm(double now)
     qint64 alarm = 0;
     if (m_options.KeepAwakeForRecordings && next.NextProgramFound) {
         const double wake = WindowStart(next);
-        // An alarm in the past does nothing: the machine is up and blocked by then.
+        // An alarm in the past does nothing: the machine is up and blocked by then. The
+        // clock's helper takes none within the coming minute; the one set stays.
+        if (wake > now && wake < AutomationDate::AddSeconds(now, LeadSeconds))
+            return;
         if (wake > now) {
             if (wake != m_wakeTime) {
                 m_wakeTime = wake;
@@ -89,8 +92,9 @@ void KeepAwake::UpdateWakeAlarm(double now)
         m_wakeAlarmMissingSaid = true;
         m_log.LogEvent(EventInformation, QStringLiteral("No wake alarm"),
                        QStringLiteral("The computer's clock has no wake alarm that Nightreel "
-                                      "2000 may set, so a computer that sleeps will not wake "
-                                      "by itself for a recording."));
+                                      "2000 may set (its helper nightreel-wake is not installed "
+                                      "or not allowed), so a computer that sleeps will not "
+                                      "wake by itself for a recording."));
     }
 }
 
