@@ -8,6 +8,7 @@
 #include "recording/RecordingTaskLink.h"
 #include "recording/SilenceAlarm.h"
 #include "recording/StatusBarPlus.h"
+#include "recording/StreamGapLog.h"
 #include "recording/clsManualRecord.h"
 #include "recording/clsRecordingStatus.h"
 
@@ -69,5 +70,6 @@ private:
     Heartbeat m_heartbeat;
     StatusBarPlus m_statusBar;
     SilenceAlarm m_silenceAlarm;
+    StreamGapLog m_streamGaps;
     KeepAwake m_keepAwake;
 };

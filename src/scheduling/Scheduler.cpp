@@ -62,6 +62,7 @@ struct ProgramColumns {
         mixerProfileBefore = at("MixerProfileBefore");
         mixerProfileAfter = at("MixerProfileAfter");
         streamingPlayerClose = at("StreamingPlayerClose");
+        streamUrl = at("StreamUrl");
         hangup = at("HangupInternetConnection");
     }
 
@@ -69,7 +70,7 @@ struct ProgramColumns {
     std::array<int, 7> days;
     int avgBytesPerSec, recordingCancelled, cancelledEnd, internetLink, internetLinkDelay;
     int launchAppPrior, launchAppDelay, mixerProfileBefore, mixerProfileAfter;
-    int streamingPlayerClose, hangup;
+    int streamingPlayerClose, hangup, streamUrl;
 };
 
 // Only 0 means one time; every reader takes any other value for weekly.
@@ -189,10 +190,19 @@ std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool 
                 o.streamingPlayerClose =
                     TrimmedOr(rs.Value(c.streamingPlayerClose), StreamingPlayerClose::DoNotClose);
                 o.hangupInternetConnection = Field::ToBool(rs.Value(c.hangup));
+                o.streamUrl = TrimmedOr(rs.Value(c.streamUrl), QString());
             }
         }
     });
     return best;
+}
+
+double NextProgram::RecordingOpenTime() const
+{
+    if (NextStreamUrl.isEmpty())
+        return NextProgramStart;
+    return AutomationDate::AddSeconds(NextProgramStart,
+                                      -qMax<int>(StreamOpenLeadSeconds, NextInternetLinkDelay));
 }
 
 void Scheduler::ScheduleNextRecording()
@@ -219,6 +229,7 @@ void Scheduler::ScheduleNextRecording()
         n.NextMixerProfileAfter = found->mixerProfileAfter;
         n.NextStreamingPlayerClose = found->streamingPlayerClose;
         n.NextHangupInternetConnection = found->hangupInternetConnection;
+        n.NextStreamUrl = found->streamUrl;
         n.NextProgramFound = true;
         if (n.NextInternetLink.isEmpty()) {
             n.NextLinkLaunchTime = AutomationDate::Never();
