@@ -75,10 +75,14 @@ void StreamCapture::Attempt()
     m_resolver.Resolve(m_url);
 }
 
-void StreamCapture::Connect(const QUrl& mediaUrl)
+void StreamCapture::Connect(const QUrl& mediaUrl, const QString& station)
 {
     if (m_stopped)
         return;
+    if (!station.isEmpty()) {
+        QMutexLocker lock(&m_infoLock);
+        m_info.station = station;
+    }
     m_pipeline = gst_element_factory_make("uridecodebin", nullptr);
     if (!m_pipeline)
         return Drop(QStringLiteral("the GStreamer plugins for streams are not installed"));

@@ -67,7 +67,7 @@ signals:
 
 private:
     void Attempt();
-    void Connect(const QUrl& mediaUrl);
+    void Connect(const QUrl& mediaUrl, const QString& station);
     void Drop(const QString& reason);
     void Teardown();
     void CheckStall();

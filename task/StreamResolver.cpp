@@ -111,8 +111,9 @@ void StreamResolver::OnHeaders(QNetworkReply* reply, bool playlistFollowed)
         return Fail(reply, QStringLiteral("not audio (%1)").arg(QString::fromLatin1(type)));
     // The stream itself: its address is what was wanted, the connection is not.
     const QUrl media = reply->url();
+    const QString station = QString::fromUtf8(reply->rawHeader("icy-name")).trimmed();
     Abort();
-    emit Resolved(media);
+    emit Resolved(media, station);
 }
 
 void StreamResolver::OnFinished(QNetworkReply* reply, bool playlistFollowed)

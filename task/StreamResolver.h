@@ -23,7 +23,8 @@ public:
     void Abort();
 
 signals:
-    void Resolved(const QUrl& mediaUrl);
+    // station: the name the server gives in its icy-name header, if any.
+    void Resolved(const QUrl& mediaUrl, const QString& station);
     void Failed(const QString& reason);
 
 private:

@@ -4,10 +4,12 @@
 #include "SoxTone.h"
 #include "StreamServer.h"
 #include "formats/FormatStore.h"
+#include "scheduling/StreamTest.h"
 #include "store/Recordset.h"
 
 #include <QDir>
 #include <QProcess>
+#include <QSignalSpy>
 #include <QSqlQuery>
 #include <QTest>
 #include <QtEndian>
@@ -78,6 +80,8 @@ private slots:
         m_server.AddAnswer("/list.pls", "HTTP/1.0 200 OK\r\nContent-Type: audio/x-scpls\r\n\r\n"
                                         "[playlist]\nNumberOfEntries=1\nFile1=" +
                                             m_server.Url("/tone.ogg").toUtf8() + "\nTitle1=Test\n");
+        m_server.AddAnswer("/page.html", "HTTP/1.0 200 OK\r\nContent-Type: text/html\r\n\r\n"
+                                         "<html><body>Listen live!</body></html>");
         m_server.AddAnswer("/list.m3u", "HTTP/1.0 200 OK\r\nContent-Type: audio/x-mpegurl\r\n\r\n"
                                         "#EXTM3U\n#EXTINF:-1,Test\n" +
                                             m_server.Url("/tone.mp3").toUtf8() + "\n");
@@ -201,6 +205,37 @@ private slots:
         QCOMPARE(errors[0].message, QString("Internet stream could not be reached."));
         QVERIFY2(errors[0].details.startsWith(m_server.Url("/gone.mp3") + ": HTTP 404"),
                  qPrintable(errors[0].details));
+    }
+
+    // Test in the editor: what the station sends, or why it can't be played.
+    void theTestSaysWhatTheStationSends_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("MP3") << "/tone.mp3" << true
+                             << "MPEG-1 Layer 3 (MP3), 128 kbit/s, 44,100 Hz, stereo; station: "
+                                "Test Station";
+        QTest::newRow("Ogg Vorbis through a list")
+            << "/list.pls" << true
+            << "Vorbis, 112 kbit/s, 44,100 Hz, stereo; station: Test Station";
+        QTest::newRow("missing") << "/gone.mp3" << false
+                                 << "The stream could not be played: HTTP 404 Not Found.";
+        QTest::newRow("a page") << "/page.html" << false
+                                << "The stream could not be played: not audio (text/html).";
+    }
+    void theTestSaysWhatTheStationSends()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, ok);
+        QFETCH(QString, text);
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        StreamTest test(QCoreApplication::applicationDirPath() + "/../src/nightreel-rec");
+        QSignalSpy finished(&test, &StreamTest::Finished);
+        test.Start(m_server.Url(path));
+        QVERIFY(finished.wait(30000));
+        QCOMPARE(finished[0][0].toBool(), ok);
+        QCOMPARE(finished[0][1].toString(), text);
     }
 
 private:

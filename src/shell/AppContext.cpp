@@ -51,5 +51,6 @@ ProgramFormServices AppContext::ForProgramForm()
             database,
             clock,
             folders.runtimeFolder,
-            mixerProfiles.Folder()};
+            mixerProfiles.Folder(),
+            recorder.Link().TaskProgram()};
 }
