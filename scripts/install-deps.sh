@@ -13,7 +13,7 @@ packages=(
     libsox-fmt-base
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
-    desktop-file-utils
+    desktop-file-utils appstream librsvg2-bin dpkg-dev file
 )
 missing=()
 for p in "${packages[@]}"; do
