@@ -10,7 +10,7 @@ packages=(
     trayer xdotool x11-utils
     libgstreamer1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     libgstreamer-plugins-base1.0-dev gstreamer1.0-plugins-bad glib-networking ca-certificates
-    libsox-fmt-base
+    libsox-fmt-base openssl
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
     desktop-file-utils appstream librsvg2-bin dpkg-dev file

@@ -80,6 +80,8 @@ RecordingTask::RecordingTask(const QString& serverName, QObject* parent)
 
 RecordingTask::~RecordingTask()
 {
+    // The socket outlives the members declared after it; its last word must not reach them.
+    m_socket.disconnect(this);
     Finish();
 }
 
