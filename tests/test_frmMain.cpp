@@ -1,7 +1,7 @@
 #include "Programs.h"
 #include "TestContext.h"
 #include "diagnostics/clsSysTrayMgr.h"
-#include "shell/ModeDisplay.h"
+#include "recording/ModeDisplay.h"
 #include "shell/frmMain.h"
 
 #include <QAction>
@@ -236,7 +236,7 @@ private slots:
         extra.convertingText = "track.wav";
         QFETCH(QString, title);
         QFETCH(QString, panel);
-        const ModeDisplay d = ModeDisplay::Compute(*tc.ctx, extra);
+        const ModeDisplay d = ModeDisplay::Compute(tc.ctx->appStatus, tc.ctx->error, extra);
         QCOMPARE(d.title, title);
         QCOMPARE(d.panelText, panel);
         QCOMPARE(d.recordEnabled, !flags.contains("recording") && !flags.contains("suspended"));

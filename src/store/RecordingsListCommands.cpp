@@ -182,9 +182,3 @@ void RecordingsListCommands::SelectAll()
 {
     m_view.SelectAll();
 }
-
-void RecordingsListCommands::Purge()
-{
-    m_list.Purge();
-    AfterRecordingsChange();
-}
