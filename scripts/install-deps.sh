@@ -13,6 +13,7 @@ packages=(
     libsox-fmt-base openssl
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
+    weston qt6-wayland pipewire pipewire-pulse wireplumber
     desktop-file-utils appstream librsvg2-bin dpkg-dev file
 )
 missing=()
