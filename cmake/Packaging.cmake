@@ -20,11 +20,14 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # The libraries that the programs link are found by dpkg-shlibdeps. Named here is only what
 # is loaded at run time, which no tool can see: Qt's SQLite driver (the database), and the
 # GStreamer elements that both players play through (playbin, audioconvert and volume in
-# -base; scaletempo, audiopanorama, the wave and MP3 readers and the audio output in -good).
+# -base; scaletempo, audiopanorama, the wave and MP3 readers and the audio output in -good),
+# which also read internet streams (HTTP, ICY, Ogg Vorbis), and GIO's TLS for https streams.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-    "libqt6sql6-sqlite, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good")
-# A sound server to record from, and the mixer program that the options name by default.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "pulseaudio | pipewire-pulse, pavucontrol")
+    "libqt6sql6-sqlite, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, glib-networking")
+# A sound server to record from, the mixer program that the options name by default, and
+# the HLS reader (.m3u8 streams).
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+    "pulseaudio | pipewire-pulse, pavucontrol, gstreamer1.0-plugins-bad")
 
 include(CPack)

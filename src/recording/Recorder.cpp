@@ -2,13 +2,13 @@
 
 #include "common/Clock.h"
 #include "diagnostics/EventLog.h"
-#include "platform/DisplayAvailable.h"
 #include "sideactions/ViewHtmlFile.h"
 
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
     : QObject(parent)
     , m_s(services)
-    , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status)
+    , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status,
+                   services.diskSpace, services.dataFolder + QStringLiteral("/conversions.json"))
     , m_link(services.log, services.appStatus, services.runtimeFolder)
     , m_control(services, m_link, m_status, m_conversion, m_manual)
     , m_heartbeat(services.clock, services.log, services.options, services.launcher,
@@ -16,8 +16,11 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     , m_statusBar(services.clock, services.log, services.options, services.appStatus,
                   services.error, m_status, m_conversion, services.diskSpace)
     , m_silenceAlarm(services.log, services.error, m_status)
+    , m_streamGaps(services.log, m_status)
     , m_keepAwake(services.clock, services.log, services.options, services.appStatus,
                   services.scheduler, m_status, m_conversion, services.sleepInhibitor)
+    , m_missed(services.clock, services.log, services.registry, services.scheduler,
+               services.database, services.appStatus, m_status, services.sleepInhibitor)
 {
     connect(&m_heartbeat, &Heartbeat::StartRecordingDue, &m_control,
             &RecordingControl::StartRecording);
@@ -50,15 +53,19 @@ void Recorder::ConnectUnattended()
     connect(&m_link, &RecordingTaskLink::SoundReturned, &m_silenceAlarm,
             &SilenceAlarm::SoundReturned);
     connect(&m_control, &RecordingControl::RecordingStarted, &m_silenceAlarm, &SilenceAlarm::Reset);
+    connect(&m_link, &RecordingTaskLink::StreamGap, &m_streamGaps, &StreamGapLog::StreamGap);
     connect(&m_control, &RecordingControl::RecordingEnded, &m_silenceAlarm, &SilenceAlarm::Reset);
     // Each tick, and at once when a recording or a conversion ends.
     connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, &m_keepAwake, &KeepAwake::Update);
     connect(&m_control, &RecordingControl::RecordingEnded, &m_keepAwake, &KeepAwake::Update);
     connect(&m_conversion, &ConversionQueue::UpdateModeDisplay, &m_keepAwake, &KeepAwake::Update);
+    connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, &m_missed, &MissedRecordings::NoteAlive);
+    connect(&m_missed, &MissedRecordings::RecordingsMissed, this, &Recorder::RecordingsMissed);
 }
 
 void Recorder::Start()
 {
+    m_missed.CheckAtStart();
     m_heartbeat.Start();
     m_conversion.Start();
 }
@@ -67,6 +74,7 @@ void Recorder::Stop()
 {
     m_heartbeat.Timer1.SetInterval(0);
     m_conversion.Stop();
+    m_missed.NoteStopping();
 }
 
 void Recorder::StartManualRecording()
@@ -97,7 +105,7 @@ ModeDisplay Recorder::Mode(ModeDisplay::Extra extra) const
 
 void Recorder::OpenInternetLink(const QString& link)
 {
-    if (!DisplayAvailable()) {
+    if (!m_s.hasDisplay) {
         m_s.log.LogEvent(EventInformation, QStringLiteral("Web link not opened"),
                          QStringLiteral("There is no display to open it on: ") + link);
         return;

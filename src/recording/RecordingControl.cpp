@@ -13,7 +13,6 @@
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
 #include "platform/DiskSpace.h"
-#include "platform/DisplayAvailable.h"
 #include "recording/ConversionQueue.h"
 #include "recording/RecordingFileName.h"
 #include "recording/RecordingTaskErrors.h"
@@ -29,8 +28,11 @@
 #include "taskcontract/RecParms.h"
 #include "taskcontract/TaskErrors.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QThread>
+#include <cmath>
 
 using namespace TaskProtocol;
 
@@ -61,6 +63,19 @@ QString SoftwareName()
 
 const QString kCaptureEnding = QStringLiteral(".WAV.TMP");
 
+// The start on the task's clock, in milliseconds since 1970, for a stream opened ahead that
+// must begin on the due second itself. The program's clock reads whole seconds, the second
+// under way; a clock with finer readings (a test's) is taken as it reads.
+qint64 DueMsecs(const Clock& clock, double start)
+{
+    const double now = clock.Now();
+    const qint64 real = QDateTime::currentMSecsSinceEpoch();
+    const double nowSeconds = now * 86400.0;
+    const bool wholeSeconds = std::abs(nowSeconds - std::round(nowSeconds)) < 0.001;
+    const qint64 base = wholeSeconds ? real / 1000 * 1000 : real;
+    return base + qint64(std::llround((start - now) * 86400000.0));
+}
+
 QString WithClosingSeparator(const QString& folder)
 {
     return folder.endsWith(u'/') ? folder : folder + u'/';
@@ -81,6 +96,8 @@ RecordingControl::RecordingControl(const RecorderServices& services, RecordingTa
 {
     connect(&m_link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
     connect(&m_link, &RecordingTaskLink::TaskError, this, &RecordingControl::OnTaskError);
+    connect(&m_link, &RecordingTaskLink::StreamFormatKept, this,
+            &RecordingControl::OnStreamFormatKept);
     connect(&m_link, &RecordingTaskLink::TaskNotResponding, this,
             &RecordingControl::OnTaskNotResponding);
 }
@@ -106,7 +123,7 @@ QString RecordingControl::UnusedFileName(const QString& folder, QString& baseNam
     return folder + baseName + extension;
 }
 
-void RecordingControl::OnTaskError(qint32 code)
+void RecordingControl::OnTaskError(qint32 code, const QString& detail)
 {
     // A task may report more than once; only the first report ends the recording. The
     // report comes after the stop, as the system logged it.
@@ -119,7 +136,19 @@ void RecordingControl::OnTaskError(qint32 code)
     else
         m_status.Failed = true;
     StopRecording();
-    ReportRecordingTaskError(m_s.log, code);
+    ReportRecordingTaskError(m_s.log, code, detail);
+}
+
+void RecordingControl::OnStreamFormatKept(const QByteArray& record)
+{
+    Trap(m_s.log, "OnStreamFormatKept", [&] {
+        const std::optional<WaveFormatRecord> format = WaveFormatRecord::Decode(record);
+        if (!format || format->wFormatTag != clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3)
+            return;
+        m_format.SetWaveFormatEx(m_s.log, *format);
+        m_status.CompressionText =
+            m_format.TextCompressionMethodShort + QStringLiteral("   (Kept as broadcast)");
+    });
 }
 
 void RecordingControl::OnTaskNotResponding()
@@ -201,6 +230,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
                 programs.Value(QStringLiteral("StreamingPlayerClose")).toString().trimmed();
         status.HangupInternetConnection =
             BoolColumn(programs, QStringLiteral("HangupInternetConnection"));
+        status.StreamUrl = TextColumn(programs, QStringLiteral("StreamUrl"), true);
         userName = TextColumn(programs, QStringLiteral("FilenameUser"), false);
         prefix = TextColumn(programs, QStringLiteral("FilenamePrefix"), false);
         suffix = TextColumn(programs, QStringLiteral("FilenameSuffix"), false);
@@ -209,6 +239,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         description = Description;
         chosen.CopyFrom(m_manual.Format);
         userName = m_manual.Filename;
+        status.StreamUrl = m_manual.StreamUrl.trimmed();
         status.LaunchAppAfter.clear();
         status.InternetLink.clear();
         status.MixerProfileBefore.clear();
@@ -311,6 +342,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     parms.format = capture->WaveFormat();
     parms.silenceThresholdDb = m_s.options.SilenceThresholdDb;
     parms.silenceSeconds = m_s.options.SilenceAlarm ? m_s.options.SilenceAlarmSeconds : 0;
+    parms.streamUrl = status.StreamUrl;
+    parms.dueStartMsecs = status.StreamUrl.isEmpty() ? 0 : DueMsecs(m_s.clock, StartTime);
+    parms.finalPath = finalFile;
 
     // The keep-alive runs from before the parameter file is written.
     m_link.StartKeepAlive();
@@ -447,7 +481,7 @@ void RecordingControl::StopRecordingSteps()
         // The conversion takes over: it writes the row and runs the launch after it.
         if (m_convertRequest) {
             m_convertRequest->EndTime = m_s.clock.Now();
-            m_conversion.Mp3ConvertQueue.append(m_convertRequest);
+            m_conversion.Add(m_convertRequest);
         }
     } else if (size >= kLeastRecordingMbytes) {
         // A failure here leaves the file on disk without a row; the after-actions go on.
@@ -475,7 +509,7 @@ void RecordingControl::StopRecordingSteps()
         m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime);
         if (!status.InternetLink.trimmed().isEmpty()) {
             const QString playerClose = status.StreamingPlayerClose.trimmed();
-            if (!DisplayAvailable() && playerClose != StreamingPlayerClose::DoNotClose)
+            if (!m_s.hasDisplay && playerClose != StreamingPlayerClose::DoNotClose)
                 m_s.log.LogEvent(EventInformation, QStringLiteral("Streaming player not closed"),
                                  QStringLiteral("There is no display to close it on."));
             else if (playerClose.isEmpty())

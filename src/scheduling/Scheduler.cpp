@@ -11,6 +11,7 @@
 #include "store/AppDatabase.h"
 #include "store/Options.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -62,6 +63,7 @@ struct ProgramColumns {
         mixerProfileBefore = at("MixerProfileBefore");
         mixerProfileAfter = at("MixerProfileAfter");
         streamingPlayerClose = at("StreamingPlayerClose");
+        streamUrl = at("StreamUrl");
         hangup = at("HangupInternetConnection");
     }
 
@@ -69,7 +71,7 @@ struct ProgramColumns {
     std::array<int, 7> days;
     int avgBytesPerSec, recordingCancelled, cancelledEnd, internetLink, internetLinkDelay;
     int launchAppPrior, launchAppDelay, mixerProfileBefore, mixerProfileAfter;
-    int streamingPlayerClose, hangup;
+    int streamingPlayerClose, hangup, streamUrl;
 };
 
 // Only 0 means one time; every reader takes any other value for weekly.
@@ -108,8 +110,9 @@ Scheduler::Scheduler(const Clock& clock, AppDatabase& database, EventLog& log,
 {
 }
 
-std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool readOnly,
-                                                                           double referenceDate)
+std::optional<ProgramOccurrence>
+Scheduler::DetermineNextProgramToSchedule(bool readOnly, double referenceDate,
+                                          std::optional<qint32> onlyProgram)
 {
     std::optional<ProgramOccurrence> best;
     Trap(m_log, "DetermineNextProgramToSchedule", [&] {
@@ -121,6 +124,8 @@ std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool 
             return;
         const ProgramColumns c(rs);
         for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
+            if (onlyProgram && rs.Value(c.id).toInt() != *onlyProgram)
+                continue;
             double start = longAgo;
             double end = longAgo;
             if (!IsOneTime(rs.Value(c.frequency))) {
@@ -189,10 +194,19 @@ std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool 
                 o.streamingPlayerClose =
                     TrimmedOr(rs.Value(c.streamingPlayerClose), StreamingPlayerClose::DoNotClose);
                 o.hangupInternetConnection = Field::ToBool(rs.Value(c.hangup));
+                o.streamUrl = TrimmedOr(rs.Value(c.streamUrl), QString());
             }
         }
     });
     return best;
+}
+
+double NextProgram::RecordingOpenTime() const
+{
+    if (NextStreamUrl.isEmpty())
+        return NextProgramStart;
+    return AutomationDate::AddSeconds(NextProgramStart,
+                                      -qMax<int>(StreamOpenLeadSeconds, NextInternetLinkDelay));
 }
 
 void Scheduler::ScheduleNextRecording()
@@ -219,7 +233,9 @@ void Scheduler::ScheduleNextRecording()
         n.NextMixerProfileAfter = found->mixerProfileAfter;
         n.NextStreamingPlayerClose = found->streamingPlayerClose;
         n.NextHangupInternetConnection = found->hangupInternetConnection;
+        n.NextStreamUrl = found->streamUrl;
         n.NextProgramFound = true;
+        Pad(*found, n);
         if (n.NextInternetLink.isEmpty()) {
             n.NextLinkLaunchTime = AutomationDate::Never();
         } else {
@@ -235,6 +251,19 @@ void Scheduler::ScheduleNextRecording()
                 ? AutomationDate::Never()
                 : AutomationDate::AddSeconds(n.NextProgramStart, -n.NextLaunchAppDelay);
     });
+}
+
+void Scheduler::Pad(const ProgramOccurrence& found, NextProgram& n)
+{
+    const qint16 pad = m_options.PaddingSeconds;
+    if (pad <= 0)
+        return;
+    n.NextProgramStart = AutomationDate::AddSeconds(found.startDateTime, -pad);
+    // The late end gives way to the program that follows, and never cuts the program itself.
+    double end = AutomationDate::AddSeconds(found.endDateTime, pad);
+    if (const auto following = DetermineNextProgramToSchedule(true, found.endDateTime))
+        end = std::min(end, std::max(found.endDateTime, following->startDateTime));
+    n.NextProgramEnd = end;
 }
 
 void Scheduler::OfferRemovalOfExpiredPrograms()

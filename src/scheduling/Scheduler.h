@@ -12,6 +12,9 @@ class EventLog;
 class MessageBoxPresenter;
 class Options;
 
+// The least time by which a stream is opened before its start.
+constexpr int StreamOpenLeadSeconds = 10;
+
 // The one occurrence due next, as the last search left it. The heartbeat only compares the
 // clock with these.
 struct NextProgram {
@@ -30,8 +33,14 @@ struct NextProgram {
     bool NextHangupInternetConnection = false;
     double NextLinkLaunchTime;
     double NextAppLaunchTime;
+    QString NextStreamUrl;
 
     NextProgram();
+
+    // When the recording is begun: at the start, but a stream ahead of it, at the link's
+    // time and at least ten seconds early, so that it is connected and buffered and its
+    // file begins at the due second.
+    double RecordingOpenTime() const;
 };
 
 // Works out which occurrence of which program is due next. There is no table of future
@@ -47,9 +56,11 @@ public:
     // occurrence with the earliest start whose end lies after the reference date. An
     // occurrence already running beats every later one; of equal starts the earlier row
     // wins. With readOnly false, lapsed cancellations of weekly programs are cleared.
-    // Nothing when no program has an occurrence to come.
-    std::optional<ProgramOccurrence> DetermineNextProgramToSchedule(bool readOnly,
-                                                                    double referenceDate);
+    // Nothing when no program has an occurrence to come. With onlyProgram, the other rows
+    // are passed over.
+    std::optional<ProgramOccurrence>
+    DetermineNextProgramToSchedule(bool readOnly, double referenceDate,
+                                   std::optional<qint32> onlyProgram = std::nullopt);
     void ScheduleNextRecording();
     void OfferRemovalOfExpiredPrograms();
     // Marks the program's occurrence that ends at the recording's scheduled end as dealt
@@ -63,6 +74,9 @@ signals:
     void ProgramListChanged();
 
 private:
+    // Widens the occurrence by the padding option, for the heartbeat's start and stop.
+    void Pad(const ProgramOccurrence& found, NextProgram& n);
+
     const Clock& m_clock;
     AppDatabase& m_database;
     EventLog& m_log;

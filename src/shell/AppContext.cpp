@@ -21,7 +21,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , defaultFormats(log, registry, options, database.DataInfo)
     , recorder(RecorderServices{log, clock, options, registry, appStatus, error, database,
                                 scheduler, messageBox, launcher, diskSpace, mixerProfiles, windows,
-                                network, folders.runtimeFolder, seams.sleepInhibitor})
+                                network, folders.runtimeFolder, folders.dataFolder,
+                                seams.sleepInhibitor, seams.hasDisplay})
     , recordingsList(database, log, options, clock,
                      [this] {
                          return QStringList{recorder.Status().FinalFile,
@@ -57,7 +58,8 @@ ProgramFormServices AppContext::ForProgramForm()
             database,
             clock,
             folders.runtimeFolder,
-            mixerProfiles.Folder()};
+            mixerProfiles.Folder(),
+            recorder.Link().TaskProgram()};
 }
 
 ControlServices AppContext::ForControl(CallMessageBox& callBox)

@@ -14,6 +14,8 @@
 #include "platform/WindowList.h"
 #include "shell/AppContext.h"
 
+#include <QDir>
+#include <QHash>
 #include <QTemporaryDir>
 #include <memory>
 #include <optional>
@@ -31,11 +33,12 @@ public:
     bool fails = false;
 };
 
-// The real file systems, unless the test names the free megabytes it wants seen, or makes
-// the measuring fail.
+// The real file systems, unless the test names the free megabytes it wants seen (of one
+// folder, or of all), or makes the measuring fail.
 class TestDiskSpace : public StorageDiskSpace {
 public:
     std::optional<double> freeMb;
+    QHash<QString, double> freeMbOf;
     bool fails = false;
 
 protected:
@@ -44,7 +47,9 @@ protected:
         if (fails)
             throw RuntimeError(ErrorNumber::PathFileAccess, "the disk did not answer");
         DiskSpaceMb d = StorageDiskSpace::Measure(folder);
-        if (freeMb)
+        if (const auto it = freeMbOf.constFind(QDir::cleanPath(folder)); it != freeMbOf.cend())
+            d.free = *it;
+        else if (freeMb)
             d.free = *freeMb;
         return d;
     }
@@ -67,6 +72,8 @@ public:
 
     // Opens the database as the first activation does.
     void OpenDatabase();
+    // Ends the program and starts it again over the same folders and settings.
+    void Restart();
     // Adds a row to Programs with the given columns; returns its ID.
     qint64 AddProgram(const QVariantHash& columns);
     // Rows of a table, counted in the file itself.
@@ -97,4 +104,9 @@ public:
     QString JoystickFolder() const { return m_dir.path() + "/input"; }
     NoDesktopNotifications noNotifications;
     std::unique_ptr<AppContext> ctx;
+
+private:
+    void MakeContext();
+
+    DesktopNotifications* m_notifications = nullptr;
 };
