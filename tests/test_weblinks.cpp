@@ -172,10 +172,7 @@ int main(int argc, char* argv[])
 {
     DesktopData::UsePrivateFolders(Desktop().path());
     // The player's automatic search would close windows that appear on the user's own display.
-    // The recorder opens links only where there is a display: a Wayland name that nothing here
-    // connects to stands for one.
     qunsetenv("DISPLAY");
-    qputenv("WAYLAND_DISPLAY", "nightreel-test-no-compositor");
     if (WithBrowser() && !RegisterBrowser())
         return 1;
     QCoreApplication app(argc, argv);
