@@ -119,6 +119,8 @@ CtlResult CtlCommands::Add(const CtlRequest& request)
     }
     if (o.contains(QStringLiteral("format")))
         program.insert("format", o.value(QStringLiteral("format")));
+    if (o.contains(QStringLiteral("stream")))
+        program.insert("stream", o.value(QStringLiteral("stream")));
     if (o.contains(QStringLiteral("yes")))
         program.insert("confirmed", true);
     return Answer(m_recorder.AddProgram(program));

@@ -177,6 +177,9 @@ private slots:
         QTest::newRow("unknown format")
             << once + QStringList{"--start", "10:00", "--end", "11:00", "--format", "ogg"} << 2
             << "Invalid value for format";
+        QTest::newRow("a stream that isn't http")
+            << once + QStringList{"--start", "10:00", "--end", "11:00", "--stream", "ftp://x/a.mp3"}
+            << 1 << "must begin with http://";
         QTest::newRow("no such program") << QStringList{"remove", "999"} << 1 << "no program 999";
         QTest::newRow("nothing to stop") << QStringList{"stop"} << 1 << "Nothing is being";
         QTest::newRow("unknown command") << QStringList{"rewind"} << 2 << "unknown command";

@@ -31,11 +31,13 @@ private slots:
         once.insert("format", "mp3-128");
         once.insert("filename", "show.mp3");
         once.insert("prefix", "x");
-        QTest::newRow("one time, own file name and format")
+        once.insert("stream", " http://radio.example/live.mp3 ");
+        QTest::newRow("one time, own file name, format and stream")
             << once
             << QVariantMap{{"once", "2030-02-28"},
                            {"filename", "show.mp3"},
                            {"prefix", QVariant()},
+                           {"stream", "http://radio.example/live.mp3"},
                            {"format", "MPEG Layer-3 128 kBit/s, 44,100 Hz, Stereo   (Record MP3 in "
                                       "real-time; Save as .MP3 file )"}}
             << QString();

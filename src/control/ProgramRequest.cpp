@@ -73,6 +73,9 @@ std::optional<QString> Apply(EventLog& log, const QVariantMap& request, ProgramF
                 return Invalid(key, value);
             v.FormFormat.CopyFrom(*format);
             v.FormCompressionMethod = v.FormFormat.TextCompressionMethod;
+        } else if (key == QStringLiteral("stream")) {
+            // Empty: the sound server's input again.
+            v.FormStreamUrl = value.toString().trimmed();
         } else if (key == QStringLiteral("filename")) {
             v.FormFilenameUser = value.toString().trimmed();
         } else if (key == QStringLiteral("prefix")) {
@@ -110,6 +113,8 @@ ProgramCheckValues CheckValues(const ProgramFormValues& v, bool editingExisting,
     c.prefix = v.FormFilenamePrefix;
     c.suffixChecked = !v.FormFilenameSuffix.isEmpty();
     c.suffix = v.FormFilenameSuffix;
+    c.streamSource = !v.FormStreamUrl.isEmpty();
+    c.streamUrl = v.FormStreamUrl;
     return c;
 }
 
@@ -133,7 +138,7 @@ QVariantMap ToMap(qint32 id, const ProgramFormValues& v)
     }
     for (const auto& [key, value] :
          {std::pair{"filename", v.FormFilenameUser}, std::pair{"prefix", v.FormFilenamePrefix},
-          std::pair{"suffix", v.FormFilenameSuffix}})
+          std::pair{"suffix", v.FormFilenameSuffix}, std::pair{"stream", v.FormStreamUrl}})
         if (!value.isEmpty())
             map.insert(QString::fromLatin1(key), value);
     return map;
