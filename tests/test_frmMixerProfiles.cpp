@@ -180,7 +180,7 @@ private slots:
         QCOMPARE(m_tc->messageBox.asked.size(), 1);
         QCOMPARE(m_tc->messageBox.asked[0].title, QString("Activate mixer profile"));
         QCOMPARE(m_tc->messageBox.asked[0].text,
-                 QString("The Windows mixer settings will be set according to the selected mixer "
+                 QString("The sound server's mixer settings will be set according to the selected mixer "
                          "profile. Proceed?"));
         QCOMPARE(m_tc->messageBox.asked[0].buttons, MsgButtons::YesNo);
         QVERIFY(!QFile::exists(Profiles().PathOf("Empty")));

@@ -215,7 +215,7 @@ void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce_data()
                                    << "";
     QTest::newRow("no keep-alive answer")
         << false << "No response from recording task."
-        << "system restart. \rThe error occured during the following recording: Evening news";
+        << "system restart. \rThe error occurred during the following recording: Evening news";
 }
 
 // The first report fails and ends the recording and is logged after the end; a second

@@ -43,8 +43,8 @@ void clsError::UpdateErrorIndication()
         indication.errorsMenuEnabled = true;
     } else if (UnviewedElogErrors()) {
         indication.toolTip = m_numUnviewedElogErrors == 1
-                                 ? QStringLiteral("Error occured - click to view")
-                                 : QStringLiteral("Errors occured - click to view");
+                                 ? QStringLiteral("Error occurred - click to view")
+                                 : QStringLiteral("Errors occurred - click to view");
         indication.buttonVisible = true;
     }
     m_indication = indication;

@@ -19,8 +19,8 @@ QString ErrorListText(const clsError& error)
     const QString end = QStringLiteral("\r\n");
     QString text;
     if (error.NoAudioRecordDevice())
-        text += QStringLiteral("No wave audio recording device found.  "
-                               "Verify that a sound card is correctly installed.") +
+        text += QStringLiteral("No sound server input found.  Check that PulseAudio or "
+                               "PipeWire is running and that an input is not disabled.") +
                 end;
     if (error.InvalidRecordingDirectory())
         text += QStringLiteral("Invalid Recording Folder.  "

@@ -36,7 +36,7 @@ namespace {
 const QString kSection = QStringLiteral("Settings");
 const QString kEnhancedPlayer = QStringLiteral("Nightreel Enhanced Player");
 const QString kClassicPlayer = QStringLiteral("Nightreel Classic Player");
-const QString kDefaultPlayer = QStringLiteral("Windows Default");
+const QString kDefaultPlayer = QStringLiteral("Desktop Default");
 // Offset of the dialog from the main form's corner.
 constexpr int kOffsetTwips = 600;
 
@@ -255,10 +255,10 @@ QWidget* frmOptions::BuildStartupTab()
     auto* frame = Named(new QWidget, QStringLiteral("frameStartup"));
     auto* layout = new QVBoxLayout(frame);
     chkStartupFolder =
-        Named(new QCheckBox(QStringLiteral("Run Nightreel 2000 when Windows &starts")),
+        Named(new QCheckBox(QStringLiteral("Run Nightreel 2000 when the desktop &starts")),
               QStringLiteral("chkStartupFolder"));
     layout->addWidget(chkStartupFolder);
-    auto* mode = new QGroupBox(QStringLiteral("Windows Startup Mode"));
+    auto* mode = new QGroupBox(QStringLiteral("Desktop Startup Mode"));
     optNormalStartupMode =
         Named(new QRadioButton(QStringLiteral("&Normal")), QStringLiteral("optNormalStartupMode"));
     optHiddenStartupMode =
@@ -327,7 +327,7 @@ QWidget* frmOptions::BuildAdvancedTab()
         Named(new QCheckBox(QStringLiteral("A&utomatically remove expired programs")),
               QStringLiteral("chkRemoveExpiredPrograms"));
     chkShowRecordingTimeInTaskBar =
-        Named(new QCheckBox(QStringLiteral("Show elapsed recording time in Windows task &bar")),
+        Named(new QCheckBox(QStringLiteral("Show elapsed recording time in the desktop task &bar")),
               QStringLiteral("chkShowRecordingTimeInTaskBar"));
     // For a machine left alone: no sleep while a recording is due, and a warning in the log
     // when the input stays silent.
@@ -491,7 +491,7 @@ void frmOptions::btnChangeRecordingFolder_Click()
 void frmOptions::CommandChangeDefautWfx_Click()
 {
     Trap(m_s.log, "Options CommandChangeDefautWfx_Click", [&] {
-        if (!ChangeFormat(m_s.log, m_s.registry, m_s.options, m_workingFormat, this))
+        if (!ChangeFormat(m_s.log, m_workingFormat, this))
             return;
         m_formatChanged = true;
         LabelCompressionFormat->setText(m_workingFormat.TextCompressionMethod);
@@ -516,8 +516,9 @@ void frmOptions::btnDefaultMixer_Click()
     Trap(m_s.log, "Options btnDefaultMixer_Click", [&] {
         const MsgResult answer = m_s.messageBox.Show(
             QStringLiteral("Default Mixer"),
-            QStringLiteral("The mixer control will be changed to the Windows default mixer. "
-                           "Proceed?"),
+            QStringLiteral(
+                "The mixer control will be changed to the sound server's volume control. "
+                "Proceed?"),
             MsgIcon::Question, MsgButtons::YesNo);
         if (answer == MsgResult::Yes) {
             m_workingMixerPath = Options::DefaultMixerFilePath;

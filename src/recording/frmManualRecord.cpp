@@ -271,7 +271,7 @@ void frmManualRecord::CalcStorage()
 void frmManualRecord::ChangeComprMethodButton_Click()
 {
     Trap(m_s.log, "ChangeComprMethodButton_Click", [&] {
-        FormatChanged = ChangeFormat(m_s.log, m_s.registry, m_s.options, m_workingFormat, this);
+        FormatChanged = ChangeFormat(m_s.log, m_workingFormat, this);
         if (FormatChanged) {
             TextCompressionMethod->setText(m_workingFormat.TextCompressionMethod);
             CalcStorage();

@@ -606,8 +606,7 @@ void frmProgram::ChangeComprMethodButton_Click()
 {
     Trap(m_services.log, "Program Form ChangeComprMethodButton_Click", [&] {
         // A later cancelled change loses an earlier accepted one; that is intended.
-        FormatChanged = ChangeFormat(m_services.log, m_services.registry, m_services.options,
-                                     m_formFormat, this);
+        FormatChanged = ChangeFormat(m_services.log, m_formFormat, this);
         if (FormatChanged) {
             TextCompressionMethod->setText(m_formFormat.TextCompressionMethod);
             CalcTimeDuration();

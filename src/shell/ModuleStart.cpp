@@ -28,8 +28,8 @@ void ShowAlreadyRunning(MessageBoxPresenter& messageBox)
     messageBox.Show(QStringLiteral("Nightreel 2000 already running"),
                     QStringLiteral("Nightreel 2000 is already loaded. To restore window, "
                                    "double-click on system tray Nightreel 2000 icon. "
-                                   "If the icon is not present, unload the application via the "
-                                   "Windows task manager or by restarting Windows."),
+                                   "If the icon is not present, end the application with the "
+                                   "system monitor or by logging out and in again."),
                     MsgIcon::Exclamation, MsgButtons::Ok);
 }
 

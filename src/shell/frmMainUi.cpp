@@ -139,7 +139,7 @@ void frmMainUi::SetupToolbars(QMainWindow* window)
               Icons::Named("disk"));
     AddButton(ToolbarMain, QStringLiteral("Help"), QStringLiteral("Help"), Icons::Named("help"));
     AddButton(ToolbarMain, QStringLiteral("Error"),
-              QStringLiteral("Error Has Occured! Please check the log."), Icons::Named("error"));
+              QStringLiteral("Error Has Occurred! Please check the log."), Icons::Named("error"));
 
     ToolbarPrograms = new QToolBar;
     ToolbarPrograms->setObjectName(QStringLiteral("ToolbarPrograms"));
