@@ -2,7 +2,6 @@
 
 #include "common/Clock.h"
 #include "common/ProcessLauncher.h"
-#include "common/TextHelpers.h"
 #include "formats/FileRowPreview.h"
 #include "platform/AudioDevices.h"
 #include "platform/DiskSpace.h"
@@ -12,6 +11,7 @@
 #include "platform/SleepInhibitor.h"
 #include "platform/WindowList.h"
 #include "shell/AppContext.h"
+#include "shell/CommandLine.h"
 #include "shell/WidgetMessageBox.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
@@ -44,7 +44,7 @@ void SetApplicationNames()
 }
 
 // "--inspect FILE": what the recordings list would show of the file; no window, no lock.
-int Inspect(int argc, char* argv[])
+int Inspect(int argc, char* argv[], const QString& file)
 {
     QCoreApplication app(argc, argv);
     SetApplicationNames();
@@ -63,20 +63,18 @@ int Inspect(int argc, char* argv[])
                          network, sleepInhibitor, joystick},
                    AppFolders::ForCurrentUser());
     QTextStream out(stdout);
-    return InspectFile(ctx.log, QString::fromLocal8Bit(argv[2]), out);
+    return InspectFile(ctx.log, file, out);
 }
 
 } // namespace
 
-int Main(int argc, char* argv[])
+int Main(int argc, char* argv[], const CommandLine& line)
 {
-    if (argc == 3 && qstrcmp(argv[1], "--inspect") == 0)
-        return Inspect(argc, argv);
+    if (!line.inspectFile.isEmpty())
+        return Inspect(argc, argv, line.inspectFile);
     QApplication app(argc, argv);
     SetApplicationNames();
     QApplication::setQuitOnLastWindowClosed(false);
-    // One optional word: "1" starts hidden in the tray, "2" allows a second instance.
-    const QString word = argc > 1 ? Text::Trim(QString::fromLocal8Bit(argv[1])) : QString();
 
     SystemClock clock;
     WidgetMessageBox messageBox;
@@ -92,7 +90,7 @@ int Main(int argc, char* argv[])
 
     QLockFile instanceLock(folders.runtimeFolder + QStringLiteral("/nightreel.lock"));
     instanceLock.setStaleLockTime(0);
-    if (!instanceLock.tryLock(0) && word != QStringLiteral("2")) {
+    if (!instanceLock.tryLock(0) && !line.allowSecondInstance) {
         ShowAlreadyRunning(messageBox);
         return 0;
     }
@@ -114,7 +112,7 @@ int Main(int argc, char* argv[])
         splash->repaint();
         QCoreApplication::processEvents();
     }
-    frmMain main(ctx, word == QStringLiteral("1"));
+    frmMain main(ctx, line.startHidden);
     splash.reset();
     main.show();
     return app.exec();
