@@ -28,9 +28,9 @@ private slots:
         QTest::newRow("inspect") << QStringList{"--inspect", "/a b.wav"} << -1 << false << false
                                  << "/a b.wav"
                                  << "";
-        QTest::newRow("help names the words and options")
+        QTest::newRow("help names the program, its words and options")
             << QStringList{"--help"} << 0 << false << false << ""
-            << "[1|2]";
+            << "Usage: nightreel [options] [1|2]";
         QTest::newRow("version") << QStringList{"--version"} << 0 << false << false << ""
                                  << QStringLiteral("Nightreel 2000 %1.%2.%3\n")
                                         .arg(NIGHTREEL_VERSION_MAJOR)

@@ -10,7 +10,11 @@ CommandLine CommandLine::Parse(const QStringList& arguments, QTextStream& out, Q
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Nightreel 2000 records sound at the times of the programs you list."));
-    const QCommandLineOption help = parser.addHelpOption();
+    // Qt's own help option would offer --help-all for Qt's options, which this early reading
+    // cannot serve.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Displays help on commandline options."));
+    parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption inspect(
         QStringLiteral("inspect"),
@@ -31,7 +35,9 @@ CommandLine CommandLine::Parse(const QStringList& arguments, QTextStream& out, Q
         return line;
     }
     if (parser.isSet(help)) {
-        out << parser.helpText();
+        // Without an application object the parser cannot know the program's name.
+        out << parser.helpText().replace(QStringLiteral("<executable_name>"),
+                                         QStringLiteral("nightreel"));
         line.exitCode = 0;
         return line;
     }
