@@ -3,6 +3,7 @@
 #include "common/TextHelpers.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 #include <QTextStream>
 
 CommandLine CommandLine::Parse(const QStringList& arguments, QTextStream& out, QTextStream& err)
@@ -35,9 +36,12 @@ CommandLine CommandLine::Parse(const QStringList& arguments, QTextStream& out, Q
         return line;
     }
     if (parser.isSet(help)) {
-        // Without an application object the parser cannot know the program's name.
-        out << parser.helpText().replace(QStringLiteral("<executable_name>"),
-                                         QStringLiteral("nightreel"));
+        // Read before the application object exists, the parser doesn't know the program's
+        // name; the usage line gets the name a user types.
+        QString text = parser.helpText();
+        text.replace(QRegularExpression(QStringLiteral("^Usage: \\S+")),
+                     QStringLiteral("Usage: nightreel"));
+        out << text;
         line.exitCode = 0;
         return line;
     }
