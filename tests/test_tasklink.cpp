@@ -288,7 +288,8 @@ private slots:
         QVERIFY(!f.link->ActivateNightreeltask());
         QCOMPARE(f.link->StartedTasks().size(), 1);
         QCOMPARE(f.Messages(), QStringList{"Error removing Recording Process."});
-        QCOMPARE(f.Entries().first().details, QString("This may require the system to be restarted."));
+        QCOMPARE(f.Entries().first().details,
+                 QString("This may require the system to be restarted."));
     }
 
     // Every report is handed on with its code; the recording control fails the recording
