@@ -5,6 +5,7 @@
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
@@ -37,6 +38,19 @@ struct Started {
     TestContext tc;
     std::unique_ptr<frmMain> form;
 };
+
+// How many of the picture's opaque pixels stand out from the background.
+int Legible(const QImage& picture, const QColor& background)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor c = picture.pixelColor(x, y);
+            if (c.alpha() > 160 && qAbs(qGray(c.rgb()) - qGray(background.rgb())) > 60)
+                ++count;
+        }
+    return count;
+}
 
 } // namespace
 
@@ -278,6 +292,35 @@ private slots:
         QCOMPARE(tc.messageBox.asked.at(0).text, text);
     }
 
+    // Every tool bar picture reads on a light and on a dark palette, and at 200 % it comes
+    // with twice the pixels (a picture drawn for one size only comes smaller).
+    void toolBarPicturesFollowThePalette_data()
+    {
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<QColor>("text");
+        QTest::newRow("light") << QColor(239, 239, 239) << QColor(20, 20, 20);
+        QTest::newRow("dark") << QColor(40, 40, 44) << QColor(235, 235, 235);
+    }
+    void toolBarPicturesFollowThePalette()
+    {
+        QFETCH(QColor, window);
+        QFETCH(QColor, text);
+        const QPalette before = QApplication::palette();
+        QPalette palette(text, window);
+        QApplication::setPalette(palette);
+        Started s;
+        s.Activate();
+        QVERIFY(!s.form->windowIcon().isNull());
+        for (QToolBar* bar :
+             {s.form->ui.ToolbarMain, s.form->ui.ToolbarPrograms, s.form->ui.ToolbarRecordings})
+            for (QAction* action : bar->actions()) {
+                const QPixmap sharp = action->icon().pixmap(QSize(24, 24), 2.0);
+                QCOMPARE(sharp.size(), QSize(48, 48));
+                QVERIFY2(Legible(sharp.toImage(), window) > 40, qPrintable(action->objectName()));
+            }
+        QApplication::setPalette(before);
+    }
+
     void thePageDecidesTheMenu()
     {
         Started s;
@@ -342,6 +385,35 @@ private slots:
         for (const char* name : {"mnuAddFileToList", "mnuAddFolderToList", "mnuLoadList",
                                  "ToolbarRecordings.add_to_list", "ToolbarRecordings.load_list"})
             QVERIFY2(s.form->ui.Action(name)->isEnabled(), name);
+    }
+
+    // Delete acts on the list that has the focus, with that list's question.
+    void theDeleteKeyRemovesFromTheListInFocus_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("question");
+        QTest::newRow("programs") << 0 << "Remove Programs";
+        QTest::newRow("recordings") << 1 << "Remove Recordings From Disk";
+    }
+    void theDeleteKeyRemovesFromTheListInFocus()
+    {
+        QFETCH(int, page);
+        Started s;
+        s.Activate();
+        s.tc.AddProgram(Programs::Weekly("Morning", "08:00:00", "09:00:00", "0100000"));
+        Recordset& rs = s.tc.ctx->database.DataRecordings.recordset();
+        rs.AddNew();
+        rs.SetValue("File", s.Folder() + "/kept.wav");
+        rs.Update();
+        s.form->show();
+        QVERIFY(QTest::qWaitForWindowActive(s.form.get()));
+        s.form->ui.SSTab1->setCurrentIndex(page);
+        QTableView* grid = page == 0 ? s.form->ui.DBGridPrograms : s.form->ui.DBGridRecordings;
+        grid->selectRow(0);
+        grid->setFocus();
+        QTest::keyClick(grid, Qt::Key_Delete);
+        QCOMPARE(s.tc.messageBox.asked.size(), 1);
+        QTEST(s.tc.messageBox.asked[0].title, "question");
     }
 
     void playingAMissingFileSaysSo()

@@ -89,6 +89,14 @@ template <typename T> T* Named(T* widget, const QString& name)
     return widget;
 }
 
+// A label tied to its field, for mnemonics and screen readers.
+QLabel* LabelFor(const QString& text, QWidget* field)
+{
+    auto* label = new QLabel(text);
+    label->setBuddy(field);
+    return label;
+}
+
 // A label, a limited box with its arrows, and a label after it, on one line.
 QHBoxLayout* BoxLine(QWidget* before, QLineEdit* box, UpDown* upDown, const QString& after)
 {
@@ -215,9 +223,9 @@ QWidget* frmOptions::BuildPlayTab()
     auto* players = new QGridLayout;
     ComboWavPlayer = Named(new QComboBox, QStringLiteral("ComboWavPlayer"));
     ComboMP3Player = Named(new QComboBox, QStringLiteral("ComboMP3Player"));
-    players->addWidget(new QLabel(QStringLiteral("WAV files")), 0, 0);
+    players->addWidget(LabelFor(QStringLiteral("WAV files"), ComboWavPlayer), 0, 0);
     players->addWidget(ComboWavPlayer, 0, 1);
-    players->addWidget(new QLabel(QStringLiteral("MP3 files")), 1, 0);
+    players->addWidget(LabelFor(QStringLiteral("MP3 files"), ComboMP3Player), 1, 0);
     players->addWidget(ComboMP3Player, 1, 1);
     players->setColumnStretch(2, 1);
     layout->addLayout(players);
@@ -233,6 +241,7 @@ QWidget* frmOptions::BuildPlayTab()
         txtFwdRev[i] = LimitedBox(box.constData(), arrows.constData(), 1, 59, UpDown1[i]);
         comboMinSec[i] = Named(new QComboBox, QStringLiteral("comboMinSec") + n);
         comboMinSec[i]->addItems({QStringLiteral("Seconds"), QStringLiteral("Minutes")});
+        label->setBuddy(txtFwdRev[i]);
         const int row = i % 3;
         const int column = i / 3 * 5;
         grid->addWidget(label, row, column);
@@ -283,11 +292,12 @@ QWidget* frmOptions::BuildDiskTab()
     txtStopRecMegsLeft =
         LimitedBox("txtStopRecMegsLeft", "updnStopRecMegsLeft", 5, 20000, updnStopRecMegsLeft);
     auto* limits = new QGridLayout;
-    limits->addWidget(new QLabel(QStringLiteral("Warn when disk has")), 0, 0);
+    limits->addWidget(LabelFor(QStringLiteral("Warn when disk has"), txtWarnRecMegsLeft), 0, 0);
     limits->addWidget(txtWarnRecMegsLeft, 0, 1);
     limits->addWidget(updnWarnRecMegsLeft, 0, 2);
     limits->addWidget(new QLabel(QStringLiteral("Megabytes left")), 0, 3);
-    limits->addWidget(new QLabel(QStringLiteral("Stop recording when disk has")), 1, 0);
+    limits->addWidget(LabelFor(QStringLiteral("Stop recording when disk has"), txtStopRecMegsLeft),
+                      1, 0);
     limits->addWidget(txtStopRecMegsLeft, 1, 1);
     limits->addWidget(updnStopRecMegsLeft, 1, 2);
     limits->addWidget(new QLabel(QStringLiteral("Megabytes left")), 1, 3);
@@ -346,7 +356,8 @@ QWidget* frmOptions::BuildAdvancedTab()
                                                 QStringLiteral("YYMMDD_hhmmss"),
                                                 QStringLiteral("DDMMYY_hhmmss")});
     auto* nameLine = new QHBoxLayout;
-    nameLine->addWidget(new QLabel(QStringLiteral("Default recording file name format:")));
+    nameLine->addWidget(LabelFor(QStringLiteral("Default recording file name format:"),
+                                 comboDefaultRecordFileNameFormat));
     nameLine->addWidget(comboDefaultRecordFileNameFormat);
     nameLine->addStretch();
     layout->addLayout(nameLine);

@@ -103,7 +103,9 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
         pair->addWidget(box);
         pair->addWidget(arrows);
         duration->addLayout(pair, 0, column);
-        duration->addWidget(new QLabel(QString::fromLatin1(caption)), 1, column, Qt::AlignHCenter);
+        auto* label = new QLabel(QString::fromLatin1(caption));
+        label->setBuddy(box);
+        duration->addWidget(label, 1, column, Qt::AlignHCenter);
         ++column;
     }
     duration->setColumnStretch(3, 1);
@@ -135,7 +137,9 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     fields->addWidget(lblDescription, 0, 0);
     fields->addWidget(TextProgramDescription, 0, 1, 1, 2);
     fields->addLayout(duration, 1, 1, 1, 2);
-    fields->addWidget(new QLabel(QStringLiteral("Recording Format")), 2, 0);
+    auto* lblFormat = new QLabel(QStringLiteral("Recording Format"));
+    lblFormat->setBuddy(TextCompressionMethod);
+    fields->addWidget(lblFormat, 2, 0);
     fields->addWidget(TextCompressionMethod, 2, 1);
     fields->addWidget(ChangeComprMethodButton, 2, 2);
     fields->addWidget(new QLabel(QStringLiteral("Disk Storage:")), 3, 0);
