@@ -5,7 +5,7 @@
  * into a RIFF WAVE file that holds MP3 data, in small steps that each return within about
  * 20 ms, so that the scheduler can drive it from a timer on its user-interface thread.
  * Built on libmp3lame; plain C linkage, no Qt. The scheduler loads it with QLibrary from its
- * own folder (libnightreelenc.so beside the program) and resolves the four entry points by
+ * private library folder (beside the program in a build) and resolves the four entry points by
  * name; the NightreelEnc*Fn types below are their exact signatures.
  *
  * The library keeps the state of ONE running conversion; it is not thread-safe and is meant

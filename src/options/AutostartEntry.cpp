@@ -1,6 +1,7 @@
 #include "options/AutostartEntry.h"
 
 #include "common/FileHelpers.h"
+#include "common/ProgramFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,13 +35,8 @@ bool Exists()
 
 QString Source(const QString& programFolder)
 {
-    for (const QString& candidate :
-         {programFolder + u'/' + kEntryName,
-          programFolder + QStringLiteral("/../share/applications/") + kEntryName}) {
-        if (FileExistsOrClear(candidate))
-            return QDir::cleanPath(candidate);
-    }
-    return QString();
+    const QString entry = ProgramFiles(programFolder).DesktopEntry();
+    return FileExistsOrClear(entry) ? entry : QString();
 }
 
 void Set(bool on, const QString& programFolder)

@@ -14,8 +14,8 @@ QString Folder();
 QString Path();
 // Whether the entry is there; a zero-length one is removed.
 bool Exists();
-// The entry that goes with the program in programFolder: beside it in a build, in the
-// shared applications folder once installed. Empty when neither is there.
+// The entry that goes with the program in programFolder (see ProgramFiles); empty when it
+// isn't there.
 QString Source(const QString& programFolder);
 // Puts the entry in place (when it isn't there yet) or removes it. Failures are ignored:
 // the options dialog shows the truth the next time it opens.

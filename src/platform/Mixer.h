@@ -21,9 +21,9 @@ public:
     virtual bool SetVolume(int percent) = 0;
 };
 
-// The mixer library, loaded by name from a folder (the program's own when none is given) at
-// its first use, so that a program without it runs until a mixer is needed. A library that
-// can't be loaded, or lacks an entry point, is a RuntimeError of the call.
+// The mixer library, loaded by name from a folder (the program's library folder when none is
+// given) at its first use, so that a program without it runs until a mixer is needed. A
+// library that can't be loaded, or lacks an entry point, is a RuntimeError of the call.
 class MixsetMixer : public Mixer {
 public:
     explicit MixsetMixer(const QString& folder = QString());

@@ -1,7 +1,7 @@
+#include "common/ProgramFiles.h"
 #include "common/RuntimeError.h"
 #include "platform/Mixer.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 namespace {
@@ -31,7 +31,8 @@ void MixsetMixer::Resolve()
         return;
     // Never the system's search path: the library of this very build is the one that
     // matches the profiles it wrote.
-    const QString folder = m_folder.isEmpty() ? QCoreApplication::applicationDirPath() : m_folder;
+    const QString folder =
+        m_folder.isEmpty() ? ProgramFiles::OfRunningProgram().LibraryFolder() : m_folder;
     m_library.setFileName(folder + QStringLiteral("/mixset"));
     if (!m_library.load())
         throw RuntimeError(ErrorLoadingLibrary,

@@ -1,9 +1,9 @@
 #include "recording/EncoderLibrary.h"
 
-#include <QCoreApplication>
+#include "common/ProgramFiles.h"
 
 EncoderLibrary::EncoderLibrary()
-    : m_folder(QCoreApplication::applicationDirPath())
+    : m_folder(ProgramFiles::OfRunningProgram().LibraryFolder())
 {
 }
 

@@ -5,10 +5,10 @@
 #include <QLibrary>
 #include <QString>
 
-// The MP3 encoder library (libnightreelenc.so), loaded at run time from the program's own
-// folder and called through the four entry points its header describes. Loading happens on
-// the first use; a library that is missing or lacks an entry point answers every call with
-// LibraryMissing, which the caller treats like any other failure code.
+// The MP3 encoder library (libnightreelenc.so), loaded at run time from the program's private
+// library folder (ProgramFiles) and called through the four entry points its header describes.
+// Loading happens on the first use; a library that is missing or lacks an entry point answers every
+// call with LibraryMissing, which the caller treats like any other failure code.
 class EncoderLibrary {
 public:
     // Apart from the library's own codes (2001 to 2007).
@@ -18,7 +18,7 @@ public:
     EncoderLibrary(const EncoderLibrary&) = delete;
     EncoderLibrary& operator=(const EncoderLibrary&) = delete;
 
-    // Where the library is looked for; the program's folder unless a test or a benchmark
+    // Where the library is looked for; the program's library folder unless a test or a benchmark
     // points at the build's. Takes effect before the first load.
     void SetFolder(const QString& folder) { m_folder = folder; }
     QString Folder() const { return m_folder; }

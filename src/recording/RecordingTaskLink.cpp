@@ -1,5 +1,6 @@
 #include "recording/RecordingTaskLink.h"
 
+#include "common/ProgramFiles.h"
 #include "common/TextHelpers.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
@@ -33,7 +34,7 @@ RecordingTaskLink::RecordingTaskLink(EventLog& log, const clsAppStatus& appStatu
     , m_log(log)
     , m_appStatus(appStatus)
     , m_runtimeFolder(runtimeFolder)
-    , m_taskProgram(QCoreApplication::applicationDirPath() + QStringLiteral("/nightreel-rec"))
+    , m_taskProgram(ProgramFiles::OfRunningProgram().TaskProgram())
 {
     connect(&tmrKeepAlive, &IntervalTimer::timeout, this, &RecordingTaskLink::tmrKeepAlive_Timer);
     connect(&tmrStopRecording, &IntervalTimer::timeout, this,

@@ -32,7 +32,7 @@ public:
     static constexpr int StopWatchdogInterval = 10000;
     static constexpr qint16 KeepAliveMaxMisses = 3;
 
-    // The task program: nightreel-rec beside the running executable unless set otherwise.
+    // The task program: nightreel-rec of the running program (ProgramFiles) unless set otherwise.
     void SetTaskProgram(const QString& path) { m_taskProgram = path; }
     QString TaskProgram() const { return m_taskProgram; }
     // How long an attempt waits for the task's ready message; ten seconds but in tests.

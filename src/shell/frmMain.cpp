@@ -2,6 +2,7 @@
 
 #include "common/AutomationDate.h"
 #include "common/MessageBox.h"
+#include "common/ProgramFiles.h"
 #include "common/Twips.h"
 #include "diagnostics/Trap.h"
 #include "diagnostics/clsSysTrayMgr.h"
@@ -59,20 +60,10 @@ void SetIfChanged(QLabel* label, const QString& text)
         label->setText(text);
 }
 
-// The user manual ships beside the program, or in the source tree's docs when run from a
-// build.
 QUrl ManualUrl(const QString& anchor)
 {
-    const QString dir = QCoreApplication::applicationDirPath();
-    QString manual;
-    for (const QString& candidate : {dir + QStringLiteral("/docs/manual.html"),
-                                     dir + QStringLiteral("/../share/doc/Nightreel/manual.html")}) {
-        if (QFileInfo::exists(candidate)) {
-            manual = candidate;
-            break;
-        }
-    }
-    QUrl url = QUrl::fromLocalFile(manual);
+    const QString manual = ProgramFiles::OfRunningProgram().Manual();
+    QUrl url = QUrl::fromLocalFile(QFileInfo::exists(manual) ? manual : QString());
     if (!anchor.isEmpty())
         url.setFragment(anchor);
     return url;
