@@ -1,5 +1,6 @@
 #include "Programs.h"
 #include "TestContext.h"
+#include "diagnostics/SysTrayPictures.h"
 #include "diagnostics/clsSysTrayMgr.h"
 #include "shell/ModeDisplay.h"
 #include "shell/frmMain.h"
@@ -39,17 +40,26 @@ struct Started {
     std::unique_ptr<frmMain> form;
 };
 
-// How many of the picture's opaque pixels stand out from the background.
-int Legible(const QImage& picture, const QColor& background)
+// The share of the picture's outline (its opaque pixels beside clear ones) that stands out
+// from the background: a shape whose edge melts into the panel can't be made out.
+double Legible(const QImage& picture, const QColor& background)
 {
-    int count = 0;
+    const auto opaque = [&](int x, int y) {
+        return x >= 0 && y >= 0 && x < picture.width() && y < picture.height() &&
+               picture.pixelColor(x, y).alpha() > 160;
+    };
+    int edge = 0;
+    int standing = 0;
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x) {
-            const QColor c = picture.pixelColor(x, y);
-            if (c.alpha() > 160 && qAbs(qGray(c.rgb()) - qGray(background.rgb())) > 60)
-                ++count;
+            if (!opaque(x, y) ||
+                (opaque(x - 1, y) && opaque(x + 1, y) && opaque(x, y - 1) && opaque(x, y + 1)))
+                continue;
+            ++edge;
+            if (qAbs(qGray(picture.pixel(x, y)) - qGray(background.rgb())) > 60)
+                ++standing;
         }
-    return count;
+    return edge ? double(standing) / edge : 0.0;
 }
 
 } // namespace
@@ -293,15 +303,16 @@ private slots:
     }
 
     // Every tool bar picture reads on a light and on a dark palette, and at 200 % it comes
-    // with twice the pixels (a picture drawn for one size only comes smaller).
-    void toolBarPicturesFollowThePalette_data()
+    // with twice the pixels (a picture drawn for one size only comes smaller); so do the
+    // tray's, on a panel the colour of the palette.
+    void picturesFollowThePalette_data()
     {
         QTest::addColumn<QColor>("window");
         QTest::addColumn<QColor>("text");
         QTest::newRow("light") << QColor(239, 239, 239) << QColor(20, 20, 20);
         QTest::newRow("dark") << QColor(40, 40, 44) << QColor(235, 235, 235);
     }
-    void toolBarPicturesFollowThePalette()
+    void picturesFollowThePalette()
     {
         QFETCH(QColor, window);
         QFETCH(QColor, text);
@@ -316,7 +327,14 @@ private slots:
             for (QAction* action : bar->actions()) {
                 const QPixmap sharp = action->icon().pixmap(QSize(24, 24), 2.0);
                 QCOMPARE(sharp.size(), QSize(48, 48));
-                QVERIFY2(Legible(sharp.toImage(), window) > 40, qPrintable(action->objectName()));
+                QVERIFY2(Legible(sharp.toImage(), window) > 0.6, qPrintable(action->objectName()));
+            }
+        for (SysTrayList list :
+             {SysTrayList::General, SysTrayList::Record, SysTrayList::Convert, SysTrayList::Pause})
+            for (int index : {1, 2, 4}) {
+                const QImage tray = SysTrayPictures::Icon({list, index}).pixmap(44).toImage();
+                QVERIFY2(Legible(tray, window) > 0.6,
+                         qPrintable(QStringLiteral("tray %1/%2").arg(int(list)).arg(index)));
             }
         QApplication::setPalette(before);
     }

@@ -128,7 +128,7 @@ const QHash<QString, Draw>& Pictures()
          }},
         {QStringLiteral("help"),
          [](QPainter& p, const QColor&) {
-             Fill(p, QColor(30, 100, 200));
+             Fill(p, QColor(50, 120, 220));
              p.drawEllipse(QPointF(16, 16), 13, 13);
              p.setPen(Qt::white);
              QFont font = p.font();
@@ -138,8 +138,8 @@ const QHash<QString, Draw>& Pictures()
              p.drawText(QRectF(3, 3, 26, 26), Qt::AlignCenter, QStringLiteral("?"));
          }},
         {QStringLiteral("error"),
-         [](QPainter& p, const QColor&) {
-             p.setPen(Line(QColor(110, 80, 0), 1.5));
+         [](QPainter& p, const QColor& ink) {
+             p.setPen(Line(ink, 1.5));
              p.setBrush(QColor(245, 196, 0));
              Polygon(p, {{16, 3}, {30, 28}, {2, 28}});
              Fill(p, QColor(20, 20, 30));
