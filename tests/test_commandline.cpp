@@ -16,28 +16,28 @@ private slots:
         QTest::addColumn<bool>("hidden");
         QTest::addColumn<bool>("second");
         QTest::addColumn<QString>("inspect");
+        QTest::addColumn<bool>("headless");
         QTest::addColumn<QString>("printed");
-        QTest::newRow("nothing") << QStringList{} << -1 << false << false << ""
-                                 << "";
-        QTest::newRow("1: hidden") << QStringList{"1"} << -1 << true << false << ""
-                                   << "";
-        QTest::newRow("2: second instance") << QStringList{"2"} << -1 << false << true << ""
-                                            << "";
-        QTest::newRow("other words are ignored") << QStringList{"3"} << -1 << false << false << ""
-                                                 << "";
+        QTest::newRow("nothing") << QStringList{} << -1 << false << false << "" << false << "";
+        QTest::newRow("1: hidden") << QStringList{"1"} << -1 << true << false << "" << false << "";
+        QTest::newRow("2: second instance")
+            << QStringList{"2"} << -1 << false << true << "" << false << "";
+        QTest::newRow("other words are ignored")
+            << QStringList{"3"} << -1 << false << false << "" << false << "";
         QTest::newRow("inspect") << QStringList{"--inspect", "/a b.wav"} << -1 << false << false
-                                 << "/a b.wav"
-                                 << "";
+                                 << "/a b.wav" << false << "";
+        QTest::newRow("headless") << QStringList{"--headless"} << -1 << false << false << "" << true
+                                  << "";
         QTest::newRow("help names the program, its words and options")
-            << QStringList{"--help"} << 0 << false << false << ""
+            << QStringList{"--help"} << 0 << false << false << "" << false
             << "Usage: nightreel [options] [1|2]";
-        QTest::newRow("version") << QStringList{"--version"} << 0 << false << false << ""
+        QTest::newRow("version") << QStringList{"--version"} << 0 << false << false << "" << false
                                  << QStringLiteral("Nightreel 2000 %1.%2.%3\n")
                                         .arg(NIGHTREEL_VERSION_MAJOR)
                                         .arg(NIGHTREEL_VERSION_MINOR)
                                         .arg(NIGHTREEL_VERSION_REV);
-        QTest::newRow("unknown option") << QStringList{"--nonsense"} << 1 << false << false << ""
-                                        << "nonsense";
+        QTest::newRow("unknown option")
+            << QStringList{"--nonsense"} << 1 << false << false << "" << false << "nonsense";
     }
     void argumentsDecideTheStart()
     {
@@ -53,6 +53,7 @@ private slots:
         QTEST(line.startHidden, "hidden");
         QTEST(line.allowSecondInstance, "second");
         QTEST(line.inspectFile, "inspect");
+        QTEST(line.headless, "headless");
         const QString shown = outText + errText;
         QVERIFY2(printed.isEmpty() ? shown.isEmpty() : shown.contains(printed), qPrintable(shown));
         if (exitCode == 0)

@@ -2,7 +2,7 @@
 #include "TestContext.h"
 #include "diagnostics/SysTrayPictures.h"
 #include "diagnostics/clsSysTrayMgr.h"
-#include "shell/ModeDisplay.h"
+#include "recording/ModeDisplay.h"
 #include "shell/frmMain.h"
 
 #include <QAction>
@@ -260,7 +260,7 @@ private slots:
         extra.convertingText = "track.wav";
         QFETCH(QString, title);
         QFETCH(QString, panel);
-        const ModeDisplay d = ModeDisplay::Compute(*tc.ctx, extra);
+        const ModeDisplay d = ModeDisplay::Compute(tc.ctx->appStatus, tc.ctx->error, extra);
         QCOMPARE(d.title, title);
         QCOMPARE(d.panelText, panel);
         QCOMPARE(d.recordEnabled, !flags.contains("recording") && !flags.contains("suspended"));

@@ -64,6 +64,7 @@ private slots:
     void desktopFilesAreValid_data();
     void desktopFilesAreValid();
     void iconsAndManPageAreInstalled();
+    void theUserServiceStartsTheInstalledProgram();
     void installedProgramRecordsConvertsAndLists();
 
 private:
@@ -144,6 +145,18 @@ void TestInstall::iconsAndManPageAreInstalled()
         QCOMPARE(PngSize(Installed(folder + "nightreel.png")), QSize(size, size));
     }
     QVERIFY(ReadFile(Installed("/share/man/man1/nightreel.1.gz")).startsWith("\x1f\x8b"));
+}
+
+// The systemd unit and the session bus's activation file start the recorder without a window
+// where the installation put it.
+void TestInstall::theUserServiceStartsTheInstalledProgram()
+{
+    const QByteArray program = kPrefix.toUtf8() + "/bin/nightreel --headless\n";
+    QVERIFY(ReadFile(Installed("/lib/systemd/user/nightreel.service"))
+                .contains("\nExecStart=" + program));
+    QVERIFY(ReadFile(Installed("/share/dbus-1/services/org.larkmoor.Nightreel1.service"))
+                .contains("\nExec=" + program));
+    QVERIFY(QFileInfo(Installed("/bin/nightreel-ctl")).isExecutable());
 }
 
 // The installed program, started as a user would start it (offscreen here), with a

@@ -21,8 +21,10 @@ void EventLog::LogEvent(qint16 type, const QString& message, const QString& deta
 {
     if (type == EventInformation)
         qCInfo(lcEventLog).noquote() << message << '|' << details;
-    else
+    else if (type == EventWarning)
         qCWarning(lcEventLog).noquote() << message << '|' << details;
+    else
+        qCCritical(lcEventLog).noquote() << message << '|' << details;
     try {
         Recordset& rs = m_database.ElogRecordset();
         const int count = CountEventLogRows();

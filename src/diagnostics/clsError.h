@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 // What the error indication shows: the Error button, its tip, and the Errors menu entry.
 struct ErrorIndication {
@@ -41,6 +42,9 @@ public:
     bool AnyCurrentErrorsOrWarnings() const { return AnyCurrentErrors() || AnyCurrentWarnings(); }
     bool AnyCurrentErrors() const;
     bool AnyCurrentWarnings() const { return m_diskLowWarn || m_elogFull || m_recordingSilent; }
+
+    // The conditions that hold, one sentence each saying what to do about it.
+    QStringList ConditionTexts() const;
 
     void ElogViewed();
     void NewElogMsgAdded();

@@ -14,47 +14,9 @@ namespace {
 
 QString ErrorListText(const clsError& error)
 {
-    if (!error.AnyCurrentErrorsOrWarnings())
-        return QStringLiteral("none");
-    const QString end = QStringLiteral("\r\n");
-    QString text;
-    if (error.NoAudioRecordDevice())
-        text += QStringLiteral("No sound server input found.  Check that PulseAudio or "
-                               "PipeWire is running and that an input is not disabled.") +
-                end;
-    if (error.InvalidRecordingDirectory())
-        text += QStringLiteral("Invalid Recording Folder.  "
-                               "Go to View/Options and select a recording folder.") +
-                end;
-    if (error.DiskLowStopRecording())
-        text += QStringLiteral("Disk Low - no further recording allowed.  "
-                               "Delete recordings from disk or change "
-                               "recording folder. "
-                               "You can also change the limit to stop recording in View/Options.") +
-                end;
-    // The stop block already says the disk is low; the warning would repeat it.
-    else if (error.DiskLowWarn())
-        text += QStringLiteral("Disk Low Warning.  "
-                               "Delete recordings from disk or change "
-                               "recording folder. "
-                               "You can also change the disk warning limit in View/Options.") +
-                end;
-    if (error.ElogFull())
-        text += QStringLiteral("The Error Log is Full. "
-                               "Go to View/Error Log (or press the View Error Log "
-                               "button below) and remove all event log items. ") +
-                end;
-    if (error.DatabaseMissing())
-        text += QStringLiteral("Database is missing. "
-                               "Go to Tools/Advanced/Restore Original Database "
-                               "to create new database.") +
-                end;
-    if (error.RecordingSilent())
-        text += QStringLiteral("Recording is silent.  "
-                               "Check that the source is playing and that its mixer levels "
-                               "are up; see the Error Log for the source.") +
-                end;
-    return text;
+    const QStringList texts = error.ConditionTexts();
+    return texts.isEmpty() ? QStringLiteral("none")
+                           : texts.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n");
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "recording/ManualRecordCommands.h"
 
-#include "common/Clock.h"
 #include "common/RuntimeError.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/Trap.h"
@@ -11,22 +10,12 @@
 #include <QWidget>
 
 ManualRecordCommands::ManualRecordCommands(const ManualRecordServices& services, Recorder& recorder,
-                                           Clock& clock, QWidget* owner)
+                                           QWidget* owner)
     : QObject(owner)
     , m_s(services)
     , m_recorder(recorder)
-    , m_clock(clock)
     , m_owner(owner)
 {
-}
-
-void ManualRecordCommands::StartManualRecording()
-{
-    const clsManualRecord& request = m_s.request;
-    const double now = m_clock.Now();
-    m_recorder.Status().ProgramId = -1;
-    m_recorder.Control().StartRecording(-1, now, now + request.DurationSeconds / 86400.0,
-                                        request.Description);
 }
 
 void ManualRecordCommands::ToolbarRecord()
@@ -37,7 +26,7 @@ void ManualRecordCommands::ToolbarRecord()
         form.exec();
     }
     if (m_s.request.Requested && !m_s.appStatus.Recording())
-        StartManualRecording();
+        m_recorder.StartManualRecording();
 }
 
 void ManualRecordCommands::QuickStart()
@@ -51,7 +40,7 @@ void ManualRecordCommands::QuickStart()
     // Intended: a request whose checks failed (a size limit reached) still starts, with what
     // the last request left behind.
     if (!m_s.appStatus.Recording())
-        StartManualRecording();
+        m_recorder.StartManualRecording();
 }
 
 bool ManualRecordCommands::HandleCommandKey(int keyCode, Qt::KeyboardModifiers shift)

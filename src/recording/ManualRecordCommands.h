@@ -4,7 +4,6 @@
 
 #include <QObject>
 
-class Clock;
 class Recorder;
 class QWidget;
 
@@ -16,8 +15,7 @@ class QWidget;
 class ManualRecordCommands : public QObject {
     Q_OBJECT
 public:
-    ManualRecordCommands(const ManualRecordServices& services, Recorder& recorder, Clock& clock,
-                         QWidget* owner);
+    ManualRecordCommands(const ManualRecordServices& services, Recorder& recorder, QWidget* owner);
 
     // Shows the dialog and starts what it asked for.
     void ToolbarRecord();
@@ -34,10 +32,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void StartManualRecording();
-
     ManualRecordServices m_s;
     Recorder& m_recorder;
-    Clock& m_clock;
     QWidget* m_owner;
 };

@@ -1,5 +1,8 @@
 #include "recording/Recorder.h"
 
+#include "common/Clock.h"
+#include "diagnostics/EventLog.h"
+#include "platform/DisplayAvailable.h"
 #include "sideactions/ViewHtmlFile.h"
 
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
@@ -66,6 +69,14 @@ void Recorder::Stop()
     m_conversion.Stop();
 }
 
+void Recorder::StartManualRecording()
+{
+    const double now = m_s.clock.Now();
+    m_status.ProgramId = -1;
+    m_control.StartRecording(-1, now, now + m_manual.DurationSeconds / 86400.0,
+                             m_manual.Description);
+}
+
 void Recorder::UpdateStatusBarPlus()
 {
     const StatusBarPlus::Update update =
@@ -75,7 +86,21 @@ void Recorder::UpdateStatusBarPlus()
     emit StatusBarUpdated(update);
 }
 
+ModeDisplay Recorder::Mode(ModeDisplay::Extra extra) const
+{
+    extra.elapsedRemainingText = m_statusBar.ElapsedRemainingText();
+    extra.convertingText = m_conversion.StatusBarDisplay();
+    if (m_conversion.CurrentConvertRequest)
+        extra.convertingDescription = m_conversion.CurrentConvertRequest->Description;
+    return ModeDisplay::Compute(m_s.appStatus, m_s.error, extra);
+}
+
 void Recorder::OpenInternetLink(const QString& link)
 {
+    if (!DisplayAvailable()) {
+        m_s.log.LogEvent(EventInformation, QStringLiteral("Web link not opened"),
+                         QStringLiteral("There is no display to open it on: ") + link);
+        return;
+    }
     ViewHtmlFile(m_s.log, m_s.messageBox, m_s.launcher, m_s.runtimeFolder, link);
 }

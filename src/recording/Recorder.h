@@ -3,6 +3,7 @@
 #include "recording/ConversionQueue.h"
 #include "recording/Heartbeat.h"
 #include "recording/KeepAwake.h"
+#include "recording/ModeDisplay.h"
 #include "recording/RecorderServices.h"
 #include "recording/RecordingControl.h"
 #include "recording/RecordingTaskLink.h"
@@ -26,12 +27,16 @@ public:
     void Start();
     void Stop();
 
-    // The user's commands.
+    // The user's commands. A manual recording takes its length, description, format and
+    // file name from the manual request and starts now.
+    void StartManualRecording();
     void StopCommand(bool confirm) { m_control.HandleStopRecordingRequest(confirm); }
     void PauseCommand(const QString& command) { m_control.ToolbarPauseResume(command); }
 
     // One round of the status bar and the disk guard: on every tick and after list changes.
     void UpdateStatusBarPlus();
+    // The mode as it stands, with the recording's and the conversion's texts filled in.
+    ModeDisplay Mode(ModeDisplay::Extra extra) const;
 
     clsRecordingStatus& Status() { return m_status; }
     ConversionQueue& Conversion() { return m_conversion; }

@@ -12,6 +12,7 @@
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
 #include "platform/DiskSpace.h"
+#include "platform/DisplayAvailable.h"
 #include "recording/ConversionQueue.h"
 #include "recording/RecordingFileName.h"
 #include "recording/RecordingTaskErrors.h"
@@ -452,7 +453,10 @@ void RecordingControl::StopRecordingSteps()
         m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime);
         if (!status.InternetLink.trimmed().isEmpty()) {
             const QString playerClose = status.StreamingPlayerClose.trimmed();
-            if (playerClose.isEmpty())
+            if (!DisplayAvailable() && playerClose != StreamingPlayerClose::DoNotClose)
+                m_s.log.LogEvent(EventInformation, QStringLiteral("Streaming player not closed"),
+                                 QStringLiteral("There is no display to close it on."));
+            else if (playerClose.isEmpty())
                 m_player.CloseNewWindows();
             else if (playerClose != StreamingPlayerClose::DoNotClose)
                 m_player.CloseWindowsByTitle(playerClose);

@@ -29,6 +29,9 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , savedLists(database, recordingsList, folders.dataFolder)
     , joystick(seams.joystick)
 {
+    // The purge is part of the recorder's run, with a window or without; a window that is
+    // there shows the list afterwards.
+    QObject::connect(&recorder, &Recorder::PurgeDue, &recorder, [this] { recordingsList.Purge(); });
 }
 
 double AppContext::Now() const
@@ -52,4 +55,11 @@ ProgramFormServices AppContext::ForProgramForm()
             clock,
             folders.runtimeFolder,
             mixerProfiles.Folder()};
+}
+
+ControlServices AppContext::ForControl(CallMessageBox& callBox)
+{
+    return {recorder,   scheduler,      database, log,
+            error,      appStatus,      options,  clock,
+            WfxDefault, recordingsList, callBox,  mixerProfiles.Folder()};
 }

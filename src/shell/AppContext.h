@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/clsAppStatus.h"
+#include "control/ControlService.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/clsError.h"
 #include "formats/FormatStore.h"
@@ -55,6 +56,9 @@ public:
     // What the program list's commands and the program editor are built with.
     ProgramListServices ForProgramList();
     ProgramFormServices ForProgramForm();
+    // What the bus interface is built with; its boxes are captured by the given presenter,
+    // which must be the one the context shows its boxes through.
+    ControlServices ForControl(CallMessageBox& messageBox);
 
     Clock& clock;
     MessageBoxPresenter& messageBox;

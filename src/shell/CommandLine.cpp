@@ -22,6 +22,10 @@ CommandLine CommandLine::Parse(const QStringList& arguments, QTextStream& out, Q
         QStringLiteral("Print the row the recordings list would show for <file>, then end."),
         QStringLiteral("file"));
     parser.addOption(inspect);
+    const QCommandLineOption headless(
+        QStringLiteral("headless"),
+        QStringLiteral("Record without a window or display, controlled by nightreel-ctl."));
+    parser.addOption(headless);
     parser.addPositionalArgument(
         QStringLiteral("word"),
         QStringLiteral("1: start hidden in the tray. 2: start even if Nightreel 2000 is "
@@ -55,6 +59,7 @@ CommandLine CommandLine::Parse(const QStringList& arguments, QTextStream& out, Q
         return line;
     }
     line.inspectFile = parser.value(inspect);
+    line.headless = parser.isSet(headless);
     const QStringList words = parser.positionalArguments();
     const QString word = words.isEmpty() ? QString() : Text::Trim(words.first());
     line.startHidden = word == QStringLiteral("1");

@@ -13,6 +13,8 @@ struct CommandLine {
     // second instance. Any other word is ignored, as it always was.
     bool startHidden = false;
     bool allowSecondInstance = false;
+    // --headless: the recorder without a window, controlled over the session bus.
+    bool headless = false;
     // --inspect FILE: print the recordings list's row for the file and end.
     QString inspectFile;
     // Set when the program is to end at once (after --help, --version or a wrong option).

@@ -20,7 +20,6 @@
 #include "scheduling/frmDiskStatus.h"
 #include "shell/AppContext.h"
 #include "shell/Icons.h"
-#include "shell/ModeDisplay.h"
 #include "shell/ProgramListGrid.h"
 #include "shell/RecordingsListGrid.h"
 #include "shell/frmAbout.h"
@@ -273,7 +272,7 @@ void frmMain::ConnectManualRecording()
     m_manualRecording = new ManualRecordCommands(
         ManualRecordServices{m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.messageBox,
                              m_ctx.appStatus, m_ctx.recorder.Manual(), m_ctx.WfxDefault},
-        m_ctx.recorder, m_ctx.clock, this);
+        m_ctx.recorder, this);
     for (const char* name : {"ToolbarMain.Record", "mnuManualRecording"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, m_manualRecording,
                 &ManualRecordCommands::ToolbarRecord);
@@ -309,7 +308,11 @@ void frmMain::ConnectRecorder()
 {
     Recorder& recorder = m_ctx.recorder;
     connect(&recorder, &Recorder::StatusBarUpdated, this, &frmMain::ShowStatusBar);
-    connect(&recorder, &Recorder::PurgeDue, this, [this] { m_recordingsList->Commands().Purge(); });
+    // The context runs the purge before this: the window shows what it left.
+    connect(&recorder, &Recorder::PurgeDue, this, [this] {
+        UpdateRecordingsButtonsAndMenus();
+        UpdateStatusBarPlus();
+    });
     connect(&recorder, &Recorder::UpdateModeDisplay, this, &frmMain::UpdateModeDisplay);
     connect(&recorder, &Recorder::UpdateRecordingsButtonsAndMenus, this,
             &frmMain::UpdateRecordingsButtonsAndMenus);
@@ -375,12 +378,7 @@ void frmMain::UpdateModeDisplay()
     }
     extra.recentRecordingExists = !m_ctx.options.RecentRecordingFilename.isEmpty() &&
                                   QFileInfo(m_ctx.options.RecentRecordingFilename).isFile();
-    extra.elapsedRemainingText = m_ctx.recorder.StatusBar().ElapsedRemainingText();
-    const ConversionQueue& conversion = m_ctx.recorder.Conversion();
-    extra.convertingText = conversion.StatusBarDisplay();
-    if (conversion.CurrentConvertRequest)
-        extra.convertingDescription = conversion.CurrentConvertRequest->Description;
-    const ModeDisplay d = ModeDisplay::Compute(m_ctx, extra);
+    const ModeDisplay d = m_ctx.recorder.Mode(extra);
     const auto action = [this](const QString& name) {
         return ui.Action(name);
     };

@@ -181,9 +181,3 @@ void RecordingsListCommands::SelectAll()
 {
     m_view.SelectAll();
 }
-
-void RecordingsListCommands::Purge()
-{
-    m_list.Purge();
-    AfterRecordingsChange();
-}

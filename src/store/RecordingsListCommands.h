@@ -31,8 +31,6 @@ public:
     void LoadList();
     void SaveList();
     void SelectAll();
-    // The heartbeat's purge of old recordings.
-    void Purge();
 
 private:
     // Puts a clone of the list on the row a single-row command works on; false for none.

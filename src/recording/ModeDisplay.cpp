@@ -1,6 +1,7 @@
-#include "shell/ModeDisplay.h"
+#include "recording/ModeDisplay.h"
 
-#include "shell/AppContext.h"
+#include "common/clsAppStatus.h"
+#include "diagnostics/clsError.h"
 
 namespace {
 
@@ -9,14 +10,14 @@ const QString kStopRecording = QStringLiteral("Stop Current Recording");
 
 } // namespace
 
-ModeDisplay ModeDisplay::Compute(const AppContext& ctx, const Extra& extra)
+ModeDisplay ModeDisplay::Compute(const clsAppStatus& status, const clsError& error,
+                                 const Extra& extra)
 {
-    const clsAppStatus& status = ctx.appStatus;
     const bool recording = status.Recording();
     ModeDisplay d;
     d.playEnabled = extra.recentRecordingExists;
     d.recordEnabled =
-        !recording && !status.Suspended() && !status.Maintenance() && !ctx.error.AnyCurrentErrors();
+        !recording && !status.Suspended() && !status.Maintenance() && !error.AnyCurrentErrors();
     d.pauseEnabled = recording;
     d.pausePressed = recording && status.Paused();
     if (d.pausePressed) {
@@ -30,7 +31,7 @@ ModeDisplay ModeDisplay::Compute(const AppContext& ctx, const Extra& extra)
         d.pauseMenuCaption = QStringLiteral("Pa&use Recording");
         d.trayPauseCaption = QStringLiteral("&Pause Recording");
     }
-    d.diskStatusEnabled = !ctx.error.InvalidRecordingDirectory();
+    d.diskStatusEnabled = !error.InvalidRecordingDirectory();
     d.stopEnabled = recording || status.Converting();
     d.stopCaption =
         !recording && status.Converting() ? QStringLiteral("Stop MP3 Conversion") : kStopRecording;

@@ -2,10 +2,11 @@
 
 #include <QString>
 
-class AppContext;
+class clsAppStatus;
+class clsError;
 
-// What the main window shows of the mode flags: which commands are open, the title and
-// the mode panel. Worked out from the state in one place; the window only applies it.
+// What is shown of the mode flags: which commands are open, the title and the mode panel.
+// Worked out from the state in one place; the window applies it, the bus reports its panel.
 struct ModeDisplay {
     bool playEnabled = false;
     bool recordEnabled = false;
@@ -23,7 +24,7 @@ struct ModeDisplay {
     QString panelText;
     QString panelToolTip;
 
-    // Inputs that are not flags of the context.
+    // Inputs that are not mode flags or error conditions.
     struct Extra {
         bool recentRecordingExists = false;
         // The blink state of the tray while paused: the panel text alternates with it.
@@ -33,5 +34,6 @@ struct ModeDisplay {
         QString convertingDescription;
         QString elapsedRemainingText;
     };
-    static ModeDisplay Compute(const AppContext& ctx, const Extra& extra);
+    static ModeDisplay Compute(const clsAppStatus& status, const clsError& error,
+                               const Extra& extra);
 };

@@ -1,0 +1,76 @@
+#include "shell/HeadlessStart.h"
+
+#include "control/CallMessageBox.h"
+#include "diagnostics/JournalLog.h"
+#include "diagnostics/LoggedMessageBox.h"
+#include "platform/TerminationSignals.h"
+#include "shell/InstanceLock.h"
+#include "shell/MainFormController.h"
+#include "shell/SystemSeams.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QTimer>
+
+namespace HeadlessStart {
+namespace {
+
+// A stop by the service manager saves what is being recorded or converted, as the stop
+// command would, and ends the program once both are over.
+void QuitWhenIdle(AppContext& ctx)
+{
+    // On standard error only: a service restarted daily would fill the event log.
+    qInfo().noquote() << "Asked to end: the recording and conversion in progress are saved first.";
+    if (ctx.appStatus.Recording())
+        ctx.recorder.Control().RequestStop();
+    if (ctx.appStatus.Converting())
+        ctx.recorder.Conversion().StopMp3Conversion = true;
+    auto* poll = new QTimer(QCoreApplication::instance());
+    QObject::connect(poll, &QTimer::timeout, poll, [&ctx] {
+        if (!ctx.appStatus.Recording() && !ctx.appStatus.Converting())
+            QCoreApplication::quit();
+    });
+    poll->start(250);
+}
+
+} // namespace
+
+int Main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    SetApplicationNames();
+    JournalLog::Install();
+    const AppFolders folders = AppFolders::ForCurrentUser();
+    InstanceLock instanceLock(folders.runtimeFolder);
+    if (instanceLock.TryLock() != InstanceLock::Holder::None) {
+        qCritical().noquote() << InstanceLock::AlreadyRunningText();
+        return 1;
+    }
+
+    folders.InstallDatabaseOnFirstRun();
+    LoggedMessageBox loggedBox;
+    CallMessageBox messageBox(loggedBox);
+    SystemSeams seams;
+    AppContext ctx(seams.With(messageBox), folders);
+    loggedBox.Attach(ctx.log);
+
+    // The steps of the window's load and first activation that need no window; a missing
+    // recording folder is logged, not asked for.
+    MainFormController controller(ctx);
+    controller.Form_Load();
+    controller.InitializeForFirstActivation([](const QString&) { return QString(); });
+    ctx.recorder.UpdateStatusBarPlus();
+    controller.FinishFirstActivation();
+    ControlService control(ctx.ForControl(messageBox));
+    control.Register(QDBusConnection::sessionBus());
+    qInfo().noquote() << "Nightreel 2000 is running without a window.";
+
+    TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::TerminationRequested, &app,
+                     [&ctx] { QuitWhenIdle(ctx); });
+    const int result = QCoreApplication::exec();
+    controller.Form_Unload();
+    return result;
+}
+
+} // namespace HeadlessStart

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "common/Clock.h"
+#include "common/ProcessLauncher.h"
+#include "platform/AudioDevices.h"
+#include "platform/DiskSpace.h"
+#include "platform/Joystick.h"
+#include "platform/Mixer.h"
+#include "platform/NetworkConnections.h"
+#include "platform/SleepInhibitor.h"
+#include "platform/WindowList.h"
+#include "shell/AppContext.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+
+// The seams as the program runs them: the system's clock and the operating system's pieces.
+// Only the message boxes differ between the window and the run without one.
+struct SystemSeams {
+    // The machine's sleep and wake alarm are kept on the system bus; a run that records
+    // nothing passes a bus that is not connected.
+    explicit SystemSeams(const QDBusConnection& sleepBus = QDBusConnection::systemBus())
+        : sleepInhibitor(sleepBus, QStringLiteral("/sys/class/rtc/rtc0/wakealarm"))
+    {
+    }
+
+    Seams With(MessageBoxPresenter& messageBox)
+    {
+        return Seams{clock, messageBox, launcher, audioDevices,   diskSpace,
+                     mixer, windows,    network,  sleepInhibitor, joystick};
+    }
+
+    SystemClock clock;
+    DetachedProcessLauncher launcher;
+    PulseAudioDevices audioDevices;
+    StorageDiskSpace diskSpace;
+    MixsetMixer mixer;
+    XcbWindowList windows;
+    NetworkManagerConnections network;
+    LogindSleepInhibitor sleepInhibitor;
+    LinuxJoystick joystick;
+};
+
+// The names under which the settings and the data folder are found.
+inline void SetApplicationNames()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Larkmoor Systems"));
+    QCoreApplication::setApplicationName(QStringLiteral("Nightreel"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("%1.%2.%3")
+                                                .arg(NIGHTREEL_VERSION_MAJOR)
+                                                .arg(NIGHTREEL_VERSION_MINOR)
+                                                .arg(NIGHTREEL_VERSION_REV));
+}
