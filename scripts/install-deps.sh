@@ -11,6 +11,7 @@ packages=(
     libgstreamer1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
+    weston qt6-wayland pipewire pipewire-pulse wireplumber
     desktop-file-utils appstream librsvg2-bin dpkg-dev file libqt6svg6
 )
 missing=()

@@ -172,7 +172,7 @@ private slots:
               "chkPurgeOldRecordings=1", "txtLongRecordingHours=5", "TextDurationHours=2",
               "TextDurationMinutes=3", "TextDurationSeconds=4", "txtWarnRecMegsLeft=100",
               "txtStopRecMegsLeft=60", "txtPurgeDays=10", "txtFwdRev0=20",
-              "chkKeepAwakeForRecordings=0", "chkSilenceAlarm=0"})
+              "chkKeepAwakeForRecordings=0", "chkSilenceAlarm=0", "chkShowDesktopNotifications=0"})
             Enter(*form, edit);
         form->findChild<QComboBox*>("comboMinSec0")->setCurrentIndex(1);
         form->findChild<QComboBox*>("comboDefaultRecordFileNameFormat")->setCurrentIndex(2);
@@ -206,6 +206,7 @@ private slots:
         QCOMPARE(o.DefaultRecordFileNameFormat, qint16(2));
         QCOMPARE(o.KeepAwakeForRecordings, false);
         QCOMPARE(o.SilenceAlarm, false);
+        QCOMPARE(o.ShowDesktopNotifications, false);
         QCOMPARE(o.PlayStepSizes[0].Value, 20);
         QCOMPARE(o.PlayStepSizes[0].Minute, true);
         QCOMPARE(o.DefaultRecordingDirectory, f.tc.Root() + "/rec");

@@ -51,7 +51,7 @@ QVariant Member(const Options& o, const QString& name)
         MEMBER(ConfirmLongRecordings), MEMBER(ConvertToMP3),
         MEMBER(PurgeRecordings),       MEMBER(HiddenWindowStatupMode),
         MEMBER(ShowSplashScreen),      MEMBER(KeepAwakeForRecordings),
-        MEMBER(SilenceAlarm)};
+        MEMBER(SilenceAlarm),          MEMBER(ShowDesktopNotifications)};
     static const QHash<QString, QString Options::*> texts = {MEMBER(DefaultRecordingDirectory),
                                                              MEMBER(MixerFilePath)};
     if (ints.contains(name))
@@ -159,6 +159,7 @@ private slots:
         row("first KeepAwakeForRecordings", "KeepAwakeForRecordings", nullptr, true, "True");
         row("first SilenceAlarm", "SilenceAlarm", nullptr, true, "True");
         row("first SilenceAlarmSeconds", "SilenceAlarmSeconds", nullptr, 120, "120");
+        row("first ShowDesktopNotifications", "ShowDesktopNotifications", nullptr, true, "True");
 
         row("folder saved empty", "DefaultRecordingDirectory", " ", "", " ");
 

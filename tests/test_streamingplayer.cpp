@@ -60,15 +60,20 @@ private slots:
         QTest::addColumn<QStringList>("titles");
         QTest::addColumn<bool>("firstRefuses");
         QTest::addColumn<QList<bool>>("closed");
+        // The X server stands for XWayland there: its windows close, and the log says once
+        // that native Wayland windows can't.
+        QTest::addColumn<bool>("waylandSession");
         const QStringList titles{"Media PLAYER", "player - radio", "Notes"};
         QTest::newRow("by part of the title")
-            << "  player " << titles << false << QList<bool>{true, true, false};
+            << "  player " << titles << false << QList<bool>{true, true, false} << false;
         QTest::newRow("never") << "DO_NOT_CLOSE" << titles << false
-                               << QList<bool>{false, false, false};
+                               << QList<bool>{false, false, false} << false;
         QTest::newRow("player refuses")
-            << "player" << titles << true << QList<bool>{false, true, false};
+            << "player" << titles << true << QList<bool>{false, true, false} << false;
         QTest::newRow("own windows too") << "nightreel" << QStringList{"Nightreel 2000", "Notes"}
-                                         << false << QList<bool>{true, false};
+                                         << false << QList<bool>{true, false} << false;
+        QTest::newRow("on a Wayland session")
+            << "player" << titles << false << QList<bool>{true, true, false} << true;
     }
 
     void closingAtTheEndOfTheRecording()
@@ -77,6 +82,10 @@ private slots:
         QFETCH(QStringList, titles);
         QFETCH(bool, firstRefuses);
         QFETCH(QList<bool>, closed);
+        QFETCH(bool, waylandSession);
+        if (waylandSession)
+            qputenv("WAYLAND_DISPLAY", "wayland-test");
+        const auto leaveWayland = qScopeGuard([] { qunsetenv("WAYLAND_DISPLAY"); });
 
         QList<QProcess*> windows;
         // A failed check leaves the function early; its windows are not to meet the next row.
@@ -96,6 +105,11 @@ private slots:
         for (int i = 0; i < windows.size(); ++i)
             QVERIFY2(XDisplay::Closed(windows[i], closed[i] ? 3000 : 500) == closed[i],
                      qPrintable(titles[i]));
+        const QList<LogEntry> log = r.tc.LogEntries();
+        QCOMPARE(std::count_if(
+                     log.cbegin(), log.cend(),
+                     [](const LogEntry& e) { return e.message == "Streaming player on Wayland"; }),
+                 waylandSession ? 1 : 0);
     }
 
     void automaticSearchClosesOnlyTheNewWindows()

@@ -30,19 +30,21 @@ void EventLog::LogEvent(qint16 type, const QString& message, const QString& deta
         const int count = CountEventLogRows();
         // Counted before the insert: the row that makes 951 does not yet fill the log.
         m_error.SetElogFull(count >= FullAt);
-        if (count >= LimitRows)
-            return;
-        rs.AddNew();
-        rs.SetValue(QStringLiteral("Type"), type);
-        rs.SetValue(QStringLiteral("DateAndTime"), m_clock.Now());
-        rs.SetValue(QStringLiteral("Message"), message);
-        rs.SetValue(QStringLiteral("Details"), details);
-        rs.Update();
-        if (type != EventInformation)
-            m_error.NewElogMsgAdded();
+        if (count < LimitRows) {
+            rs.AddNew();
+            rs.SetValue(QStringLiteral("Type"), type);
+            rs.SetValue(QStringLiteral("DateAndTime"), m_clock.Now());
+            rs.SetValue(QStringLiteral("Message"), message);
+            rs.SetValue(QStringLiteral("Details"), details);
+            rs.Update();
+            if (type != EventInformation)
+                m_error.NewElogMsgAdded();
+        }
     } catch (const std::exception&) {
         // A failure to log can't be logged; the caller goes on.
     }
+    if (m_listener)
+        m_listener(type, message, details);
 }
 
 int EventLog::CountEventLogRows()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 class AppDatabase;
 class Clock;
@@ -26,10 +27,17 @@ public:
     void LogRuntimeError(const QString& procedureName, const RuntimeError& error);
     static QString RuntimeErrorDetails(const QString& procedureName, const RuntimeError& error);
 
+    // Hears every entry, written or not (a full log drops it): the desktop notifications
+    // follow the log. One listener; an empty one ends the listening. It must not throw.
+    using Listener =
+        std::function<void(qint16 type, const QString& message, const QString& details)>;
+    void SetListener(Listener listener) { m_listener = std::move(listener); }
+
 private:
     int CountEventLogRows();
 
     AppDatabase& m_database;
     clsError& m_error;
     const Clock& m_clock;
+    Listener m_listener;
 };

@@ -23,7 +23,7 @@ SysTrayIcon::~SysTrayIcon()
 
 int SysTrayIcon::Shown() const
 {
-    return QSystemTrayIcon::isSystemTrayAvailable() ? Done : Refused;
+    return Available() ? Done : Refused;
 }
 
 int SysTrayIcon::Activate(const SysTrayPicture& picture, const QString& tip, bool hideForm)

@@ -27,6 +27,17 @@ public:
     // Where the user's clicks on the icon are heard.
     QSystemTrayIcon& Icon() { return m_icon; }
 
+    // Whether the desktop has a notification area now. Without one a hidden window could
+    // not be found again, so the window is minimised to the task bar instead.
+    static bool Available() { return QSystemTrayIcon::isSystemTrayAvailable(); }
+    // Why nothing is hidden in the tray, for the log and the forms' tips.
+    static QString MissingNote()
+    {
+        return QStringLiteral("This desktop has no notification area (system tray) to hide "
+                              "Nightreel 2000 in: the window is minimised to the task bar "
+                              "instead, and a hidden start starts minimised.");
+    }
+
 private:
     int Shown() const;
 

@@ -3,6 +3,7 @@
 #include "common/AutomationDate.h"
 #include "common/MessageBox.h"
 #include "common/TextHelpers.h"
+#include "diagnostics/SysTrayIcon.h"
 #include "diagnostics/Trap.h"
 #include "diagnostics/clsError.h"
 #include "formats/FormatStore.h"
@@ -346,9 +347,15 @@ QWidget* frmOptions::BuildAdvancedTab()
               QStringLiteral("chkKeepAwakeForRecordings"));
     chkSilenceAlarm = Named(new QCheckBox(QStringLiteral("&Warn when a recording is silent")),
                             QStringLiteral("chkSilenceAlarm"));
+    chkShowDesktopNotifications =
+        Named(new QCheckBox(QStringLiteral("Show desktop &notifications")),
+              QStringLiteral("chkShowDesktopNotifications"));
+    chkShowDesktopNotifications->setToolTip(
+        QStringLiteral("A failed recording, a silent input, a full disk or a failed conversion "
+                       "is also announced on the desktop."));
     for (QCheckBox* box :
          {chkAllowJoystickActivation, chkRemoveExpiredPrograms, chkShowRecordingTimeInTaskBar,
-          chkKeepAwakeForRecordings, chkSilenceAlarm})
+          chkKeepAwakeForRecordings, chkSilenceAlarm, chkShowDesktopNotifications})
         layout->addWidget(box);
     comboDefaultRecordFileNameFormat =
         Named(new QComboBox, QStringLiteral("comboDefaultRecordFileNameFormat"));
@@ -422,6 +429,10 @@ void frmOptions::FormLoad(bool mediaPlayerAvailable)
 
         optHiddenStartupMode->setChecked(o.HiddenWindowStatupMode);
         optNormalStartupMode->setChecked(!o.HiddenWindowStatupMode);
+        if (!SysTrayIcon::Available()) {
+            optHiddenStartupMode->setEnabled(false);
+            optHiddenStartupMode->setToolTip(SysTrayIcon::MissingNote());
+        }
         chkShowSplashScreen->setChecked(o.ShowSplashScreen);
 
         txtWarnRecMegsLeft->setText(QString::number(o.WarnRecMegsLeft));
@@ -435,6 +446,7 @@ void frmOptions::FormLoad(bool mediaPlayerAvailable)
         chkShowRecordingTimeInTaskBar->setChecked(o.ShowRecordingTimeInTaskBar);
         chkKeepAwakeForRecordings->setChecked(o.KeepAwakeForRecordings);
         chkSilenceAlarm->setChecked(o.SilenceAlarm);
+        chkShowDesktopNotifications->setChecked(o.ShowDesktopNotifications);
         comboDefaultRecordFileNameFormat->setCurrentIndex(o.DefaultRecordFileNameFormat);
         lblMixerControl->setText(m_workingMixerPath);
 
@@ -618,6 +630,8 @@ void frmOptions::cmdOK_Click()
         storeBool("KeepAwakeForRecordings", o.KeepAwakeForRecordings,
                   chkKeepAwakeForRecordings->isChecked());
         storeBool("SilenceAlarm", o.SilenceAlarm, chkSilenceAlarm->isChecked());
+        storeBool("ShowDesktopNotifications", o.ShowDesktopNotifications,
+                  chkShowDesktopNotifications->isChecked());
         o.MixerFilePath = m_workingMixerPath;
         store("MixerFilePath", m_workingMixerPath);
         storeBool("AllowJoystickActivation", o.AllowJoystickActivation,

@@ -119,6 +119,7 @@ private:
     QCheckBox* chkShowRecordingTimeInTaskBar;
     QCheckBox* chkKeepAwakeForRecordings;
     QCheckBox* chkSilenceAlarm;
+    QCheckBox* chkShowDesktopNotifications;
     QComboBox* comboDefaultRecordFileNameFormat;
     QLabel* lblMixerControl;
     QPushButton* btnSelectMixer;

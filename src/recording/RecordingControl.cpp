@@ -74,7 +74,7 @@ RecordingControl::RecordingControl(const RecorderServices& services, RecordingTa
     , m_status(status)
     , m_conversion(conversion)
     , m_manual(manual)
-    , m_player(services.clock, services.windows)
+    , m_player(services.clock, services.windows, services.log)
 {
     connect(&m_link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
     connect(&m_link, &RecordingTaskLink::TaskError, this, &RecordingControl::OnTaskError);

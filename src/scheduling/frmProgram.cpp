@@ -7,8 +7,10 @@
 #include "formats/clsRecordingFormat.h"
 #include "formats/frmRecordFormat.h"
 #include "gui/FormPlacement.h"
+#include "platform/WaylandSession.h"
 #include "scheduling/ProgramValidator.h"
 #include "scheduling/frmLaunchProgramInfo.h"
+#include "sideactions/StreamingPlayer.h"
 #include "sideactions/ViewHtmlFile.h"
 #include "store/Options.h"
 
@@ -319,6 +321,8 @@ void frmProgram::BuildInternetTab(QWidget* page)
     }
     optCloseStreamingPlayer[0]->setChecked(true);
     txtStreamingPlayerWindowTitle = Named(new QLineEdit, "txtStreamingPlayerWindowTitle");
+    if (IsWaylandSession())
+        frameCloseStreamingPlayer->setToolTip(StreamingPlayer::WaylandNote());
     chkHangUp =
         Named(new QCheckBox(QStringLiteral("&Hang up dial up connection when done recording")),
               "chkHangUp");

@@ -28,6 +28,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
                      })
     , savedLists(database, recordingsList, folders.dataFolder)
     , joystick(seams.joystick)
+    , desktopNotifications(seams.notifications)
+    , recorderNotifications(log, options, appStatus, error, recorder, desktopNotifications)
 {
     // The purge is part of the recorder's run, with a window or without; a window that is
     // there shows the list afterwards.

@@ -7,6 +7,7 @@
 #include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
 #include "recording/Recorder.h"
+#include "recording/RecorderNotifications.h"
 #include "scheduling/ProgramFormServices.h"
 #include "scheduling/ProgramListCommands.h"
 #include "scheduling/Scheduler.h"
@@ -20,6 +21,7 @@
 
 class AudioDevices;
 class Clock;
+class DesktopNotifications;
 class DiskSpace;
 class Joystick;
 class MessageBoxPresenter;
@@ -41,6 +43,7 @@ struct Seams {
     NetworkConnections& network;
     SleepInhibitor& sleepInhibitor;
     Joystick& joystick;
+    DesktopNotifications& notifications;
 };
 
 // The composition root: what the system holds for the whole run, built in the entry
@@ -88,4 +91,8 @@ public:
     SavedLists savedLists;
     // Its buttons start, pause and stop manual recordings.
     Joystick& joystick;
+    // The desktop's notifications: the recorder's troubles go there, and a click on one
+    // asks for the event log.
+    DesktopNotifications& desktopNotifications;
+    RecorderNotifications recorderNotifications;
 };

@@ -22,7 +22,7 @@ int Inspect(int argc, char* argv[], const QString& file)
     SetApplicationNames();
     WidgetMessageBox messageBox;
     // Inspecting a file records nothing: no bus, no alarm.
-    SystemSeams seams{QDBusConnection(QString())};
+    SystemSeams seams{QDBusConnection(QString()), QDBusConnection(QString())};
     AppContext ctx(seams.With(messageBox), AppFolders::ForCurrentUser());
     QTextStream out(stdout);
     return InspectFile(ctx.log, file, out);

@@ -3,6 +3,7 @@
 #include "common/Clock.h"
 #include "common/ProcessLauncher.h"
 #include "platform/AudioDevices.h"
+#include "platform/DesktopNotifications.h"
 #include "platform/DiskSpace.h"
 #include "platform/Joystick.h"
 #include "platform/Mixer.h"
@@ -17,17 +18,20 @@
 // The seams as the program runs them: the system's clock and the operating system's pieces.
 // Only the message boxes differ between the window and the run without one.
 struct SystemSeams {
-    // The machine's sleep and wake alarm are kept on the system bus; a run that records
-    // nothing passes a bus that is not connected.
-    explicit SystemSeams(const QDBusConnection& sleepBus = QDBusConnection::systemBus())
+    // The machine's sleep and wake alarm are kept on the system bus, the desktop's
+    // notifications on the session bus; a run that records nothing passes buses that are not
+    // connected.
+    explicit SystemSeams(const QDBusConnection& sleepBus = QDBusConnection::systemBus(),
+                         const QDBusConnection& sessionBus = QDBusConnection::sessionBus())
         : sleepInhibitor(sleepBus, QStringLiteral("/sys/class/rtc/rtc0/wakealarm"))
+        , notifications(sessionBus)
     {
     }
 
     Seams With(MessageBoxPresenter& messageBox)
     {
-        return Seams{clock, messageBox, launcher, audioDevices,   diskSpace,
-                     mixer, windows,    network,  sleepInhibitor, joystick};
+        return Seams{clock,   messageBox, launcher,       audioDevices, diskSpace,    mixer,
+                     windows, network,    sleepInhibitor, joystick,     notifications};
     }
 
     SystemClock clock;
@@ -39,6 +43,7 @@ struct SystemSeams {
     NetworkManagerConnections network;
     LogindSleepInhibitor sleepInhibitor;
     LinuxJoystick joystick;
+    FreedesktopNotifications notifications;
 };
 
 // The names under which the settings and the data folder are found.

@@ -4,6 +4,7 @@
 #include "common/MessageBox.h"
 #include "common/ProgramFiles.h"
 #include "common/Twips.h"
+#include "diagnostics/SysTrayIcon.h"
 #include "diagnostics/Trap.h"
 #include "diagnostics/clsSysTrayMgr.h"
 #include "diagnostics/frmElog.h"
@@ -11,6 +12,7 @@
 #include "diagnostics/frmSysTray.h"
 #include "options/frmOptions.h"
 #include "options/frmSelectRecordDirectory.h"
+#include "platform/DesktopNotifications.h"
 #include "platform/Joystick.h"
 #include "player/MediaPlayerAvailable.h"
 #include "player/PlayPanels.h"
@@ -215,6 +217,9 @@ void frmMain::ConnectCommands()
     connect(ui.SSTab1, &QTabWidget::currentChanged, this, &frmMain::SSTab1_Click);
     connect(&m_ctx.appStatus, &clsAppStatus::Update, this, &frmMain::UpdateModeDisplay);
     connect(&m_ctx.error, &clsError::IndicationUpdated, this, &frmMain::ApplyErrorIndication);
+    // Queued: the click arrives from the bus, and the log opens as a dialog of its own.
+    connect(&m_ctx.desktopNotifications, &DesktopNotifications::EventLogRequested, this,
+            &frmMain::ShowEventLogFromNotification, Qt::QueuedConnection);
     connect(&m_controller, &MainFormController::ListsReplaced, this, [this] {
         UpdateProgramsButtonsAndMenus();
         UpdateRecordingsButtonsAndMenus();
@@ -354,6 +359,9 @@ void frmMain::FirstActivate()
     ApplyErrorIndication(m_ctx.error.Indication());
     UpdateProgramsButtonsAndMenus();
     UpdateRecordingsButtonsAndMenus();
+    if (!SysTrayIcon::Available())
+        m_ctx.log.LogEvent(EventInformation, QStringLiteral("No notification area"),
+                           SysTrayIcon::MissingNote());
     if (m_startHidden || m_ctx.options.HiddenWindowStatupMode)
         HideToTray();
 }
@@ -568,8 +576,21 @@ void frmMain::ShowHelp(const QString& anchor)
 
 void frmMain::HideToTray()
 {
+    if (!SysTrayIcon::Available()) {
+        showMinimized();
+        return;
+    }
     hide();
     m_sysTray->mnuRestore->setEnabled(true);
+}
+
+// A click on one of the program's desktop notifications: the window comes forward with the
+// event log open, unless a dialog is already waiting for the user there.
+void frmMain::ShowEventLogFromNotification()
+{
+    RestoreFromTray();
+    if (!QApplication::activeModalWidget())
+        ui.Action(QStringLiteral("mnuViewErrorLog"))->trigger();
 }
 
 void frmMain::RestoreFromTray()
@@ -586,8 +607,8 @@ void frmMain::RestoreFromTray()
 void frmMain::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
-    // The form never stays minimised: minimising means hiding to the tray.
-    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+    // The form never stays minimised where there is a tray: minimising means hiding to it.
+    if (event->type() == QEvent::WindowStateChange && isMinimized() && SysTrayIcon::Available()) {
         setWindowState(windowState() & ~Qt::WindowMinimized);
         QTimer::singleShot(0, this, &frmMain::HideToTray);
     }

@@ -42,8 +42,10 @@ public:
     void UpdateStatusBarPlus();
     void UpdateProgramsButtonsAndMenus();
     void UpdateRecordingsButtonsAndMenus();
+    // Where the desktop has no notification area, the window is minimised instead.
     void HideToTray();
     void RestoreFromTray();
+    void ShowEventLogFromNotification();
     // The small window that puts the elapsed time of a recording on the task bar.
     void ShowRecordingStatusForm();
 

@@ -2,12 +2,15 @@
 
 #include "common/AutomationDate.h"
 #include "common/Clock.h"
+#include "diagnostics/EventLog.h"
+#include "platform/WaylandSession.h"
 
 #include <cstdlib>
 
-StreamingPlayer::StreamingPlayer(Clock& clock, WindowList& windows)
+StreamingPlayer::StreamingPlayer(Clock& clock, WindowList& windows, EventLog& log)
     : m_clock(clock)
     , m_windows(windows)
+    , m_log(log)
     , m_snapshotTime(AutomationDate::LongAgo())
 {
 }
@@ -49,14 +52,24 @@ void StreamingPlayer::SnapshotWindowsAtRecordingStart()
     }
 }
 
+void StreamingPlayer::NoteWaylandOnce()
+{
+    if (m_waylandNoted || !IsWaylandSession())
+        return;
+    m_waylandNoted = true;
+    m_log.LogEvent(EventInformation, QStringLiteral("Streaming player on Wayland"), WaylandNote());
+}
+
 void StreamingPlayer::CloseNewWindows()
 {
+    NoteWaylandOnce();
     for (WindowHandle window : m_secondCollection)
         m_windows.RequestClose(window);
 }
 
 void StreamingPlayer::CloseWindowsByTitle(const QString& Title)
 {
+    NoteWaylandOnce();
     const QString searchTitle = Title.trimmed().toUpper();
     for (const TopLevelWindow& window : m_windows.TopLevelWindows())
         if (!window.title.isEmpty() && window.title.trimmed().toUpper().contains(searchTitle))

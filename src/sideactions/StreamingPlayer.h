@@ -7,6 +7,7 @@
 #include <QString>
 
 class Clock;
+class EventLog;
 
 // Closes the player that a web link opened before a recording, which the system didn't
 // start itself and can't follow: either the windows whose title holds a given text, or
@@ -14,7 +15,7 @@ class Clock;
 // recording. Closing is a request; what the player does with it isn't checked.
 class StreamingPlayer {
 public:
-    StreamingPlayer(Clock& clock, WindowList& windows);
+    StreamingPlayer(Clock& clock, WindowList& windows, EventLog& log);
 
     // The windows present just before the link is opened.
     void SnapshotWindowsBeforeLink();
@@ -30,11 +31,22 @@ public:
 
     static constexpr int SnapshotSpanSeconds = 150;
 
+    // What can't be closed on a Wayland session; the log says it once, at the first closing,
+    // and the program editor in its tip.
+    static QString WaylandNote()
+    {
+        return QStringLiteral("On a Wayland session only players that run as X11 programs "
+                              "(XWayland) can be closed: native Wayland windows can't be.");
+    }
+
 private:
     QList<TopLevelWindow> SnapshotCandidates();
+    void NoteWaylandOnce();
 
     Clock& m_clock;
     WindowList& m_windows;
+    EventLog& m_log;
+    bool m_waylandNoted = false;
     QSet<WindowHandle> m_firstCollection;
     // In the order the desktop listed them, which is the order of closing.
     QList<WindowHandle> m_secondCollection;

@@ -286,6 +286,8 @@ void Options::GetOptions(RegKeys& registry)
     GetIntOption(registry, QStringLiteral("SilenceThresholdDb"), SilenceThresholdDb, -90, -1, -60);
     GetIntOption(registry, QStringLiteral("SilenceAlarmSeconds"), SilenceAlarmSeconds, 1, 32767,
                  120);
+    GetBlnOption(registry, QStringLiteral("ShowDesktopNotifications"), ShowDesktopNotifications,
+                 true);
 
     // A warning that comes after the stop would never be seen: both go back to the defaults.
     if (WarnRecMegsLeft < StopRecMegsLeft) {

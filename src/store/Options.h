@@ -83,6 +83,8 @@ public:
     bool SilenceAlarm = true;
     qint16 SilenceThresholdDb = -60;
     qint16 SilenceAlarmSeconds = 120;
+    // What goes wrong while nobody watches also goes to the desktop's notifications.
+    bool ShowDesktopNotifications = true;
 
     // Reads every option but the window layout and the player choice, in a fixed order,
     // then repairs a warning limit set below the stopping limit.

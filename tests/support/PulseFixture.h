@@ -6,32 +6,42 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
+#include <list>
 #include <optional>
 #include <sys/types.h>
 
 // A PulseAudio server of the test's own, in a temporary runtime folder and home: a null sink
 // "recsink" whose monitor is remapped to the default source "recmic". What is played into the
 // sink is what a recording hears. The environment of the test process (and so of the tasks
-// it starts) points at this server while the fixture lives.
+// it starts) points at this server while the fixture lives. With NIGHTREEL_TEST_SOUND_SERVER
+// set to "pipewire" the server is PipeWire's PulseAudio layer instead, as on most desktops
+// today.
 class PulseFixture {
 public:
     PulseFixture()
     {
-        for (const char* name : {"XDG_RUNTIME_DIR", "HOME", "PULSE_SERVER"})
+        for (const char* name :
+             {"XDG_RUNTIME_DIR", "HOME", "PULSE_SERVER", "DBUS_SESSION_BUS_ADDRESS"})
             m_saved.emplace_back(name, qEnvironmentVariableIsSet(name)
                                            ? std::optional<QByteArray>(qgetenv(name))
                                            : std::nullopt);
         qputenv("XDG_RUNTIME_DIR", m_dir.path().toUtf8());
         qputenv("HOME", m_dir.path().toUtf8());
         qunsetenv("PULSE_SERVER");
+        // Explicit, so that no client ever tries to start a server of its own.
+        const QByteArray server = ("unix:" + m_dir.path() + "/pulse/native").toUtf8();
+        if (qgetenv("NIGHTREEL_TEST_SOUND_SERVER") == "pipewire") {
+            qputenv("PULSE_SERVER", server);
+            m_running = StartPipeWire();
+            return;
+        }
         const int rc = QProcess::execute(
             "pulseaudio",
             {"--daemonize=yes", "-n", "--exit-idle-time=-1", "--disallow-exit",
              "--load=module-native-protocol-unix", "--load=module-null-sink sink_name=recsink",
              "--load=module-remap-source source_name=recmic master=recsink.monitor"});
         m_running = rc == 0;
-        // Explicit, so that no client ever tries to start a server of its own.
-        qputenv("PULSE_SERVER", ("unix:" + m_dir.path() + "/pulse/native").toUtf8());
+        qputenv("PULSE_SERVER", server);
     }
 
     ~PulseFixture()
@@ -49,6 +59,11 @@ public:
     void Stop()
     {
         StopTone();
+        for (QProcess& daemon : m_pipeWire) {
+            daemon.terminate();
+            if (!daemon.waitForFinished(3000))
+                daemon.kill();
+        }
         QFile pidFile(m_dir.path() + "/pulse/pid");
         if (!pidFile.open(QIODevice::ReadOnly))
             return;
@@ -98,7 +113,43 @@ public:
     }
 
 private:
+    // Its session manager wants a session bus: one of its own comes first, and the last
+    // daemon is the PulseAudio layer. The sink and source are made as PulseAudio makes them,
+    // once the session manager has taken the default source.
+    bool StartPipeWire()
+    {
+        QProcess& bus = m_pipeWire.emplace_back();
+        bus.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+        if (!bus.waitForStarted(3000) || !bus.waitForReadyRead(5000))
+            return false;
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
+        for (const char* daemon : {"pipewire", "wireplumber", "pipewire-pulse"}) {
+            m_pipeWire.emplace_back().start(daemon, {});
+            if (!m_pipeWire.back().waitForStarted(3000))
+                return false;
+        }
+        const auto pactl = [](const QStringList& args) {
+            QProcess p;
+            p.start("pactl", args);
+            return p.waitForFinished(5000) && p.exitCode() == 0;
+        };
+        // The server takes requests a moment after it starts, the default a moment later.
+        const auto retried = [&pactl](const QStringList& args) {
+            for (int i = 0; i < 100; ++i, QTest::qWait(100))
+                if (pactl(args))
+                    return true;
+            return false;
+        };
+        return retried({"info"}) &&
+               pactl({"load-module", "module-null-sink", "sink_name=recsink"}) &&
+               pactl({"load-module", "module-remap-source", "source_name=recmic",
+                      "master=recsink.monitor"}) &&
+               retried({"set-default-source", "recmic"});
+    }
+
     QTemporaryDir m_dir;
+    // The bus and the daemons of PipeWire, in their order of start.
+    std::list<QProcess> m_pipeWire;
     bool m_running = false;
     QProcess m_synth;
     QProcess m_player;

@@ -11,13 +11,17 @@
 // A system bus of the test's own (its address in DBUS_SYSTEM_BUS_ADDRESS while the object
 // lives) with one of python-dbusmock's stand-ins on it, given by its template name. It is
 // ready once the probe script succeeds; the calls it received are read back, and its
-// signals sent, through small Python scripts on the same bus.
+// signals sent, through small Python scripts on the same bus. A desktop service's stand-in
+// gets a session bus of its own in the same way (DBUS_SESSION_BUS_ADDRESS).
 class SystemBusStandIn {
 public:
-    SystemBusStandIn(const QString& mockTemplate, const QString& probe)
+    enum class Bus { System, Session };
+
+    SystemBusStandIn(const QString& mockTemplate, const QString& probe, Bus bus = Bus::System)
+        : m_variable(bus == Bus::System ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS")
     {
-        if (qEnvironmentVariableIsSet("DBUS_SYSTEM_BUS_ADDRESS"))
-            m_saved = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+        if (qEnvironmentVariableIsSet(m_variable))
+            m_saved = qgetenv(m_variable);
         const QString config = m_dir.path() + "/system.conf";
         QFile f(config);
         if (!f.open(QIODevice::WriteOnly))
@@ -36,9 +40,10 @@ public:
         if (!m_bus.waitForStarted(5000) || !m_bus.waitForReadyRead(5000))
             return;
         const QByteArray address = m_bus.readLine().trimmed();
-        qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
+        qputenv(m_variable, address);
         m_mock.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_mock.start(Python(), {"-m", "dbusmock", "--system", "--template", mockTemplate});
+        m_mock.start(Python(), {"-m", "dbusmock", bus == Bus::System ? "--system" : "--session",
+                                "--template", mockTemplate});
         if (!m_mock.waitForStarted(5000))
             return;
         for (int i = 0; i < 100 && !m_running; ++i) {
@@ -56,9 +61,9 @@ public:
                 p->kill();
         }
         if (m_saved)
-            qputenv("DBUS_SYSTEM_BUS_ADDRESS", *m_saved);
+            qputenv(m_variable, *m_saved);
         else
-            qunsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+            qunsetenv(m_variable);
     }
 
     bool Running() const { return m_running; }
@@ -83,6 +88,7 @@ protected:
     }
 
 private:
+    const char* m_variable;
     QTemporaryDir m_dir;
     QProcess m_bus;
     QProcess m_mock;

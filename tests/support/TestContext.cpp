@@ -19,7 +19,7 @@ QDBusConnection TestSystemBus()
 
 } // namespace
 
-TestContext::TestContext()
+TestContext::TestContext(DesktopNotifications* notifications)
     : sleepInhibitor(TestSystemBus(), WakeAlarmFile())
 {
     QFile(WakeAlarmFile()).open(QIODevice::WriteOnly);
@@ -30,7 +30,8 @@ TestContext::TestContext()
     QDir().mkpath(JoystickFolder());
     joystick.Watch(JoystickFolder());
     ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace,
-                                             mixer, windows, network, sleepInhibitor, joystick},
+                                             mixer, windows, network, sleepInhibitor, joystick,
+                                             notifications ? *notifications : noNotifications},
                                        folders);
 }
 

@@ -5,6 +5,7 @@
 #include "TestClock.h"
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
+#include "platform/DesktopNotifications.h"
 #include "platform/DiskSpace.h"
 #include "platform/Joystick.h"
 #include "platform/Mixer.h"
@@ -50,7 +51,8 @@ struct LogEntry {
 // its own settings file, the empty database in place, and the test seams.
 class TestContext {
 public:
-    TestContext();
+    // The desktop's notifications go nowhere unless the test gives its own.
+    explicit TestContext(DesktopNotifications* notifications = nullptr);
     ~TestContext();
 
     // Opens the database as the first activation does.
@@ -83,5 +85,6 @@ public:
     // and writes the driver's events into it.
     LinuxJoystick joystick;
     QString JoystickFolder() const { return m_dir.path() + "/input"; }
+    NoDesktopNotifications noNotifications;
     std::unique_ptr<AppContext> ctx;
 };

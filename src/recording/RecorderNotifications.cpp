@@ -1,0 +1,124 @@
+#include "recording/RecorderNotifications.h"
+
+#include "common/clsAppStatus.h"
+#include "diagnostics/EventLog.h"
+#include "diagnostics/clsError.h"
+#include "platform/DesktopNotifications.h"
+#include "recording/Recorder.h"
+#include "recording/RecordingTaskErrors.h"
+#include "store/Options.h"
+
+namespace {
+
+const QString kFailed = QStringLiteral("Recording failed");
+
+QHash<QString, RecorderNotifications::Event> Events()
+{
+    const QString diskFull = QStringLiteral("Free disk space fell below the limit set in Options.");
+    QHash<QString, RecorderNotifications::Event> events{
+        {QStringLiteral("Recording failed"), {kFailed, QStringLiteral("No sound was written.")}},
+        {QStringLiteral("Error activating recording task."),
+         {kFailed, QStringLiteral("The recording task did not start.")}},
+        {QStringLiteral("Error removing Recording Process."),
+         {kFailed, QStringLiteral("An earlier recording task could not be ended.")}},
+        {QStringLiteral("No response from recording task."),
+         {QStringLiteral("Recording task not responding"),
+          QStringLiteral("The recording was stopped.")}},
+        {QStringLiteral("Recording stopped due to insufficient disk space."),
+         {QStringLiteral("Recording stopped: disk nearly full"), diskFull}},
+        {QStringLiteral("Recording is silent"),
+         {QStringLiteral("Recording is silent"), QStringLiteral("No sound is coming in."), false,
+          false}},
+        {QStringLiteral("Error Converting to MP3"),
+         {QStringLiteral("MP3 conversion failed"), QString(), true}},
+        {QStringLiteral("MP3 conversion stopped due to insufficient disk space."),
+         {QStringLiteral("MP3 conversion stopped: disk nearly full"), diskFull, true}},
+    };
+    // Each of the task's error codes fails the recording, with its own heading as the reason.
+    for (qint32 code = 1000; code <= 1053; ++code)
+        events.insert(RecordingTaskErrorTexts(code).message, {kFailed, QString()});
+    return events;
+}
+
+} // namespace
+
+RecorderNotifications::RecorderNotifications(EventLog& log, const Options& options,
+                                             const clsAppStatus& appStatus, const clsError& error,
+                                             Recorder& recorder, DesktopNotifications& desktop,
+                                             QObject* parent)
+    : QObject(parent)
+    , m_log(log)
+    , m_options(options)
+    , m_appStatus(appStatus)
+    , m_error(error)
+    , m_recorder(recorder)
+    , m_desktop(desktop)
+    , m_events(Events())
+{
+    m_log.SetListener([this](qint16, const QString& message, const QString& details) {
+        Heard(message, details);
+    });
+    connect(&appStatus, &clsAppStatus::Update, this, &RecorderNotifications::ModeChanged);
+    connect(&error, &clsError::IndicationUpdated, this, &RecorderNotifications::DiskLowChanged);
+    // Said once in the log: nothing further happens without a notification service.
+    connect(&desktop, &DesktopNotifications::Unavailable, this, [this](const QString& why) {
+        m_log.LogEvent(EventInformation, QStringLiteral("No desktop notifications"),
+                       QStringLiteral("The desktop shows no notifications: ") + why);
+    });
+}
+
+RecorderNotifications::~RecorderNotifications()
+{
+    m_log.SetListener({});
+}
+
+void RecorderNotifications::Heard(const QString& message, const QString& details)
+{
+    const auto it = m_events.constFind(message);
+    if (it == m_events.cend())
+        return;
+    const Event& event = *it;
+    QString subject = m_recorder.Status().Description;
+    if (event.conversion) {
+        const auto& request = m_recorder.Conversion().CurrentConvertRequest;
+        subject = request ? request->Description : QString();
+    }
+    QString reason = event.reason;
+    if (reason.isEmpty())
+        reason = event.conversion ? details.section(u'\r', 0, 0) : message;
+    Send(event.summary, subject, reason, event.critical);
+}
+
+void RecorderNotifications::ModeChanged()
+{
+    const bool recording = m_appStatus.Recording();
+    const bool converting = m_appStatus.Converting();
+    if ((recording && !m_recording) || (converting && !m_converting))
+        m_sent.clear();
+    m_recording = recording;
+    m_converting = converting;
+}
+
+void RecorderNotifications::DiskLowChanged()
+{
+    const bool low = m_error.DiskLowWarn();
+    if (low && !m_diskLow)
+        Send(QStringLiteral("Disk space low"),
+             m_appStatus.Recording() ? m_recorder.Status().Description : QString(),
+             QStringLiteral("Less than %1 Megabytes are free in the recording folder.")
+                 .arg(m_options.WarnRecMegsLeft),
+             false);
+    m_diskLow = low;
+}
+
+void RecorderNotifications::Send(const QString& summary, const QString& subject,
+                                 const QString& reason, bool critical)
+{
+    if (!m_options.ShowDesktopNotifications)
+        return;
+    const QString body = subject.isEmpty() ? reason : subject + u'\n' + reason;
+    if (m_sent.contains(summary + u'\n' + body))
+        return;
+    m_sent.insert(summary + u'\n' + body);
+    m_desktop.Notify({summary, body, critical, true});
+}
