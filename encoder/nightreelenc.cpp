@@ -20,9 +20,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Room left at the front of a wave result for its header while the frames are written.
-// Any size works (the frames are moved behind the real header at the end); this one holds
-// the header of usual texts.
+// Room left at the front of a wave result for its header while the frames are written,
+// when the source does not tell the texts. Any size works (the frames are moved behind the
+// real header at the end); this one holds the header of usual texts.
 constexpr uint64_t WaveHeaderRoom = 1024;
 // The source is read in blocks of this size.
 constexpr size_t ReadBlockBytes = 64 * 1024;
@@ -56,6 +56,10 @@ struct Conversion {
     std::vector<unsigned char> record; // 18 + cbSize bytes
     int frameSamples = 1152;
     uint64_t outStart = 0; // where the frames start in the file while encoding
+    // The source's ISFT and INAM chunks (header and padded text) in bytes, 0 when absent:
+    // the same texts come to FinishEncodeMp3, so the header's size is known from the start.
+    uint64_t softwareChunk = 0;
+    uint64_t titleChunk = 0;
     uint64_t outBytes = 0; // frame bytes written
 
     std::vector<short> pcm;
@@ -172,6 +176,38 @@ bool ValidMp3(const NightreelWaveFormat& f)
            f.cbSize <= NIGHTREELENC_MAX_EXTRA_BYTES;
 }
 
+// The ISFT and INAM chunks of the source's LIST INFO chunk at `pos`, by their sizes.
+void ReadInfoSizes(uint64_t pos, uint32_t size)
+{
+    unsigned char type[4];
+    if (ReadAt(g.source, type, sizeof type, pos + 8) != 4 || std::memcmp(type, "INFO", 4) != 0)
+        return;
+    const uint64_t end = pos + 8 + size;
+    for (uint64_t at = pos + 12; at + 8 <= end;) {
+        unsigned char chunk[8];
+        if (ReadAt(g.source, chunk, sizeof chunk, at) != 8)
+            return;
+        const uint32_t textSize = Le32(chunk + 4);
+        const uint64_t whole = 8 + uint64_t(textSize) + (textSize & 1);
+        if (std::memcmp(chunk, "ISFT", 4) == 0)
+            g.softwareChunk = whole;
+        else if (std::memcmp(chunk, "INAM", 4) == 0)
+            g.titleChunk = whole;
+        at += whole;
+    }
+}
+
+// Where the frames of a wave result start: behind the header that the source's texts
+// give, so that finishing moves nothing; behind a fixed room when the source has none.
+uint64_t WaveFramesStart()
+{
+    if (g.softwareChunk == 0 || g.titleChunk == 0)
+        return WaveHeaderRoom;
+    const uint64_t record = g.record.size() + (g.record.size() & 1);
+    // RIFF form, ISFT, INAM, fmt, fact with its count, and the data chunk's header.
+    return 12 + g.softwareChunk + g.titleChunk + 8 + record + 12 + 8;
+}
+
 // Walks the source's chunks from the form on: `fmt ` must agree with the record, `data`
 // gives the data, the smaller of its header's size and what the file holds.
 int32_t OpenSourceData(const NightreelWaveFormat& expected)
@@ -211,6 +247,8 @@ int32_t OpenSourceData(const NightreelWaveFormat& expected)
                 Le16(fmt + 12) != expected.nBlockAlign || Le16(fmt + 14) != expected.nBitsPerSample)
                 return NIGHTREELENC_ERR_BAD_FORMAT;
             fmtSeen = true;
+        } else if (std::memcmp(chunk, "LIST", 4) == 0) {
+            ReadInfoSizes(pos, size);
         } else if (std::memcmp(chunk, "data", 4) == 0) {
             if (!fmtSeen)
                 return NIGHTREELENC_ERR_BAD_FORMAT;
@@ -291,7 +329,7 @@ int32_t Start(const char* source, const char* destination, const NightreelWaveFo
     g.destination = open(destination, O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (g.destination < 0)
         return NIGHTREELENC_ERR_CREATE_DESTINATION;
-    g.outStart = g.asWave ? WaveHeaderRoom : 0;
+    g.outStart = g.asWave ? WaveFramesStart() : 0;
     g.pcm.resize(size_t(g.frameSamples) * g.channels);
     g.phase = Phase::Encoding;
     return NIGHTREELENC_OK;

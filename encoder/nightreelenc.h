@@ -223,10 +223,12 @@ NIGHTREELENC_API int32_t EncodeNextBuffer(int32_t* percent, int32_t* finished);
  *           destination's rate if lame resampled);
  *   `data`  the MP3 frames (+ a pad byte when odd).
  * The frames are written during the steps behind room left for the header (so the file is
- * no valid wave file before this call); as the header's size is known only here, they are
- * then moved once to just behind it: finishing a wave result costs one read and write of
- * the MP3 data, in place (no more disk space than texts beyond the room would take; about
- * 9 ms for 10 minutes at 128 kbit/s, page cache warm).
+ * no valid wave file before this call). The room is the header that the source's own `ISFT`
+ * and `INAM` texts (in its LIST `INFO` chunk, as the recording task writes them) give: when
+ * the texts passed here are as long, the frames are already in place and finishing writes
+ * only the header, however long the recording. Otherwise (other texts, a source without
+ * them) the frames are moved once to just behind the header: one read and write of the MP3
+ * data, in place.
  *
  * Errors: WRITE, ENCODER, OUT_OF_ORDER.
  */

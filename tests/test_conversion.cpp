@@ -1,13 +1,17 @@
 // The MP3 conversion queue in the program's own recorder, with the real encoder library and
 // real files: a captured recording converted and listed, the queue's order, and every way a
 // conversion ends: done, stopped by the user, stopped beside a live recording, stopped by
-// the disk guard, failed. Results are checked with `lame --decode` and `sox stat`.
+// the disk guard, failed; and none of them loses the recording. Results are checked with
+// `lame --decode` and `sox stat`. The process runs in user and mount namespaces of its own, so
+// that the disk-full cases fill small real file systems without privilege.
 #include "LinkedRecording.h"
+#include "SmallFileSystem.h"
 #include "SoxTone.h"
 #include "TaskWaveSource.h"
 #include "TestContext.h"
 #include "TestFiles.h"
 #include "formats/CodecCatalogue.h"
+#include "formats/ModuleFileTime.h"
 #include "shell/MainFormController.h"
 #include "store/RecordingsList.h"
 
@@ -27,6 +31,11 @@
 
 namespace {
 const QString kErrorConverting = QStringLiteral("Error Converting to MP3");
+const QString kKept = QStringLiteral("Recording kept in PCM format");
+const QString kRecordingStopped =
+    QStringLiteral("Recording stopped due to insufficient disk space.");
+// Before main, while the process has one thread.
+const bool kOwnMountNamespace = SmallFileSystem::EnterOwnMountNamespace();
 
 struct Row {
     QString title;
@@ -34,6 +43,7 @@ struct Row {
     double start;
     double end;
     float size;
+    QString compression;
 };
 
 // The program's recorder over a fresh context, with the real task and encoder library.
@@ -42,10 +52,43 @@ public:
     Fixture()
     {
         tc.diskSpace.freeMb = 100000.0;
+        UseBuiltEncoder();
+    }
+
+    ~Fixture()
+    {
+        recorder().Stop();
+        for (const QString& mounted : m_mounted)
+            SmallFileSystem::Unmount(mounted);
+    }
+
+    void UseBuiltEncoder()
+    {
         queue().Encoder().SetFolder(QCoreApplication::applicationDirPath() + "/../src");
     }
 
-    ~Fixture() { recorder().Stop(); }
+    // A real file system of `kilobytes` at `path`; false where none can be mounted.
+    bool MountSmall(const QString& path, int kilobytes)
+    {
+        if (!kOwnMountNamespace || !SmallFileSystem::Mount(path, kilobytes))
+            return false;
+        m_mounted << path;
+        return true;
+    }
+
+    // Ends the program with its queue as it stands and starts it again, as a user's next
+    // start does: the recording folder checked, the recorder started.
+    void Restart()
+    {
+        recorder().Stop();
+        tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", folder);
+        tc.Restart();
+        tc.OpenDatabase();
+        UseBuiltEncoder();
+        MainFormController(*tc.ctx).CheckDefaultRecordingDirectory(
+            [](const QString&) { return QString(); });
+        recorder().Start();
+    }
 
     AppContext& ctx() { return *tc.ctx; }
     Recorder& recorder() { return tc.ctx->recorder; }
@@ -80,7 +123,7 @@ public:
         if (pcm.empty() || !TaskWaveSource::Write(
                                QFile::encodeName(request->SourceFile).toStdString(), 2, 44100, pcm))
             return nullptr;
-        queue().Mp3ConvertQueue.append(request);
+        queue().Add(request);
         return request;
     }
 
@@ -99,10 +142,11 @@ public:
     {
         QList<Row> rows;
         QSqlQuery q(tc.ctx->database.db.Connection());
-        q.exec("SELECT Title, File, StartTime, EndTime, Size FROM Recordings ORDER BY ID");
+        q.exec("SELECT Title, File, StartTime, EndTime, Size, CompressionMethod FROM Recordings "
+               "ORDER BY ID");
         while (q.next())
             rows.append({q.value(0).toString(), q.value(1).toString(), q.value(2).toDouble(),
-                         q.value(3).toDouble(), q.value(4).toFloat()});
+                         q.value(3).toDouble(), q.value(4).toFloat(), q.value(5).toString()});
         return rows;
     }
 
@@ -118,6 +162,20 @@ public:
     QStringList Captures() const
     {
         return QDir(folder).entryList({"*.WAV.TMP"}, QDir::Files, QDir::Name);
+    }
+
+    // A capture that was not converted: on disk as a wave file, listed as PCM with its
+    // recording's title, and logged once.
+    void VerifyKept(const clsConvertToMP3Request& request)
+    {
+        const QString kept = request.SourceFile.chopped(4);
+        QVERIFY2(QFileInfo(kept).size() > 44, qPrintable(kept));
+        bool listed = false;
+        for (const Row& row : Recordings())
+            listed = listed || (row.file == kept && row.title == request.Description &&
+                                row.compression.startsWith("PCM"));
+        QVERIFY2(listed, qPrintable(kept));
+        QCOMPARE(Logged(kKept).filter(kept).size(), 1);
     }
 
     // The row holds what the file holds: its length is the one the size gives.
@@ -137,6 +195,9 @@ public:
         QVERIFY2(qAbs(t.frequency - 1000) < 50, qPrintable(QString::number(t.frequency)));
         QVERIFY2(t.rms > 0.2, qPrintable(QString::number(t.rms)));
     }
+
+private:
+    QStringList m_mounted;
 };
 
 } // namespace
@@ -210,6 +271,8 @@ private slots:
         QCOMPARE(rows[0].file, request->DestinationFile);
         QCOMPARE(rows[0].title, description);
         f.VerifyRowLength(rows[0]);
+        // The file's date is the recording's end that the row shows, also after the tag.
+        QVERIFY(qAbs(ModuleFileTime::FileDateTime(rows[0].file) - rows[0].end) * 86400.0 < 1.0);
         QCOMPARE(f.queue().CurrentConvertRequest->PercentComplete, qint16(100));
 
         const QByteArray bytes = ReadFile(request->DestinationFile);
@@ -287,8 +350,9 @@ private slots:
     }
 
     // A stop with three waiting: the running MP3 is kept and listed with the length its size
-    // gives, the waiting captures are deleted but no file a recording task has open, the queue
-    // is empty, and only the running request's launch runs.
+    // gives, every capture of the queue stays as a listed PCM recording, no other capture is
+    // touched (least of all one a recording task has open), the queue is empty, and only the
+    // running request's launch runs.
     void stopSavesTheRunningAndDropsTheWaiting()
     {
         QFETCH(bool, whileRecording);
@@ -335,10 +399,13 @@ private slots:
 
         QVERIFY(f.Idle());
         const QList<Row> rows = f.Recordings();
-        QCOMPARE(rows.size(), 1);
-        QCOMPARE(rows[0].file, requests[0]->DestinationFile);
-        f.VerifyRowLength(rows[0]);
-        const QByteArray mp3 = ReadFile(rows[0].file);
+        QCOMPARE(rows.size(), 5);
+        const Row partial = rows[3];
+        QCOMPARE(partial.file, requests[0]->DestinationFile);
+        f.VerifyRowLength(partial);
+        for (const auto& request : requests)
+            f.VerifyKept(*request);
+        const QByteArray mp3 = ReadFile(partial.file);
         // Partial: 30 s at 128 kbit/s would be 480,000 bytes.
         QVERIFY2(mp3.size() > 10000 && mp3.size() < 400000,
                  qPrintable(QString::number(mp3.size())));
@@ -368,38 +435,31 @@ private slots:
             f.recorder().StopCommand(false);
             QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
             f.recorder().Start();
-            QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 30000);
-            QCOMPARE(f.Recordings()[1].title, QString("Live"));
+            QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 6, 30000);
+            QCOMPARE(f.Recordings()[5].title, QString("Live"));
         }
     }
 
-    void failedConversionDeletesItsFilesAndTheQueueGoesOn_data()
+    void failedConversionKeepsTheCaptureAndTheQueueGoesOn_data()
     {
         QTest::addColumn<bool>("diskFull");
         QTest::newRow("destination can't be created") << false;
         QTest::newRow("disk full while converting") << true;
     }
 
-    // A failure is logged once with its code and the recording's description, both files go,
-    // the launch runs as for a failed recording, and the next request still converts.
-    void failedConversionDeletesItsFilesAndTheQueueGoesOn()
+    // A failure is logged once with its code and the recording's description, the incomplete
+    // result goes but the recording stays as its PCM capture, the launch runs as for a failed
+    // recording, and the next request still converts.
+    void failedConversionKeepsTheCaptureAndTheQueueGoesOn()
     {
         QFETCH(bool, diskFull);
         Fixture f;
         QString destination = f.folder + "/no-such-folder/Lost.MP3";
         int expectedCode = 2003;
-        const QString small = f.tc.Root() + "/small";
-        bool mounted = false;
-        const auto unmount = qScopeGuard([&] {
-            if (mounted)
-                QProcess::execute("umount", {"-l", small});
-        });
         if (diskFull) {
-            QDir().mkpath(small);
-            mounted =
-                QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=64k", "tmpfs", small}) == 0;
-            if (!mounted)
-                QSKIP("no small file system can be mounted here (needs root)");
+            const QString small = f.tc.Root() + "/small";
+            if (!f.MountSmall(small, 64))
+                QSKIP("no user namespace here in which to mount a small file system");
             destination = small + "/Lost.MP3";
             expectedCode = 2006;
         }
@@ -408,34 +468,161 @@ private slots:
         QVERIFY(lost && next);
 
         f.recorder().Start();
-        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 1, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 30000);
         QCOMPARE(f.Logged(kErrorConverting),
                  QStringList{QString("Error Code: %1\r\nDescription: Lost").arg(expectedCode)});
-        QVERIFY(!QFile::exists(lost->SourceFile));
+        f.VerifyKept(*lost);
         QVERIFY(!QFile::exists(destination));
+        QVERIFY(!QFile::exists(ConversionQueue::ResultFile(*lost)));
         QCOMPARE(f.tc.launcher.started, QStringList{"/usr/bin/after " + destination});
-        QCOMPARE(f.Recordings()[0].title, QString("Next"));
+        QCOMPARE(f.Recordings()[1].title, QString("Next"));
         QCOMPARE(f.Captures(), QStringList());
     }
 
-    // The disk guard stops a conversion on a nearly full disk: the partial MP3 is kept and
-    // listed.
-    void diskGuardSavesThePartialConversion()
+    void queueOutlivesTheProgram_data()
     {
+        QTest::addColumn<QString>("end");
+        QTest::newRow("exit with a queue") << "exit";
+        QTest::newRow("killed while converting") << "killed";
+        QTest::newRow("encoder library missing") << "no library";
+    }
+
+    // Whatever ends the run before the queue is done, its recordings are converted at the
+    // next start, in order: no partial result ever carries a recording's name, and a missing
+    // encoder library holds the queue (logged once, with the loader's own words). A capture
+    // cut short by the end is kept and listed.
+    void queueOutlivesTheProgram()
+    {
+        QFETCH(QString, end);
+        Fixture f;
+        const auto first = f.Queue("First", 20);
+        const auto second = f.Queue("Second", 5);
+        QVERIFY(first && second);
+        if (end == "killed") {
+            // And a recording to convert was being captured: its task finished the file.
+            QVERIFY(TaskWaveSource::Write(
+                QFile::encodeName(f.folder + "/Interrupted.WAV.TMP").toStdString(), 2, 44100,
+                RawTone(44100, 2, 2)));
+            QVERIFY(f.ConvertSome(3));
+            QVERIFY(!QFile::exists(first->DestinationFile));
+            // What the end of the process does to the library's open conversion.
+            f.queue().Encoder().Mp3ConvertErrorCleanUp();
+        } else if (end == "no library") {
+            f.queue().Encoder().SetFolder(f.tc.Root() + "/nowhere");
+            f.queue().TimerConvert_Timer();
+            f.queue().TimerConvert_Timer();
+            const QStringList logged = f.Logged(kErrorConverting);
+            QCOMPARE(logged.size(), 1);
+            QVERIFY2(logged[0].startsWith("Error Code: 2000\r\nDescription: First\r\n") &&
+                         logged[0].contains("libnightreelenc.so"),
+                     qPrintable(logged[0]));
+            QVERIFY(!f.ctx().appStatus.Converting());
+        }
+        QCOMPARE(f.Recordings().size(), 0);
+
+        f.Restart();
+        const int interrupted = end == "killed" ? 1 : 0;
+        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2 + interrupted, 30000);
+        QList<Row> rows = f.Recordings();
+        if (interrupted) {
+            const Row kept = rows.takeFirst();
+            QCOMPARE(kept.file, f.folder + "/Interrupted.WAV");
+            QCOMPARE(kept.title, QString("Test source"));
+            QCOMPARE(f.Logged(kKept).filter(kept.file).size(), 1);
+        }
+        QCOMPARE(rows[0].file, first->DestinationFile);
+        QCOMPARE(rows[1].file, second->DestinationFile);
+        f.VerifyRowLength(rows[0]);
+        f.VerifyTone(ReadFile(rows[0].file).chopped(128));
+        QCOMPARE(f.Captures(), QStringList());
+        QCOMPARE(QDir(f.folder).entryList({"*.TMP"}, QDir::Files), QStringList());
+    }
+
+    void guardStoppedRecordingOnASmallDiskIsKept_data()
+    {
+        QTest::addColumn<bool>("diskFillsAfterTheStop");
+        QTest::newRow("its MP3 is made") << false;
+        QTest::newRow("another program fills the disk") << true;
+    }
+
+    // A recording to convert on a small real file system, whose folder in the options moves
+    // to a roomy disk while it runs: the guard watches the live file's disk and stops the
+    // recording in time (logged once, the disk not filled), and what was recorded is listed:
+    // its MP3, or its capture when the disk has no room left to convert.
+    void guardStoppedRecordingOnASmallDiskIsKept()
+    {
+        QFETCH(bool, diskFillsAfterTheStop);
+        Fixture f;
+        if (!f.MountSmall(f.folder, 6656))
+            QSKIP("no user namespace here in which to mount a small file system");
+        f.tc.diskSpace.freeMb.reset();
+        f.ctx().options.StopRecMegsLeft = 5;
+        f.SetMp3(f.recorder().Manual().Format, true);
+        const double from = f.tc.clock.Now();
+        // Short enough for the start's own check of the space; the clock stands still, so
+        // the guard ends it.
+        f.recorder().Control().StartRecording(-1, from, AutomationDate::AddSeconds(from, 3),
+                                              "Night concert");
+        QVERIFY(f.ctx().appStatus.Recording());
+        clsConvertToMP3Request recorded;
+        recorded.SourceFile = f.recorder().Status().RecordingFile;
+        recorded.Description = "Night concert";
+        f.ctx().options.DefaultRecordingDirectory = f.tc.Root();
+        f.recorder().HeartbeatTimer().Start();
+        QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 60000);
+
+        StorageDiskSpace disks;
+        const double free = disks.GetRecDirDiskSpaceMb(f.folder).free;
+        QVERIFY2(free > 4.0, qPrintable(QString::number(free)));
+        if (diskFillsAfterTheStop) {
+            QFile filler(f.folder + "/other program's file");
+            QVERIFY(filler.open(QIODevice::WriteOnly));
+            filler.write(QByteArray(qint64((free - 4.2) * 1048576), 'x'));
+        }
+        f.queue().Start();
+        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 1, 30000);
+        QCOMPARE(f.Logged(kRecordingStopped).size(), 1);
+        QCOMPARE(f.Logged("Recording failed"), QStringList());
+        if (diskFillsAfterTheStop) {
+            f.VerifyKept(recorded);
+        } else {
+            const Row row = f.Recordings()[0];
+            QVERIFY(row.file.endsWith(".MP3"));
+            f.VerifyTone(ReadFile(row.file).chopped(128));
+            QVERIFY(!QFile::exists(recorded.SourceFile));
+        }
+    }
+
+    void diskGuardKeepsTheCapture_data()
+    {
+        QTest::addColumn<bool>("started");
+        QTest::newRow("conversion stopped part-way") << true;
+        QTest::newRow("conversion not started") << false;
+    }
+
+    // On a nearly full disk no conversion starts, and the guard stops a running one (logging
+    // that once, however many rounds it takes): the recording stays as its PCM capture,
+    // listed, beside the partial MP3 that a stopped conversion saves.
+    void diskGuardKeepsTheCapture()
+    {
+        QFETCH(bool, started);
         Fixture f;
         const auto request = f.Queue("Guarded", 60);
         QVERIFY(request);
-        QVERIFY(f.ConvertSome(3));
+        if (started)
+            QVERIFY(f.ConvertSome(3));
         f.tc.diskSpace.freeMb = 0.0;
         f.recorder().UpdateStatusBarPlus();
-        QVERIFY(f.queue().StopMp3Conversion);
+        f.recorder().UpdateStatusBarPlus();
+        QCOMPARE(f.queue().StopMp3Conversion, started);
         f.queue().TimerConvert_Timer();
 
         QVERIFY(f.Idle());
-        QCOMPARE(f.Logged("MP3 conversion stopped due to insufficient disk space.").size(), 1);
-        const QList<Row> rows = f.Recordings();
-        // What is kept of a stopped conversion is checked with the user's stop.
-        QCOMPARE(rows.size(), 1);
+        QCOMPARE(f.Logged("MP3 conversion stopped due to insufficient disk space.").size(),
+                 started ? 1 : 0);
+        f.VerifyKept(*request);
+        QCOMPARE(f.Recordings().size(), started ? 2 : 1);
+        QCOMPARE(QFile::exists(request->DestinationFile), started);
         QVERIFY(QFileInfo(request->DestinationFile).size() < 60 * 16000);
         QCOMPARE(f.Captures(), QStringList());
     }
@@ -452,6 +639,7 @@ private slots:
         QVERIFY(f.ctx().appStatus.Recording());
         // Half a megabyte of MP3 is due at the start: above the limit by less than that.
         f.tc.diskSpace.freeMb = f.ctx().options.StopRecMegsLeft + 0.2;
+        f.recorder().UpdateStatusBarPlus();
         f.recorder().UpdateStatusBarPlus();
         QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
         const QStringList logged = f.Logged("Recording stopped due to insufficient disk space.");

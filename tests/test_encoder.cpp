@@ -346,6 +346,28 @@ private slots:
         }
     }
 
+    // With the capture's own texts, as the recorder passes them, a wave result's frames are
+    // in their final place before finishing: finishing writes the header and moves no audio,
+    // however long the recording.
+    void waveFinishMovesNoFramesWithTheCapturesTexts()
+    {
+        MakeSource("inplace.WAV.TMP", 44100, 2, 3);
+        const std::string record = TaskWaveSource::Mp3Record(2, 44100, 128);
+        QCOMPARE(Start(Path("inplace.WAV.TMP"), Path("inplace.WAV"),
+                       TaskWaveSource::PcmRecord(2, 44100), record, true),
+                 0);
+        for (qint32 percent = 0, finished = 0; finished != 1;)
+            QCOMPARE(m_enc.EncodeNextBuffer(&percent, &finished), 0);
+        const QByteArray encoded = ReadFile(Path("inplace.WAV"));
+        QCOMPARE(m_enc.FinishEncodeMp3("Nightreel 2000 1.0 ", " ", "Test source "), 0);
+        const QByteArray bytes = ReadFile(Path("inplace.WAV"));
+        QVERIFY(!VerifyWaveFile(bytes, record, 3 * 44100, "Nightreel 2000 1.0", "Test source")
+                     .isEmpty());
+        const qint64 dataStart = bytes.indexOf("data") + 8;
+        QVERIFY(encoded.size() > dataStart + 20000);
+        QVERIFY(encoded.mid(dataStart) == bytes.mid(dataStart, encoded.size() - dataStart));
+    }
+
     void diskFull()
     {
         MakeSource("df.WAV.TMP", 44100, 2, 3);

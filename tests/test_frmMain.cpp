@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
@@ -17,6 +18,7 @@
 #include <QTableView>
 #include <QTest>
 #include <QToolBar>
+#include <QToolTip>
 
 namespace {
 
@@ -352,6 +354,22 @@ private slots:
         s.form->ui.SSTab1->setCurrentIndex(0);
         QVERIFY(s.form->ui.mnuPrograms->menuAction()->isVisible());
         QVERIFY(!s.form->ui.mnuRecordings->menuAction()->isVisible());
+    }
+
+    void theProgramsTipShowsThePaddedTimes()
+    {
+        Started s;
+        s.Activate();
+        s.tc.ctx->options.PaddingSeconds = 120;
+        s.tc.AddProgram(Programs::Weekly("Padded", "20:00:00", "21:00:00", "0100000"));
+        s.form->show();
+        QTableView* grid = s.form->ui.DBGridPrograms;
+        const QPoint at = grid->visualRect(grid->model()->index(0, 0)).center();
+        QHelpEvent help(QEvent::ToolTip, at, grid->viewport()->mapToGlobal(at));
+        QApplication::sendEvent(grid->viewport(), &help);
+        QCOMPARE(QToolTip::text().section(" (", 0, 0),
+                 "Recorded from " + Options::TimeText(Programs::TimeOfDay("19:58:00")) + " to " +
+                     Options::TimeText(Programs::TimeOfDay("21:02:00")));
     }
 
     void headerClicksSortAscendingThenDescending()

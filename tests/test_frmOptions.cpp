@@ -111,6 +111,9 @@ private slots:
             << QStringList{"chkShowSplashScreen=0", "chkPurgeOldRecordings=1", "txtPurgeDays=2"}
             << true << QStringList{"PurgeDays==", "PurgeRecordings==", "ShowSplashScreen=False"}
             << false << false;
+        QTest::newRow("leaving the padding lowers 700 to 600")
+            << true << QStringList{"txtPaddingSeconds=700"} << false
+            << QStringList{"PaddingSeconds=600"} << false << false;
         QTest::newRow("long recording hours out of range keep both long settings")
             << true
             << QStringList{"chkConfirmLongRecordings=0", "txtLongRecordingHours=30",
@@ -172,7 +175,8 @@ private slots:
               "chkPurgeOldRecordings=1", "txtLongRecordingHours=5", "TextDurationHours=2",
               "TextDurationMinutes=3", "TextDurationSeconds=4", "txtWarnRecMegsLeft=100",
               "txtStopRecMegsLeft=60", "txtPurgeDays=10", "txtFwdRev0=20",
-              "chkKeepAwakeForRecordings=0", "chkSilenceAlarm=0", "chkShowDesktopNotifications=0"})
+              "chkKeepAwakeForRecordings=0", "chkSilenceAlarm=0", "chkShowDesktopNotifications=0",
+              "txtPaddingSeconds=90"})
             Enter(*form, edit);
         form->findChild<QComboBox*>("comboMinSec0")->setCurrentIndex(1);
         form->findChild<QComboBox*>("comboDefaultRecordFileNameFormat")->setCurrentIndex(2);
@@ -207,6 +211,7 @@ private slots:
         QCOMPARE(o.KeepAwakeForRecordings, false);
         QCOMPARE(o.SilenceAlarm, false);
         QCOMPARE(o.ShowDesktopNotifications, false);
+        QCOMPARE(o.PaddingSeconds, qint16(90));
         QCOMPARE(o.PlayStepSizes[0].Value, 20);
         QCOMPARE(o.PlayStepSizes[0].Minute, true);
         QCOMPARE(o.DefaultRecordingDirectory, f.tc.Root() + "/rec");

@@ -60,9 +60,9 @@ private slots:
             r.tc.clock.Set(LinkedRecording::At(time));
             r.tc.ctx->recorder.HeartbeatTimer().Timer1_Timer();
         };
-        r.tc.clock.Set(LinkedRecording::At("09:58:00"));
+        r.tc.clock.Set(LinkedRecording::At("09:57:30"));
         r.tc.ctx->scheduler.ScheduleNextRecording();
-        tick("09:58:00");
+        tick("09:57:30");
         QCOMPARE(WakeAlarm(r.tc), EpochText(LinkedRecording::At("09:58:40")));
         if (logind) {
             QCOMPARE(logind->Inhibitors(), QStringList{"sleep|Notes a recording that the sleep "
@@ -138,6 +138,57 @@ private slots:
         QVERIFY(logind.EmitPrepareForSleep(false));
         QTRY_COMPARE(logind.Inhibitors().filter("|delay").size(), 1);
         QCOMPARE(logind.BlockInhibitors(), 0);
+    }
+
+    // A program on Monday at 22:00 in the list; the user changes the list at noon.
+    void theAlarmFollowsTheProgramList_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QString>("alarm"); // the wake time, or "0" for cleared
+        QTest::newRow("added") << "add"
+                               << "21:59:00";
+        QTest::newRow("moved to 21:00") << "edit"
+                                        << "20:59:00";
+        QTest::newRow("removed") << "remove"
+                                 << "0";
+    }
+    void theAlarmFollowsTheProgramList()
+    {
+        QFETCH(QString, change);
+        QFETCH(QString, alarm);
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.clock.Set(LinkedRecording::At("12:00:00"));
+        const auto schedule = [&tc] {
+            tc.ctx->database.DataPrograms.Requery();
+            tc.ctx->scheduler.ScheduleNextRecording();
+            tc.ctx->recorder.KeepAwakeControl().Update();
+        };
+        // Another program later in the week keeps an alarm of ours set before the change.
+        tc.AddProgram(Programs::Weekly("Weekly", "09:00:00", "10:00:00", "0000001"));
+        schedule();
+        const qint64 id =
+            change == "add"
+                ? 0
+                : tc.AddProgram(Programs::Weekly("Night news", "22:00:00", "22:30:00", "0100000"));
+        schedule();
+        Recordset rs = tc.ctx->database.DataPrograms.recordset();
+        if (change == "add") {
+            tc.AddProgram(Programs::Weekly("Night news", "22:00:00", "22:30:00", "0100000"));
+        } else {
+            rs.FindFirst("Id = " + QString::number(id));
+            if (change == "edit") {
+                rs.Edit();
+                rs.SetValue("StartTime", Programs::TimeOfDay("21:00:00"));
+                rs.Update();
+            } else {
+                rs.Delete();
+                rs.FindFirst("Id = 1");
+                rs.Delete();
+            }
+        }
+        schedule();
+        QCOMPARE(WakeAlarm(tc), alarm == "0" ? alarm : EpochText(LinkedRecording::At(alarm)));
     }
 };
 

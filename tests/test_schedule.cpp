@@ -233,6 +233,48 @@ private slots:
         QVERIFY(capture.Contains("Module: DetermineNextProgramToSchedule"));
     }
 
+    // A program from 20:00 to 21:00 on Monday and maybe another after it.
+    void paddingWidensScheduledRecordings_data()
+    {
+        QTest::addColumn<int>("padding");
+        QTest::addColumn<QString>("following");
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("none") << 0 << ""
+                              << "20:00:00"
+                              << "21:00:00";
+        QTest::newRow("alone") << 300 << ""
+                               << "19:55:00"
+                               << "21:05:00";
+        QTest::newRow("gives way to the next") << 300 << "21:00:00"
+                                               << "19:55:00"
+                                               << "21:00:00";
+        QTest::newRow("gives way part way") << 300 << "21:03:00"
+                                            << "19:55:00"
+                                            << "21:03:00";
+        QTest::newRow("an overlapping one does not cut it") << 300 << "20:30:00"
+                                                            << "19:55:00"
+                                                            << "21:00:00";
+    }
+    void paddingWidensScheduledRecordings()
+    {
+        QFETCH(int, padding);
+        QFETCH(QString, following);
+        QFETCH(QString, start);
+        QFETCH(QString, end);
+        OpenedContext tc;
+        tc.ctx->options.PaddingSeconds = qint16(padding);
+        tc.AddProgram(Programs::Weekly("Evening", "20:00:00", "21:00:00", "0100000"));
+        if (!following.isEmpty())
+            tc.AddProgram(Programs::Weekly("Later", following, "23:00:00", "0100000"));
+        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
+        tc.ctx->scheduler.ScheduleNextRecording();
+        const NextProgram& n = tc.ctx->scheduler.next;
+        QCOMPARE(n.NextProgramDescription, QString("Evening"));
+        QCOMPARE(n.NextProgramStart, At(2026, 6, 1, start));
+        QCOMPARE(n.NextProgramEnd, At(2026, 6, 1, end));
+    }
+
     void launchTimesAheadOfTheStart_data()
     {
         QTest::addColumn<QString>("link");

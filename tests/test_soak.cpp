@@ -1,6 +1,8 @@
-// Two simulated days of the recorder on its own, the Sundays of the summer-time changes,
-// each with the clock set forward and back by an hour: every occurrence starts as often as
-// the rules give, and the cases that the rules decide start as worked out here by hand.
+// Three simulated days of the recorder on its own: the Sundays of the summer-time changes,
+// each with the clock set forward and back by an hour, and a Monday with the recorder
+// stopped for six hours and the computer asleep for two. Every occurrence starts as often as
+// the rules give, each one missed is logged once, and the cases that the rules decide start
+// as worked out here by hand.
 #include "SoakRun.h"
 
 #include <QTest>
@@ -13,7 +15,10 @@ private slots:
     {
         SoakOptions options;
         options.taskProgram = NIGHTREEL_FAKETASK;
-        options.stretches = {{QDate(2026, 3, 29), 1}, {QDate(2026, 10, 25), 1}};
+        options.stretches = {
+            {QDate(2026, 3, 29), 1}, {QDate(2026, 6, 8), 1}, {QDate(2026, 10, 25), 1}};
+        options.outages = {{QDateTime(QDate(2026, 6, 8), QTime(4, 30)), 6, false},
+                           {QDateTime(QDate(2026, 6, 8), QTime(15, 25)), 2, true}};
         m_report = RunSoak(options);
     }
 
@@ -23,7 +28,14 @@ private slots:
         QVERIFY2(m_report.faults.isEmpty(), qPrintable(m_report.faults.join('\n')));
         QCOMPARE(m_report.missed, 0);
         QCOMPARE(m_report.startedTwice, 0);
-        QVERIFY2(m_report.logged.isEmpty(), qPrintable(m_report.logged.join('\n')));
+        QCOMPARE(m_report.missedUnreported, 0);
+        // Only what the outages missed: 7 in the morning, 1 in the afternoon, and the two
+        // that started late.
+        QCOMPARE(m_report.logged.size(), 10);
+        for (const QString& row : m_report.logged)
+            QVERIFY2(row.startsWith("type 1: Missed recording: ") ||
+                         row.startsWith("type 1: Recording started late: "),
+                     qPrintable(row));
     }
 
     void startsOfOccurrence_data()
@@ -52,6 +64,10 @@ private slots:
             << "Saturday night|2026-03-28 23:00" << 1;
         QTest::newRow("late, after an overlapping program")
             << "Sunday service|2026-03-29 10:30" << 1;
+        QTest::newRow("while the recorder was stopped") << "Block A|2026-06-08 09:00" << 0;
+        QTest::newRow("late, after the recorder's start") << "Block B|2026-06-08 10:00" << 1;
+        QTest::newRow("while the computer slept") << "Tea time|2026-06-08 16:00" << 0;
+        QTest::newRow("late, after waking") << "Moved show|2026-06-08 17:10" << 1;
     }
 
     void startsOfOccurrence()

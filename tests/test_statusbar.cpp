@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QTest>
+#include <ctime>
 
 class TestStatusBar : public QObject {
     Q_OBJECT
@@ -50,23 +51,60 @@ private slots:
         QVERIFY(disk.GetRecDirDiskSpaceMb(QDir::tempPath()).total > 0.0);
     }
 
-    // The guard asks on every round and logs each time, as the system did; the stop request
-    // posts once and arms the watchdog that ends the recording if the task stays silent.
-    void theDiskGuardPostsTheStopOnceAndArmsTheWatchdog()
+    void theDiskGuardWatchesTheFilesBeingWritten_data()
     {
+        QTest::addColumn<bool>("converting");
+        QTest::newRow("the live recording") << false;
+        QTest::newRow("the running conversion") << true;
+    }
+
+    // The guard measures the disk of the file being written, not the folder that the options
+    // name now, and logs once however many rounds the stop takes; the recording's stop posts
+    // once and arms the watchdog that ends it if the task stays silent.
+    void theDiskGuardWatchesTheFilesBeingWritten()
+    {
+        QFETCH(bool, converting);
         TestContext tc;
         tc.OpenDatabase();
+        const QString written = tc.Root() + "/small disk";
         tc.ctx->options.DefaultRecordingDirectory = tc.Root();
         tc.ctx->options.StopRecMegsLeft = 25;
-        tc.diskSpace.freeMb = 10;
+        tc.diskSpace.freeMb = 1000;
+        tc.diskSpace.freeMbOf[written] = 10;
         Recorder& recorder = tc.ctx->recorder;
-        tc.ctx->appStatus.SetRecording(true);
-        recorder.Status().Description = "Concert";
-        recorder.UpdateStatusBarPlus();
-        QVERIFY(recorder.Status().StopRequested);
-        QCOMPARE(recorder.Link().tmrStopRecording.Interval(), 10000);
-        recorder.UpdateStatusBarPlus();
-        QCOMPARE(tc.CountRows("EventLog"), 2);
+        if (converting) {
+            auto request = std::make_shared<clsConvertToMP3Request>();
+            request->DestinationFile = written + "/Concert.MP3";
+            recorder.Conversion().CurrentConvertRequest = request;
+            tc.ctx->appStatus.SetConverting(true);
+        } else {
+            tc.ctx->appStatus.SetRecording(true);
+            recorder.Status().RecordingFile = written + "/Concert.WAV";
+            recorder.Status().Description = "Concert";
+        }
+        for (int round = 0; round < 3; ++round)
+            recorder.UpdateStatusBarPlus();
+        QCOMPARE(tc.CountRows("EventLog"), 1);
+        QCOMPARE(recorder.Conversion().StopMp3Conversion, converting);
+        QCOMPARE(recorder.Status().StopRequested, !converting);
+        if (!converting)
+            QCOMPARE(recorder.Link().tmrStopRecording.Interval(), 10000);
+    }
+
+    // Four times a second, for days: a round costs a few microseconds of the processor.
+    void aRoundIsCheap()
+    {
+        TestContext tc;
+        tc.ctx->options.DefaultRecordingDirectory = tc.Root();
+        constexpr int kRounds = 2000;
+        timespec from{}, to{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &from);
+        for (int i = 0; i < kRounds; ++i)
+            tc.ctx->recorder.UpdateStatusBarPlus();
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &to);
+        const double us =
+            ((to.tv_sec - from.tv_sec) * 1e9 + (to.tv_nsec - from.tv_nsec)) / 1e3 / kRounds;
+        QVERIFY2(us < 20.0, qPrintable(QString::number(us)));
     }
 
     void elapsedTexts()

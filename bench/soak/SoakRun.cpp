@@ -4,6 +4,7 @@
 #include "TestContext.h"
 #include "recording/Recorder.h"
 #include "scheduling/Scheduler.h"
+#include "store/Options.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -256,7 +257,9 @@ private:
     void ModelTick(double reading);
     void SystemTick();
     void ReadTaskLog(double reading);
+    qint64 Outage(qint64 utc);
     void Judge();
+    void JudgeMissed();
 
     const SoakOptions m_options;
     const QList<SoakStretch>& m_stretches = m_options.stretches;
@@ -266,6 +269,8 @@ private:
     std::vector<double> m_boundaries;
     std::vector<double> m_stretchEnds;
     std::vector<Jump> m_jumps;
+    // The outages taken so far; their cause is the reason the log gives.
+    std::vector<Jump> m_outages;
     std::vector<bool> m_jumpDone;
     std::vector<bool> m_editDone;
     double m_offsetDays = 0.0;
@@ -492,6 +497,41 @@ void Soak::SystemTick()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+// When an outage is due: the recorder stops as at the program's exit and starts again as at
+// its start, or the computer sleeps and wakes; no tick comes in between. Gives the moment
+// it ends, or utc itself when none is due.
+qint64 Soak::Outage(qint64 utc)
+{
+    if (m_outages.size() >= size_t(m_options.outages.size()))
+        return utc;
+    const SoakOutage& outage = m_options.outages.at(qsizetype(m_outages.size()));
+    if (utc < outage.from.toMSecsSinceEpoch())
+        return utc;
+    AppContext& ctx = *m_tc.ctx;
+    const double from = Reading(utc);
+    m_tc.clock.Set(from);
+    if (outage.asleep)
+        emit m_tc.sleepInhibitor.PrepareForSleep(true);
+    else
+        ctx.recorder.Stop();
+    utc += qint64(outage.hours) * 3600 * 1000;
+    const double to = Reading(utc);
+    m_tc.clock.Set(to);
+    if (outage.asleep) {
+        emit m_tc.sleepInhibitor.PrepareForSleep(false);
+    } else {
+        ctx.scheduler.ScheduleNextRecording();
+        ctx.recorder.Start();
+        // The harness is the timer.
+        ctx.recorder.HeartbeatTimer().Timer1.SetInterval(0);
+    }
+    const QString cause =
+        outage.asleep ? "the computer was asleep" : "the recorder was not running";
+    m_outages.push_back({from, to, cause});
+    m_jumps.push_back({from, to, QString("from %1 to %2 (%3)").arg(Stamp(from), Stamp(to), cause)});
+    return utc;
+}
+
 // Each "record PID DESCRIPTION" line of the stand-in is one start of that program's
 // occurrence whose window holds the reading.
 void Soak::ReadTaskLog(double reading)
@@ -566,6 +606,49 @@ void Soak::Judge()
     }
 }
 
+// Each occurrence that fell due in an outage is named once in the log, as missed or, when
+// it still ran at the outage's end, as started late; nothing else is named so.
+void Soak::JudgeMissed()
+{
+    QStringList rows;
+    for (const LogEntry& e : m_tc.LogEntries()) {
+        if (e.message.startsWith("Missed recording") ||
+            e.message.startsWith("Recording started late"))
+            rows << e.message;
+    }
+    std::vector<bool> named(size_t(rows.size()), false);
+    for (const Jump& gap : m_outages) {
+        for (const Occurrence& o : m_occurrences) {
+            const Version& v = m_programs[o.program].versions[o.version];
+            if (o.start <= gap.from || o.start > gap.to || o.start < v.from || o.start >= v.to)
+                continue;
+            const QString expected =
+                QString("%1: %2, due %3 %4")
+                    .arg(o.end > gap.to ? "Recording started late" : "Missed recording",
+                         m_programs[o.program].name,
+                         Options::DateText(AutomationDate::DatePart(o.start)),
+                         Options::TimeText(AutomationDate::TimePart(o.start)));
+            int times = 0;
+            for (qsizetype i = 0; i < rows.size(); ++i) {
+                if (rows[i].startsWith(expected) && rows[i].endsWith("(" + gap.cause + ")")) {
+                    ++times;
+                    named[size_t(i)] = true;
+                }
+            }
+            if (times != 1) {
+                ++m_report.missedUnreported;
+                m_report.faults << QString("%1 (%2) is named %3 times in the log")
+                                       .arg(expected, gap.cause)
+                                       .arg(times);
+            }
+        }
+    }
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        if (!named[size_t(i)])
+            m_report.faults << "named in the log, but not due in an outage: " + rows[i];
+    }
+}
+
 SoakReport Soak::Run()
 {
     QElapsedTimer wall;
@@ -587,6 +670,11 @@ SoakReport Soak::Run()
                 QDateTime(s.firstDay.addDays(d + 1), QTime(0, 0)).toMSecsSinceEpoch();
             qint64 utc = QDateTime(s.firstDay.addDays(d), QTime(0, 0)).toMSecsSinceEpoch();
             while (utc < dayEnd) {
+                if (const qint64 after = Outage(utc); after != utc) {
+                    utc = after;
+                    // The outage is its own jump, with its own cause.
+                    previous = 0.0;
+                }
                 const double reading = Reading(utc);
                 const int offset = QDateTime::fromMSecsSinceEpoch(utc, QTimeZone::utc())
                                        .toLocalTime()
@@ -619,6 +707,7 @@ SoakReport Soak::Run()
     if (day > 2)
         m_report.rssGrowthKb = RssKb() - baselineKb;
     Judge();
+    JudgeMissed();
     m_report.recordingsRows = m_tc.CountRows("Recordings");
     for (const LogEntry& e : m_tc.LogEntries())
         m_report.logged << QString("type %1: %2: %3").arg(e.type).arg(e.message, e.details);

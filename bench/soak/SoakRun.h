@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDate>
+#include <QDateTime>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -23,6 +24,14 @@ struct SoakStretch {
     int days = 1;
 };
 
+// The recorder stopped (as at the program's exit) or the computer asleep, from a local time
+// for some hours: no tick comes in between.
+struct SoakOutage {
+    QDateTime from;
+    int hours = 1;
+    bool asleep = false;
+};
+
 struct SoakReport {
     int occurrencesDue = 0;
     // Due occurrences that reached the task exactly once.
@@ -31,6 +40,9 @@ struct SoakReport {
     // match no occurrence.
     int missed = 0;
     int startedTwice = 0;
+    // Occurrences due while the recorder was stopped or the computer slept that the event
+    // log does not name exactly once as missed (or as started late, for one still running).
+    int missedUnreported = 0;
     qint64 rssGrowthKb = 0;
     double wallSeconds = 0.0;
     qint64 ticks = 0;
@@ -49,6 +61,7 @@ struct SoakReport {
 struct SoakOptions {
     QString taskProgram;
     QList<SoakStretch> stretches;
+    QList<SoakOutage> outages;
     // Empties the recordings list at the end of each day, as the user's "Clear List", so
     // that what the memory figure shows is not the list's rightful growth.
     bool clearListDaily = false;

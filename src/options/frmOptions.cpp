@@ -213,6 +213,12 @@ QWidget* frmOptions::BuildRecordTab()
         Named(new QCheckBox(QStringLiteral("Confirm &stop of manual recordings")),
               QStringLiteral("chkConfirmStopManualRecording"));
     layout->addWidget(chkConfirmStopManualRecording);
+    txtPaddingSeconds = LimitedBox("txtPaddingSeconds", "updnPaddingSeconds", 0,
+                                   Options::MaxPaddingSeconds, updnPaddingSeconds);
+    auto* paddingLabel = new QLabel(QStringLiteral("Start &programmed recordings"));
+    paddingLabel->setBuddy(txtPaddingSeconds);
+    layout->addLayout(BoxLine(paddingLabel, txtPaddingSeconds, updnPaddingSeconds,
+                              QStringLiteral("seconds early and end them as many seconds late")));
     layout->addStretch();
     return frame;
 }
@@ -412,6 +418,7 @@ void frmOptions::FormLoad(bool mediaPlayerAvailable)
         chkConfirmLongRecordings->setChecked(o.ConfirmLongRecordings);
         txtLongRecordingHours->setText(TwoDigits(o.LongRecordingHours));
         chkConfirmStopManualRecording->setChecked(o.ConfirmStopManualRecording);
+        txtPaddingSeconds->setText(QString::number(o.PaddingSeconds));
 
         if (mediaPlayerAvailable) {
             ComboWavPlayer->addItem(kEnhancedPlayer);
@@ -450,8 +457,9 @@ void frmOptions::FormLoad(bool mediaPlayerAvailable)
         comboDefaultRecordFileNameFormat->setCurrentIndex(o.DefaultRecordFileNameFormat);
         lblMixerControl->setText(m_workingMixerPath);
 
-        for (QLineEdit* box : {txtPurgeDays, txtStopRecMegsLeft, txtWarnRecMegsLeft,
-                               TextDurationHours, TextDurationMinutes, TextDurationSeconds})
+        for (QLineEdit* box :
+             {txtPaddingSeconds, txtPurgeDays, txtStopRecMegsLeft, txtWarnRecMegsLeft,
+              TextDurationHours, TextDurationMinutes, TextDurationSeconds})
             box->installEventFilter(this);
         SetMixerButtonsState();
         // A desktop without an autostart folder has nothing to offer here.
@@ -483,6 +491,9 @@ void frmOptions::ClampOnLostFocus(QLineEdit* box)
         Trap(m_s.log, "Options txtStopRecMegsLeft_LostFocus", [&] { clamp(5, 20000); });
     else if (box == txtWarnRecMegsLeft)
         Trap(m_s.log, "Options txtWarnRecMegsLeft_LostFocus", [&] { clamp(10, 20000); });
+    else if (box == txtPaddingSeconds)
+        Trap(m_s.log, "Options txtPaddingSeconds_LostFocus",
+             [&] { clamp(0, Options::MaxPaddingSeconds); });
     else if (box == TextDurationHours)
         ClampDuration(box, 23);
     else if (box == TextDurationMinutes || box == TextDurationSeconds)
@@ -656,6 +667,9 @@ void frmOptions::cmdOK_Click()
             storeBool("ConfirmLongRecordings", o.ConfirmLongRecordings,
                       chkConfirmLongRecordings->isChecked());
         }
+        const double padding = Number(txtPaddingSeconds);
+        if (Within(padding, 0, Options::MaxPaddingSeconds))
+            storeInt("PaddingSeconds", o.PaddingSeconds, Int16(padding));
         const double purgeDays = Number(txtPurgeDays);
         if (Within(purgeDays, 3, 999)) {
             storeInt("PurgeDays", o.PurgeDays, Int16(purgeDays));

@@ -110,6 +110,8 @@ private:
     QLineEdit* txtStopRecMegsLeft;
     UpDown* updnStopRecMegsLeft;
     QCheckBox* chkPurgeOldRecordings;
+    QLineEdit* txtPaddingSeconds;
+    UpDown* updnPaddingSeconds;
     QLineEdit* txtPurgeDays;
     UpDown* updnPurgeDays;
     QTimeEdit* dtpkrPurgeTime;

@@ -2,7 +2,8 @@
 
 #include "common/TextHelpers.h"
 
-#include <QStorageInfo>
+#include <QFile>
+#include <sys/statvfs.h>
 
 namespace {
 constexpr double kBytesPerMb = 1048576.0;
@@ -27,8 +28,17 @@ DiskSpaceMb DiskSpace::GetRecDirDiskSpaceMb(const QString& folder)
 
 DiskSpaceMb StorageDiskSpace::Measure(const QString& folder)
 {
-    const QStorageInfo storage(folder);
-    if (!storage.isValid())
+    auto encoded = m_encoded.constFind(folder);
+    if (encoded == m_encoded.constEnd()) {
+        // Bounded, as the options may name a new folder at any time.
+        if (m_encoded.size() >= 16)
+            m_encoded.clear();
+        encoded = m_encoded.insert(folder, QFile::encodeName(folder));
+    }
+    struct statvfs fs;
+    if (::statvfs(encoded->constData(), &fs) != 0)
         return {};
-    return DiskSpaceMb::FromBytes(storage.bytesTotal(), storage.bytesAvailable());
+    // What an unprivileged writer may use, as the task writes without privilege.
+    return DiskSpaceMb::FromBytes(qint64(fs.f_blocks) * qint64(fs.f_frsize),
+                                  qint64(fs.f_bavail) * qint64(fs.f_frsize));
 }

@@ -11,6 +11,7 @@ const QString kPath = QStringLiteral("/org/freedesktop/login1");
 const QString kManager = QStringLiteral("org.freedesktop.login1.Manager");
 // logind answers at once or not at all; the heartbeat waits on this call.
 constexpr int kCallTimeoutMs = 2000;
+constexpr int kWakeHelperTimeoutMs = 5000;
 
 bool WriteLine(const QString& path, const QByteArray& line)
 {
@@ -53,6 +54,21 @@ QDBusUnixFileDescriptor LogindSleepInhibitor::Inhibit(const QString& what, const
     return reply.arguments().constFirst().value<QDBusUnixFileDescriptor>();
 }
 
+bool LogindSleepInhibitor::AskWakeHelper(qint64 epochSeconds)
+{
+    if (!m_bus.isConnected())
+        return false;
+    const QString name = QStringLiteral("org.larkmoor.NightreelWake1");
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        name, QStringLiteral("/org/larkmoor/NightreelWake1"), name,
+        epochSeconds > 0 ? QStringLiteral("SetWakeAlarm") : QStringLiteral("ClearWakeAlarm"));
+    if (epochSeconds > 0)
+        call.setArguments({qlonglong(epochSeconds)});
+    // The bus starts the helper on the first call, which takes a moment more.
+    return m_bus.call(call, QDBus::Block, kWakeHelperTimeoutMs).type() ==
+           QDBusMessage::ReplyMessage;
+}
+
 void LogindSleepInhibitor::Block(const QString& why)
 {
     if (!m_block.isValid())
@@ -92,6 +108,8 @@ void LogindSleepInhibitor::OnPrepareForSleep(bool start)
 
 bool LogindSleepInhibitor::SetWakeAlarm(qint64 epochSeconds)
 {
+    if (m_wakeAlarmFile.isEmpty())
+        return AskWakeHelper(epochSeconds);
     const QFileInfo file(m_wakeAlarmFile);
     if (!file.exists() || !file.isWritable())
         return false;

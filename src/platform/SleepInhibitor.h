@@ -31,7 +31,8 @@ signals:
 };
 
 // systemd-logind's inhibitor locks on the given bus (the system bus, or a test's own), and
-// the real-time clock's wake alarm file.
+// the real-time clock's wake alarm: set by the privileged helper nightreel-wake on the same
+// bus, or, where wakeAlarmFile names a clock file that this user may write, written directly.
 class LogindSleepInhibitor : public SleepInhibitor {
     Q_OBJECT
 public:
@@ -52,6 +53,7 @@ private:
     // An invalid descriptor when logind is not there or refuses.
     QDBusUnixFileDescriptor Inhibit(const QString& what, const QString& why, const QString& mode);
     QDBusUnixFileDescriptor TakeDelay();
+    bool AskWakeHelper(qint64 epochSeconds);
 
     QDBusConnection m_bus;
     const QString m_wakeAlarmFile;

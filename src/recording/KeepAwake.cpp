@@ -52,7 +52,7 @@ void KeepAwake::Update()
         if (on && m_appStatus.Recording())
             why = QStringLiteral("Recording ") + m_status.Description;
         // A capture to convert waits in the queue for a moment before its conversion starts.
-        else if (on && (m_appStatus.Converting() || !m_conversion.Mp3ConvertQueue.isEmpty()))
+        else if (on && m_conversion.HasWork())
             why = QStringLiteral("Converting a recording to MP3");
         else if (on && next.NextProgramFound && now >= WindowStart(next) &&
                  now < next.NextProgramEnd)
@@ -71,9 +71,17 @@ void KeepAwake::UpdateWakeAlarm(double now)
     qint64 alarm = 0;
     if (m_options.KeepAwakeForRecordings && next.NextProgramFound) {
         const double wake = WindowStart(next);
-        // An alarm in the past does nothing: the machine is up and blocked by then.
-        if (wake > now)
-            alarm = AutomationDate::ToDateTime(wake).toSecsSinceEpoch();
+        // An alarm in the past does nothing: the machine is up and blocked by then. The
+        // clock's helper takes none within the coming minute; the one set stays.
+        if (wake > now && wake < AutomationDate::AddSeconds(now, LeadSeconds))
+            return;
+        if (wake > now) {
+            if (wake != m_wakeTime) {
+                m_wakeTime = wake;
+                m_wakeEpochSeconds = AutomationDate::ToDateTime(wake).toSecsSinceEpoch();
+            }
+            alarm = m_wakeEpochSeconds;
+        }
     }
     // An alarm that others set is left alone until there is one of ours to set.
     if (alarm == m_wakeAlarm || (alarm == 0 && m_wakeAlarm < 0))
@@ -84,8 +92,9 @@ void KeepAwake::UpdateWakeAlarm(double now)
         m_wakeAlarmMissingSaid = true;
         m_log.LogEvent(EventInformation, QStringLiteral("No wake alarm"),
                        QStringLiteral("The computer's clock has no wake alarm that Nightreel "
-                                      "2000 may set, so a computer that sleeps will not wake "
-                                      "by itself for a recording."));
+                                      "2000 may set (its helper nightreel-wake is not installed "
+                                      "or not allowed), so a computer that sleeps will not "
+                                      "wake by itself for a recording."));
     }
 }
 

@@ -46,6 +46,10 @@ private:
     SleepInhibitor& m_inhibitor;
     // The alarm last asked for, in seconds since the epoch; 0 for none, -1 before the first.
     qint64 m_wakeAlarm = -1;
+    // The last wake time in seconds since the epoch: reading the local time zone costs more
+    // than the rest of a heartbeat tick, and the wake time changes once per recording.
+    double m_wakeTime = -1.0;
+    qint64 m_wakeEpochSeconds = 0;
     // Whether the machine's alarm holds it.
     bool m_wakeAlarmSet = false;
     bool m_wakeAlarmMissingSaid = false;

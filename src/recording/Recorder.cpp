@@ -2,13 +2,13 @@
 
 #include "common/Clock.h"
 #include "diagnostics/EventLog.h"
-#include "platform/DisplayAvailable.h"
 #include "sideactions/ViewHtmlFile.h"
 
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
     : QObject(parent)
     , m_s(services)
-    , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status)
+    , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status,
+                   services.diskSpace, services.dataFolder + QStringLiteral("/conversions.json"))
     , m_link(services.log, services.appStatus, services.runtimeFolder)
     , m_control(services, m_link, m_status, m_conversion, m_manual)
     , m_heartbeat(services.clock, services.log, services.options, services.launcher,
@@ -18,6 +18,8 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     , m_silenceAlarm(services.log, services.error, m_status)
     , m_keepAwake(services.clock, services.log, services.options, services.appStatus,
                   services.scheduler, m_status, m_conversion, services.sleepInhibitor)
+    , m_missed(services.clock, services.log, services.registry, services.scheduler,
+               services.database, services.appStatus, m_status, services.sleepInhibitor)
 {
     connect(&m_heartbeat, &Heartbeat::StartRecordingDue, &m_control,
             &RecordingControl::StartRecording);
@@ -55,10 +57,13 @@ void Recorder::ConnectUnattended()
     connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, &m_keepAwake, &KeepAwake::Update);
     connect(&m_control, &RecordingControl::RecordingEnded, &m_keepAwake, &KeepAwake::Update);
     connect(&m_conversion, &ConversionQueue::UpdateModeDisplay, &m_keepAwake, &KeepAwake::Update);
+    connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, &m_missed, &MissedRecordings::NoteAlive);
+    connect(&m_missed, &MissedRecordings::RecordingsMissed, this, &Recorder::RecordingsMissed);
 }
 
 void Recorder::Start()
 {
+    m_missed.CheckAtStart();
     m_heartbeat.Start();
     m_conversion.Start();
 }
@@ -67,6 +72,7 @@ void Recorder::Stop()
 {
     m_heartbeat.Timer1.SetInterval(0);
     m_conversion.Stop();
+    m_missed.NoteStopping();
 }
 
 void Recorder::StartManualRecording()
@@ -97,7 +103,7 @@ ModeDisplay Recorder::Mode(ModeDisplay::Extra extra) const
 
 void Recorder::OpenInternetLink(const QString& link)
 {
-    if (!DisplayAvailable()) {
+    if (!m_s.hasDisplay) {
         m_s.log.LogEvent(EventInformation, QStringLiteral("Web link not opened"),
                          QStringLiteral("There is no display to open it on: ") + link);
         return;

@@ -3,6 +3,7 @@
 #include "recording/ConversionQueue.h"
 #include "recording/Heartbeat.h"
 #include "recording/KeepAwake.h"
+#include "recording/MissedRecordings.h"
 #include "recording/ModeDisplay.h"
 #include "recording/RecorderServices.h"
 #include "recording/RecordingControl.h"
@@ -23,7 +24,7 @@ public:
     explicit Recorder(const RecorderServices& services, QObject* parent = nullptr);
 
     // The heartbeat and the conversion timer start at the end of the first activation and
-    // stop at the unload.
+    // stop at the unload; the start first reports the recordings missed since the last run.
     void Start();
     void Stop();
 
@@ -45,6 +46,7 @@ public:
     Heartbeat& HeartbeatTimer() { return m_heartbeat; }
     const StatusBarPlus& StatusBar() const { return m_statusBar; }
     KeepAwake& KeepAwakeControl() { return m_keepAwake; }
+    MissedRecordings& Missed() { return m_missed; }
     // The manual request that a recording of program -1 starts from.
     clsManualRecord& Manual() { return m_manual; }
 
@@ -59,6 +61,9 @@ signals:
     void MinimizeToTray();
     // The daily purge is due; the list's owner runs it.
     void PurgeDue();
+    // Recordings missed while the recorder was not running or the computer slept, one line
+    // each, once.
+    void RecordingsMissed(const QStringList& lines);
 
 private:
     void OpenInternetLink(const QString& link);
@@ -75,4 +80,5 @@ private:
     StatusBarPlus m_statusBar;
     SilenceAlarm m_silenceAlarm;
     KeepAwake m_keepAwake;
+    MissedRecordings m_missed;
 };

@@ -60,6 +60,11 @@ RecorderNotifications::RecorderNotifications(EventLog& log, const Options& optio
     });
     connect(&appStatus, &clsAppStatus::Update, this, &RecorderNotifications::ModeChanged);
     connect(&error, &clsError::IndicationUpdated, this, &RecorderNotifications::DiskLowChanged);
+    // The recordings missed while the recorder was not running or the machine slept: one
+    // notification lists them all.
+    connect(&recorder, &Recorder::RecordingsMissed, this, [this](const QStringList& lines) {
+        Send(QStringLiteral("Recordings missed"), QString(), lines.join(u'\n'), true);
+    });
     // Said once in the log: nothing further happens without a notification service.
     connect(&desktop, &DesktopNotifications::Unavailable, this, [this](const QString& why) {
         m_log.LogEvent(EventInformation, QStringLiteral("No desktop notifications"),

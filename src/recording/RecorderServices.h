@@ -38,6 +38,10 @@ struct RecorderServices {
     NetworkConnections& network;
     // The socket to the recording task and its parameter file lie here.
     QString runtimeFolder;
+    // What outlasts the run (the conversion queue) lies here.
+    QString dataFolder;
     // The machine's sleep, idling and wake alarm, kept in step with the recordings.
     SleepInhibitor& sleepInhibitor;
+    // Whether a desktop is there to open a browser or close a player window on.
+    bool hasDisplay = true;
 };

@@ -12,7 +12,6 @@
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
 #include "platform/DiskSpace.h"
-#include "platform/DisplayAvailable.h"
 #include "recording/ConversionQueue.h"
 #include "recording/RecordingFileName.h"
 #include "recording/RecordingTaskErrors.h"
@@ -425,7 +424,7 @@ void RecordingControl::StopRecordingSteps()
         // The conversion takes over: it writes the row and runs the launch after it.
         if (m_convertRequest) {
             m_convertRequest->EndTime = m_s.clock.Now();
-            m_conversion.Mp3ConvertQueue.append(m_convertRequest);
+            m_conversion.Add(m_convertRequest);
         }
     } else if (size >= kLeastRecordingMbytes) {
         // A failure here leaves the file on disk without a row; the after-actions go on.
@@ -453,7 +452,7 @@ void RecordingControl::StopRecordingSteps()
         m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime);
         if (!status.InternetLink.trimmed().isEmpty()) {
             const QString playerClose = status.StreamingPlayerClose.trimmed();
-            if (!DisplayAvailable() && playerClose != StreamingPlayerClose::DoNotClose)
+            if (!m_s.hasDisplay && playerClose != StreamingPlayerClose::DoNotClose)
                 m_s.log.LogEvent(EventInformation, QStringLiteral("Streaming player not closed"),
                                  QStringLiteral("There is no display to close it on."));
             else if (playerClose.isEmpty())

@@ -15,6 +15,12 @@ namespace {
 const QString kDiskStopMessage =
     QStringLiteral("Recording stopped due to insufficient disk space.");
 
+// The folder part of a path, with its closing separator.
+QString FolderOf(const QString& path)
+{
+    return path.left(path.lastIndexOf(u'/') + 1);
+}
+
 QString OneDecimal(double value)
 {
     return QString::number(value, 'f', 1);
@@ -72,75 +78,92 @@ QString StatusBarPlus::ElapsedRemainingText() const
 StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText,
                                          const clsConvertToMP3Request* pendingConversion)
 {
-    const bool folderKnown = !m_error.InvalidRecordingDirectory();
-    return Run(convertingText, pendingConversion,
-               folderKnown ? m_diskSpace.GetRecDirDiskSpaceMb(m_options.DefaultRecordingDirectory)
-                           : DiskSpaceMb());
-}
-
-StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText,
-                                         const clsConvertToMP3Request* pendingConversion,
-                                         const DiskSpaceMb& disk)
-{
     Update u;
     const bool recording = m_appStatus.Recording();
+    const bool converting = m_appStatus.Converting();
     if (recording)
         u.modeToolTip = ElapsedRemainingText();
-    else if (m_appStatus.Converting())
+    else if (converting)
         u.modeText = convertingText;
-    if (m_error.InvalidRecordingDirectory())
+    // The panel and the conditions are those of the disk being recorded to: the live file's
+    // while a recording runs, else the folder in the options.
+    const QString live = recording ? FolderOf(m_recordingStatus.RecordingFile) : QString();
+    const QString folder = live.isEmpty() ? m_options.DefaultRecordingDirectory : live;
+    if (!recording && m_error.InvalidRecordingDirectory())
         return u;
+    const DiskSpaceMb disk = m_diskSpace.GetRecDirDiskSpaceMb(folder);
 
-    const qint16 stopLimit = m_options.StopRecMegsLeft;
-    if (recording && m_recordingStatus.ConvertToMP3 && pendingConversion) {
-        // The MP3 share of what the recording will have written by now must fit too.
-        const double now = m_clock.Now();
-        const qint64 total =
-            AutomationDate::SecondsBetween(m_recordingStatus.StartTime, m_recordingStatus.EndTime);
-        const qint64 elapsed = AutomationDate::SecondsBetween(m_recordingStatus.StartTime, now);
-        const double fraction = total > 0 ? double(elapsed) / double(total) : 1.0;
-        const float size = pendingConversion->DestinationFormat.CalcStorageMbytesSng(qint32(total));
-        const double written = double(size) * fraction + 0.5;
-        if (disk.free - written < stopLimit) {
-            u.postStop = true;
-            m_log.LogEvent(
-                EventError, kDiskStopMessage,
-                QStringLiteral("Recording Description: ") + m_recordingStatus.Description +
-                    QStringLiteral(
-                        "\r\nRemove recordings from disk or change the recording directory to a "
-                        "different disk drive.  Note: MP3 conversion also requires temporary "
-                        "storage for the PCM recording in the default recording folder.  Since "
-                        "the PCM file is several times larger than the MP3 file, plenty of space "
-                        "is needed. Space is also needed for any temporary PCM files which have "
-                        "not finished converting."));
-        }
-    }
-    if (disk.free + 0.5 < stopLimit) {
-        m_error.SetDiskLowStopRecording(true);
-        if (recording && !u.postStop) {
-            u.postStop = true;
-            // Logged on every round until the recording has ended, as the system did.
-            m_log.LogEvent(EventError, kDiskStopMessage,
-                           QStringLiteral("Recording Description: ") +
-                               m_recordingStatus.Description +
-                               QStringLiteral("\r\nRemove recordings from disk or change the "
-                                              "recording directory to a different disk drive."));
-        }
-        if (m_appStatus.Converting()) {
-            m_log.LogEvent(
-                EventError,
-                QStringLiteral("MP3 conversion stopped due to insufficient disk space."),
-                QStringLiteral("Remove recordings from disk or change the default recording "
-                               "directory to a different disk drive."));
-            m_conversion.StopMp3Conversion = true;
-        }
-    } else {
-        m_error.SetDiskLowStopRecording(false);
+    const bool low = disk.free + 0.5 < m_options.StopRecMegsLeft;
+    m_error.SetDiskLowStopRecording(low);
+    if (recording)
+        u.postStop = GuardRecording(disk, pendingConversion);
+    if (converting) {
+        const QString result = FolderOf(m_conversion.RunningDestination());
+        GuardConversion(result == folder ? disk : m_diskSpace.GetRecDirDiskSpaceMb(result));
     }
     m_error.SetDiskLowWarn(disk.free < m_options.WarnRecMegsLeft);
 
-    u.diskText = QStringLiteral("Disk Space Used: ") + OneDecimal(disk.usedPercent) + u'%';
-    u.diskToolTip = OneDecimal(disk.usedPercent) + QStringLiteral("% used, ") +
-                    OneDecimal(disk.free) + QStringLiteral(" Megabytes remaining");
+    if (disk.usedPercent != m_shownDisk.usedPercent || disk.free != m_shownDisk.free ||
+        m_diskText.isEmpty()) {
+        m_shownDisk = disk;
+        m_diskText = QStringLiteral("Disk Space Used: ") + OneDecimal(disk.usedPercent) + u'%';
+        m_diskToolTip = OneDecimal(disk.usedPercent) + QStringLiteral("% used, ") +
+                        OneDecimal(disk.free) + QStringLiteral(" Megabytes remaining");
+    }
+    u.diskText = m_diskText;
+    u.diskToolTip = m_diskToolTip;
     return u;
+}
+
+bool StatusBarPlus::GuardRecording(const DiskSpaceMb& disk,
+                                   const clsConvertToMP3Request* pendingConversion)
+{
+    const qint16 stopLimit = m_options.StopRecMegsLeft;
+    QString details;
+    if (m_recordingStatus.ConvertToMP3 && pendingConversion) {
+        // The MP3 share of what the recording will have written by now must fit too.
+        const qint64 total =
+            AutomationDate::SecondsBetween(m_recordingStatus.StartTime, m_recordingStatus.EndTime);
+        const qint64 elapsed =
+            AutomationDate::SecondsBetween(m_recordingStatus.StartTime, m_clock.Now());
+        const double fraction = total > 0 ? double(elapsed) / double(total) : 1.0;
+        const float size = pendingConversion->DestinationFormat.CalcStorageMbytesSng(qint32(total));
+        const double written = double(size) * fraction + 0.5;
+        if (disk.free - written < stopLimit)
+            details = QStringLiteral(
+                "\r\nRemove recordings from disk or change the recording directory to a "
+                "different disk drive.  Note: MP3 conversion also requires temporary storage for "
+                "the PCM recording in the default recording folder.  Since the PCM file is "
+                "several times larger than the MP3 file, plenty of space is needed. Space is also "
+                "needed for any temporary PCM files which have not finished converting.");
+    }
+    if (details.isEmpty() && disk.free + 0.5 < stopLimit)
+        details = QStringLiteral("\r\nRemove recordings from disk or change the recording "
+                                 "directory to a different disk drive.");
+    if (details.isEmpty())
+        return false;
+    const QString recording =
+        m_recordingStatus.RecordingFile + u'@' + QString::number(m_recordingStatus.StartTime);
+    if (m_recordingLogged != recording) {
+        m_recordingLogged = recording;
+        m_log.LogEvent(EventError, kDiskStopMessage,
+                       QStringLiteral("Recording Description: ") + m_recordingStatus.Description +
+                           details);
+    }
+    return true;
+}
+
+void StatusBarPlus::GuardConversion(const DiskSpaceMb& disk)
+{
+    if (disk.free + 0.5 >= m_options.StopRecMegsLeft)
+        return;
+    m_conversion.StopMp3Conversion = true;
+    const QString conversion = m_conversion.RunningDestination();
+    if (m_conversionLogged == conversion)
+        return;
+    m_conversionLogged = conversion;
+    m_log.LogEvent(EventError,
+                   QStringLiteral("MP3 conversion stopped due to insufficient disk space."),
+                   QStringLiteral("Remove recordings from disk or change the default recording "
+                                  "directory to a different disk drive."));
 }

@@ -35,10 +35,10 @@ public:
     // One round: disk figures, the disk conditions and their log entries, and the stop asked
     // for while recording on a nearly full disk. `pendingConversion` is the request that the
     // recording in progress will queue, if it is to be converted: its MP3 must fit as well.
+    // The guard measures the file systems of the files being written (the live recording,
+    // the running conversion's result), which the options may have moved away from; each
+    // condition is logged once per recording and once per conversion.
     Update Run(const QString& convertingText, const clsConvertToMP3Request* pendingConversion);
-    // The same with the disk figures given.
-    Update Run(const QString& convertingText, const clsConvertToMP3Request* pendingConversion,
-               const DiskSpaceMb& disk);
 
     // "hh:mm:ss", "mm:ss" or "ss" since the recording began.
     QString ElapsedText() const;
@@ -46,6 +46,10 @@ public:
     QString ElapsedRemainingText() const;
 
 private:
+    // True when the recording stop is to be posted: logs it the first time for this recording.
+    bool GuardRecording(const DiskSpaceMb& disk, const clsConvertToMP3Request* pendingConversion);
+    void GuardConversion(const DiskSpaceMb& disk);
+
     Clock& m_clock;
     EventLog& m_log;
     const Options& m_options;
@@ -54,4 +58,12 @@ private:
     const clsRecordingStatus& m_recordingStatus;
     ConversionQueue& m_conversion;
     DiskSpace& m_diskSpace;
+    // The recording (its file and start) and the conversion (its result) already logged as
+    // stopped for space: a stop that takes its time must not fill the log's 1000 rows.
+    QString m_recordingLogged;
+    QString m_conversionLogged;
+    // The disk panel's texts, made anew only when its figures change.
+    DiskSpaceMb m_shownDisk;
+    QString m_diskText;
+    QString m_diskToolTip;
 };

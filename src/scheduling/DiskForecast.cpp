@@ -13,7 +13,8 @@ DiskForecast::DiskForecast(const Clock& clock, Scheduler& scheduler, EventLog& l
 {
 }
 
-QList<DiskForecastRow> DiskForecast::Rows(double freeMbytes, qint16 stopMbytes) const
+QList<DiskForecastRow> DiskForecast::Rows(double freeMbytes, qint16 stopMbytes,
+                                          qint16 paddingSeconds) const
 {
     QList<DiskForecastRow> rows;
     Trap(m_log, "DiskForecast Rows", [&] {
@@ -27,8 +28,10 @@ QList<DiskForecastRow> DiskForecast::Rows(double freeMbytes, qint16 stopMbytes) 
             row.description = found->description;
             row.startTime = found->startDateTime;
             row.endTime = found->endDateTime;
+            // Each recording is padded at both ends.
             const qint64 seconds =
-                AutomationDate::SecondsBetween(found->startDateTime, found->endDateTime);
+                AutomationDate::SecondsBetween(found->startDateTime, found->endDateTime) +
+                2 * paddingSeconds;
             // The running value keeps its fraction; only the row is rounded.
             remaining -= double(found->avgBytesPerSec) * double(seconds) / 1048576.0;
             bool last = false;

@@ -29,9 +29,10 @@ public:
     // The rows from now on, starting from freeMbytes and ending at the first of: no
     // occurrence left, MaxRows rows, or a row that takes the space down to stopMbytes. That
     // last row shows stopMbytes and is marked truncated. Each occurrence is charged in full
-    // at its program's byte rate, even one already running; a failure ends the list at the
-    // rows gathered so far.
-    QList<DiskForecastRow> Rows(double freeMbytes, qint16 stopMbytes) const;
+    // at its program's byte rate, even one already running, with paddingSeconds at each end;
+    // a failure ends the list at the rows gathered so far.
+    QList<DiskForecastRow> Rows(double freeMbytes, qint16 stopMbytes,
+                                qint16 paddingSeconds = 0) const;
 
 private:
     const Clock& m_clock;

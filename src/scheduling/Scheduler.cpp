@@ -11,6 +11,7 @@
 #include "store/AppDatabase.h"
 #include "store/Options.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -108,8 +109,9 @@ Scheduler::Scheduler(const Clock& clock, AppDatabase& database, EventLog& log,
 {
 }
 
-std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool readOnly,
-                                                                           double referenceDate)
+std::optional<ProgramOccurrence>
+Scheduler::DetermineNextProgramToSchedule(bool readOnly, double referenceDate,
+                                          std::optional<qint32> onlyProgram)
 {
     std::optional<ProgramOccurrence> best;
     Trap(m_log, "DetermineNextProgramToSchedule", [&] {
@@ -121,6 +123,8 @@ std::optional<ProgramOccurrence> Scheduler::DetermineNextProgramToSchedule(bool 
             return;
         const ProgramColumns c(rs);
         for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
+            if (onlyProgram && rs.Value(c.id).toInt() != *onlyProgram)
+                continue;
             double start = longAgo;
             double end = longAgo;
             if (!IsOneTime(rs.Value(c.frequency))) {
@@ -220,6 +224,7 @@ void Scheduler::ScheduleNextRecording()
         n.NextStreamingPlayerClose = found->streamingPlayerClose;
         n.NextHangupInternetConnection = found->hangupInternetConnection;
         n.NextProgramFound = true;
+        Pad(*found, n);
         if (n.NextInternetLink.isEmpty()) {
             n.NextLinkLaunchTime = AutomationDate::Never();
         } else {
@@ -235,6 +240,19 @@ void Scheduler::ScheduleNextRecording()
                 ? AutomationDate::Never()
                 : AutomationDate::AddSeconds(n.NextProgramStart, -n.NextLaunchAppDelay);
     });
+}
+
+void Scheduler::Pad(const ProgramOccurrence& found, NextProgram& n)
+{
+    const qint16 pad = m_options.PaddingSeconds;
+    if (pad <= 0)
+        return;
+    n.NextProgramStart = AutomationDate::AddSeconds(found.startDateTime, -pad);
+    // The late end gives way to the program that follows, and never cuts the program itself.
+    double end = AutomationDate::AddSeconds(found.endDateTime, pad);
+    if (const auto following = DetermineNextProgramToSchedule(true, found.endDateTime))
+        end = std::min(end, std::max(found.endDateTime, following->startDateTime));
+    n.NextProgramEnd = end;
 }
 
 void Scheduler::OfferRemovalOfExpiredPrograms()

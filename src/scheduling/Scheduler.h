@@ -47,9 +47,11 @@ public:
     // occurrence with the earliest start whose end lies after the reference date. An
     // occurrence already running beats every later one; of equal starts the earlier row
     // wins. With readOnly false, lapsed cancellations of weekly programs are cleared.
-    // Nothing when no program has an occurrence to come.
-    std::optional<ProgramOccurrence> DetermineNextProgramToSchedule(bool readOnly,
-                                                                    double referenceDate);
+    // Nothing when no program has an occurrence to come. With onlyProgram, the other rows
+    // are passed over.
+    std::optional<ProgramOccurrence>
+    DetermineNextProgramToSchedule(bool readOnly, double referenceDate,
+                                   std::optional<qint32> onlyProgram = std::nullopt);
     void ScheduleNextRecording();
     void OfferRemovalOfExpiredPrograms();
     // Marks the program's occurrence that ends at the recording's scheduled end as dealt
@@ -63,6 +65,9 @@ signals:
     void ProgramListChanged();
 
 private:
+    // Widens the occurrence by the padding option, for the heartbeat's start and stop.
+    void Pad(const ProgramOccurrence& found, NextProgram& n);
+
     const Clock& m_clock;
     AppDatabase& m_database;
     EventLog& m_log;

@@ -144,7 +144,8 @@ void frmDiskStatus::FillGrid(const Options& options, const DiskForecast& forecas
                              double freeMbytes)
 {
     m_gridCaption->setText(QStringLiteral("Calculating Scheduled Recordings. Please Wait."));
-    const QList<DiskForecastRow> rows = forecast.Rows(freeMbytes, options.StopRecMegsLeft);
+    const QList<DiskForecastRow> rows =
+        forecast.Rows(freeMbytes, options.StopRecMegsLeft, options.PaddingSeconds);
     QApplication::processEvents();
     for (const DiskForecastRow& row : rows) {
         m_rows->appendRow({Cell(row.description), Cell(Options::DateText(row.startTime)),

@@ -20,7 +20,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , defaultFormats(log, registry, options, database.DataInfo)
     , recorder(RecorderServices{log, clock, options, registry, appStatus, error, database,
                                 scheduler, messageBox, launcher, diskSpace, mixerProfiles, windows,
-                                network, folders.runtimeFolder, seams.sleepInhibitor})
+                                network, folders.runtimeFolder, folders.dataFolder,
+                                seams.sleepInhibitor, seams.hasDisplay})
     , recordingsList(database, log, options, clock,
                      [this] {
                          return QStringList{recorder.Status().FinalFile,

@@ -44,6 +44,9 @@ struct Seams {
     SleepInhibitor& sleepInhibitor;
     Joystick& joystick;
     DesktopNotifications& notifications;
+    // False for a run without a window on a machine with no desktop: what would open or
+    // close a window is skipped and logged.
+    bool hasDisplay = true;
 };
 
 // The composition root: what the system holds for the whole run, built in the entry

@@ -3,6 +3,7 @@
 #include "control/CallMessageBox.h"
 #include "diagnostics/JournalLog.h"
 #include "diagnostics/LoggedMessageBox.h"
+#include "platform/DisplayAvailable.h"
 #include "platform/TerminationSignals.h"
 #include "shell/InstanceLock.h"
 #include "shell/MainFormController.h"
@@ -15,19 +16,19 @@
 namespace HeadlessStart {
 namespace {
 
-// A stop by the service manager saves what is being recorded or converted, as the stop
-// command would, and ends the program once both are over.
+// A stop by the service manager saves what is being recorded, as the stop command would, and
+// ends the program once the recording is over. The conversions, running or waiting, are not
+// stopped: the saved queue takes them up whole at the next start.
 void QuitWhenIdle(AppContext& ctx)
 {
     // On standard error only: a service restarted daily would fill the event log.
-    qInfo().noquote() << "Asked to end: the recording and conversion in progress are saved first.";
+    qInfo().noquote() << "Asked to end: the recording in progress is saved first; conversions "
+                         "to MP3 go on at the next start.";
     if (ctx.appStatus.Recording())
         ctx.recorder.Control().RequestStop();
-    if (ctx.appStatus.Converting())
-        ctx.recorder.Conversion().StopMp3Conversion = true;
     auto* poll = new QTimer(QCoreApplication::instance());
     QObject::connect(poll, &QTimer::timeout, poll, [&ctx] {
-        if (!ctx.appStatus.Recording() && !ctx.appStatus.Converting())
+        if (!ctx.appStatus.Recording())
             QCoreApplication::quit();
     });
     poll->start(250);
@@ -51,7 +52,9 @@ int Main(int argc, char* argv[])
     LoggedMessageBox loggedBox;
     CallMessageBox messageBox(loggedBox);
     SystemSeams seams;
-    AppContext ctx(seams.With(messageBox), folders);
+    Seams withoutWindow = seams.With(messageBox);
+    withoutWindow.hasDisplay = DisplayAvailable();
+    AppContext ctx(withoutWindow, folders);
     loggedBox.Attach(ctx.log);
 
     // The steps of the window's load and first activation that need no window; a missing

@@ -88,14 +88,20 @@ void MainFormController::RemoveTemporaryRecordings(const QString& folder)
     // What an earlier run left behind when it ended during a recording or conversion.
     if (folder.size() <= 1)
         return;
-    QDir dir(folder);
-    QStringList leftovers;
-    for (const QString& name :
-         dir.entryList({QStringLiteral("*.WAV.TMP"), QStringLiteral("*.MP3.TMP")},
-                       QDir::Files | QDir::Hidden))
-        leftovers << dir.filePath(name);
-    // A second instance must leave alone what the first one is recording.
-    OpenFiles::RemoveUnlessInUse(leftovers);
+    const QDir dir(folder);
+    const auto files = [&dir](const QString& pattern) {
+        QStringList paths;
+        for (const QString& name : dir.entryList({pattern}, QDir::Files | QDir::Hidden))
+            paths << dir.filePath(name);
+        return paths;
+    };
+    ConversionQueue& conversion = m_ctx.recorder.Conversion();
+    conversion.LoadSavedQueue();
+    // An incomplete MP3 goes: its capture is converted again. A second instance must leave
+    // alone what the first one writes.
+    OpenFiles::RemoveUnlessInUse(files(QStringLiteral("*.MP3.TMP")));
+    for (const QString& kept : conversion.KeepLeftCaptures(files(QStringLiteral("*.WAV.TMP"))))
+        m_ctx.recordingsList.AddFileToRecordingsList(kept);
 }
 
 bool MainFormController::QueryUnload(bool closedBySystem)

@@ -1,5 +1,6 @@
 #include "shell/ProgramListGrid.h"
 
+#include "common/AutomationDate.h"
 #include "diagnostics/Trap.h"
 #include "gui/GridSelection.h"
 #include "scheduling/frmEnableDisablePrograms.h"
@@ -9,9 +10,11 @@
 #include "store/RecordsetModel.h"
 
 #include <QAction>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QMenu>
 #include <QTableView>
+#include <QToolTip>
 
 ProgramListGrid::ProgramListGrid(AppContext& ctx, frmMain& form)
     : QObject(&form)
@@ -43,6 +46,31 @@ ProgramListGrid::ProgramListGrid(AppContext& ctx, frmMain& form)
             &ProgramListGrid::DBGridPrograms_MouseDown);
     GridSelection::MakeCornerToggle(m_grid);
     connect(Model(), &RecordsetModel::RowsChanged, this, &ProgramListGrid::KeepACurrentRow);
+    m_grid->viewport()->installEventFilter(this);
+}
+
+bool ProgramListGrid::eventFilter(QObject* watched, QEvent* event)
+{
+    const qint16 pad = m_ctx.options.PaddingSeconds;
+    if (event->type() != QEvent::ToolTip || pad <= 0)
+        return QObject::eventFilter(watched, event);
+    auto* help = static_cast<QHelpEvent*>(event);
+    const QModelIndex index = m_grid->indexAt(help->pos());
+    if (!index.isValid())
+        return QObject::eventFilter(watched, event);
+    Recordset rs = m_ctx.database.DataPrograms.recordset().Clone();
+    rs.SetBookmark(Model()->BookmarkOfRow(index.row()));
+    const auto at = [&rs, pad](const char* column, int sign) {
+        const double time = rs.Value(QString::fromLatin1(column)).toDouble();
+        return Options::TimeText(
+            AutomationDate::TimePart(AutomationDate::AddSeconds(time, sign * pad)));
+    };
+    QToolTip::showText(help->globalPos(),
+                       QStringLiteral("Recorded from %1 to %2 (%3 seconds early and late; the "
+                                      "late end gives way to a program that follows)")
+                           .arg(at("StartTime", -1), at("EndTime", 1), QString::number(pad)),
+                       m_grid->viewport());
+    return true;
 }
 
 RecordsetModel* ProgramListGrid::Model() const

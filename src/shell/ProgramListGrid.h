@@ -29,6 +29,10 @@ public:
     int ShowEnableDisablePrograms() override;
     void UpdateProgramsButtonsAndMenus() override;
 
+protected:
+    // The row's tip: when its recordings run, with the padding.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     RecordsetModel* Model() const;
     void DBGridPrograms_MouseDown(const QPoint& pos);

@@ -18,12 +18,12 @@
 // The seams as the program runs them: the system's clock and the operating system's pieces.
 // Only the message boxes differ between the window and the run without one.
 struct SystemSeams {
-    // The machine's sleep and wake alarm are kept on the system bus, the desktop's
-    // notifications on the session bus; a run that records nothing passes buses that are not
-    // connected.
+    // The machine's sleep and wake alarm are kept on the system bus, the alarm through the
+    // wake helper; the desktop's notifications on the session bus. A run that records nothing
+    // passes buses that are not connected.
     explicit SystemSeams(const QDBusConnection& sleepBus = QDBusConnection::systemBus(),
                          const QDBusConnection& sessionBus = QDBusConnection::sessionBus())
-        : sleepInhibitor(sleepBus, QStringLiteral("/sys/class/rtc/rtc0/wakealarm"))
+        : sleepInhibitor(sleepBus, QString())
         , notifications(sessionBus)
     {
     }

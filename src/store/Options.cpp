@@ -288,6 +288,8 @@ void Options::GetOptions(RegKeys& registry)
                  120);
     GetBlnOption(registry, QStringLiteral("ShowDesktopNotifications"), ShowDesktopNotifications,
                  true);
+    GetIntOption(registry, QStringLiteral("PaddingSeconds"), PaddingSeconds, 0, MaxPaddingSeconds,
+                 0);
 
     // A warning that comes after the stop would never be seen: both go back to the defaults.
     if (WarnRecMegsLeft < StopRecMegsLeft) {

@@ -85,6 +85,10 @@ public:
     qint16 SilenceAlarmSeconds = 120;
     // What goes wrong while nobody watches also goes to the desktop's notifications.
     bool ShowDesktopNotifications = true;
+    // Scheduled recordings start this many seconds early and end as many late, since radio
+    // programs seldom keep their times.
+    static constexpr qint16 MaxPaddingSeconds = 600;
+    qint16 PaddingSeconds = 0;
 
     // Reads every option but the window layout and the player choice, in a fixed order,
     // then repairs a warning limit set below the stopping limit.

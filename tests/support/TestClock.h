@@ -2,14 +2,18 @@
 
 #include "common/Clock.h"
 
-// A clock the test sets and moves.
+#include <optional>
+
+// A clock the test sets and moves, or the system's own for a run in real time.
 class TestClock : public Clock {
 public:
-    double Now() const override { return m_now; }
+    double Now() const override { return m_system ? m_system->Now() : m_now; }
+    void FollowSystemTime() { m_system.emplace(); }
     void Set(double date) { m_now = date; }
     void Set(const QDateTime& local) { m_now = AutomationDate::FromDateTime(local); }
     void AdvanceSeconds(double seconds) { m_now = AutomationDate::AddSeconds(m_now, seconds); }
 
 private:
+    std::optional<SystemClock> m_system;
     double m_now = AutomationDate::FromText(QStringLiteral("06/01/2026")) + 0.5;
 };

@@ -22,17 +22,28 @@ QDBusConnection TestSystemBus()
 TestContext::TestContext(DesktopNotifications* notifications)
     : sleepInhibitor(TestSystemBus(), WakeAlarmFile())
 {
+    m_notifications = notifications ? notifications : &noNotifications;
     QFile(WakeAlarmFile()).open(QIODevice::WriteOnly);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.path() + "/config");
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
-    const AppFolders folders = AppFolders::Under(m_dir.path());
-    folders.InstallDatabaseOnFirstRun();
+    AppFolders::Under(m_dir.path()).InstallDatabaseOnFirstRun();
     QDir().mkpath(JoystickFolder());
     joystick.Watch(JoystickFolder());
+    MakeContext();
+}
+
+void TestContext::MakeContext()
+{
     ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace,
                                              mixer, windows, network, sleepInhibitor, joystick,
-                                             notifications ? *notifications : noNotifications},
-                                       folders);
+                                             *m_notifications},
+                                       AppFolders::Under(m_dir.path()));
+}
+
+void TestContext::Restart()
+{
+    ctx.reset();
+    MakeContext();
 }
 
 TestContext::~TestContext()

@@ -14,6 +14,8 @@
 #include "platform/WindowList.h"
 #include "shell/AppContext.h"
 
+#include <QDir>
+#include <QHash>
 #include <QTemporaryDir>
 #include <memory>
 #include <optional>
@@ -25,16 +27,20 @@ public:
     int sources = 1;
 };
 
-// The real file systems, unless the test names the free megabytes it wants seen.
+// The real file systems, unless the test names the free megabytes it wants seen: of one
+// folder, or of all.
 class TestDiskSpace : public StorageDiskSpace {
 public:
     std::optional<double> freeMb;
+    QHash<QString, double> freeMbOf;
 
 protected:
     DiskSpaceMb Measure(const QString& folder) override
     {
         DiskSpaceMb d = StorageDiskSpace::Measure(folder);
-        if (freeMb)
+        if (const auto it = freeMbOf.constFind(QDir::cleanPath(folder)); it != freeMbOf.cend())
+            d.free = *it;
+        else if (freeMb)
             d.free = *freeMb;
         return d;
     }
@@ -57,6 +63,8 @@ public:
 
     // Opens the database as the first activation does.
     void OpenDatabase();
+    // Ends the program and starts it again over the same folders and settings.
+    void Restart();
     // Adds a row to Programs with the given columns; returns its ID.
     qint64 AddProgram(const QVariantHash& columns);
     // Rows of a table, counted in the file itself.
@@ -87,4 +95,9 @@ public:
     QString JoystickFolder() const { return m_dir.path() + "/input"; }
     NoDesktopNotifications noNotifications;
     std::unique_ptr<AppContext> ctx;
+
+private:
+    void MakeContext();
+
+    DesktopNotifications* m_notifications = nullptr;
 };
