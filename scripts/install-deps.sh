@@ -9,6 +9,8 @@ packages=(
     clang libclang-rt-14-dev xvfb xauth
     trayer xdotool x11-utils
     libgstreamer1.0-dev gstreamer1.0-plugins-base gstreamer1.0-plugins-good
+    libgstreamer-plugins-base1.0-dev gstreamer1.0-plugins-bad glib-networking ca-certificates
+    libsox-fmt-base openssl
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
     weston qt6-wayland pipewire pipewire-pulse wireplumber

@@ -1,8 +1,11 @@
 #include "RecordingTask.h"
 
+#include "MpegAudioHeader.h"
+#include "StreamCapture.h"
 #include "taskcontract/TaskErrors.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QTimer>
 #include <chrono>
@@ -17,6 +20,13 @@ namespace {
 
 constexpr int FragmentMilliseconds = 100;
 constexpr int ReadyWaitMilliseconds = 2000;
+// A stream is opened well ahead of its start; connecting may take a few seconds.
+constexpr int StreamReadyWaitMilliseconds = 6000;
+// A due start further ahead than this means the clocks disagree: the start command counts.
+constexpr qint64 MaxHoldMsecs = 10 * 60 * 1000;
+// A pause in a stream's sound longer than this is a gap, filled with silence in PCM.
+constexpr qint64 GapNs = 250000000;
+constexpr int StreamStopWaitMilliseconds = 1500;
 // A killed task loses at most this much of the header's account of the data.
 constexpr int HeaderUpdateMilliseconds = 2000;
 bool IsDialogRate(quint32 rate)
@@ -70,6 +80,8 @@ RecordingTask::RecordingTask(const QString& serverName, QObject* parent)
 
 RecordingTask::~RecordingTask()
 {
+    // The socket outlives the members declared after it; its last word must not reach them.
+    m_socket.disconnect(this);
     Finish();
 }
 
@@ -90,7 +102,8 @@ bool RecordingTask::Begin()
     // Ready once the server delivers sound: a new stream's first fragment can take a while,
     // and a start command before it would lose the beginning. A server that stays silent
     // does not hold up the recording, though.
-    QTimer::singleShot(ReadyWaitMilliseconds, this, &RecordingTask::PostReady);
+    QTimer::singleShot(m_streamCapture ? StreamReadyWaitMilliseconds : ReadyWaitMilliseconds, this,
+                       &RecordingTask::PostReady);
     return true;
 }
 
@@ -128,7 +141,10 @@ int RecordingTask::Prepare()
         return TaskError::BadFormat;
     }
 
-    if (const int code = OpenCapture())
+    SetSampleSpec();
+    if (!m_parms.streamUrl.isEmpty())
+        OpenStream();
+    else if (const int code = OpenCapture())
         return code;
     const bool bareMp3 = m_mp3 && m_parms.outputPath.toUpper().endsWith(QLatin1String(".MP3"));
     if (const int code = m_file.Create(m_parms, bareMp3))
@@ -157,15 +173,43 @@ int RecordingTask::OpenEncoder()
     return 0;
 }
 
+void RecordingTask::SetSampleSpec()
+{
+    // An MP3 recording is captured as 16-bit PCM and encoded on the way to disk.
+    const bool eightBit = !m_mp3 && m_parms.format.nBitsPerSample == 8;
+    m_spec.format = eightBit ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE;
+    m_spec.channels = uint8_t(m_parms.format.nChannels);
+    m_spec.rate = m_parms.format.nSamplesPerSec;
+    m_frameBytes = pa_frame_size(&m_spec);
+}
+
+void RecordingTask::OpenStream()
+{
+    // No sound server is needed: a stream records on a machine without any input.
+    StreamCapture::PcmSpec pcm{m_spec.format == PA_SAMPLE_U8 ? QStringLiteral("U8")
+                                                             : QStringLiteral("S16LE"),
+                               int(m_spec.rate), int(m_spec.channels)};
+    StreamCapture::Handlers handlers;
+    handlers.pcm = [this](const char* sound, size_t bytes, qint64 end) {
+        OnStreamSound(sound, bytes, end);
+    };
+    handlers.frame = [this](const char* frame, size_t bytes, qint64 end) {
+        OnStreamFrame(frame, bytes, end);
+    };
+    handlers.title = [this](const QString& title) {
+        OnStreamTitle(title);
+    };
+    m_streamCapture = std::make_unique<StreamCapture>(QUrl(m_parms.streamUrl), pcm, m_mp3, m_clock,
+                                                      std::move(handlers));
+    connect(m_streamCapture.get(), &StreamCapture::GapEnded, this, &RecordingTask::OnStreamGap);
+    const QString recording = m_parms.finalPath.isEmpty() ? m_parms.outputPath : m_parms.finalPath;
+    m_cue = std::make_unique<CueSheet>(recording, m_parms.description);
+    m_streamCapture->Start();
+}
+
 int RecordingTask::OpenCapture()
 {
     pa_sample_spec& sampleSpec = m_spec;
-    // An MP3 recording is captured as 16-bit PCM and encoded on the way to disk.
-    const bool eightBit = !m_mp3 && m_parms.format.nBitsPerSample == 8;
-    sampleSpec.format = eightBit ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE;
-    sampleSpec.channels = uint8_t(m_parms.format.nChannels);
-    sampleSpec.rate = m_parms.format.nSamplesPerSec;
-    m_frameBytes = pa_frame_size(&sampleSpec);
 
     // Without a fragment size the server hands over audio in chunks of about two seconds.
     pa_buffer_attr attr;
@@ -263,11 +307,127 @@ void RecordingTask::OnStreamRead(pa_stream* stream, size_t, void* self)
     }
 }
 
-// Runs on the sound server's thread, once per fragment.
-void RecordingTask::OnSound(const char* sound, size_t bytes)
+void RecordingTask::NoteFlowing()
 {
     if (!m_flowing.exchange(true))
         QMetaObject::invokeMethod(this, &RecordingTask::PostReady, Qt::QueuedConnection);
+}
+
+// Runs on the sound server's thread, once per fragment.
+void RecordingTask::OnSound(const char* sound, size_t bytes)
+{
+    NoteFlowing();
+    Keep(sound, bytes, m_clock.nsecsElapsed());
+}
+
+void RecordingTask::OnStreamSound(const char* sound, size_t bytes, qint64 end)
+{
+    NoteFlowing();
+    const qint64 span = qint64(bytes / m_frameBytes) * 1000000000 / m_spec.rate;
+    // A gap in the stream becomes silence of its length, so the file keeps to the clock;
+    // a pause drops sound on purpose and is not filled.
+    if (m_lastSoundEndNs >= 0 && end - span - m_lastSoundEndNs > GapNs && !m_paused)
+        FillSilence(m_lastSoundEndNs, end - span);
+    m_lastSoundEndNs = end;
+    Keep(sound, bytes, end);
+}
+
+void RecordingTask::FillSilence(qint64 fromNs, qint64 toNs)
+{
+    const char silent = m_spec.format == PA_SAMPLE_U8 ? char(128) : char(0);
+    const std::vector<char> second(m_frameBytes * m_spec.rate, silent);
+    for (qint64 at = fromNs; at < toNs; at += 1000000000) {
+        const qint64 until = qMin(at + 1000000000, toNs);
+        const size_t frames = size_t((until - at) * qint64(m_spec.rate) / 1000000000);
+        Keep(second.data(), frames * m_frameBytes, until);
+    }
+}
+
+void RecordingTask::OnStreamFrame(const char* frame, size_t bytes, qint64 end)
+{
+    NoteFlowing();
+    const auto header =
+        MpegAudioHeader::Parse(reinterpret_cast<const unsigned char*>(frame), bytes);
+    if (!header || !m_capturing || m_paused || m_reachedStop)
+        return;
+    // Whole frames only: a frame belongs to the recording when most of it lies inside.
+    const qint64 span = qint64(header->samplesPerFrame) * 1000000000 / header->samplesPerSec;
+    const qint64 middle = end - span / 2;
+    if (middle < m_startedAt)
+        return;
+    if (m_stopping && middle >= m_stoppedAt) {
+        m_reachedStop = true;
+        return;
+    }
+    const WaveFormatRecord format = WaveFormatRecord::MpegLayer3(
+        quint16(header->channels), quint32(header->samplesPerSec), header->kbitsPerSec);
+    std::lock_guard lock(m_fileLock);
+    int code = 0;
+    if (!m_keptFormat) {
+        m_keptFormat = format;
+        code = m_file.RewriteFormat(format);
+        QMetaObject::invokeMethod(
+            this,
+            [this, format] {
+                if (m_socket.state() == QLocalSocket::ConnectedState)
+                    m_socket.write(
+                        Encode(Frame{Kind::Post, REC_MSG_STREAM_FORMAT, 0, format.Encode()}));
+            },
+            Qt::QueuedConnection);
+    } else if (format.nChannels != m_keptFormat->nChannels ||
+               format.nSamplesPerSec != m_keptFormat->nSamplesPerSec) {
+        if (!m_stopping.exchange(true)) {
+            m_stoppedAt = end;
+            m_reachedStop = true;
+            QMetaObject::invokeMethod(this, &RecordingTask::OnStreamCut, Qt::QueuedConnection);
+        }
+        return;
+    }
+    m_kept = true;
+    m_file.AddFrames(quint32(header->samplesPerFrame));
+    if (code == 0)
+        code = m_file.Append(frame, bytes);
+    m_writtenNs += span;
+    AfterWrite(code);
+}
+
+void RecordingTask::OnStreamTitle(const QString& title)
+{
+    std::lock_guard lock(m_fileLock);
+    // A title that came before the start is the one playing when the recording begins.
+    if (!m_capturing)
+        m_pendingTitle = title;
+    else if (m_cue)
+        m_cue->Add(title, double(m_writtenNs) / 1e9);
+}
+
+void RecordingTask::OnStreamGap(qint64 startNs, qint64 endNs)
+{
+    // Only what falls inside the recording counts.
+    const qint64 from = qMax(startNs, qint64(m_startedAt));
+    const qint64 to = m_stopping ? qMin(endNs, qint64(m_stoppedAt)) : endNs;
+    if (!m_capturing || to <= from)
+        return;
+    const qint64 fromMsecs =
+        QDateTime::currentMSecsSinceEpoch() - (m_clock.nsecsElapsed() - from) / 1000000;
+    const QByteArray start =
+        QDateTime::fromMSecsSinceEpoch(fromMsecs).toString(Qt::ISODate).toUtf8();
+    if (m_socket.state() == QLocalSocket::ConnectedState)
+        m_socket.write(
+            Encode(Frame{Kind::Post, REC_MSG_STREAM_GAP, qint32((to - from) / 1000000), start}));
+}
+
+void RecordingTask::OnStreamCut()
+{
+    if (m_leaving)
+        return;
+    Finish();
+    ReportFinished();
+    Leave();
+}
+
+void RecordingTask::Keep(const char* sound, size_t bytes, qint64 end)
+{
     // Before the start and while paused the sound is dropped.
     if (!m_capturing || m_paused || m_reachedStop)
         return;
@@ -275,7 +435,6 @@ void RecordingTask::OnSound(const char* sound, size_t bytes)
     // span the start or the stop, only the part after the start and before the stop is
     // kept, so that the file's length matches the clock.
     const qint64 frames = qint64(bytes / m_frameBytes);
-    const qint64 end = m_clock.nsecsElapsed();
     const qint64 span = frames * 1000000000 / m_spec.rate;
     const auto framesAt = [&](qint64 ns) {
         return qBound<qint64>(0, (ns - (end - span)) * qint64(m_spec.rate) / 1000000000, frames);
@@ -293,7 +452,13 @@ void RecordingTask::OnSound(const char* sound, size_t bytes)
     if (m_parms.silenceSeconds > 0)
         MeasureSilence(kept, keptBytes);
     std::lock_guard lock(m_fileLock);
+    m_writtenNs += (last - first) * 1000000000 / m_spec.rate;
     int code = Store(kept, keptBytes);
+    AfterWrite(code);
+}
+
+void RecordingTask::AfterWrite(int code)
+{
     if (code == 0 && m_sinceHeaderUpdate.elapsed() >= HeaderUpdateMilliseconds) {
         code = m_file.UpdateHeader();
         m_sinceHeaderUpdate.restart();
@@ -400,8 +565,15 @@ void RecordingTask::OnCall(quint32 number)
     if (number == REC_MSG_START) {
         result = m_readyCode;
         if (result == 0) {
-            m_startedAt = m_clock.nsecsElapsed();
+            // A stream opened ahead of time begins at its due moment, not at the command.
+            qint64 hold = m_parms.dueStartMsecs - QDateTime::currentMSecsSinceEpoch();
+            if (m_parms.streamUrl.isEmpty() || hold < 0 || hold > MaxHoldMsecs)
+                hold = 0;
+            m_startedAt = m_clock.nsecsElapsed() + hold * 1000000;
+            std::lock_guard lock(m_fileLock);
             m_capturing = true;
+            if (m_cue && !m_pendingTitle.isEmpty())
+                m_cue->Add(m_pendingTitle, 0.0);
         }
     } else if (number == REC_MSG_PAUSE_TOGGLE) {
         m_paused = !m_paused;
@@ -417,7 +589,7 @@ void RecordingTask::OnPost(quint32 number)
         break;
     case REC_MSG_STOP:
         Finish();
-        Send(Kind::Post, REC_MSG_STOPPED, 0);
+        ReportFinished();
         Leave();
         break;
     case WM_CLOSE:
@@ -448,7 +620,23 @@ void RecordingTask::Finish()
         for (int waited = 0; waited < 3 * FragmentMilliseconds && !m_reachedStop; waited += 5)
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
+    if (m_streamCapture) {
+        // Sound reaches a stream's listener some time after it was on air: what was on air
+        // up to the stop is waited for, briefly.
+        for (int waited = 0; waited < StreamStopWaitMilliseconds && !m_reachedStop; waited += 10)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        m_streamCapture->Stop();
+        // A stream still lost at the stop is silent up to it, as the clock says.
+        if (!m_kept && !m_paused && !m_reachedStop && m_lastSoundEndNs >= 0)
+            FillSilence(qMax(m_lastSoundEndNs, qint64(m_startedAt)), m_stoppedAt);
+    }
     m_reachedStop = true;
+    if (m_streamCapture) {
+        // A gap under way at the stop is reported up to the stop.
+        const qint64 gapStart = m_streamCapture->TakeGapStart();
+        if (gapStart >= 0)
+            OnStreamGap(gapStart, m_stoppedAt);
+    }
     if (m_mainloop)
         pa_threaded_mainloop_stop(m_mainloop);
     if (m_stream) {
@@ -469,7 +657,8 @@ void RecordingTask::Finish()
 
     std::lock_guard lock(m_fileLock);
     if (m_lame) {
-        if (m_file.IsOpen()) {
+        // A kept broadcast never went through the encoder: its tail would be stray frames.
+        if (m_file.IsOpen() && !m_kept) {
             m_mp3Buffer.resize(7200);
             const int tail = lame_encode_flush(m_lame, m_mp3Buffer.data(), int(m_mp3Buffer.size()));
             if (tail > 0)
@@ -479,6 +668,21 @@ void RecordingTask::Finish()
         m_lame = nullptr;
     }
     m_file.Close();
+}
+
+void RecordingTask::ReportFinished()
+{
+    if (!m_streamCapture || m_streamCapture->EverReceived()) {
+        Send(Kind::Post, REC_MSG_STOPPED, 0);
+        return;
+    }
+    // Not one byte of sound in all that time: the recording failed, and why is said.
+    const QString why = m_parms.streamUrl + QStringLiteral(": ") + m_streamCapture->LastFailure();
+    if (m_socket.state() == QLocalSocket::ConnectedState) {
+        m_socket.write(
+            Encode(Frame{Kind::Post, REC_MSG_ERROR, TaskError::StreamUnreachable, why.toUtf8()}));
+        m_socket.flush();
+    }
 }
 
 void RecordingTask::Leave()

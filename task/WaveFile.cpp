@@ -62,6 +62,8 @@ int WaveFile::Create(const RecParms& parms, bool bareMp3)
         format.append('\0');
     if (!WriteChunkHeader("fmt ", formatSize))
         return TaskError::FormatChunkFailed;
+    m_formatAt = std::ftell(m_file);
+    m_formatSize = formatSize;
     if (!Write(format.constData(), size_t(format.size())))
         return TaskError::FormatDataFailed;
 
@@ -112,6 +114,17 @@ int WaveFile::UpdateHeader()
                     WriteAt(m_dataSizeAt, dataSize) && std::fseek(m_file, 0, SEEK_END) == 0 &&
                     std::fflush(m_file) == 0;
     return ok ? 0 : TaskError::FlushFailed;
+}
+
+int WaveFile::RewriteFormat(const WaveFormatRecord& format)
+{
+    const QByteArray bytes = format.Encode();
+    if (m_bareMp3 || !m_file || quint32(bytes.size()) != m_formatSize)
+        return 0;
+    const bool ok = std::fseek(m_file, m_formatAt, SEEK_SET) == 0 &&
+                    Write(bytes.constData(), size_t(bytes.size())) &&
+                    std::fseek(m_file, 0, SEEK_END) == 0;
+    return ok ? 0 : TaskError::FormatDataFailed;
 }
 
 int WaveFile::Close()

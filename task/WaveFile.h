@@ -16,6 +16,9 @@ public:
     int Append(const void* bytes, size_t length);
     void AddFrames(quint32 frames) { m_frames += frames; }
     int UpdateHeader();
+    // Puts another format of the same size into the format chunk: a kept broadcast's own,
+    // known only once its first frame is there. A bare MP3 has no header to change.
+    int RewriteFormat(const WaveFormatRecord& format);
     int Close();
     bool IsOpen() const { return m_file != nullptr; }
     quint64 DataBytes() const { return m_dataBytes; }
@@ -28,6 +31,8 @@ private:
 
     FILE* m_file = nullptr;
     bool m_bareMp3 = false;
+    long m_formatAt = 0;
+    quint32 m_formatSize = 0;
     long m_riffSizeAt = 0;
     long m_factAt = 0;
     long m_dataSizeAt = 0;

@@ -1,13 +1,19 @@
 // nightreel-rec: records one recording for the scheduler whose channel is named on the
-// command line, then leaves.
+// command line, then leaves. With --probe and an address it tests an internet stream.
 #include "RecordingTask.h"
+#include "StreamProbe.h"
 
 #include <QCoreApplication>
+#include <memory>
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     const QStringList args = app.arguments();
+    if (args.size() == 3 && args.at(1) == QLatin1String("--probe")) {
+        StreamProbe probe(args.at(2));
+        return app.exec();
+    }
     if (args.size() != 2)
         return 2;
     RecordingTask task(args.at(1));

@@ -62,8 +62,10 @@ struct Window {
     AppContext& ctx() { return *tc.ctx; }
     ManualRecordServices Services()
     {
-        return {ctx().log,       ctx().registry,          ctx().options,   tc.messageBox,
-                ctx().appStatus, ctx().recorder.Manual(), ctx().WfxDefault};
+        return {ctx().log,        ctx().registry,
+                ctx().options,    tc.messageBox,
+                ctx().appStatus,  ctx().recorder.Manual(),
+                ctx().WfxDefault, ctx().recorder.Link().TaskProgram()};
     }
     void SetDefaultDuration(int hours, int minutes, int seconds)
     {

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDateEdit>
 #include <QDir>
 #include <QFile>
@@ -40,6 +41,8 @@ void Apply(QWidget* form, const QStringList& edits)
             time->setTime(QTime::fromString(value, "HH:mm:ss"));
         } else if (auto* line = qobject_cast<QLineEdit*>(control)) {
             line->setText(value);
+        } else if (auto* list = qobject_cast<QComboBox*>(control)) {
+            list->setCurrentIndex(value.toInt());
         } else {
             qFatal("can't edit %s", qPrintable(name));
         }
@@ -133,6 +136,11 @@ private slots:
         QTest::newRow("in the past")
             << QStringList{"dtpkrStartTime=11:00:00"} << false << "Invalid date and time"
             << "The scheduled date and time must be later than the current time.";
+        QTest::newRow("a stream's address that is not http")
+            << QStringList{"cboSource=1", "txtStreamUrl=ftp://radio.example.org/live"} << false
+            << "Invalid stream address"
+            << "The address of an internet stream must begin with http:// or https://, such as "
+               "http://radio.example.org/live.mp3, or name a .pls, .m3u or .m3u8 list.";
         QTest::newRow("size, before the long recording")
             << QStringList{"dtpkrEndTime=12:30:00"} << true << "Recording Size Exceeded"
             << "The recording exceeds 2 Gigabytes, which is the maximum size supported.  Please "
@@ -167,6 +175,8 @@ private slots:
         }
         if (title == "Program description required")
             QCOMPARE(form->focusWidget(), Control(form.get(), "TextProgramDescription"));
+        if (title == "Invalid stream address")
+            QCOMPARE(form->focusWidget(), Control(form.get(), "txtStreamUrl"));
     }
 
     // The format handed back is the program's own unless the last change was accepted.
@@ -236,6 +246,14 @@ private slots:
                                                      "optCloseStreamingPlayer(2)=1"}
                                       << "StreamingPlayerClose"
                                       << "DO_NOT_CLOSE";
+        QTest::newRow("stream address trimmed")
+            << QStringList{"cboSource=1", "txtStreamUrl= https://radio.example.org/a.pls "}
+            << "StreamUrl"
+            << "https://radio.example.org/a.pls";
+        QTest::newRow("address typed, then the input chosen")
+            << QStringList{"cboSource=1", "txtStreamUrl=http://r.example", "cboSource=0"}
+            << "StreamUrl"
+            << "";
         QTest::newRow("window title as typed")
             << QStringList{"chkLaunchLink=1", "txtLaunchLink=http://r",
                            "optCloseStreamingPlayer(1)=1", "txtStreamingPlayerWindowTitle=Radio "}

@@ -193,6 +193,34 @@ private slots:
         QCOMPARE(start.size(), 1);
     }
 
+    // A stream is opened ahead (ten seconds, or the link's delay if longer), and its
+    // recording still starts at the due second.
+    void aStreamProgramOpensAheadOfItsStart_data()
+    {
+        QTest::addColumn<int>("linkDelay");
+        QTest::addColumn<QString>("firstStartTick");
+        QTest::newRow("ten seconds") << 0 << "19:59:50";
+        QTest::newRow("the link's delay") << 30 << "19:59:30";
+    }
+    void aStreamProgramOpensAheadOfItsStart()
+    {
+        QFETCH(int, linkDelay);
+        QFETCH(QString, firstStartTick);
+        Fixture f;
+        NextProgram& next = f.next();
+        next.NextProgramFound = true;
+        next.NextProgramStart = At(2026, 6, 1, "20:00:00");
+        next.NextProgramEnd = At(2026, 6, 1, "20:30:00");
+        next.NextStreamUrl = "http://radio.example.org/live.mp3";
+        next.NextInternetLinkDelay = qint16(linkDelay);
+        QSignalSpy start(&f.heartbeat, &Heartbeat::StartRecordingDue);
+        f.TickAt(AutomationDate::AddSeconds(At(2026, 6, 1, firstStartTick), -1));
+        QCOMPARE(start.size(), 0);
+        f.TickAt(At(2026, 6, 1, firstStartTick));
+        QCOMPARE(start.size(), 1);
+        QCOMPARE(start[0][1].toDouble(), At(2026, 6, 1, "20:00:00"));
+    }
+
     // Ticks at the given times of consecutive days ("d hh:mm:ss", d from 0).
     void thePurgeWindow_data()
     {

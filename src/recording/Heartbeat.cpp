@@ -102,9 +102,10 @@ void Heartbeat::Tick()
     if (!m_appStatus.Recording() && next.NextProgramFound) {
         if (now > next.NextProgramEnd)
             scheduler.ScheduleNextRecording();
-        if (next.NextProgramFound && now >= next.NextProgramStart && now < next.NextProgramEnd)
-            emit StartRecordingDue(next.NextProgramId, now, next.NextProgramEnd,
-                                   next.NextProgramDescription);
+        // A stream opened ahead still starts its recording at the due second.
+        if (next.NextProgramFound && now >= next.RecordingOpenTime() && now < next.NextProgramEnd)
+            emit StartRecordingDue(next.NextProgramId, qMax(now, next.NextProgramStart),
+                                   next.NextProgramEnd, next.NextProgramDescription);
     }
 
     if (m_options.PurgeRecordings &&

@@ -16,6 +16,7 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     , m_statusBar(services.clock, services.log, services.options, services.appStatus,
                   services.error, m_status, m_conversion, services.diskSpace)
     , m_silenceAlarm(services.log, services.error, m_status)
+    , m_streamGaps(services.log, m_status)
     , m_keepAwake(services.clock, services.log, services.options, services.appStatus,
                   services.scheduler, m_status, m_conversion, services.sleepInhibitor)
     , m_missed(services.clock, services.log, services.registry, services.scheduler,
@@ -52,6 +53,7 @@ void Recorder::ConnectUnattended()
     connect(&m_link, &RecordingTaskLink::SoundReturned, &m_silenceAlarm,
             &SilenceAlarm::SoundReturned);
     connect(&m_control, &RecordingControl::RecordingStarted, &m_silenceAlarm, &SilenceAlarm::Reset);
+    connect(&m_link, &RecordingTaskLink::StreamGap, &m_streamGaps, &StreamGapLog::StreamGap);
     connect(&m_control, &RecordingControl::RecordingEnded, &m_silenceAlarm, &SilenceAlarm::Reset);
     // Each tick, and at once when a recording or a conversion ends.
     connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, &m_keepAwake, &KeepAwake::Update);

@@ -10,6 +10,7 @@
 #include "recording/RecordingTaskLink.h"
 #include "recording/SilenceAlarm.h"
 #include "recording/StatusBarPlus.h"
+#include "recording/StreamGapLog.h"
 #include "recording/clsManualRecord.h"
 #include "recording/clsRecordingStatus.h"
 
@@ -79,6 +80,7 @@ private:
     Heartbeat m_heartbeat;
     StatusBarPlus m_statusBar;
     SilenceAlarm m_silenceAlarm;
+    StreamGapLog m_streamGaps;
     KeepAwake m_keepAwake;
     MissedRecordings m_missed;
 };

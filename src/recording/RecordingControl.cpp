@@ -27,8 +27,10 @@
 #include "taskcontract/RecParms.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QThread>
+#include <cmath>
 
 using namespace TaskProtocol;
 
@@ -57,6 +59,19 @@ QString SoftwareName()
         .arg(NIGHTREEL_VERSION_MINOR);
 }
 
+// The start on the task's clock, in milliseconds since 1970, for a stream opened ahead that
+// must begin on the due second itself. The program's clock reads whole seconds, the second
+// under way; a clock with finer readings (a test's) is taken as it reads.
+qint64 DueMsecs(const Clock& clock, double start)
+{
+    const double now = clock.Now();
+    const qint64 real = QDateTime::currentMSecsSinceEpoch();
+    const double nowSeconds = now * 86400.0;
+    const bool wholeSeconds = std::abs(nowSeconds - std::round(nowSeconds)) < 0.001;
+    const qint64 base = wholeSeconds ? real / 1000 * 1000 : real;
+    return base + qint64(std::llround((start - now) * 86400000.0));
+}
+
 QString WithClosingSeparator(const QString& folder)
 {
     return folder.endsWith(u'/') ? folder : folder + u'/';
@@ -77,6 +92,8 @@ RecordingControl::RecordingControl(const RecorderServices& services, RecordingTa
 {
     connect(&m_link, &RecordingTaskLink::StopRecording, this, &RecordingControl::StopRecording);
     connect(&m_link, &RecordingTaskLink::TaskError, this, &RecordingControl::OnTaskError);
+    connect(&m_link, &RecordingTaskLink::StreamFormatKept, this,
+            &RecordingControl::OnStreamFormatKept);
     connect(&m_link, &RecordingTaskLink::TaskNotResponding, this,
             &RecordingControl::OnTaskNotResponding);
 }
@@ -88,7 +105,7 @@ void RecordingControl::ExitAndClear()
     m_s.appStatus.SetRecording(false);
 }
 
-void RecordingControl::OnTaskError(qint32 code)
+void RecordingControl::OnTaskError(qint32 code, const QString& detail)
 {
     // A task may report more than once; only the first report fails the recording. The
     // report comes after the stop, as the system logged it.
@@ -96,7 +113,19 @@ void RecordingControl::OnTaskError(qint32 code)
         return;
     m_status.Failed = true;
     StopRecording();
-    ReportRecordingTaskError(m_s.log, code);
+    ReportRecordingTaskError(m_s.log, code, detail);
+}
+
+void RecordingControl::OnStreamFormatKept(const QByteArray& record)
+{
+    Trap(m_s.log, "OnStreamFormatKept", [&] {
+        const std::optional<WaveFormatRecord> format = WaveFormatRecord::Decode(record);
+        if (!format || format->wFormatTag != clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3)
+            return;
+        m_format.SetWaveFormatEx(m_s.log, *format);
+        m_status.CompressionText =
+            m_format.TextCompressionMethodShort + QStringLiteral("   (Kept as broadcast)");
+    });
 }
 
 void RecordingControl::OnTaskNotResponding()
@@ -178,6 +207,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
                 programs.Value(QStringLiteral("StreamingPlayerClose")).toString().trimmed();
         status.HangupInternetConnection =
             BoolColumn(programs, QStringLiteral("HangupInternetConnection"));
+        status.StreamUrl = TextColumn(programs, QStringLiteral("StreamUrl"), true);
         userName = TextColumn(programs, QStringLiteral("FilenameUser"), false);
         prefix = TextColumn(programs, QStringLiteral("FilenamePrefix"), false);
         suffix = TextColumn(programs, QStringLiteral("FilenameSuffix"), false);
@@ -186,6 +216,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         description = Description;
         chosen.CopyFrom(m_manual.Format);
         userName = m_manual.Filename;
+        status.StreamUrl = m_manual.StreamUrl.trimmed();
         status.LaunchAppAfter.clear();
         status.InternetLink.clear();
         status.MixerProfileBefore.clear();
@@ -288,6 +319,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     parms.format = capture->WaveFormat();
     parms.silenceThresholdDb = m_s.options.SilenceThresholdDb;
     parms.silenceSeconds = m_s.options.SilenceAlarm ? m_s.options.SilenceAlarmSeconds : 0;
+    parms.streamUrl = status.StreamUrl;
+    parms.dueStartMsecs = status.StreamUrl.isEmpty() ? 0 : DueMsecs(m_s.clock, StartTime);
+    parms.finalPath = finalFile;
 
     // The keep-alive runs from before the parameter file is written.
     m_link.StartKeepAlive();

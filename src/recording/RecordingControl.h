@@ -67,7 +67,9 @@ private:
                              const QString& Description);
     void StopRecordingSteps();
     void ExitAndClear();
-    void OnTaskError(qint32 code);
+    void OnTaskError(qint32 code, const QString& detail);
+    // A stream's broadcast is kept as it came: the row shows its real format.
+    void OnStreamFormatKept(const QByteArray& record);
     void OnTaskNotResponding();
 
     RecorderServices m_s;

@@ -239,6 +239,11 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
         return {QStringLiteral("Bad Recording Format."),
                 QStringLiteral("Try recording with different recording format. If the problem "
                                "persists, try restarting the software or rebooting the system.")};
+    case TaskError::StreamUnreachable:
+        return {QStringLiteral("Internet stream could not be reached."),
+                QStringLiteral("The stream was tried again and again until the end of the "
+                               "recording.  Check the address with Test in the program's Source; "
+                               "the station may have moved or be off the air.")};
     default:
         // 1012 has no row and falls here, as do codes that the task should never send.
         return {QStringLiteral("Error occurred During Recording Process"),
@@ -248,8 +253,9 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
     }
 }
 
-void ReportRecordingTaskError(EventLog& log, qint32 code)
+void ReportRecordingTaskError(EventLog& log, qint32 code, const QString& detail)
 {
     const RecordingTaskErrorText text = RecordingTaskErrorTexts(code);
-    log.LogEvent(EventError, text.message, text.details);
+    log.LogEvent(EventError, text.message,
+                 detail.isEmpty() ? text.details : detail + QStringLiteral("\r\n") + text.details);
 }

@@ -13,4 +13,5 @@ struct RecordingTaskErrorText {
 RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code);
 
 // Logs the code as an error entry; nothing else. The caller fails the recording.
-void ReportRecordingTaskError(EventLog& log, qint32 code);
+// The detail, where the task gave one, leads the entry's text.
+void ReportRecordingTaskError(EventLog& log, qint32 code, const QString& detail = QString());

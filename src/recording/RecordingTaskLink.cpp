@@ -311,7 +311,13 @@ void RecordingTaskLink::Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint
         emit StopRecording();
         break;
     case REC_MSG_ERROR:
-        emit TaskError(lParam);
+        emit TaskError(lParam, QString::fromUtf8(m_postPayload));
+        break;
+    case REC_MSG_STREAM_FORMAT:
+        emit StreamFormatKept(m_postPayload);
+        break;
+    case REC_MSG_STREAM_GAP:
+        emit StreamGap(lParam, QString::fromUtf8(m_postPayload));
         break;
     case REC_MSG_KEEPALIVE:
         KeepAliveMissCount = 0;

@@ -75,8 +75,13 @@ signals:
     // StopRecording is due now (task stopped, an unexpected code, the watchdog). The
     // receiver runs it before this returns.
     void StopRecording();
-    // The task reported a failure with its code (1046); it may report more than once.
-    void TaskError(qint32 code);
+    // The task reported a failure with its code (1046); it may report more than once. The
+    // detail is what the task could say beyond the code (a stream's address and reason).
+    void TaskError(qint32 code, const QString& detail = QString());
+    // An internet stream's broadcast is kept as it came, in this format (an encoded record).
+    void StreamFormatKept(const QByteArray& record);
+    // An internet stream was interrupted from start (ISO 8601 local time) for so long.
+    void StreamGap(qint32 milliseconds, const QString& start);
     // Three keep-alive questions went unanswered.
     void TaskNotResponding();
     // The main window was asked to minimise: it goes to the tray instead.
@@ -125,6 +130,6 @@ private:
     qint32 m_taskStatusCode = 0;
     bool m_timedOut = false;
     int m_activationTimeout = 10000;
-    // The payload of the message being dispatched; only the silence alarm's carry one.
+    // The payload of the message being dispatched, where it carries one.
     QByteArray m_postPayload;
 };

@@ -16,4 +16,6 @@ struct clsManualRecord {
     bool Requested = false;
     // The user's file name without extension; empty for the default name of date and time.
     QString Filename;
+    // An internet stream to record instead of the sound server's input; empty for the input.
+    QString StreamUrl;
 };

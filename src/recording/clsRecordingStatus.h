@@ -26,4 +26,6 @@ struct clsRecordingStatus {
     // "DO_NOT_CLOSE" is a reserved value.
     QString StreamingPlayerClose;
     bool NextProgramScheduled = false;
+    // The internet stream recorded instead of the sound server's input; empty for the input.
+    QString StreamUrl;
 };

@@ -10,6 +10,8 @@
 #include "formats/frmRecordFormat.h"
 #include "gui/FormPlacement.h"
 #include "recording/clsManualRecord.h"
+#include "scheduling/SourceChooser.h"
+#include "scheduling/StreamAddress.h"
 #include "store/Options.h"
 
 #include <QEvent>
@@ -145,6 +147,8 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     fields->addWidget(new QLabel(QStringLiteral("Disk Storage:")), 3, 0);
     fields->addWidget(LabelDiskSpaceData, 3, 1, 1, 2);
     fields->addWidget(frameFilename, 4, 0, 1, 3);
+    frameSource = new SourceChooser(m_s.taskProgram);
+    fields->addWidget(frameSource, 5, 0, 1, 3);
     fields->setColumnStretch(1, 1);
 
     CommandOk = new QPushButton(QStringLiteral("&OK"));
@@ -218,6 +222,8 @@ void frmManualRecord::Form_Load()
     FormatChanged = false;
     m_workingFormat.CopyFrom(m_s.defaultFormat);
     TextCompressionMethod->setText(m_workingFormat.TextCompressionMethod);
+    // The source of the last manual recording, so the quick start records from it again.
+    frameSource->SetStreamUrl(m_s.request.StreamUrl);
     CalcStorage();
 }
 
@@ -333,6 +339,15 @@ void frmManualRecord::CommandOk_Click()
             failed = true;
         }
 
+        if (!failed && frameSource->StreamChosen()) {
+            const QString problem = StreamAddress::Problem(frameSource->txtStreamUrl->text());
+            if (!problem.isEmpty()) {
+                warn(QStringLiteral("Invalid stream address"), problem);
+                frameSource->txtStreamUrl->setFocus();
+                failed = true;
+            }
+        }
+
         const qint32 seconds = DurationSecondsOfFields();
         if (!failed && CheckFor2GbLimit(box, m_workingFormat, seconds))
             failed = true;
@@ -355,6 +370,7 @@ void frmManualRecord::CommandOk_Click()
         request.Requested = true;
         request.DurationSeconds = seconds;
         request.Description = TextProgramDescription->text();
+        request.StreamUrl = frameSource->StreamUrl();
         accept();
     });
 }

@@ -15,6 +15,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class SourceChooser;
 
 // What the manual recording dialog uses of the rest of the system.
 struct ManualRecordServices {
@@ -27,6 +28,8 @@ struct ManualRecordServices {
     clsManualRecord& request;
     // The default format the dialog starts from.
     const clsRecordingFormat& defaultFormat;
+    // The recording task, which tests a stream's address.
+    QString taskProgram;
 };
 
 // "Manual Record": the length, description, format and file name of a recording that starts
@@ -55,6 +58,7 @@ public:
     QRadioButton* optDefaultFilename;
     QRadioButton* optUserFilename;
     QLineEdit* txtFilename;
+    SourceChooser* frameSource;
     QPushButton* CommandOk;
     QPushButton* CommandCancel;
 

@@ -130,6 +130,7 @@ ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Reco
     v.FormStreamingPlayerClose = TrimmedText(rs, "StreamingPlayerClose", DoNotClose);
     v.FormMixerProfileBefore = ExistingProfile(mixerFolder, TrimmedText(rs, "MixerProfileBefore"));
     v.FormMixerProfileAfter = ExistingProfile(mixerFolder, TrimmedText(rs, "MixerProfileAfter"));
+    v.FormStreamUrl = TrimmedText(rs, "StreamUrl");
     return v;
 }
 
@@ -219,6 +220,7 @@ qint32 UpdateDbFromProgramForm(DataControl& programs, const ProgramFormValues& v
     set("StreamingPlayerClose", v.FormStreamingPlayerClose);
     set("MixerProfileBefore", v.FormMixerProfileBefore);
     set("MixerProfileAfter", v.FormMixerProfileAfter);
+    set("StreamUrl", v.FormStreamUrl.trimmed());
     QString frequencyText =
         v.FormFrequency != 0
             ? DaysString(v.FormDays)

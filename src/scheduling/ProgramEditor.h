@@ -39,6 +39,8 @@ struct ProgramFormValues {
     QString FormStreamingPlayerClose;
     QString FormMixerProfileBefore;
     QString FormMixerProfileAfter;
+    // The internet stream the program records; empty for the sound server's input.
+    QString FormStreamUrl;
     // The program's recording format, written with the row.
     clsRecordingFormat FormFormat;
 };

@@ -21,4 +21,6 @@ struct ProgramFormServices {
     const Clock& clock;
     QString runtimeFolder;
     QString mixerFolder;
+    // The recording task, which tests a stream's address.
+    QString taskProgram;
 };

@@ -20,4 +20,6 @@ struct ProgramOccurrence {
     QString mixerProfileAfter;
     QString streamingPlayerClose;
     bool hangupInternetConnection = false;
+    // The internet stream the program records; empty for the sound server's input.
+    QString streamUrl;
 };

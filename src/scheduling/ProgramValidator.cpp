@@ -3,6 +3,7 @@
 #include "common/Clock.h"
 #include "common/PathHelpers.h"
 #include "common/TextHelpers.h"
+#include "scheduling/StreamAddress.h"
 #include "store/Options.h"
 
 #include <algorithm>
@@ -63,6 +64,12 @@ ProgramValidator::FirstFailedCheck(const ProgramCheckValues& v) const
         return Refused(QStringLiteral("Invalid date and time"),
                        QStringLiteral("The scheduled date and time must be later than the "
                                       "current time."));
+    if (v.streamSource) {
+        const QString problem = StreamAddress::Problem(v.streamUrl);
+        if (!problem.isEmpty())
+            return Refused(QStringLiteral("Invalid stream address"), problem,
+                           QStringLiteral("txtStreamUrl"));
+    }
     // Only an enabled program is refused for a conflict; a disabled one may be saved in
     // conflict and enabled later without a test.
     QString other;

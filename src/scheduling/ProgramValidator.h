@@ -23,6 +23,9 @@ struct ProgramCheckValues {
     QString prefix;
     bool suffixChecked = false;
     QString suffix;
+    // The internet stream the program records; empty for the sound server's input.
+    bool streamSource = false;
+    QString streamUrl;
 };
 
 // What a check tells the user, and where the editor puts them back.
@@ -41,7 +44,8 @@ public:
 
     // The first rule the values break, in the editor's order: the days of a weekly
     // program, the file name, its prefix and suffix, the description, a one-time start in
-    // the past, a conflict with another enabled program. Nothing when all hold.
+    // the past, the stream's address, a conflict with another enabled program. Nothing when
+    // all hold.
     std::optional<ProgramCheckMessage> FirstFailedCheck(const ProgramCheckValues& values) const;
     // The Yes/No question before a recording longer than the options allow is saved;
     // nothing when none is due.

@@ -63,6 +63,7 @@ struct ProgramColumns {
         mixerProfileBefore = at("MixerProfileBefore");
         mixerProfileAfter = at("MixerProfileAfter");
         streamingPlayerClose = at("StreamingPlayerClose");
+        streamUrl = at("StreamUrl");
         hangup = at("HangupInternetConnection");
     }
 
@@ -70,7 +71,7 @@ struct ProgramColumns {
     std::array<int, 7> days;
     int avgBytesPerSec, recordingCancelled, cancelledEnd, internetLink, internetLinkDelay;
     int launchAppPrior, launchAppDelay, mixerProfileBefore, mixerProfileAfter;
-    int streamingPlayerClose, hangup;
+    int streamingPlayerClose, hangup, streamUrl;
 };
 
 // Only 0 means one time; every reader takes any other value for weekly.
@@ -193,10 +194,19 @@ Scheduler::DetermineNextProgramToSchedule(bool readOnly, double referenceDate,
                 o.streamingPlayerClose =
                     TrimmedOr(rs.Value(c.streamingPlayerClose), StreamingPlayerClose::DoNotClose);
                 o.hangupInternetConnection = Field::ToBool(rs.Value(c.hangup));
+                o.streamUrl = TrimmedOr(rs.Value(c.streamUrl), QString());
             }
         }
     });
     return best;
+}
+
+double NextProgram::RecordingOpenTime() const
+{
+    if (NextStreamUrl.isEmpty())
+        return NextProgramStart;
+    return AutomationDate::AddSeconds(NextProgramStart,
+                                      -qMax<int>(StreamOpenLeadSeconds, NextInternetLinkDelay));
 }
 
 void Scheduler::ScheduleNextRecording()
@@ -223,6 +233,7 @@ void Scheduler::ScheduleNextRecording()
         n.NextMixerProfileAfter = found->mixerProfileAfter;
         n.NextStreamingPlayerClose = found->streamingPlayerClose;
         n.NextHangupInternetConnection = found->hangupInternetConnection;
+        n.NextStreamUrl = found->streamUrl;
         n.NextProgramFound = true;
         Pad(*found, n);
         if (n.NextInternetLink.isEmpty()) {

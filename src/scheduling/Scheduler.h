@@ -12,6 +12,9 @@ class EventLog;
 class MessageBoxPresenter;
 class Options;
 
+// The least time by which a stream is opened before its start.
+constexpr int StreamOpenLeadSeconds = 10;
+
 // The one occurrence due next, as the last search left it. The heartbeat only compares the
 // clock with these.
 struct NextProgram {
@@ -30,8 +33,14 @@ struct NextProgram {
     bool NextHangupInternetConnection = false;
     double NextLinkLaunchTime;
     double NextAppLaunchTime;
+    QString NextStreamUrl;
 
     NextProgram();
+
+    // When the recording is begun: at the start, but a stream ahead of it, at the link's
+    // time and at least ten seconds early, so that it is connected and buffered and its
+    // file begins at the due second.
+    double RecordingOpenTime() const;
 };
 
 // Works out which occurrence of which program is due next. There is no table of future

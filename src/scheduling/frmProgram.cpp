@@ -9,6 +9,7 @@
 #include "gui/FormPlacement.h"
 #include "platform/WaylandSession.h"
 #include "scheduling/ProgramValidator.h"
+#include "scheduling/SourceChooser.h"
 #include "scheduling/frmLaunchProgramInfo.h"
 #include "sideactions/StreamingPlayer.h"
 #include "sideactions/ViewHtmlFile.h"
@@ -206,8 +207,10 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     grid->addWidget(lblFormat, 4, 0);
     grid->addWidget(TextCompressionMethod, 4, 1, 1, 3);
     grid->addWidget(ChangeComprMethodButton, 4, 4);
+    frameSource = Named(new SourceChooser(m_services.taskProgram), "frameSource");
+    grid->addWidget(frameSource, 5, 0, 1, 5);
     grid->setColumnStretch(3, 1);
-    grid->setRowStretch(5, 1);
+    grid->setRowStretch(6, 1);
 
     connect(OptionOneTimeOrDaily[0], &QRadioButton::clicked, this,
             &frmProgram::OptionOneTimeOrDaily_Click);
@@ -413,6 +416,7 @@ void frmProgram::FillProgramForm(const ProgramFormValues& v)
     TextCompressionMethod->setText(v.FormCompressionMethod);
     TextProgramDescription->setText(v.FormDescription);
     CheckEnabled->setChecked(v.FormEnabled);
+    frameSource->SetStreamUrl(v.FormStreamUrl);
     CheckEnabled_Click();
     dtpkrStartTime->setTime(TimeOf(v.FormStartTime));
     dtpkrEndTime->setTime(TimeOf(v.FormEndTime));
@@ -651,6 +655,8 @@ ProgramCheckValues frmProgram::CheckValues() const
     v.prefix = txtPrefix->text();
     v.suffixChecked = chkSuffix->isChecked();
     v.suffix = txtSuffix->text();
+    v.streamSource = frameSource->StreamChosen();
+    v.streamUrl = frameSource->StreamUrl();
     return v;
 }
 
@@ -715,6 +721,7 @@ void frmProgram::CopyFormValues()
     }
     v.FormMixerProfileBefore = ProfileOf(lstMixerProfilePrior);
     v.FormMixerProfileAfter = ProfileOf(lstMixerProfileAfter);
+    v.FormStreamUrl = frameSource->StreamUrl();
     m_values = v;
 }
 

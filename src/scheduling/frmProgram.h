@@ -18,6 +18,7 @@ class QPushButton;
 class QRadioButton;
 class QTabWidget;
 class QTimeEdit;
+class SourceChooser;
 
 // The program editor: one program on five tabs. It writes nothing to the database itself;
 // the caller fills it, shows it modally and, when ProgramFormOk() is true afterwards,
@@ -106,6 +107,7 @@ private:
     QLabel* LabelDiskSpaceData;
     QLineEdit* TextCompressionMethod;
     QPushButton* ChangeComprMethodButton;
+    SourceChooser* frameSource;
 
     QRadioButton* optDefaultFilename;
     QRadioButton* optUserFilename;

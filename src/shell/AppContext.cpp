@@ -57,7 +57,8 @@ ProgramFormServices AppContext::ForProgramForm()
             database,
             clock,
             folders.runtimeFolder,
-            mixerProfiles.Folder()};
+            mixerProfiles.Folder(),
+            recorder.Link().TaskProgram()};
 }
 
 ControlServices AppContext::ForControl(CallMessageBox& callBox)

@@ -276,7 +276,8 @@ void frmMain::ConnectManualRecording()
 {
     m_manualRecording = new ManualRecordCommands(
         ManualRecordServices{m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.messageBox,
-                             m_ctx.appStatus, m_ctx.recorder.Manual(), m_ctx.WfxDefault},
+                             m_ctx.appStatus, m_ctx.recorder.Manual(), m_ctx.WfxDefault,
+                             m_ctx.recorder.Link().TaskProgram()},
         m_ctx.recorder, this);
     for (const char* name : {"ToolbarMain.Record", "mnuManualRecording"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, m_manualRecording,

@@ -32,6 +32,9 @@ constexpr AddedColumn kAddedProgramColumns[] = {
     {"MixerProfileBefore", "TEXT"},
     {"MixerProfileAfter", "TEXT"},
     {"StreamingPlayerClose", "TEXT"},
+    // An internet stream recorded instead of the sound server's input; empty or NULL for
+    // the input.
+    {"StreamUrl", "TEXT"},
     {"HangupInternetConnection", "INTEGER"},
     {"LaunchAfterOnlyIfOk", "INTEGER"},
 };

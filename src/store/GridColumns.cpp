@@ -10,6 +10,7 @@ const QList<GridColumn>& Programs()
         {QStringLiteral("End Time"), QStringLiteral("EndTime"), GridColumn::Display::LongTime},
         {QStringLiteral("Frequency"), QStringLiteral("FrequencyText")},
         {QStringLiteral("Enabled"), QStringLiteral("Enabled"), GridColumn::Display::Boolean},
+        {QStringLiteral("Source"), QStringLiteral("StreamUrl"), GridColumn::Display::Source},
     };
     return columns;
 }

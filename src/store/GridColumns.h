@@ -6,7 +6,8 @@
 // The columns of the main grids and of the log grid, caption and bound field. Statements
 // that sort a grid look the field up by the caption, so a changed grid needs no changed SQL.
 struct GridColumn {
-    enum class Display { Text, GeneralDate, LongTime, Boolean, Number };
+    // Source: a program's stream address, or the sound server's input where it has none.
+    enum class Display { Text, GeneralDate, LongTime, Boolean, Number, Source };
     QString caption;
     QString dataField;
     Display display = Display::Text;

@@ -95,6 +95,10 @@ int RecordsetModel::RowOfBookmark(qint64 bookmark) const
 
 QString RecordsetModel::DisplayText(const QVariant& value, GridColumn::Display display)
 {
+    if (display == GridColumn::Display::Source) {
+        const QString stream = value.toString().trimmed();
+        return stream.isEmpty() ? QStringLiteral("Sound server input") : stream;
+    }
     if (value.isNull())
         return QString();
     switch (display) {
@@ -107,6 +111,7 @@ QString RecordsetModel::DisplayText(const QVariant& value, GridColumn::Display d
     case GridColumn::Display::Number:
         return QString::number(value.toDouble(), 'g', 7);
     case GridColumn::Display::Text:
+    case GridColumn::Display::Source:
         break;
     }
     return value.toString();

@@ -41,7 +41,8 @@ CREATE TABLE Programs (
     MixerProfileAfter TEXT,
     StreamingPlayerClose TEXT,
     HangupInternetConnection INTEGER,
-    LaunchAfterOnlyIfOk INTEGER
+    LaunchAfterOnlyIfOk INTEGER,
+    StreamUrl TEXT
 );
 
 CREATE TABLE Recordings (

@@ -52,8 +52,10 @@ void RecParms::Write(const QString& path) const
         bytes += NumberLine(value);
     for (int i = 0; i < format.cbSize; ++i)
         bytes += NumberLine(i < format.extra.size() ? quint8(format.extra.at(i)) : 0);
-    if (silenceSeconds > 0)
+    if (silenceSeconds > 0 || !streamUrl.isEmpty())
         bytes += NumberLine(silenceThresholdDb) + NumberLine(silenceSeconds);
+    if (!streamUrl.isEmpty())
+        bytes += TextLine(streamUrl) + NumberLine(dueStartMsecs) + TextLine(finalPath);
     if (file.write(bytes) != bytes.size() || !file.flush())
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("Path/File access error"));
 }
@@ -115,6 +117,14 @@ std::optional<RecParms> RecParms::Read(const QString& path, bool* couldOpen)
     if (lines.size() >= alarmLine + 2) {
         p.silenceThresholdDb = number(alarmLine);
         p.silenceSeconds = number(alarmLine + 1);
+    }
+    const int streamLine = alarmLine + 2;
+    if (lines.size() >= streamLine + 3) {
+        p.streamUrl = lines.at(streamLine);
+        bool good = false;
+        p.dueStartMsecs = lines.at(streamLine + 1).toLongLong(&good);
+        ok = ok && good;
+        p.finalPath = lines.at(streamLine + 2);
     }
     if (!ok)
         return std::nullopt;

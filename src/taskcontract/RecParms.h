@@ -26,6 +26,13 @@ struct RecParms {
     // task never sends such a scheduler a message that it does not know.
     qint32 silenceThresholdDb = -60;
     qint32 silenceSeconds = 0;
+    // An internet stream to record instead of the sound server's input, in three lines after
+    // the silence alarm's (which are then always written): the address, the due start as
+    // milliseconds since 1970 UTC on the task's clock (0 for at once), and the final file's
+    // path, which the titles sheet names when the recording is converted afterwards.
+    QString streamUrl;
+    qint64 dueStartMsecs = 0;
+    QString finalPath;
 
     // Deletes any old file and writes this one; throws RuntimeError on failure.
     void Write(const QString& path) const;

@@ -45,4 +45,7 @@ constexpr qint32 DeviceBusy = 1050;
 constexpr qint32 NoAudioDriver = 1051;
 constexpr qint32 OutOfMemory = 1052;
 constexpr qint32 BadFormat = 1053;
+// An internet stream that could not be reached at any time of the recording; the error's
+// payload names the address and the reason.
+constexpr qint32 StreamUnreachable = 1060;
 } // namespace TaskError

@@ -35,6 +35,14 @@ constexpr quint32 REC_MSG_KEEPALIVE = 1047;
 constexpr quint32 REC_MSG_SILENT = 1048;
 constexpr quint32 REC_MSG_SOUND_RETURNED = 1049;
 constexpr qint32 NoSignalLevel = -32768;
+// Task to scheduler, for an internet stream only. The broadcast is kept as it came: the
+// payload is the encoded wave format record of what is written. A gap in the stream ended
+// (or the recording ended inside one): the argument is its length in milliseconds, the
+// payload its start as ISO 8601 local time.
+constexpr quint32 REC_MSG_STREAM_FORMAT = 1056;
+constexpr quint32 REC_MSG_STREAM_GAP = 1057;
+// A REC_MSG_ERROR may carry a text payload: what the code alone can't say (the address and
+// the reason a stream could not be reached).
 // The main window's own system command, handled beside the task's messages.
 constexpr quint32 WM_SYSCOMMAND = 274;
 constexpr qint32 SC_MINIMIZE = 61472;

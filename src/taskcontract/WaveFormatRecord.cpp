@@ -34,3 +34,29 @@ std::optional<WaveFormatRecord> WaveFormatRecord::Decode(const QByteArray& bytes
     r.extra = bytes.mid(Size, r.cbSize);
     return r;
 }
+
+WaveFormatRecord WaveFormatRecord::MpegLayer3(quint16 channels, quint32 samplesPerSec,
+                                              int kbitsPerSec)
+{
+    constexpr quint16 ExtraBytes = 12;
+    WaveFormatRecord r;
+    r.wFormatTag = TagMpegLayer3;
+    r.nChannels = channels;
+    r.nSamplesPerSec = samplesPerSec;
+    r.nAvgBytesPerSec = quint32(kbitsPerSec) * 1000 / 8;
+    r.nBlockAlign = 1;
+    r.nBitsPerSample = 0;
+    r.cbSize = ExtraBytes;
+    // A frame holds 1152 samples in MPEG 1 and 576 below it.
+    const quint32 samplesPerFrame = samplesPerSec >= 32000 ? 1152 : 576;
+    const quint16 blockSize =
+        quint16(samplesPerFrame / 8 * quint32(kbitsPerSec) * 1000 / samplesPerSec);
+    r.extra = QByteArray(ExtraBytes, '\0');
+    uchar* extra = reinterpret_cast<uchar*>(r.extra.data());
+    qToLittleEndian<quint16>(1, extra);     // id: MPEG
+    qToLittleEndian<quint32>(2, extra + 2); // flags: padding off
+    qToLittleEndian<quint16>(blockSize, extra + 6);
+    qToLittleEndian<quint16>(1, extra + 8);     // frames per block
+    qToLittleEndian<quint16>(1393, extra + 10); // codec delay in samples
+    return r;
+}

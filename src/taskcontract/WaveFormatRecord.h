@@ -29,6 +29,8 @@ struct WaveFormatRecord {
     // The record at the start of bytes with the extra bytes that follow it, up to cbSize
     // (fewer where bytes ends sooner); nothing when bytes is shorter than the 18.
     static std::optional<WaveFormatRecord> Decode(const QByteArray& bytes);
+    // The record of an MPEG Layer-3 stream of this kind, with its 12 extra bytes.
+    static WaveFormatRecord MpegLayer3(quint16 channels, quint32 samplesPerSec, int kbitsPerSec);
 
     bool operator==(const WaveFormatRecord&) const = default;
 };

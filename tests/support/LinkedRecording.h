@@ -57,15 +57,15 @@ public:
     }
 
     // Runs from `from` until the recording has started and ended; calls atStart once when it
-    // has started. False when that didn't happen within 25 seconds.
-    bool Run(double from, const std::function<void()>& atStart = {})
+    // has started. False when that didn't happen within the limit.
+    bool Run(double from, const std::function<void()>& atStart = {}, int limitMs = 25000)
     {
         tc.clock.Set(from);
         tc.ctx->scheduler.ScheduleNextRecording();
         QElapsedTimer elapsed;
         elapsed.start();
         bool started = false;
-        while (elapsed.elapsed() < 25000) {
+        while (elapsed.elapsed() < limitMs) {
             tc.clock.Set(AutomationDate::AddSeconds(from, elapsed.elapsed() / 1000.0));
             tc.ctx->recorder.HeartbeatTimer().Timer1_Timer();
             const bool recording = tc.ctx->appStatus.Recording();

@@ -1,0 +1,101 @@
+#include "scheduling/SourceChooser.h"
+
+#include "scheduling/StreamAddress.h"
+#include "scheduling/StreamTest.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+// The item that stands for a stream carries no input name.
+constexpr int StreamItemRole = Qt::UserRole + 1;
+
+} // namespace
+
+SourceChooser::SourceChooser(const QString& taskProgram, QWidget* parent)
+    : QGroupBox(tr("Source"), parent)
+    , m_test(new StreamTest(taskProgram, this))
+{
+    setObjectName(QStringLiteral("frameSource"));
+    cboSource = new QComboBox;
+    cboSource->setObjectName(QStringLiteral("cboSource"));
+    cboSource->addItem(tr("The sound server's default input"), QString());
+    cboSource->addItem(tr("Internet stream"));
+    cboSource->setItemData(1, true, StreamItemRole);
+    txtStreamUrl = new QLineEdit;
+    txtStreamUrl->setObjectName(QStringLiteral("txtStreamUrl"));
+    txtStreamUrl->setPlaceholderText(tr("http://… or https://…, or a .pls, .m3u or .m3u8 list"));
+    auto* lblAddress = new QLabel(tr("&Address"));
+    lblAddress->setBuddy(txtStreamUrl);
+    btnTestStream = new QPushButton(tr("Test"));
+    btnTestStream->setObjectName(QStringLiteral("btnTestStream"));
+    lblStreamTest = new QLabel;
+    lblStreamTest->setObjectName(QStringLiteral("lblStreamTest"));
+    lblStreamTest->setWordWrap(true);
+    lblStreamTest->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(cboSource, 0, 0, 1, 3);
+    grid->addWidget(lblAddress, 1, 0);
+    grid->addWidget(txtStreamUrl, 1, 1);
+    grid->addWidget(btnTestStream, 1, 2);
+    grid->addWidget(lblStreamTest, 2, 1, 1, 2);
+    grid->setColumnStretch(1, 1);
+
+    connect(cboSource, &QComboBox::currentIndexChanged, this, &SourceChooser::UpdateEnables);
+    connect(txtStreamUrl, &QLineEdit::textChanged, this, [this] {
+        lblStreamTest->clear();
+        UpdateEnables();
+    });
+    connect(btnTestStream, &QPushButton::clicked, this, &SourceChooser::btnTestStream_Click);
+    connect(m_test, &StreamTest::Finished, this, [this](bool, const QString& text) {
+        lblStreamTest->setText(text);
+        btnTestStream->setText(tr("Test"));
+        UpdateEnables();
+    });
+    UpdateEnables();
+}
+
+SourceChooser::~SourceChooser() = default;
+
+void SourceChooser::SetStreamUrl(const QString& address)
+{
+    txtStreamUrl->setText(address.trimmed());
+    cboSource->setCurrentIndex(address.trimmed().isEmpty() ? 0 : cboSource->count() - 1);
+}
+
+bool SourceChooser::StreamChosen() const
+{
+    return cboSource->currentData(StreamItemRole).toBool();
+}
+
+QString SourceChooser::StreamUrl() const
+{
+    return StreamChosen() ? txtStreamUrl->text().trimmed() : QString();
+}
+
+void SourceChooser::UpdateEnables()
+{
+    const bool stream = StreamChosen();
+    txtStreamUrl->setEnabled(stream);
+    btnTestStream->setEnabled(stream && !m_test->Running() &&
+                              !txtStreamUrl->text().trimmed().isEmpty());
+    lblStreamTest->setVisible(stream);
+}
+
+void SourceChooser::btnTestStream_Click()
+{
+    const QString problem = StreamAddress::Problem(txtStreamUrl->text());
+    if (!problem.isEmpty()) {
+        lblStreamTest->setText(problem);
+        return;
+    }
+    lblStreamTest->setText(tr("Connecting and listening for a few seconds…"));
+    btnTestStream->setText(tr("Testing…"));
+    m_test->Start(txtStreamUrl->text());
+    UpdateEnables();
+}

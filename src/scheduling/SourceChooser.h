@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QGroupBox>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class StreamTest;
+
+// Where a recording's sound comes from: a sound server input or an internet stream. The list
+// holds the inputs first (the default input; the server's named ones can join it) and the
+// stream last; choosing the stream enables its address and its Test, which reads a few
+// seconds of the stream and shows what it found or why it failed.
+class SourceChooser : public QGroupBox {
+    Q_OBJECT
+public:
+    // taskProgram is the recording task, which runs the test.
+    explicit SourceChooser(const QString& taskProgram, QWidget* parent = nullptr);
+    ~SourceChooser() override;
+
+    // An empty address chooses the default input.
+    void SetStreamUrl(const QString& address);
+    // Empty when an input is chosen.
+    QString StreamUrl() const;
+    bool StreamChosen() const;
+
+    QComboBox* cboSource;
+    QLineEdit* txtStreamUrl;
+    QPushButton* btnTestStream;
+    QLabel* lblStreamTest;
+
+private:
+    void UpdateEnables();
+    void btnTestStream_Click();
+
+    StreamTest* m_test;
+};
