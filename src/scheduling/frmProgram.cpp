@@ -144,7 +144,7 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     OptionOneTimeOrDaily[0] =
         Named(new QRadioButton(QStringLiteral("One &Time")), "OptionOneTimeOrDaily(0)");
     OptionOneTimeOrDaily[1] =
-        Named(new QRadioButton(QStringLiteral("&Daily")), "OptionOneTimeOrDaily(1)");
+        Named(new QRadioButton(QStringLiteral("Dai&ly")), "OptionOneTimeOrDaily(1)");
     OptionOneTimeOrDaily[0]->setChecked(true);
     dtpkrOnceDate = Named(new QDateEdit, "dtpkrOnceDate");
     dtpkrOnceDate->setCalendarPopup(true);
