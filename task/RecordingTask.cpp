@@ -473,9 +473,13 @@ void RecordingTask::AfterWrite(int code)
 int RecordingTask::Store(const char* pcm, size_t bytes)
 {
     const int frames = int(bytes / m_frameBytes);
+    if (!m_mp3) {
+        const int code = m_file.Append(pcm, bytes);
+        if (code == 0)
+            m_file.AddFrames(quint32(frames));
+        return code;
+    }
     m_file.AddFrames(quint32(frames));
-    if (!m_mp3)
-        return m_file.Append(pcm, bytes);
     // LAME's own bound for the worst case of one call.
     m_mp3Buffer.resize(size_t(1.25 * frames + 7200));
     const auto* samples = reinterpret_cast<const short*>(pcm);
@@ -606,8 +610,9 @@ void RecordingTask::OnCaptureError(int code)
 {
     if (m_leaving)
         return;
-    Send(Kind::Post, REC_MSG_ERROR, code);
+    // The file is closed before the report: the scheduler may keep what was written.
     Finish();
+    Send(Kind::Post, REC_MSG_ERROR, code);
     Leave();
 }
 

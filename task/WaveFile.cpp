@@ -3,6 +3,7 @@
 #include "taskcontract/TaskErrors.h"
 
 #include <QtEndian>
+#include <unistd.h>
 
 WaveFile::~WaveFile()
 {
@@ -97,9 +98,13 @@ int WaveFile::Create(const RecParms& parms, bool bareMp3)
 
 int WaveFile::Append(const void* bytes, size_t length)
 {
-    // Unbuffered, so what was captured is on disk within a fragment.
-    if (!Write(bytes, length))
+    // Unbuffered, so what was captured is on disk within a fragment. A write cut short
+    // (a full disk) is taken back, so that the file ends where its header says.
+    if (!Write(bytes, length)) {
+        if (ftruncate(fileno(m_file), off_t(m_dataStart + m_dataBytes)) == 0)
+            std::fseek(m_file, 0, SEEK_END);
         return TaskError::WriteFailed;
+    }
     m_dataBytes += length;
     return 0;
 }

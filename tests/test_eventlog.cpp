@@ -1,8 +1,10 @@
 #include "TestContext.h"
+#include "common/UnattendedPath.h"
 
 #include <QSignalSpy>
 #include <QSqlQuery>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -140,6 +142,69 @@ private slots:
         QVERIFY(!error.AnyCurrentWarnings());
         error.SetElogFull(true);
         QVERIFY(error.AnyCurrentWarnings());
+    }
+
+    // A box asked for on the recorder's own paths is shown without waiting and logged; one
+    // asked for by a user, also in the events such a path lets run, waits as usual.
+    void boxesOnUnattendedPathsDoNotWait_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<int>("icon");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("loggedType");
+        QTest::newRow("user's command")
+            << "" << int(MsgButtons::YesNo) << int(MsgIcon::Question) << int(MsgResult::Yes) << -1;
+        QTest::newRow("heartbeat, warning")
+            << "unattended" << int(MsgButtons::Ok) << int(MsgIcon::Exclamation)
+            << int(MsgResult::Ok) << int(EventWarning);
+        QTest::newRow("task link, question")
+            << "unattended" << int(MsgButtons::YesNo) << int(MsgIcon::Question)
+            << int(MsgResult::No) << int(EventInformation);
+        QTest::newRow("conversion, error")
+            << "unattended" << int(MsgButtons::OkCancel) << int(MsgIcon::Critical)
+            << int(MsgResult::Cancel) << int(EventError);
+        QTest::newRow("user's click while the recorder waits")
+            << "events" << int(MsgButtons::YesNo) << int(MsgIcon::Question) << int(MsgResult::Yes)
+            << -1;
+    }
+    void boxesOnUnattendedPathsDoNotWait()
+    {
+        QFETCH(QString, path);
+        QFETCH(int, buttons);
+        QFETCH(int, icon);
+        QFETCH(int, answer);
+        QFETCH(int, loggedType);
+        TestContext tc;
+        tc.OpenDatabase();
+        tc.messageBox.answers << MsgResult::Yes;
+        MsgResult result = MsgResult::Ok;
+        const auto ask = [&] {
+            result = tc.ctx->messageBox.Show("Title", "Text", MsgIcon(icon), MsgButtons(buttons));
+        };
+        if (path.isEmpty()) {
+            ask();
+        } else {
+            const UnattendedPath unattended;
+            if (path == "events") {
+                QTimer::singleShot(0, ask);
+                UnattendedPath::LetEventsRun();
+            } else {
+                ask();
+            }
+        }
+        QCOMPARE(int(result), answer);
+        QCOMPARE(tc.messageBox.asked.size(), 1);
+        QCOMPARE(tc.messageBox.asked[0].title, QString("Title"));
+        QCOMPARE(tc.messageBox.asked[0].text, QString("Text"));
+        QCOMPARE(tc.messageBox.asked[0].waited, loggedType < 0);
+        const QList<LogEntry> entries = tc.LogEntries();
+        QCOMPARE(entries.size(), loggedType < 0 ? 0 : 1);
+        if (loggedType >= 0) {
+            QCOMPARE(entries[0].type, loggedType);
+            QCOMPARE(entries[0].message, QString("Title"));
+            QCOMPARE(entries[0].details, QString("Text"));
+        }
     }
 };
 

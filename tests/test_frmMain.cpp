@@ -1,5 +1,7 @@
+#include "LogCapture.h"
 #include "Programs.h"
 #include "TestContext.h"
+#include "TestFiles.h"
 #include "diagnostics/SysTrayPictures.h"
 #include "diagnostics/clsSysTrayMgr.h"
 #include "recording/ModeDisplay.h"
@@ -96,18 +98,37 @@ private slots:
         QVERIFY(s.tc.messageBox.asked.isEmpty());
     }
 
-    // A step of the first activation that fails does not keep the later ones from running:
-    // above all the heartbeat starts.
+    void aFailedStartUpStepStillStartsTheHeartbeat_data()
+    {
+        QTest::addColumn<QString>("failing");
+        QTest::newRow("damaged database") << "database";
+        QTest::newRow("sound system at the load") << "sound";
+        QTest::newRow("disk figures before ready") << "disk";
+    }
+    // A step of the start-up that fails is logged and does not keep the later ones from
+    // running: the options are read, the old parameter file goes, the heartbeat starts and
+    // the program becomes ready.
     void aFailedStartUpStepStillStartsTheHeartbeat()
     {
+        QFETCH(QString, failing);
         Started s;
-        QFile bad(s.tc.ctx->database.DatabaseFile());
-        QVERIFY(bad.open(QIODevice::WriteOnly));
-        bad.write(QByteArray("not a database\n").repeated(100));
-        bad.close();
+        s.tc.ctx->registry.SaveSetting("Settings", "StopRecMegsLeft", "40");
+        QVERIFY(WriteFile(s.tc.ctx->recorder.Link().ParameterFile(), "left by a crash"));
+        if (failing == "database")
+            QVERIFY(WriteFile(s.tc.ctx->database.DatabaseFile(),
+                              QByteArray("not a database\n").repeated(100)));
+        s.tc.audioDevices.fails = failing == "sound";
+        s.tc.diskSpace.fails = failing == "disk";
+        // The load's failure comes before the database is open: only the diagnostic output
+        // has it.
+        const LogCapture output;
         s.Activate();
         QVERIFY(s.tc.ctx->appStatus.Ready());
         QCOMPARE(s.tc.ctx->recorder.HeartbeatTimer().Timer1.Interval(), 250);
+        QCOMPARE(s.tc.ctx->options.StopRecMegsLeft, qint16(40));
+        QVERIFY(!QFile::exists(s.tc.ctx->recorder.Link().ParameterFile()));
+        if (failing != "database")
+            QVERIFY(output.Contains("Module: Main Form Load"));
     }
 
     void noRecordingFolderKeepsTheProgramRunning()

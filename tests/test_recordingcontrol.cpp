@@ -2,6 +2,7 @@
 // starts that end at once, and the user's stop of a recording or of a conversion.
 #include "Programs.h"
 #include "TestContext.h"
+#include "recording/RecordingTaskLink.h"
 
 #include <QSqlQuery>
 #include <QTest>
@@ -198,7 +199,6 @@ void TestRecordingControl::stopRequest()
     }
     if (recording) {
         QCOMPARE(f.recorder.Status().StopRequested, stopped);
-        QCOMPARE(f.recorder.Link().tmrStopRecording.Interval(), stopped ? 10000 : 0);
         QVERIFY(!f.recorder.Conversion().StopMp3Conversion);
     } else {
         QCOMPARE(f.recorder.Conversion().StopMp3Conversion, stopped);
@@ -209,25 +209,43 @@ void TestRecordingControl::stopRequest()
 void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce_data()
 {
     QTest::addColumn<bool>("error");
+    QTest::addColumn<QString>("stopAsked");
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("detailsEnd");
-    QTest::newRow("capture error") << true << "Error occurred during recording process."
+    const QString noAnswer =
+        "system restart. \rThe error occurred during the following recording: Evening news";
+    QTest::newRow("capture error") << true << ""
+                                   << "Error occurred during recording process."
                                    << "";
-    QTest::newRow("no keep-alive answer")
-        << false << "No response from recording task."
-        << "system restart. \rThe error occurred during the following recording: Evening news";
+    QTest::newRow("no keep-alive answer") << false << ""
+                                          << "No response from recording task." << noAnswer;
+    QTest::newRow("capture error after a stop request")
+        << true << "capturing"
+        << "Error occurred during recording process."
+        << "";
+    QTest::newRow("no keep-alive answer, stop asked while starting")
+        << false << "starting"
+        << "No response from recording task." << noAnswer;
 }
 
 // The first report fails and ends the recording and is logged after the end; a second
-// report of the same recording is not.
+// report of the same recording is not. A stop asked for this recording ends with it: the
+// next recording's start finds neither the watchdog armed nor a stop waiting.
 void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce()
 {
     QFETCH(bool, error);
+    QFETCH(QString, stopAsked);
     QFETCH(QString, message);
     QFETCH(QString, detailsEnd);
     Fixture f;
     f.ctx().appStatus.SetRecording(true);
     f.recorder.Status().Description = "Evening news";
+    RecordingTaskLink& link = f.recorder.Link();
+    // Without a task the start command is answered at once, as by a task that is gone.
+    if (stopAsked == "capturing")
+        link.SendMessage(TaskProtocol::REC_MSG_START);
+    if (!stopAsked.isEmpty())
+        f.control->RequestStop();
     int entriesAtEnd = -1;
     QObject::connect(f.control, &RecordingControl::UpdateRecordingsButtonsAndMenus,
                      [&] { entriesAtEnd = f.LogMessages().size(); });
@@ -244,6 +262,8 @@ void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce()
     QVERIFY(messages[0].startsWith(message + " | "));
     QVERIFY(messages[0].endsWith(detailsEnd));
     QCOMPARE(entriesAtEnd, error ? 0 : 1);
+    link.SendMessage(TaskProtocol::REC_MSG_START);
+    QCOMPARE(link.tmrStopRecording.Interval(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestRecordingControl)

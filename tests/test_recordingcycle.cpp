@@ -8,6 +8,7 @@
 #include "PulseFixture.h"
 #include "SoxTone.h"
 #include "TestContext.h"
+#include "TestFiles.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/ModuleFileTime.h"
 #include "sideactions/MixerProfiles.h"
@@ -24,6 +25,8 @@
 #include <QSqlQuery>
 #include <QStorageInfo>
 #include <QTest>
+#include <QTimer>
+#include <QtEndian>
 #include <cmath>
 #include <functional>
 #include <memory>
@@ -96,6 +99,16 @@ public:
         return false;
     }
 
+    // A manual recording of 16-bit mono at 22.05 kHz, asked for at `time`; returns that moment.
+    double ManualAt(const QString& time)
+    {
+        recorder().Status().ProgramId = -1;
+        recorder().Manual().Format.SetToPcm(1, 22050, 16);
+        const double from = Programs::At(kDay.year(), kDay.month(), kDay.day(), time);
+        tc.clock.Set(from);
+        return from;
+    }
+
     QList<LogEntry> Entries() const { return tc.LogEntries(); }
 
     QList<RecordingRow> Recordings() const
@@ -146,6 +159,8 @@ private slots:
     void recordingWithoutDataFails();
     void manualRecordingNeedsHalfAMegabyteAboveTheLimit();
     void recordingToConvertCapturesPcmAndQueuesIt();
+    void aStopAskedWhileTheTaskStartsReachesIt();
+    void aWriteErrorKeepsWhatWasWritten();
     void diskGuardStopsAndKeepsTheRecording();
     void mixerProfilesAroundTheRecording();
     void refusedProfileStillRecords();
@@ -190,9 +205,10 @@ void TestRecordingCycle::scheduledProgramRecordsIntoItsFile_data()
                                                << "Morning news.WAV" << true;
 }
 
-// A weekly program due within seconds records into the recording folder; a file and a row
-// of the same name are replaced; the row's times are the file's; the occurrence is marked
-// and next week's is scheduled; the command after the recording gets the file's parts.
+// A weekly program due within seconds records into the recording folder; an older file of
+// the same name is kept with its row, and the new recording takes the next free name, noted
+// once in the log; the row's times are the file's; the occurrence is marked and next week's
+// is scheduled; the command after the recording gets the file's parts.
 void TestRecordingCycle::scheduledProgramRecordsIntoItsFile()
 {
     QFETCH(QString, prefix);
@@ -209,47 +225,58 @@ void TestRecordingCycle::scheduledProgramRecordsIntoItsFile()
                 {"LaunchAppAfter", "  /usr/bin/after %d|%p|%f|%b|%e|%%|%x  "},
                 {"LaunchAfterOnlyIfOk", -1}});
     c.AddProgram(row);
-    const QString path = c.folder + "/" + expectedName;
-    const QString expectedCommand = "/usr/bin/after " + c.folder + "/|" + path + "|" +
-                                    expectedName + "|" + expectedName.chopped(4) + "|WAV|%|%x";
+    const QString older = c.folder + "/" + expectedName;
+    const QString name = expectedName.chopped(4) + " (2).WAV";
+    const QString path = c.folder + "/" + name;
+    const QString expectedCommand = "/usr/bin/after " + c.folder + "/|" + path + "|" + name + "|" +
+                                    name.chopped(4) + "|WAV|%|%x";
     if (launcherFails)
         c.tc.launcher.failing.insert(expectedCommand);
 
     // An older recording of the same name, on disk and in the list.
+    const QByteArray olderContent(4096, 'x');
     {
-        QFile old(path);
+        QFile old(older);
         QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write(QByteArray(4096, 'x'));
+        old.write(olderContent);
         Recordset rs = c.ctx().database.DataRecordings.recordset();
         rs.AddNew();
         rs.SetValue("Title", "Older");
-        rs.SetValue("File", path);
+        rs.SetValue("File", older);
         rs.Update();
     }
 
     QVERIFY(c.RecordOnce(At("10:00:04")));
     QCOMPARE(c.starts, 1);
+    QVERIFY(c.parmsAtStart);
+    QCOMPARE(c.parmsAtStart->outputPath, path);
 
-    QCOMPARE(c.FilesInFolder(), QStringList{expectedName});
+    QStringList files = c.FilesInFolder();
+    files.sort();
+    QCOMPARE(files, QStringList({name, expectedName}));
+    QFile kept(older);
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), olderContent);
     double rms = 0, frequency = 0;
     QVERIFY(ToneOf(path, rms, frequency));
     QVERIFY2(rms > 0.1, qPrintable(QString::number(rms)));
     QVERIFY2(frequency > 900 && frequency < 1100, qPrintable(QString::number(frequency)));
 
     const QList<RecordingRow> rows = c.Recordings();
-    QCOMPARE(rows.size(), 1);
-    QCOMPARE(rows[0].title, QString("Morning news"));
-    QCOMPARE(rows[0].file, path);
+    QCOMPARE(rows.size(), 2);
+    QCOMPARE(rows[0].file, older);
+    QCOMPARE(rows[1].title, QString("Morning news"));
+    QCOMPARE(rows[1].file, path);
     // The times describe the file (written just now), not the test clock of June 2026.
     const double fileTime = ModuleFileTime::FileDateTime(path);
-    QCOMPARE(rows[0].end, fileTime);
+    QCOMPARE(rows[1].end, fileTime);
     // The length is what the data holds: the task's hand-shake shortens a recording whose
     // end is kept by the clock.
-    const double seconds = (rows[0].end - rows[0].start) * 86400.0;
+    const double seconds = (rows[1].end - rows[1].start) * 86400.0;
     const double held = QFileInfo(path).size() / 88200.0;
     QVERIFY2(seconds >= 1.0 && std::abs(seconds - held) <= 0.6,
              qPrintable(QString("%1 %2").arg(seconds).arg(held)));
-    QCOMPARE(float(rows[0].size), ModuleFileTime::GetFileSizeMbytes(path));
+    QCOMPARE(float(rows[1].size), ModuleFileTime::GetFileSizeMbytes(path));
 
     const NextProgram& next = c.ctx().scheduler.next;
     QVERIFY(next.NextProgramFound);
@@ -258,11 +285,16 @@ void TestRecordingCycle::scheduledProgramRecordsIntoItsFile()
 
     QCOMPARE(c.tc.launcher.started, QStringList{expectedCommand});
     const QList<LogEntry> entries = c.Entries();
-    const bool logged = std::any_of(entries.cbegin(), entries.cend(), [](const LogEntry& e) {
-        return e.message == "Invalid Launch Application command" &&
-               e.details.contains("that the application exists.");
-    });
-    QCOMPARE(logged, launcherFails);
+    QCOMPARE(entries.size(), launcherFails ? 2 : 1);
+    QCOMPARE(entries[0].type, 0);
+    QCOMPARE(entries[0].message, QString("Recording saved under a new name"));
+    QVERIFY2(entries[0].details.contains("\"" + expectedName + "\"") &&
+                 entries[0].details.contains("\"" + name + "\""),
+             qPrintable(entries[0].details));
+    if (launcherFails) {
+        QCOMPARE(entries[1].message, QString("Invalid Launch Application command"));
+        QVERIFY(entries[1].details.contains("that the application exists."));
+    }
     QVERIFY(!c.ctx().appStatus.Recording());
 }
 
@@ -314,10 +346,7 @@ void TestRecordingCycle::dayLongRecordingStopsByTheClock()
 {
     Cycle c;
     AppContext& ctx = c.ctx();
-    c.recorder().Status().ProgramId = -1;
-    c.recorder().Manual().Format.SetToPcm(1, 22050, 16);
-    const double from = At("12:00:00");
-    c.tc.clock.Set(from);
+    const double from = c.ManualAt("12:00:00");
     qint32 id = -1;
     QString description = "All day";
     c.control->StartRecording(id, from, from + 1.0, description);
@@ -440,6 +469,69 @@ void TestRecordingCycle::recordingToConvertCapturesPcmAndQueuesIt()
     QVERIFY(request.ManualRecording);
     QCOMPARE(request.StartTime, from);
     QCOMPARE(request.EndTime, ctx.Now());
+}
+
+// The user stops a manual recording while its task is still starting: the stop waits for the
+// task and reaches it, so the recording ends at once, not by the watchdog, and the task
+// leaves instead of writing on.
+void TestRecordingCycle::aStopAskedWhileTheTaskStartsReachesIt()
+{
+    Cycle c;
+    AppContext& ctx = c.ctx();
+    const double from = c.ManualAt("12:00:00");
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QTimer::singleShot(0, [&] {
+        QVERIFY(ctx.appStatus.Recording());
+        c.control->HandleStopRecordingRequest(false);
+    });
+    qint32 id = -1;
+    QString description = "Stopped at once";
+    c.control->StartRecording(id, from, AutomationDate::AddSeconds(from, 60), description);
+    QVERIFY(c.recorder().Status().StopRequested);
+    QTRY_VERIFY_WITH_TIMEOUT(!ctx.appStatus.Recording(), 8000);
+    QVERIFY2(elapsed.elapsed() < 8000, qPrintable(QString::number(elapsed.elapsed())));
+    QCOMPARE(c.recorder().Link().tmrStopRecording.Interval(), 0);
+    const QString task = "/proc/" + QString::number(c.recorder().Link().StartedTasks().last());
+    QTRY_VERIFY_WITH_TIMEOUT(!QFileInfo::exists(task), 3000);
+}
+
+// The disk takes no more (here the task may write a quarter megabyte): what was written is a
+// good recording. The task closes the file's header, the file is kept and listed with the
+// length it holds, and the error is logged once.
+void TestRecordingCycle::aWriteErrorKeepsWhatWasWritten()
+{
+    Cycle c;
+    const QString limited = c.tc.Root() + "/limited-task";
+    QVERIFY(WriteFile(limited, ("#!/bin/sh\ntrap '' XFSZ\nexec prlimit --fsize=262144 " +
+                                c.recorder().Link().TaskProgram() + " \"$@\"\n")
+                                   .toUtf8()));
+    QVERIFY(QFile::setPermissions(limited, QFile::ReadOwner | QFile::ExeOwner));
+    c.recorder().Link().SetTaskProgram(limited);
+    c.AddProgram(Programs::Weekly("Full disk", "10:00:01", "10:00:30", "0100000"));
+    QVERIFY(c.RecordOnce(At("10:00:00")));
+
+    const QString path = c.folder + "/060126_100001.WAV";
+    QCOMPARE(c.FilesInFolder(), QStringList{"060126_100001.WAV"});
+    const QByteArray header = ReadFile(path).left(8);
+    const qint64 size = QFileInfo(path).size();
+    QVERIFY2(size > 100000 && size <= 262144, qPrintable(QString::number(size)));
+    QCOMPARE(qint64(qFromLittleEndian<quint32>(header.constData() + 4)) + 8, size);
+    double rms = 0, frequency = 0;
+    QVERIFY(ToneOf(path, rms, frequency));
+    QVERIFY2(rms > 0.1, qPrintable(QString::number(rms)));
+
+    QVERIFY(!c.recorder().Status().Failed);
+    const QList<RecordingRow> rows = c.Recordings();
+    QCOMPARE(rows.size(), 1);
+    QCOMPARE(rows[0].file, path);
+    const double seconds = (rows[0].end - rows[0].start) * 86400.0;
+    QVERIFY2(std::abs(seconds - Soxi("-D", path).toDouble()) <= 0.6,
+             qPrintable(QString::number(seconds)));
+    const QList<LogEntry> entries = c.Entries();
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries[0].type, 2);
+    QCOMPARE(entries[0].message, QString("Error writing recording file."));
 }
 
 // The sound server goes away during capture: the task reports it, the partial file is

@@ -105,27 +105,33 @@ private slots:
         QVERIFY(QFile::exists(f.File("a.wav")) && QFile::exists(f.File("b.wav")));
     }
 
-    // The purge works on the recording folder, not on the list.
-    void thePurgeDeletesOldFilesOfTheFolderOnly()
+    // The purge deletes old recordings that are listed and in the recording folder, with
+    // their CUE sheets, and their rows; the user's own files in that folder stay, however old.
+    void thePurgeDeletesOldListedRecordingsOnly()
     {
         ListFixture f;
         const QString elsewhere = f.tc.Root() + "/elsewhere";
         QDir().mkpath(elsewhere);
-        for (const QString& path :
-             {f.File("old.wav"), f.File("old.mp3"), f.File("new.wav"), elsewhere + "/old.wav"})
+        const QStringList old = {f.File("old.wav"), f.File("old.mp3"), f.File("mine.wav"),
+                                 f.File("mine.mp3"), elsewhere + "/old.wav"};
+        for (const QString& path : old + QStringList{f.File("new.wav")})
             WriteWave(path);
-        f.list.AddFileToRecordingsList(f.File("new.wav"));
+        for (const QString& cue : {f.File("old.cue"), f.File("mine.cue")})
+            QVERIFY(WriteFile(cue, "FILE"));
+        for (const char* name : {"old.wav", "old.mp3", "new.wav"})
+            f.list.AddFileToRecordingsList(f.File(name));
         f.list.AddFileToRecordingsList(elsewhere + "/old.wav");
         f.tc.clock.Set(QDateTime::currentDateTime());
         const QDateTime longAgo = QDateTime::currentDateTime().addDays(-40);
-        for (const QString& path : {f.File("old.wav"), f.File("old.mp3"), elsewhere + "/old.wav"}) {
+        for (const QString& path : old) {
             QFile file(path);
             QVERIFY(file.open(QIODevice::ReadWrite));
             QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
         }
         f.tc.ctx->options.PurgeDays = 30;
         f.list.Purge();
-        QCOMPARE(QDir(f.Folder()).entryList(QDir::Files), QStringList{"new.wav"});
+        QCOMPARE(QDir(f.Folder()).entryList(QDir::Files),
+                 QStringList({"mine.cue", "mine.mp3", "mine.wav", "new.wav"}));
         QVERIFY(QFile::exists(elsewhere + "/old.wav"));
         QStringList listed = ListedFiles(*f.tc.ctx);
         listed.sort();

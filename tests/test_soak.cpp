@@ -29,13 +29,19 @@ private slots:
         QCOMPARE(m_report.missed, 0);
         QCOMPARE(m_report.startedTwice, 0);
         QCOMPARE(m_report.missedUnreported, 0);
-        // Only what the outages missed: 7 in the morning, 1 in the afternoon, and the two
-        // that started late.
-        QCOMPARE(m_report.logged.size(), 10);
-        for (const QString& row : m_report.logged)
-            QVERIFY2(row.startsWith("type 1: Missed recording: ") ||
-                         row.startsWith("type 1: Recording started late: "),
-                     qPrintable(row));
+        // Only what the outages missed (7 in the morning, 1 in the afternoon, and the two that
+        // started late), and the renames of occurrences started again in their window (the
+        // hour that comes twice, the clock set back), which take the next free name instead
+        // of replacing the first recording.
+        int missed = 0, renamed = 0;
+        for (const QString& row : m_report.logged) {
+            missed += row.startsWith("type 1: Missed recording: ") ||
+                      row.startsWith("type 1: Recording started late: ");
+            renamed += row.startsWith("type 0: Recording saved under a new name: ");
+        }
+        QCOMPARE(missed, 10);
+        QVERIFY(renamed > 0);
+        QCOMPARE(missed + renamed, m_report.logged.size());
     }
 
     void startsOfOccurrence_data()

@@ -2,6 +2,7 @@
 // recorder that runs them on every tick.
 #include "Programs.h"
 #include "TestContext.h"
+#include "recording/RecordingTaskLink.h"
 
 #include <QDir>
 #include <QTest>
@@ -81,6 +82,8 @@ private slots:
             tc.ctx->appStatus.SetRecording(true);
             recorder.Status().RecordingFile = written + "/Concert.WAV";
             recorder.Status().Description = "Concert";
+            // The task has answered the start command (none here answers at once).
+            recorder.Link().SendMessage(TaskProtocol::REC_MSG_START);
         }
         for (int round = 0; round < 3; ++round)
             recorder.UpdateStatusBarPlus();

@@ -29,3 +29,8 @@ MsgResult CallMessageBox::Show(const QString& title, const QString& text, MsgIco
         return refusal ? MsgResult::No : MsgResult::Yes;
     return refusal && buttons == MsgButtons::OkCancel ? MsgResult::Cancel : MsgResult::Ok;
 }
+
+void CallMessageBox::ShowWithoutWaiting(const QString& title, const QString& text, MsgIcon icon)
+{
+    m_presenter.ShowWithoutWaiting(title, text, icon);
+}

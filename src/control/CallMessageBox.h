@@ -33,6 +33,7 @@ public:
 
     MsgResult Show(const QString& title, const QString& text, MsgIcon icon,
                    MsgButtons buttons) override;
+    void ShowWithoutWaiting(const QString& title, const QString& text, MsgIcon icon) override;
 
 private:
     MessageBoxPresenter& m_presenter;

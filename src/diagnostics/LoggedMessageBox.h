@@ -15,6 +15,8 @@ public:
 
     MsgResult Show(const QString& title, const QString& text, MsgIcon icon,
                    MsgButtons buttons) override;
+    // There is no screen; the box that does not wait has been logged by whoever showed it.
+    void ShowWithoutWaiting(const QString&, const QString&, MsgIcon) override {}
 
 private:
     EventLog* m_log = nullptr;

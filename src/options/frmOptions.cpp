@@ -313,6 +313,10 @@ QWidget* frmOptions::BuildDiskTab()
 
     chkPurgeOldRecordings = Named(new QCheckBox(QStringLiteral("R&emove recordings older than")),
                                   QStringLiteral("chkPurgeOldRecordings"));
+    chkPurgeOldRecordings->setToolTip(
+        QStringLiteral("Removes only recordings that are in the recordings list, with their CUE "
+                       "sheets, and takes them off the list. Other files in the recording folder "
+                       "are never removed."));
     txtPurgeDays = LimitedBox("txtPurgeDays", "updnPurgeDays", 3, 999, updnPurgeDays);
     layout->addLayout(
         BoxLine(chkPurgeOldRecordings, txtPurgeDays, updnPurgeDays, QStringLiteral("days")));

@@ -1,6 +1,7 @@
 #include "recording/ConversionQueue.h"
 
 #include "common/AutomationDate.h"
+#include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
@@ -146,6 +147,7 @@ void ConversionQueue::TimerConvert_Timer()
     // Stopped for the tick, so that the events let through inside it can't enter it again;
     // each branch sets the interval as its last step.
     TimerConvert.SetInterval(0);
+    const UnattendedPath unattended;
     // Converting stays as it was: an interrupted conversion goes on at the next tick.
     if (!Trap(m_log, "Convert MP3 Timer", [&] { Tick(); }))
         TimerConvert.SetInterval(IdleInterval);
@@ -164,7 +166,7 @@ void ConversionQueue::Tick()
 void ConversionQueue::IdleBranch()
 {
     if (Mp3ConvertQueue.isEmpty() || m_heldForLibrary) {
-        QCoreApplication::processEvents();
+        UnattendedPath::LetEventsRun();
         TimerConvert.SetInterval(IdleInterval);
         return;
     }
@@ -198,7 +200,7 @@ void ConversionQueue::IdleBranch()
         return;
     }
     m_appStatus.SetConverting(true);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
     TimerConvert.SetInterval(ConvertingInterval);
 }
 
@@ -214,7 +216,7 @@ void ConversionQueue::StepBranch()
     }
     request.PercentComplete = qint16(percent);
     if (finished != 1) {
-        QCoreApplication::processEvents();
+        UnattendedPath::LetEventsRun();
         TimerConvert.SetInterval(ConvertingInterval);
         return;
     }
@@ -231,7 +233,7 @@ void ConversionQueue::StepBranch()
     SaveQueue();
     LaunchAfterRecording(m_log, m_launcher, true, request.LaunchAppAfter,
                          request.LaunchAfterOnlyIfOk, request.DestinationFile);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
     TimerConvert.SetInterval(IdleInterval);
 }
 
@@ -255,7 +257,7 @@ void ConversionQueue::StopBranch()
     emit UpdateModeDisplay();
     m_appStatus.SetConverting(false);
     SaveQueue();
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
     LaunchAfterRecording(m_log, m_launcher, true, request.LaunchAppAfter,
                          request.LaunchAfterOnlyIfOk, request.DestinationFile);
     TimerConvert.SetInterval(IdleInterval);

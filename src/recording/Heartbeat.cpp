@@ -3,6 +3,7 @@
 #include "common/AutomationDate.h"
 #include "common/Clock.h"
 #include "common/ProcessLauncher.h"
+#include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
@@ -55,6 +56,7 @@ void Heartbeat::Timer1_Timer()
         return;
     // No tick may arrive while this one waits or lets events run.
     Timer1.SetInterval(0);
+    const UnattendedPath unattended;
     if (Trap(m_log, "Timer1_Timer", [this] { Tick(); }))
         Timer1.SetInterval(TickInterval);
 }

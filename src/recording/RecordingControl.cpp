@@ -5,6 +5,7 @@
 #include "common/MessageBox.h"
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
+#include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
@@ -25,6 +26,7 @@
 #include "store/AppDatabase.h"
 #include "store/Options.h"
 #include "taskcontract/RecParms.h"
+#include "taskcontract/TaskErrors.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -58,6 +60,8 @@ QString SoftwareName()
         .arg(NIGHTREEL_VERSION_MAJOR)
         .arg(NIGHTREEL_VERSION_MINOR);
 }
+
+const QString kCaptureEnding = QStringLiteral(".WAV.TMP");
 
 // The start on the task's clock, in milliseconds since 1970, for a stream opened ahead that
 // must begin on the due second itself. The program's clock reads whole seconds, the second
@@ -105,13 +109,32 @@ void RecordingControl::ExitAndClear()
     m_s.appStatus.SetRecording(false);
 }
 
+QString RecordingControl::UnusedFileName(const QString& folder, QString& baseName,
+                                         const QString& extension, const QStringList& endings,
+                                         const QString& description)
+{
+    const QString wanted = baseName;
+    baseName = FreeBaseName(folder, wanted, endings);
+    if (baseName != wanted)
+        m_s.log.LogEvent(EventInformation, QStringLiteral("Recording saved under a new name"),
+                         QStringLiteral("A file named \"%1\" is already in the recording folder "
+                                        "and is kept. The recording \"%2\" is saved as \"%3\".")
+                             .arg(wanted + extension, description, baseName + extension));
+    return folder + baseName + extension;
+}
+
 void RecordingControl::OnTaskError(qint32 code, const QString& detail)
 {
-    // A task may report more than once; only the first report fails the recording. The
+    // A task may report more than once; only the first report ends the recording. The
     // report comes after the stop, as the system logged it.
-    if (m_status.Failed)
+    if (m_status.Failed || m_status.WriteFailed)
         return;
-    m_status.Failed = true;
+    // What was written before the disk filled or went away is kept and listed like a
+    // recording stopped early; any other error fails the recording.
+    if (TaskError::IsWriteError(code))
+        m_status.WriteFailed = true;
+    else
+        m_status.Failed = true;
     StopRecording();
     ReportRecordingTaskError(m_s.log, code, detail);
 }
@@ -162,6 +185,7 @@ void RecordingControl::StartRecording(qint32 ProgramId, double StartTime, double
     // First of all: the steps below let events run, and the heartbeat must see a recording.
     m_s.appStatus.SetRecording(true);
     m_status.StopRequested = false;
+    m_status.WriteFailed = false;
     // A failure leaves Recording set on purpose: the clock or the keep-alive ends it.
     Trap(m_s.log, "StartRecording",
          [&] { StartRecordingSteps(ProgramId, StartTime, EndTime, Description); });
@@ -253,12 +277,10 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         const bool mp3Extension =
             chosen.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 &&
             chosen.SaveMP3FileExtension;
-        finalFile =
-            NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat, userName,
-                                 prefix, suffix, folder, mp3Extension, baseName, extension);
+        NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat, userName,
+                             prefix, suffix, folder, mp3Extension, baseName, extension);
+        finalFile = UnusedFileName(folder, baseName, extension, {extension}, description);
         status.RecordingFile = finalFile;
-        // An old recording of the same name is replaced without a question.
-        QFile::remove(finalFile);
     } else {
         status.ConvertToMP3 = true;
         pcmCapture = std::make_unique<clsRecordingFormat>();
@@ -269,11 +291,13 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
                              pcmCapture->CalcStorageMbytesSng(status.DurationSeconds));
         spaceNote = QStringLiteral("Note: Converted MP3 recordings require additional storage "
                                    "for the initial PCM wave file recording.\r\n");
-        finalFile = NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat,
-                                         userName, prefix, suffix, folder,
-                                         chosen.SaveMP3FileExtension, baseName, extension);
-        status.RecordingFile = folder + baseName + QStringLiteral(".WAV.TMP");
-        QFile::remove(status.RecordingFile);
+        NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat, userName,
+                             prefix, suffix, folder, chosen.SaveMP3FileExtension, baseName,
+                             extension);
+        // The capture beside the final name is free as well: it may be one still queued.
+        finalFile =
+            UnusedFileName(folder, baseName, extension, {extension, kCaptureEnding}, description);
+        status.RecordingFile = folder + baseName + kCaptureEnding;
         m_convertRequest = std::make_shared<clsConvertToMP3Request>();
         clsConvertToMP3Request& request = *m_convertRequest;
         request.SourceFile = status.RecordingFile;
@@ -335,9 +359,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
 
     const QString parameterFile = m_link.ParameterFile();
     QFile::remove(parameterFile);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
     parms.Write(parameterFile);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
 
     status.Failed = false;
     if (!m_link.ActivateNightreeltask()) {
@@ -351,7 +375,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     // The mixer is set once the task is up and right before capture, never earlier.
     if (!Text::Trim(status.MixerProfileBefore).isEmpty())
         m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileBefore);
-    QCoreApplication::processEvents();
+    UnattendedPath::LetEventsRun();
 
     const qint32 result = m_link.SendMessage(REC_MSG_START);
     if (result >= 1) {
@@ -442,7 +466,7 @@ void RecordingControl::StopRecording()
 void RecordingControl::StopRecordingSteps()
 {
     clsRecordingStatus& status = m_status;
-    m_link.StopKeepAlive();
+    m_link.RecordingOver();
     emit UpdateModeDisplay();
     // The task has closed the file; give the file system a moment. No events run here.
     QThread::msleep(250);

@@ -67,6 +67,9 @@ private:
                              const QString& Description);
     void StopRecordingSteps();
     void ExitAndClear();
+    // The path for a new recording that replaces no file; a changed name is logged.
+    QString UnusedFileName(const QString& folder, QString& baseName, const QString& extension,
+                           const QStringList& endings, const QString& description);
     void OnTaskError(qint32 code, const QString& detail);
     // A stream's broadcast is kept as it came: the row shows its real format.
     void OnStreamFormatKept(const QByteArray& record);

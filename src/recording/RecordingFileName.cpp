@@ -4,6 +4,8 @@
 #include "common/TextHelpers.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <algorithm>
 
 namespace {
 
@@ -39,4 +41,17 @@ QString NewRecordingFileName(double now, qint16 stampFormat, const QString& user
     if (!folder.endsWith(QDir::separator()))
         folder += QDir::separator();
     return folder + baseName + extension;
+}
+
+QString FreeBaseName(const QString& folder, const QString& baseName, const QStringList& endings)
+{
+    const QDir dir(folder);
+    QString candidate = baseName;
+    for (int n = 2; std::any_of(endings.cbegin(), endings.cend(),
+                                [&](const QString& ending) {
+                                    return QFileInfo::exists(dir.filePath(candidate + ending));
+                                });
+         ++n)
+        candidate = QStringLiteral("%1 (%2)").arg(baseName).arg(n);
+    return candidate;
 }

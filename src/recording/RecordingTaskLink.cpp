@@ -2,6 +2,7 @@
 
 #include "common/ProgramFiles.h"
 #include "common/TextHelpers.h"
+#include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
@@ -13,6 +14,7 @@
 #include <QLocalSocket>
 #include <QProcess>
 #include <QThread>
+#include <utility>
 
 using namespace TaskProtocol;
 
@@ -102,6 +104,7 @@ void RecordingTaskLink::OnDisconnected(QLocalSocket* socket)
 
 void RecordingTaskLink::OnReadyRead(QLocalSocket* socket)
 {
+    const UnattendedPath unattended;
     Connection* c = Find(socket);
     if (!c)
         return;
@@ -186,6 +189,19 @@ void RecordingTaskLink::PostMessage(quint32 msg)
 
 qint32 RecordingTaskLink::SendMessage(quint32 msg)
 {
+    const qint32 result = Call(msg);
+    // Once the start command is answered (a task that is gone answers 0 too), a stop goes
+    // to the task and the watchdog watches it.
+    if (msg == REC_MSG_START && result < 1) {
+        m_capturing = true;
+        if (std::exchange(m_stopHeld, false))
+            PostStop();
+    }
+    return result;
+}
+
+qint32 RecordingTaskLink::Call(quint32 msg)
+{
     QPointer<QLocalSocket> socket = m_window;
     if (!socket || socket->state() != QLocalSocket::ConnectedState)
         return 0;
@@ -194,7 +210,7 @@ qint32 RecordingTaskLink::SendMessage(quint32 msg)
     socket->write(Encode(Kind::Call, msg, 0));
     socket->flush();
     while (!call.answered && socket && socket->state() == QLocalSocket::ConnectedState)
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        UnattendedPath::LetEventsRun(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     m_pendingCalls.removeOne(&call);
     return call.answered ? call.result : 0;
 }
@@ -211,6 +227,7 @@ void RecordingTaskLink::StartTask()
 bool RecordingTaskLink::ActivateNightreeltask()
 {
     bool activated = false;
+    m_capturing = false;
     Trap(m_log, "ActivateNightreeltask", [&] {
         for (int attempt = 0; attempt <= 2; ++attempt) {
             // Only the last attempt reports; the first two failures are silent.
@@ -238,8 +255,8 @@ bool RecordingTaskLink::ActivateNightreeltask()
                 m_taskResponded = false;
                 StartTask();
                 for (;;) {
-                    QCoreApplication::processEvents(QEventLoop::AllEvents |
-                                                    QEventLoop::WaitForMoreEvents);
+                    UnattendedPath::LetEventsRun(QEventLoop::AllEvents |
+                                                 QEventLoop::WaitForMoreEvents);
                     if (m_timedOut) {
                         if (reporting)
                             m_log.LogEvent(
@@ -349,8 +366,21 @@ void RecordingTaskLink::UnexpectedCode(qint64 number)
 
 void RecordingTaskLink::PostStop()
 {
+    // Before the start command the task would drop the stop, or the old task would get it.
+    if (!m_capturing) {
+        m_stopHeld = true;
+        return;
+    }
     PostMessage(REC_MSG_STOP);
     tmrStopRecording.SetInterval(StopWatchdogInterval);
+}
+
+void RecordingTaskLink::RecordingOver()
+{
+    tmrKeepAlive.SetInterval(0);
+    tmrStopRecording.SetInterval(0);
+    m_capturing = false;
+    m_stopHeld = false;
 }
 
 void RecordingTaskLink::StartKeepAlive()
@@ -359,13 +389,9 @@ void RecordingTaskLink::StartKeepAlive()
     tmrKeepAlive.SetInterval(KeepAliveInterval);
 }
 
-void RecordingTaskLink::StopKeepAlive()
-{
-    tmrKeepAlive.SetInterval(0);
-}
-
 void RecordingTaskLink::tmrKeepAlive_Timer()
 {
+    const UnattendedPath unattended;
     Trap(m_log, "tmrKeepAlive_Timer", [&] {
         if (!m_appStatus.Recording())
             return;
@@ -380,6 +406,7 @@ void RecordingTaskLink::tmrKeepAlive_Timer()
 
 void RecordingTaskLink::tmrStopRecording_Timer()
 {
+    const UnattendedPath unattended;
     Trap(m_log, "tmrStopRecording_Timer", [&] {
         tmrStopRecording.SetInterval(0);
         emit StopRecording();

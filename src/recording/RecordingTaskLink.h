@@ -52,11 +52,15 @@ public:
     qint32 SendMessage(quint32 msg);
     // A one-way message to the task found last; dropped when there is none.
     void PostMessage(quint32 msg);
-    // Posts REC_MSG_STOP and arms the watchdog; the recording control decides when.
+    // Posts REC_MSG_STOP and arms the watchdog; the recording control decides when. A task
+    // that is not capturing yet can't take the stop: it is held until the start command
+    // has been answered, and the watchdog waits with it.
     void PostStop();
+    // The recording is over, however it ended: the keep-alive, the watchdog and a held stop
+    // go with it, so that none of them reaches the next recording.
+    void RecordingOver();
     // The keep-alive runs while a recording does, from a count of no misses.
     void StartKeepAlive();
-    void StopKeepAlive();
 
     void tmrKeepAlive_Timer();
     void tmrStopRecording_Timer();
@@ -113,6 +117,7 @@ private:
     // The live, identified connection of a task; also refreshes the window handle.
     QLocalSocket* FindWindowA();
     void Post(QLocalSocket* socket, quint32 msg);
+    qint32 Call(quint32 msg);
     void StartTask();
     void UnexpectedCode(qint64 number);
     void Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint32& result);
@@ -129,6 +134,9 @@ private:
     bool m_taskResponded = false;
     qint32 m_taskStatusCode = 0;
     bool m_timedOut = false;
+    // The current task has answered the start command; a stop asked before waits for that.
+    bool m_capturing = false;
+    bool m_stopHeld = false;
     int m_activationTimeout = 10000;
     // The payload of the message being dispatched, where it carries one.
     QByteArray m_postPayload;

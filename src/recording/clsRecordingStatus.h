@@ -13,6 +13,8 @@ struct clsRecordingStatus {
     qint32 DurationSeconds = 0;
     QString CompressionText;
     bool Failed = false;
+    // The task could not write on; what it wrote is kept as the recording.
+    bool WriteFailed = false;
     // -1 for a manual recording.
     qint32 ProgramId = -1;
     bool ConvertToMP3 = false;

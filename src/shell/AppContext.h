@@ -3,6 +3,7 @@
 #include "common/clsAppStatus.h"
 #include "control/ControlService.h"
 #include "diagnostics/EventLog.h"
+#include "diagnostics/UnattendedMessageBox.h"
 #include "diagnostics/clsError.h"
 #include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
@@ -78,6 +79,8 @@ public:
 
     clsError error;
     EventLog log;
+    // What messageBox is: the seam's boxes, which never wait on the recorder's own paths.
+    UnattendedMessageBox boxes;
     RegKeys registry;
     Options options;
     clsAppStatus appStatus;

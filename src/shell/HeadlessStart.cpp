@@ -62,8 +62,7 @@ int Main(int argc, char* argv[])
     MainFormController controller(ctx);
     controller.Form_Load();
     controller.InitializeForFirstActivation([](const QString&) { return QString(); });
-    ctx.recorder.UpdateStatusBarPlus();
-    controller.FinishFirstActivation();
+    controller.FinishFirstActivation([&ctx] { ctx.recorder.UpdateStatusBarPlus(); });
     ControlService control(ctx.ForControl(messageBox));
     control.Register(QDBusConnection::sessionBus());
     qInfo().noquote() << "Nightreel 2000 is running without a window.";

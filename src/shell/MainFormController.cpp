@@ -21,13 +21,13 @@ MainFormController::MainFormController(AppContext& ctx, QObject* parent)
 
 void MainFormController::Form_Load()
 {
-    Trap(m_ctx.log, "Main Form Load", [&] {
-        m_ctx.appStatus.SetReady(false);
-        InitializeVariables();
-        m_ctx.options.GetOptions(m_ctx.registry);
+    // Each step carries on after a failure of the one before: the options above all.
+    m_ctx.appStatus.SetReady(false);
+    TrapEach(
+        m_ctx.log, "Main Form Load", [&] { InitializeVariables(); },
+        [&] { m_ctx.options.GetOptions(m_ctx.registry); },
         // A crashed run may have left its parameter file.
-        QFile::remove(m_ctx.recorder.Link().ParameterFile());
-    });
+        [&] { QFile::remove(m_ctx.recorder.Link().ParameterFile()); });
 }
 
 void MainFormController::InitializeVariables()
@@ -49,10 +49,12 @@ void MainFormController::InitializeForFirstActivation(const FolderChooser& choos
         [&] { m_ctx.scheduler.ScheduleNextRecording(); }, [&] { m_ctx.recorder.Start(); });
 }
 
-void MainFormController::FinishFirstActivation()
+void MainFormController::FinishFirstActivation(const std::function<void()>& UpdateStatusBarPlus)
 {
+    // Whatever fails before, the program ends up ready: the heartbeat idles until then.
     TrapEach(
-        m_ctx.log, "Main Form Load", [&] { m_ctx.scheduler.OfferRemovalOfExpiredPrograms(); },
+        m_ctx.log, "Main Form Load", UpdateStatusBarPlus,
+        [&] { m_ctx.scheduler.OfferRemovalOfExpiredPrograms(); },
         [&] { m_ctx.appStatus.SetReady(true); });
 }
 

@@ -19,9 +19,9 @@ public:
     // The steps of the form's load that need no window: variables, options, old files.
     void Form_Load();
     // The database and schedule steps of the first activation, up to the start of the
-    // heartbeat; the window then updates its displays and calls FinishFirstActivation.
+    // heartbeat; the window then calls FinishFirstActivation with its status bar's update.
     void InitializeForFirstActivation(const FolderChooser& chooser);
-    void FinishFirstActivation();
+    void FinishFirstActivation(const std::function<void()>& UpdateStatusBarPlus);
     void CheckDefaultRecordingDirectory(const FolderChooser& chooser);
     // True to keep the program running. A close by the system (log-out, shutdown) skips
     // the question about scheduled programs but not the refusals.

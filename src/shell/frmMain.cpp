@@ -354,8 +354,7 @@ void frmMain::FirstActivate()
         return frmSelectRecordDirectory::Choose(m_ctx.log, m_ctx.messageBox, this, proposed);
     });
     SSTab1_Click(ui.SSTab1->currentIndex());
-    UpdateStatusBarPlus();
-    m_controller.FinishFirstActivation();
+    m_controller.FinishFirstActivation([this] { UpdateStatusBarPlus(); });
     UpdateModeDisplay();
     ApplyErrorIndication(m_ctx.error.Indication());
     UpdateProgramsButtonsAndMenus();

@@ -130,17 +130,24 @@ void RecordingsList::ClearRecordingsList()
 int RecordingsList::PurgeOldRecordings()
 {
     const QString folder = m_options.DefaultRecordingDirectory;
-    const QDir dir(folder);
-    if (folder.isEmpty() || !dir.exists())
+    if (folder.isEmpty() || !QDir(folder).exists())
         return 0;
+    const QString comparableFolder = Comparable(QDir(folder).path());
     const QDateTime limit = AutomationDate::ToDateTime(m_clock.Now() - double(m_options.PurgeDays));
     int deleted = 0;
-    for (const QString& pattern : {kWaveFiles, kMp3Files}) {
-        for (const QString& name : FilesMatching(dir, pattern)) {
-            const QString path = dir.filePath(name);
-            if (QFileInfo(path).lastModified() < limit && QFile::remove(path))
-                ++deleted;
-        }
+    // Only what the recorder listed goes: the folder may hold the user's own files too.
+    Recordset rs = m_database.DataRecordings.recordset().Clone();
+    for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext()) {
+        const QFileInfo file(rs.Value(QStringLiteral("File")).toString());
+        const QString suffix = file.suffix().toUpper();
+        if (Comparable(file.path()) != comparableFolder ||
+            (suffix != QLatin1String("WAV") && suffix != QLatin1String("MP3")) || !file.exists() ||
+            file.lastModified() >= limit || !QFile::remove(file.filePath()))
+            continue;
+        for (const QString& cue : {QStringLiteral(".cue"), QStringLiteral(".CUE")})
+            QFile::remove(file.path() + u'/' + file.completeBaseName() + cue);
+        rs.Delete();
+        ++deleted;
     }
     return deleted;
 }
@@ -161,7 +168,6 @@ void RecordingsList::Purge()
     if (PurgeOldRecordings() == 0)
         return;
     m_database.DataRecordings.Refresh();
-    AddFolderToRecordingsList(m_options.DefaultRecordingDirectory);
     RemoveMissingFromRecordingFolder();
     m_database.DataRecordings.Refresh();
 }

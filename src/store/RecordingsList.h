@@ -33,8 +33,9 @@ public:
     // Empties the list, leaving the files.
     void ClearRecordingsList();
 
-    // Deletes the recording folder's wave and MP3 files older than the age limit, listed or
-    // not; returns how many went.
+    // Deletes the listed wave and MP3 recordings of the recording folder that are older than
+    // the age limit, with their CUE sheets, and drops their rows; files not in the list are
+    // never touched. Returns how many went.
     int PurgeOldRecordings();
     // Drops the rows of files of the recording folder that are gone.
     void RemoveMissingFromRecordingFolder();

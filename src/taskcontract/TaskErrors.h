@@ -48,4 +48,11 @@ constexpr qint32 BadFormat = 1053;
 // An internet stream that could not be reached at any time of the recording; the error's
 // payload names the address and the reason.
 constexpr qint32 StreamUnreachable = 1060;
+
+// The file could not be written on during capture (a full disk, a drive gone): the task has
+// closed what it wrote, which is a recording up to that moment.
+constexpr bool IsWriteError(qint32 code)
+{
+    return code == WriteFailed || code == FlushFailed;
+}
 } // namespace TaskError

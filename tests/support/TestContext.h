@@ -20,23 +20,32 @@
 #include <memory>
 #include <optional>
 
-// A sound system with as many capture sources as the test says.
+// A sound system with as many capture sources as the test says, or one that fails to answer.
 class FakeAudioDevices : public AudioDevices {
 public:
-    int CountCaptureSources() override { return sources; }
+    int CountCaptureSources() override
+    {
+        if (fails)
+            throw RuntimeError(ErrorNumber::PathFileAccess, "the sound system did not answer");
+        return sources;
+    }
     int sources = 1;
+    bool fails = false;
 };
 
-// The real file systems, unless the test names the free megabytes it wants seen: of one
-// folder, or of all.
+// The real file systems, unless the test names the free megabytes it wants seen (of one
+// folder, or of all), or makes the measuring fail.
 class TestDiskSpace : public StorageDiskSpace {
 public:
     std::optional<double> freeMb;
     QHash<QString, double> freeMbOf;
+    bool fails = false;
 
 protected:
     DiskSpaceMb Measure(const QString& folder) override
     {
+        if (fails)
+            throw RuntimeError(ErrorNumber::PathFileAccess, "the disk did not answer");
         DiskSpaceMb d = StorageDiskSpace::Measure(folder);
         if (const auto it = freeMbOf.constFind(QDir::cleanPath(folder)); it != freeMbOf.cend())
             d.free = *it;
