@@ -21,10 +21,11 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # is loaded at run time, which no tool can see: Qt's SQLite driver (the database), and the
 # GStreamer elements that both players play through (playbin, audioconvert and volume in
 # -base; scaletempo, audiopanorama, the wave and MP3 readers and the audio output in -good),
-# which also read internet streams (HTTP, ICY, Ogg Vorbis), and GIO's TLS for https streams.
+# which also read internet streams (HTTP, ICY, Ogg Vorbis), GIO's TLS for https streams, and
+# Qt's SVG plug-in that draws the window's icon.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS
-    "libqt6sql6-sqlite, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, glib-networking")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6sql6-sqlite, gstreamer1.0-plugins-base, \
+gstreamer1.0-plugins-good, glib-networking, libqt6svg6")
 # A sound server to record from, the mixer program that the options name by default, and
 # the HLS reader (.m3u8 streams).
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS

@@ -14,7 +14,7 @@ packages=(
     libglib2.0-dev libxcb1-dev libxcb-ewmh-dev libxcb-icccm4-dev
     dbus python3-dbusmock openbox
     weston qt6-wayland pipewire pipewire-pulse wireplumber
-    desktop-file-utils appstream librsvg2-bin dpkg-dev file
+    desktop-file-utils appstream librsvg2-bin dpkg-dev file libqt6svg6
 )
 missing=()
 for p in "${packages[@]}"; do

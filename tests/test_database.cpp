@@ -228,7 +228,7 @@ private slots:
         QCOMPARE(tc.messageBox.asked.size(), 1);
         QCOMPARE(tc.messageBox.asked[0].title, QStringLiteral("Nightreel 2000 Error"));
         QVERIFY(tc.messageBox.asked[0].text.startsWith(
-            "Compact Database failed.  The following error occured: "));
+            "Compact Database failed.  The following error occurred: "));
         QVERIFY(!tc.ctx->database.rsPrograms.IsOpen());
         QFile f(tc.ctx->database.DatabaseFile());
         QVERIFY(f.open(QIODevice::ReadOnly));

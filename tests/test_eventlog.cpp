@@ -107,9 +107,9 @@ private slots:
         QTest::addColumn<bool>("menu");
         QTest::newRow("nothing") << 0 << false << false << " " << false;
         QTest::newRow("one unviewed")
-            << 1 << false << true << "Error occured - click to view" << false;
+            << 1 << false << true << "Error occurred - click to view" << false;
         QTest::newRow("two unviewed")
-            << 2 << false << true << "Errors occured - click to view" << false;
+            << 2 << false << true << "Errors occurred - click to view" << false;
         QTest::newRow("a condition")
             << 2 << true << true << "Errors or warnings are present - Click to view" << true;
     }

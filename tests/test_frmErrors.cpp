@@ -9,8 +9,8 @@
 
 namespace {
 
-const QString kNoDevice = "No wave audio recording device found.  Verify that a sound card is "
-                          "correctly installed.\n";
+const QString kNoDevice = "No sound server input found.  Check that PulseAudio or PipeWire is "
+                          "running and that an input is not disabled.\n";
 const QString kInvalidFolder =
     "Invalid Recording Folder.  Go to View/Options and select a recording folder.\n";
 const QString kDiskStop = "Disk Low - no further recording allowed.  Delete recordings from disk "

@@ -41,6 +41,7 @@ private slots:
     void stopCommands();
     void pauseCommandsToggle_data();
     void pauseCommandsToggle();
+    void pauseAndResumeEntriesDoOneThingEach();
 };
 
 void TestFrmMainRecording::stopCommands_data()
@@ -78,6 +79,21 @@ void TestFrmMainRecording::pauseCommandsToggle()
     QVERIFY(w.tc.ctx->appStatus.Paused());
     w.form->ui.Action(action)->trigger();
     QVERIFY(!w.tc.ctx->appStatus.Paused());
+}
+
+// The Recording menu's Pause (Ctrl+P) and Resume (Ctrl+U) do not toggle.
+void TestFrmMainRecording::pauseAndResumeEntriesDoOneThingEach()
+{
+    Window w;
+    w.PretendRecording(-1);
+    for (int i = 0; i < 2; ++i) {
+        w.form->ui.Action("mnuPauseOnly")->trigger();
+        QVERIFY(w.tc.ctx->appStatus.Paused());
+    }
+    for (int i = 0; i < 2; ++i) {
+        w.form->ui.Action("mnuResume")->trigger();
+        QVERIFY(!w.tc.ctx->appStatus.Paused());
+    }
 }
 
 QTEST_MAIN(TestFrmMainRecording)

@@ -393,7 +393,8 @@ void TestFrmManualRecord::dialogNameAndFormatServeOneRecording()
     QVERIFY(!w.ctx().appStatus.Recording());
 }
 
-// The real joystick reader on a pipe: initial states and turned-off buttons start nothing,
+// The real joystick reader on a pipe: a joystick not allowed in the options, initial states
+// and turned-off buttons start nothing,
 // a button beyond four is logged, 3 starts, 2 pauses, 1 resumes, 4 stops without asking.
 void TestFrmManualRecord::joystickButtonsDriveARecording()
 {
@@ -406,6 +407,10 @@ void TestFrmManualRecord::joystickButtonsDriveARecording()
     JoystickPipe joystick(w.tc);
     QVERIFY(joystick.IsOpen());
 
+    // Off by default: the joystick does nothing until the options allow it.
+    joystick.Press(3);
+    QVERIFY(!ctx.appStatus.Recording());
+    ctx.options.AllowJoystickActivation = true;
     joystick.Press(3, JS_EVENT_INIT);
     ctx.options.EnableJoystickButton3 = false;
     joystick.Press(3);
@@ -435,7 +440,9 @@ void TestFrmManualRecord::joystickButtonsDriveARecording()
     QVERIFY(w.WaitUntilStopped());
     QVERIFY(w.tc.messageBox.asked.isEmpty());
     // Three seconds paused are missing from the file, more than a slow start could explain.
-    const double seconds = Soxi("-D", w.folder + "/060126_120000.WAV").toDouble();
+    const QStringList files = w.Files();
+    QCOMPARE(files.size(), 1);
+    const double seconds = Soxi("-D", w.folder + "/" + files[0]).toDouble();
     QVERIFY2(seconds > 0.5 && seconds < wallSeconds - 2.5,
              qPrintable(QStringLiteral("%1 of %2").arg(seconds).arg(wallSeconds)));
 }

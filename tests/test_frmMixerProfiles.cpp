@@ -179,9 +179,10 @@ private slots:
         form->btnActivate_Click();
         QCOMPARE(m_tc->messageBox.asked.size(), 1);
         QCOMPARE(m_tc->messageBox.asked[0].title, QString("Activate mixer profile"));
-        QCOMPARE(m_tc->messageBox.asked[0].text,
-                 QString("The Windows mixer settings will be set according to the selected mixer "
-                         "profile. Proceed?"));
+        QCOMPARE(
+            m_tc->messageBox.asked[0].text,
+            QString("The sound server's mixer settings will be set according to the selected mixer "
+                    "profile. Proceed?"));
         QCOMPARE(m_tc->messageBox.asked[0].buttons, MsgButtons::YesNo);
         QVERIFY(!QFile::exists(Profiles().PathOf("Empty")));
         QCOMPARE(Texts(Control<QListWidget>(form.get(), "lstMixerProfiles")), QStringList{"Empty"});

@@ -180,7 +180,7 @@ private slots:
             Enter(*form, edit);
         form->findChild<QComboBox*>("comboMinSec0")->setCurrentIndex(1);
         form->findChild<QComboBox*>("comboDefaultRecordFileNameFormat")->setCurrentIndex(2);
-        form->findChild<QComboBox*>("ComboWavPlayer")->setCurrentText("Windows Default");
+        form->findChild<QComboBox*>("ComboWavPlayer")->setCurrentText("Desktop Default");
         form->findChild<QTimeEdit*>("dtpkrPurgeTime")->setTime(QTime(3, 30, 15));
         if (qEnvironmentVariableIsSet("NIGHTREEL_GRAB_DIR")) {
             auto* tabs = form->findChild<QTabWidget*>("SSTab1");
@@ -215,7 +215,7 @@ private slots:
         QCOMPARE(o.PlayStepSizes[0].Value, 20);
         QCOMPARE(o.PlayStepSizes[0].Minute, true);
         QCOMPARE(o.DefaultRecordingDirectory, f.tc.Root() + "/rec");
-        QCOMPARE(f.Setting("WavPlayer"), QString("Windows Default"));
+        QCOMPARE(f.Setting("WavPlayer"), QString("Desktop Default"));
     }
 
     void startupBoxWritesTheAutostartEntry_data()

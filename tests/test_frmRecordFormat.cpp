@@ -1,5 +1,4 @@
 #include "formats/CodecCatalogue.h"
-#include "formats/frmMP3WarningNT.h"
 #include "formats/frmRecordFormat.h"
 #include "support/ModalDialogs.h"
 #include "support/TestContext.h"
@@ -17,8 +16,6 @@
 #include <functional>
 
 namespace {
-
-const QString kSection = QStringLiteral("Settings");
 
 void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
 {
@@ -64,7 +61,7 @@ private slots:
         format.SetToPcmPhoneQuality();
         const QByteArray before = format.Record();
 
-        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr);
+        frmRecordFormat form(tc.ctx->log, format, nullptr);
         WhenModal chooser("FormatChooser", [](QWidget* dialog) {
             Control<QComboBox>(dialog, "cboFormatTag")->setCurrentText("MPEG Layer-3");
             auto* list = Control<QListWidget>(dialog, "lstAttributes");
@@ -114,8 +111,7 @@ private slots:
             Control<QRadioButton>(form, "optCDQuality")->click();
             form->findChild<QPushButton*>(button)->click();
         });
-        QCOMPARE(ChangeFormat(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr),
-                 changed);
+        QCOMPARE(ChangeFormat(tc.ctx->log, format, nullptr), changed);
         QCOMPARE(format.nSamplesPerSec(), changed ? 44100u : 11025u);
     }
 
@@ -124,7 +120,7 @@ private slots:
         TestContext tc;
         clsRecordingFormat format;
         format.SetToPcm(1, 6000, 16);
-        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr);
+        frmRecordFormat form(tc.ctx->log, format, nullptr);
         auto* rates = Control<QComboBox>(&form, "ComboSampleRate");
         QCOMPARE(rates->currentIndex(), -1);
         QCOMPARE(format.nSamplesPerSec(), 6000u);
@@ -157,7 +153,7 @@ private slots:
         clsRecordingFormat format;
         // Start from a preset, so that one is selected before the change.
         format.SetToPcm(2, 44100, 16);
-        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr);
+        frmRecordFormat form(tc.ctx->log, format, nullptr);
         QVERIFY(Control<QRadioButton>(&form, "optCDQuality")->isChecked());
 
         Control<QRadioButton>(&form, channels == 2 ? "OptionStereo" : "OptionMono")->click();
@@ -170,44 +166,6 @@ private slots:
         QCOMPARE(rates->currentText(), QLocale(QLocale::English).toString(rate));
     }
 
-    void okWarnsAboutConversionUntilToldNotTo_data()
-    {
-        QTest::addColumn<bool>("convert");
-        QTest::addColumn<QString>("setting");
-        QTest::addColumn<bool>("tick");
-        QTest::addColumn<bool>("warned");
-        QTest::newRow("real-time MP3: no warning") << false << QString() << false << false;
-        QTest::newRow("conversion, first time") << true << QString() << false << true;
-        QTest::newRow("conversion, ticked not to show") << true << QString() << true << true;
-        QTest::newRow("setting y") << true << "y" << false << true;
-        QTest::newRow("setting N") << true << "N" << false << false;
-    }
-    void okWarnsAboutConversionUntilToldNotTo()
-    {
-        QFETCH(bool, convert);
-        QFETCH(QString, setting);
-        QFETCH(bool, tick);
-        QFETCH(bool, warned);
-        TestContext tc;
-        if (!setting.isEmpty())
-            tc.ctx->registry.SaveSetting(kSection, "ShowMp3Warning", setting);
-        clsRecordingFormat format;
-        format.ConvertToMP3 = convert;
-        SetFromRecord(format, CodecCatalogue::Mp3Record(1, 22050, 32));
-        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, nullptr);
-        WhenModal warning("frmMP3WarningNT", [&](QWidget* dialog) {
-            QCOMPARE(dialog->windowTitle(), QStringLiteral("MPEG Layer-3"));
-            QVERIFY(Control<QLabel>(dialog, "Label1")->text().startsWith("The convert option is"));
-            Control<QCheckBox>(dialog, "chkShowAgain")->setChecked(tick);
-            Control<QPushButton>(dialog, "Command1")->click();
-        });
-        Control<QPushButton>(&form, "CommandOk")->click();
-        QCOMPARE(warning.seen, warned ? 1 : 0);
-        QCOMPARE(format.FormatChanged, qint16(-1));
-        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "ShowMp3Warning", {}),
-                 tick ? QStringLiteral("N") : setting);
-    }
-
     void theFormOpensBesideTheMainWindowWithItsTexts()
     {
         TestContext tc;
@@ -216,7 +174,7 @@ private slots:
         main.show();
         clsRecordingFormat format;
         format.SetToPcmPhoneQuality();
-        frmRecordFormat form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, format, &main);
+        frmRecordFormat form(tc.ctx->log, format, &main);
         // 200 twips right of and below the main window's corner.
         QCOMPARE(form.pos(), main.pos() + QPoint(13, 13));
         QStringList rates;

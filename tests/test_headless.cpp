@@ -150,7 +150,7 @@ private slots:
         // The window's start, beside the running recorder, even with "2".
         InstanceLock lock(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/nightreel");
         ScriptedMessageBox box;
-        QCOMPARE(lock.RefuseWindowStart("2", box), std::optional<int>(1));
+        QCOMPARE(lock.RefuseWindowStart(true, box), std::optional<int>(1));
         QCOMPARE(box.asked.size(), 1);
         QCOMPARE(box.asked[0].text, QString("Nightreel 2000 is already running."));
     }

@@ -33,9 +33,9 @@ private:
 };
 
 const QString kNotFoundDetails =
-    "Install the Microsoft Windows mixer or a 3rd party mixer.  To install the Windows mixer, "
-    "run the Control Panel, doubleclick on the Add/Remove Programs icon, select the Windows "
-    "Setup tab, doubleclick on the Multimedia component, and select Volume Control.\r\nTo "
+    "Install the sound server's volume control or a 3rd party mixer.  To install the volume "
+    "control, open the desktop's software manager, search for PulseAudio Volume Control "
+    "(package pavucontrol), and install it.\r\nTo "
     "install a 3rd party mixer, bring up the Options form from the View/Options menu, select "
     "the Advanced tab, and press the Modify mixer control button.";
 

@@ -136,6 +136,9 @@ private slots:
                                        << "x" << kEnhanced << kEnhanced;
         QTest::newRow("blanks trimmed")
             << true << " " + kDefault + " " << kEnhanced + " " << kDefault << kEnhanced;
+        QTest::newRow("earlier versions' name of the default program")
+            << true << "Windows Default"
+            << " Windows Default" << kDefault << kDefault;
     }
 
     void repairs()
@@ -189,8 +192,8 @@ private slots:
         } else if (opened == "message") {
             QCOMPARE(f.tc.messageBox.asked.size(), 1);
             QCOMPARE(f.tc.messageBox.asked[0].text,
-                     "Error Launching default Windows MP3 player. Error Code=31\nPerhaps there "
-                     "is no Windows application associated with MP3 files.");
+                     "Error Launching default desktop MP3 player. Error Code=31\nPerhaps there "
+                     "is no desktop application associated with MP3 files.");
             QCOMPARE(f.tc.messageBox.asked[0].icon, MsgIcon::Exclamation);
         } else {
             QCOMPARE(f.panels.opened, opened);

@@ -213,7 +213,7 @@ void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce_data()
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("detailsEnd");
     const QString noAnswer =
-        "system restart. \rThe error occured during the following recording: Evening news";
+        "system restart. \rThe error occurred during the following recording: Evening news";
     QTest::newRow("capture error") << true << ""
                                    << "Error occurred during recording process."
                                    << "";

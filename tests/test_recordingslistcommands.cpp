@@ -105,7 +105,7 @@ private slots:
                                    "list.  The recordings will not be deleted from disk. Proceed?";
         const QString eraseText = "This will remove recordings PERMANENTLY from disk. Are you "
                                   "sure you want to delete the selected recordings?";
-        const QString clearText = "All recordings will removed from the recording list.  The "
+        const QString clearText = "All recordings will be removed from the recording list.  The "
                                   "recordings will not be deleted from disk. Proceed?";
         QTest::newRow("remove from list")
             << remove << true << MsgResult::Yes << "Remove Selected Recordings From List"

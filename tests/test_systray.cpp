@@ -92,10 +92,10 @@ private slots:
             << "Nightreel 2000 - Errors or warnings are present." << L::General << 2;
         QTest::newRow("one unviewed entry")
             << false << false << false << false << false << false << 1
-            << "Nightreel 2000 - Error occured, check the error log" << L::General << 2;
+            << "Nightreel 2000 - Error occurred, check the error log" << L::General << 2;
         QTest::newRow("two unviewed entries")
             << false << false << false << false << false << false << 2
-            << "Nightreel 2000 - Errors occured, check the error log" << L::General << 2;
+            << "Nightreel 2000 - Errors occurred, check the error log" << L::General << 2;
         QTest::newRow("nothing") << false << false << false << false << false << false << 0
                                  << "Nightreel 2000 - STOPPED" << L::General << 1;
     }

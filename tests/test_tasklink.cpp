@@ -239,10 +239,10 @@ private slots:
         // A task that does not say who it is can't be found, so nor can it be told to leave.
         QTest::newRow("ready but not the task's window")
             << "title=Other" << false << 3 << QStringList{"Error activating recording task."}
-            << "Timeout occured.  - Try restarting software" << 0;
+            << "Timeout occurred.  - Try restarting software" << 0;
         QTest::newRow("never ready")
             << "ready=none" << false << 3 << QStringList{"Error activating recording task."}
-            << "Timeout occured.  Try restarting software" << 3;
+            << "Timeout occurred.  Try restarting software" << 3;
     }
     void activation()
     {
@@ -288,7 +288,8 @@ private slots:
         QVERIFY(!f.link->ActivateNightreeltask());
         QCOMPARE(f.link->StartedTasks().size(), 1);
         QCOMPARE(f.Messages(), QStringList{"Error removing Recording Process."});
-        QCOMPARE(f.Entries().first().details, QString("This may require Windows to be restarted."));
+        QCOMPARE(f.Entries().first().details,
+                 QString("This may require the system to be restarted."));
     }
 
     // Every report is handed on with its code; the recording control fails the recording
@@ -386,7 +387,7 @@ private slots:
         const QString details = f.Entries().first().details;
         QVERIFY2(details.startsWith("Unexpected code from recording process.  " + code),
                  qPrintable(details));
-        QVERIFY(details.endsWith("try a different recording format or restarting Windows"));
+        QVERIFY(details.endsWith("try a different recording format or restarting the system"));
     }
 
     void systemCommands_data()

@@ -1,8 +1,10 @@
 #include "diagnostics/SysTrayPictures.h"
 
+#include <QGuiApplication>
 #include <QHash>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
 #include <QPixmap>
 #include <cmath>
 #include <numbers>
@@ -11,12 +13,23 @@ namespace SysTrayPictures {
 namespace {
 
 // Everything is drawn on a grid of 16 units and scaled: at 16 pixels a unit is a pixel.
-// Each picture has a dark outline, so that it reads on light and dark panels alike.
 const QColor kOutlineDark(20, 20, 30);
+
+// The outer edge of a picture: dark on a light palette, light on a dark one, where the
+// panel is most likely dark as well and a dark edge would melt into it.
+bool DarkPalette()
+{
+    return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+}
+
+QColor Edge(const QColor& onLight)
+{
+    return DarkPalette() ? QColor(232, 232, 238) : onLight;
+}
 
 void Reel(QPainter& p, const QColor& fill, const QColor& rim, const QColor& holes)
 {
-    p.setPen(QPen(rim, 1.0));
+    p.setPen(QPen(Edge(rim), 1.0));
     p.setBrush(fill);
     p.drawEllipse(QPointF(8, 8), 7.0, 7.0);
     p.setPen(Qt::NoPen);
@@ -30,7 +43,7 @@ void Reel(QPainter& p, const QColor& fill, const QColor& rim, const QColor& hole
 
 void RedDisc(QPainter& p, const QColor& fill, const QColor& rim)
 {
-    p.setPen(QPen(rim, 1.0));
+    p.setPen(QPen(Edge(rim), 1.0));
     p.setBrush(fill);
     p.drawEllipse(QPointF(8, 8), 7.0, 7.0);
 }
@@ -49,7 +62,7 @@ void RecordFrame(QPainter& p, int frame)
 // A blue square with a circular arrow that has turned (frame - 1) fifths of a circle.
 void ConvertFrame(QPainter& p, int frame)
 {
-    p.setPen(QPen(QColor(10, 50, 105), 1.0));
+    p.setPen(QPen(Edge(QColor(10, 50, 105)), 1.0));
     p.setBrush(QColor(25, 105, 200));
     p.drawRoundedRect(QRectF(1.0, 1.0, 14.0, 14.0), 2.5, 2.5);
     p.save();
@@ -101,7 +114,7 @@ void General(QPainter& p, int index)
         break;
     case SysTrayPicture::Error: {
         const QPointF sign[] = {{8.0, 0.9}, {15.3, 14.6}, {0.7, 14.6}};
-        p.setPen(QPen(QColor(90, 65, 0), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.setPen(QPen(Edge(QColor(90, 65, 0)), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         p.setBrush(QColor(245, 196, 0));
         p.drawPolygon(sign, 3);
         p.setPen(Qt::NoPen);
@@ -111,7 +124,7 @@ void General(QPainter& p, int index)
         break;
     }
     case SysTrayPicture::Play: {
-        p.setPen(QPen(QColor(10, 80, 30), 1.0));
+        p.setPen(QPen(Edge(QColor(10, 80, 30)), 1.0));
         p.setBrush(QColor(35, 160, 65));
         p.drawEllipse(QPointF(8, 8), 7.0, 7.0);
         p.setPen(Qt::NoPen);
@@ -176,7 +189,7 @@ QPixmap Pixmap(const SysTrayPicture& picture, int size)
 QIcon Icon(const SysTrayPicture& picture)
 {
     static QHash<int, QIcon> drawn;
-    const int key = int(picture.list) * 100 + picture.index;
+    const int key = (int(picture.list) * 100 + picture.index) * 2 + (DarkPalette() ? 1 : 0);
     auto it = drawn.find(key);
     if (it == drawn.end()) {
         QIcon icon;

@@ -43,8 +43,8 @@ void clsError::UpdateErrorIndication()
         indication.errorsMenuEnabled = true;
     } else if (UnviewedElogErrors()) {
         indication.toolTip = m_numUnviewedElogErrors == 1
-                                 ? QStringLiteral("Error occured - click to view")
-                                 : QStringLiteral("Errors occured - click to view");
+                                 ? QStringLiteral("Error occurred - click to view")
+                                 : QStringLiteral("Errors occurred - click to view");
         indication.buttonVisible = true;
     }
     m_indication = indication;
@@ -55,8 +55,8 @@ QStringList clsError::ConditionTexts() const
 {
     QStringList texts;
     if (NoAudioRecordDevice())
-        texts << QStringLiteral("No wave audio recording device found.  "
-                                "Verify that a sound card is correctly installed.");
+        texts << QStringLiteral("No sound server input found.  Check that PulseAudio or "
+                                "PipeWire is running and that an input is not disabled.");
     if (InvalidRecordingDirectory())
         texts << QStringLiteral("Invalid Recording Folder.  "
                                 "Go to View/Options and select a recording folder.");

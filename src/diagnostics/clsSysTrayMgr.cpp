@@ -82,11 +82,10 @@ void clsSysTrayMgr::Update()
             c = {Tip("Errors or warnings are present."),
                  {SysTrayList::General, SysTrayPicture::Error}};
         } else if (m_error.NumUnviewedElogErrors() == 1) {
-            // "occured" is the program's own spelling.
-            c = {Tip("Error occured, check the error log"),
+            c = {Tip("Error occurred, check the error log"),
                  {SysTrayList::General, SysTrayPicture::Error}};
         } else if (m_error.UnviewedElogErrors()) {
-            c = {Tip("Errors occured, check the error log"),
+            c = {Tip("Errors occurred, check the error log"),
                  {SysTrayList::General, SysTrayPicture::Error}};
         } else {
             c = {Tip("STOPPED"), {SysTrayList::General, SysTrayPicture::Normal}};

@@ -16,8 +16,8 @@ frmMp3RecordingFormatInfo::frmMp3RecordingFormatInfo(QWidget* parent)
             QStringLiteral("\"Select from all recording formats\"") + QStringLiteral(" button"),
         QStringLiteral("2) Select the ") + QStringLiteral("\"MPEG Layer-3\"") +
             QStringLiteral(" recording format.  If this recording format does not show up on "
-                           "the list, visit the Larkmoor Systems website for the most recent "
-                           "information on obtaining this codec."),
+                           "the list, install the MP3 encoder library (package libmp3lame0) "
+                           "and start Nightreel 2000 again."),
     };
     auto* layout = new QVBoxLayout(this);
     for (int i = 0; i < 3; ++i) {

@@ -4,8 +4,6 @@
 #include "diagnostics/Trap.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/FormatChooser.h"
-#include "formats/frmMP3Warning.h"
-#include "formats/frmMP3WarningNT.h"
 #include "formats/frmMp3RecordingFormatInfo.h"
 #include "gui/FormPlacement.h"
 
@@ -55,12 +53,9 @@ void SetCheckedQuietly(QRadioButton* button, bool checked)
 
 } // namespace
 
-frmRecordFormat::frmRecordFormat(EventLog& log, RegKeys& registry, Options& options,
-                                 clsRecordingFormat& format, QWidget* parent)
+frmRecordFormat::frmRecordFormat(EventLog& log, clsRecordingFormat& format, QWidget* parent)
     : QDialog(parent)
     , m_log(log)
-    , m_registry(registry)
-    , m_options(options)
     , m_format(format)
 {
     setObjectName(QStringLiteral("frmRecordFormat"));
@@ -141,7 +136,7 @@ frmRecordFormat::frmRecordFormat(EventLog& log, RegKeys& registry, Options& opti
     // The caption is long for one line; it is broken where its two sentences meet.
     chkConvert = new QCheckBox(
         QStringLiteral("Co&nvert to the selected MP3 format after recording in the appropriate "
-                       "PCM format.\n(Recommended for Windows 95/98/Me)"),
+                       "PCM format.\n(Recommended for slow computers)"),
         frameMP3);
     named(chkConvert, "chkConvert");
     chkMP3FileExtension = new QCheckBox(QStringLiteral("Sa&ve with .MP3 file extension"), frameMP3);
@@ -337,16 +332,6 @@ void frmRecordFormat::CommandOk_Click()
     m_format.ConvertToMP3 = chkConvert->isChecked();
     m_format.CalculateTextCompressionMethodString();
     m_format.FormatChanged = -1;
-    if (m_format.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 &&
-        Mp3WarningForm::WarningDue(m_registry)) {
-        if (RunsOnWindows9x && !m_format.ConvertToMP3) {
-            frmMP3Warning warning(m_registry, m_options, this);
-            warning.exec();
-        } else if (!RunsOnWindows9x && m_format.ConvertToMP3) {
-            frmMP3WarningNT warning(m_registry, m_options, this);
-            warning.exec();
-        }
-    }
     QDialog::accept();
 }
 
@@ -362,13 +347,12 @@ void frmRecordFormat::reject()
     CommandCancel_Click();
 }
 
-bool ChangeFormat(EventLog& log, RegKeys& registry, Options& options, clsRecordingFormat& format,
-                  QWidget* owner)
+bool ChangeFormat(EventLog& log, clsRecordingFormat& format, QWidget* owner)
 {
     bool changed = false;
     Trap(log, "ChangeFormat", [&] {
         format.FormatChanged = 0;
-        frmRecordFormat form(log, registry, options, format, owner);
+        frmRecordFormat form(log, format, owner);
         form.exec();
         // OK sets True, which is -1: any non-zero value is the confirmation.
         changed = format.FormatChanged != 0;

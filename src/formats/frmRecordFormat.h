@@ -6,8 +6,6 @@
 #include <QList>
 
 class EventLog;
-class Options;
-class RegKeys;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
@@ -18,12 +16,11 @@ class QRadioButton;
 // "Select Recording Format": chooses a recording format, in place, on the object it is
 // given, and keeps a copy for Cancel. Standard PCM formats are chosen on the form; any
 // other through "Select from all recording formats". OK marks the format as confirmed
-// (FormatChanged) and, for MP3, may warn about the choice.
+// (FormatChanged).
 class frmRecordFormat : public QDialog {
     Q_OBJECT
 public:
-    frmRecordFormat(EventLog& log, RegKeys& registry, Options& options, clsRecordingFormat& format,
-                    QWidget* parent);
+    frmRecordFormat(EventLog& log, clsRecordingFormat& format, QWidget* parent);
 
     // Brings the controls in line with the format.
     void CheckRecordingFormat();
@@ -42,8 +39,6 @@ private:
     void CommandCancel_Click();
 
     EventLog& m_log;
-    RegKeys& m_registry;
-    Options& m_options;
     clsRecordingFormat& m_format;
     clsRecordingFormat m_backup;
     QList<quint32> m_sampleRates;
@@ -76,5 +71,4 @@ private:
 
 // Shows the format dialog for the format, modally over owner; true when the user
 // confirmed with OK, false after Cancel.
-bool ChangeFormat(EventLog& log, RegKeys& registry, Options& options, clsRecordingFormat& format,
-                  QWidget* owner);
+bool ChangeFormat(EventLog& log, clsRecordingFormat& format, QWidget* owner);

@@ -37,7 +37,7 @@ namespace {
 const QString kSection = QStringLiteral("Settings");
 const QString kEnhancedPlayer = QStringLiteral("Nightreel Enhanced Player");
 const QString kClassicPlayer = QStringLiteral("Nightreel Classic Player");
-const QString kDefaultPlayer = QStringLiteral("Windows Default");
+const QString kDefaultPlayer = QStringLiteral("Desktop Default");
 // Offset of the dialog from the main form's corner.
 constexpr int kOffsetTwips = 600;
 
@@ -88,6 +88,14 @@ template <typename T> T* Named(T* widget, const QString& name)
 {
     widget->setObjectName(name);
     return widget;
+}
+
+// A label tied to its field, for mnemonics and screen readers.
+QLabel* LabelFor(const QString& text, QWidget* field)
+{
+    auto* label = new QLabel(text);
+    label->setBuddy(field);
+    return label;
 }
 
 // A label, a limited box with its arrows, and a label after it, on one line.
@@ -222,9 +230,9 @@ QWidget* frmOptions::BuildPlayTab()
     auto* players = new QGridLayout;
     ComboWavPlayer = Named(new QComboBox, QStringLiteral("ComboWavPlayer"));
     ComboMP3Player = Named(new QComboBox, QStringLiteral("ComboMP3Player"));
-    players->addWidget(new QLabel(QStringLiteral("WAV files")), 0, 0);
+    players->addWidget(LabelFor(QStringLiteral("WAV files"), ComboWavPlayer), 0, 0);
     players->addWidget(ComboWavPlayer, 0, 1);
-    players->addWidget(new QLabel(QStringLiteral("MP3 files")), 1, 0);
+    players->addWidget(LabelFor(QStringLiteral("MP3 files"), ComboMP3Player), 1, 0);
     players->addWidget(ComboMP3Player, 1, 1);
     players->setColumnStretch(2, 1);
     layout->addLayout(players);
@@ -240,6 +248,7 @@ QWidget* frmOptions::BuildPlayTab()
         txtFwdRev[i] = LimitedBox(box.constData(), arrows.constData(), 1, 59, UpDown1[i]);
         comboMinSec[i] = Named(new QComboBox, QStringLiteral("comboMinSec") + n);
         comboMinSec[i]->addItems({QStringLiteral("Seconds"), QStringLiteral("Minutes")});
+        label->setBuddy(txtFwdRev[i]);
         const int row = i % 3;
         const int column = i / 3 * 5;
         grid->addWidget(label, row, column);
@@ -262,10 +271,10 @@ QWidget* frmOptions::BuildStartupTab()
     auto* frame = Named(new QWidget, QStringLiteral("frameStartup"));
     auto* layout = new QVBoxLayout(frame);
     chkStartupFolder =
-        Named(new QCheckBox(QStringLiteral("Run Nightreel 2000 when Windows &starts")),
+        Named(new QCheckBox(QStringLiteral("Run Nightreel 2000 when the desktop &starts")),
               QStringLiteral("chkStartupFolder"));
     layout->addWidget(chkStartupFolder);
-    auto* mode = new QGroupBox(QStringLiteral("Windows Startup Mode"));
+    auto* mode = new QGroupBox(QStringLiteral("Desktop Startup Mode"));
     optNormalStartupMode =
         Named(new QRadioButton(QStringLiteral("&Normal")), QStringLiteral("optNormalStartupMode"));
     optHiddenStartupMode =
@@ -290,11 +299,12 @@ QWidget* frmOptions::BuildDiskTab()
     txtStopRecMegsLeft =
         LimitedBox("txtStopRecMegsLeft", "updnStopRecMegsLeft", 5, 20000, updnStopRecMegsLeft);
     auto* limits = new QGridLayout;
-    limits->addWidget(new QLabel(QStringLiteral("Warn when disk has")), 0, 0);
+    limits->addWidget(LabelFor(QStringLiteral("Warn when disk has"), txtWarnRecMegsLeft), 0, 0);
     limits->addWidget(txtWarnRecMegsLeft, 0, 1);
     limits->addWidget(updnWarnRecMegsLeft, 0, 2);
     limits->addWidget(new QLabel(QStringLiteral("Megabytes left")), 0, 3);
-    limits->addWidget(new QLabel(QStringLiteral("Stop recording when disk has")), 1, 0);
+    limits->addWidget(LabelFor(QStringLiteral("Stop recording when disk has"), txtStopRecMegsLeft),
+                      1, 0);
     limits->addWidget(txtStopRecMegsLeft, 1, 1);
     limits->addWidget(updnStopRecMegsLeft, 1, 2);
     limits->addWidget(new QLabel(QStringLiteral("Megabytes left")), 1, 3);
@@ -338,7 +348,7 @@ QWidget* frmOptions::BuildAdvancedTab()
         Named(new QCheckBox(QStringLiteral("A&utomatically remove expired programs")),
               QStringLiteral("chkRemoveExpiredPrograms"));
     chkShowRecordingTimeInTaskBar =
-        Named(new QCheckBox(QStringLiteral("Show elapsed recording time in Windows task &bar")),
+        Named(new QCheckBox(QStringLiteral("Show elapsed recording time in the desktop task &bar")),
               QStringLiteral("chkShowRecordingTimeInTaskBar"));
     // For a machine left alone: no sleep while a recording is due, and a warning in the log
     // when the input stays silent.
@@ -363,7 +373,8 @@ QWidget* frmOptions::BuildAdvancedTab()
                                                 QStringLiteral("YYMMDD_hhmmss"),
                                                 QStringLiteral("DDMMYY_hhmmss")});
     auto* nameLine = new QHBoxLayout;
-    nameLine->addWidget(new QLabel(QStringLiteral("Default recording file name format:")));
+    nameLine->addWidget(LabelFor(QStringLiteral("Default recording file name format:"),
+                                 comboDefaultRecordFileNameFormat));
     nameLine->addWidget(comboDefaultRecordFileNameFormat);
     nameLine->addStretch();
     layout->addLayout(nameLine);
@@ -518,7 +529,7 @@ void frmOptions::btnChangeRecordingFolder_Click()
 void frmOptions::CommandChangeDefautWfx_Click()
 {
     Trap(m_s.log, "Options CommandChangeDefautWfx_Click", [&] {
-        if (!ChangeFormat(m_s.log, m_s.registry, m_s.options, m_workingFormat, this))
+        if (!ChangeFormat(m_s.log, m_workingFormat, this))
             return;
         m_formatChanged = true;
         LabelCompressionFormat->setText(m_workingFormat.TextCompressionMethod);
@@ -543,8 +554,9 @@ void frmOptions::btnDefaultMixer_Click()
     Trap(m_s.log, "Options btnDefaultMixer_Click", [&] {
         const MsgResult answer = m_s.messageBox.Show(
             QStringLiteral("Default Mixer"),
-            QStringLiteral("The mixer control will be changed to the Windows default mixer. "
-                           "Proceed?"),
+            QStringLiteral(
+                "The mixer control will be changed to the sound server's volume control. "
+                "Proceed?"),
             MsgIcon::Question, MsgButtons::YesNo);
         if (answer == MsgResult::Yes) {
             m_workingMixerPath = Options::DefaultMixerFilePath;

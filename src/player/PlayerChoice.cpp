@@ -42,7 +42,7 @@ void PlayerChoice::GetPlayerSetting()
     Trap(m_log, "GetPlayerSetting", [&] {
         const auto repaired = [&](const QString& name, auto repair) {
             const QString read = m_registry.GetSetting(kSettings, name, QString()).trimmed();
-            const QString player = repair(read);
+            const QString player = repair(read == FormerDefaultPlayer ? DefaultPlayer : read);
             if (player != read)
                 m_registry.SaveSetting(kSettings, name, player);
             return player;
@@ -91,9 +91,9 @@ void PlayerChoice::PlayExistingFile(const QString& file, const QString& title, d
         return;
     const QString kind = mp3 ? QStringLiteral("MP3") : QStringLiteral("WAV");
     m_messageBox.Show(QString(),
-                      QStringLiteral("Error Launching default Windows ") + kind +
+                      QStringLiteral("Error Launching default desktop ") + kind +
                           QStringLiteral(" player. Error Code=") + QString::number(result) +
-                          QStringLiteral("\nPerhaps there is no Windows application associated "
+                          QStringLiteral("\nPerhaps there is no desktop application associated "
                                          "with ") +
                           kind + QStringLiteral(" files."),
                       MsgIcon::Exclamation, MsgButtons::Ok);

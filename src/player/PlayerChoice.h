@@ -18,7 +18,9 @@ public:
     // The stored names of the players; the texts are those of every settings store.
     static inline const QString EnhancedPlayer = QStringLiteral("Nightreel Enhanced Player");
     static inline const QString ClassicPlayer = QStringLiteral("Nightreel Classic Player");
-    static inline const QString DefaultPlayer = QStringLiteral("Windows Default");
+    static inline const QString DefaultPlayer = QStringLiteral("Desktop Default");
+    // What settings written by earlier versions call the default program.
+    static inline const QString FormerDefaultPlayer = QStringLiteral("Windows Default");
 
     // probe tells whether the enhanced player can run; opener opens a file in the default
     // program (see OpenWithDefaultProgram). Tests put in their own.

@@ -77,9 +77,10 @@ void frmPlayPanelMP::BuildForm()
     HSliderRate->setValue(100);
     HSliderRate->setPageStep(25);
     HSliderRate->setToolTip(QStringLiteral("Playback at a faster or slower rate"));
-    const auto label = [this](const char* name, const QString& text) {
+    const auto label = [this](const char* name, const QString& text, QWidget* buddy = nullptr) {
         auto* l = new QLabel(text, this);
         l->setObjectName(QString::fromLatin1(name));
+        l->setBuddy(buddy);
         return l;
     };
     lblStatus = label("lblStatus", QString());
@@ -99,9 +100,9 @@ void frmPlayPanelMP::BuildForm()
         transport->addWidget(b);
     transport->addStretch(1);
     auto* mix = new QGridLayout;
-    mix->addWidget(label("lblBalanceCaption", QStringLiteral("Balance")), 0, 0);
+    mix->addWidget(label("lblBalanceCaption", QStringLiteral("Balance"), HSliderBalance), 0, 0);
     mix->addWidget(HSliderBalance, 0, 1);
-    mix->addWidget(label("lblRateCaption", QStringLiteral("Rate")), 1, 0);
+    mix->addWidget(label("lblRateCaption", QStringLiteral("Rate"), HSliderRate), 1, 0);
     mix->addWidget(HSliderRate, 1, 1);
     auto* left = new QVBoxLayout;
     left->addWidget(sldTime);
@@ -110,7 +111,8 @@ void frmPlayPanelMP::BuildForm()
     left->addWidget(steps);
     left->addLayout(mix);
     auto* volume = new QVBoxLayout;
-    volume->addWidget(label("lblVolumeCaption", QStringLiteral("Volume")), 0, Qt::AlignHCenter);
+    volume->addWidget(label("lblVolumeCaption", QStringLiteral("Volume"), VSliderVolume), 0,
+                      Qt::AlignHCenter);
     volume->addWidget(VSliderVolume, 1, Qt::AlignHCenter);
     auto* top = new QHBoxLayout;
     top->addLayout(left, 1);

@@ -85,6 +85,9 @@ void ManualRecordCommands::JoystickButtonPress(int button)
 {
     // A controller with more than four buttons reports the others here, as errors.
     Trap(m_s.log, "Joystick_ButtonPress", [&] {
+        // Off until the options allow it: a pad left on a chair must not start anything.
+        if (!m_s.options.AllowJoystickActivation)
+            return;
         if (button < 1 || button > 4)
             throw RuntimeError(5, QStringLiteral("Invalid procedure call or argument"));
         const Options& options = m_s.options;

@@ -10,7 +10,8 @@ class QWidget;
 // The ways to a manual recording and the commands that go with it without a mouse: the
 // dialog of the toolbar and the menu; the keys Ctrl+R (quick start), Ctrl+S (stop), Ctrl+P
 // (pause), Ctrl+U (resume) and Ctrl+T (toggle) on the widgets it watches; and buttons 1 to
-// 4 of a joystick (resume, pause, quick start, stop without a question).
+// 4 of a joystick (resume, pause, quick start, stop without a question) once the options
+// allow it.
 class ManualRecordCommands : public QObject {
     Q_OBJECT
 public:

@@ -72,8 +72,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
                     "The recording task was not able to open the wave input file.  This error can "
                     "occur if the recording format is not fully supported, the recording device in "
                     "use by another program, or if recording device is locked. Stop or close any "
-                    "program that may be sharing the sound card.  If the problem reoccurs or no "
-                    "other program is using the sound card, try a different recording format. If "
+                    "program that may be holding the sound input.  If the problem reoccurs or no "
+                    "other program is using the sound input, try a different recording format. If "
                     "the problem persists, try restarting the software or rebooting the system.")};
     case TaskError::PrepareHeaderFailed:
         return {QStringLiteral("Error occurred during recording process."),
@@ -173,8 +173,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
     case TaskError::CloseInputFailed:
         return {
             QStringLiteral("Error Closing Input Device."),
-            QStringLiteral("The recording task encountered an error closing the sound card input "
-                           "device. If this problem occurs again, try selecting a different "
+            QStringLiteral("The recording task encountered an error closing the sound server input "
+                           "stream. If this problem occurs again, try selecting a different "
                            "recording format. If problem persists, try restarting system.")};
     case TaskError::CloseFileFailed:
         return {
@@ -227,9 +227,10 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
                            "application and try again to record using Nightreel.  If the recording "
                            "device is still locked, a system restart may be required.")};
     case TaskError::NoAudioDriver:
-        return {QStringLiteral("No audio driver found for recording."),
-                QStringLiteral("If this error persists even after restarting the system, you may "
-                               "need to reinstall your sound card software.")};
+        return {
+            QStringLiteral("No audio driver found for recording."),
+            QStringLiteral("If this error persists even after restarting the system, check that "
+                           "the sound server (PulseAudio or PipeWire) is installed and running.")};
     case TaskError::OutOfMemory:
         return {QStringLiteral("Out of memory error while opening Wave input file."),
                 QStringLiteral("Try recording with different recording format. If the problem "

@@ -243,7 +243,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
                         if (reporting)
                             m_log.LogEvent(
                                 EventError, QStringLiteral("Error removing Recording Process."),
-                                QStringLiteral("This may require Windows to be restarted."));
+                                QStringLiteral("This may require the system to be restarted."));
                         failed = true;
                     }
                 }
@@ -261,7 +261,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
                         if (reporting)
                             m_log.LogEvent(
                                 EventError, QStringLiteral("Error activating recording task."),
-                                QStringLiteral("Timeout occured.  Try restarting software or "
+                                QStringLiteral("Timeout occurred.  Try restarting software or "
                                                "rebooting system. If problem persists try a "
                                                "different recording format."));
                         failed = true;
@@ -280,7 +280,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
                             if (reporting)
                                 m_log.LogEvent(
                                     EventError, QStringLiteral("Error activating recording task."),
-                                    QStringLiteral("Timeout occured.  - Try restarting software "
+                                    QStringLiteral("Timeout occurred.  - Try restarting software "
                                                    "or rebooting system. If problem persists try "
                                                    "a different recording format."));
                             failed = true;
@@ -360,7 +360,7 @@ void RecordingTaskLink::UnexpectedCode(qint64 number)
                    QStringLiteral("Unexpected code from recording process.  Code=") +
                        Text::Str(number) +
                        QStringLiteral(" If problem persists, try a different recording "
-                                      "format or restarting Windows"));
+                                      "format or restarting the system"));
     emit StopRecording();
 }
 

@@ -105,7 +105,9 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
         pair->addWidget(box);
         pair->addWidget(arrows);
         duration->addLayout(pair, 0, column);
-        duration->addWidget(new QLabel(QString::fromLatin1(caption)), 1, column, Qt::AlignHCenter);
+        auto* label = new QLabel(QString::fromLatin1(caption));
+        label->setBuddy(box);
+        duration->addWidget(label, 1, column, Qt::AlignHCenter);
         ++column;
     }
     duration->setColumnStretch(3, 1);
@@ -137,7 +139,9 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     fields->addWidget(lblDescription, 0, 0);
     fields->addWidget(TextProgramDescription, 0, 1, 1, 2);
     fields->addLayout(duration, 1, 1, 1, 2);
-    fields->addWidget(new QLabel(QStringLiteral("Recording Format")), 2, 0);
+    auto* lblFormat = new QLabel(QStringLiteral("Recording Format"));
+    lblFormat->setBuddy(TextCompressionMethod);
+    fields->addWidget(lblFormat, 2, 0);
     fields->addWidget(TextCompressionMethod, 2, 1);
     fields->addWidget(ChangeComprMethodButton, 2, 2);
     fields->addWidget(new QLabel(QStringLiteral("Disk Storage:")), 3, 0);
@@ -277,7 +281,7 @@ void frmManualRecord::CalcStorage()
 void frmManualRecord::ChangeComprMethodButton_Click()
 {
     Trap(m_s.log, "ChangeComprMethodButton_Click", [&] {
-        FormatChanged = ChangeFormat(m_s.log, m_s.registry, m_s.options, m_workingFormat, this);
+        FormatChanged = ChangeFormat(m_s.log, m_workingFormat, this);
         if (FormatChanged) {
             TextCompressionMethod->setText(m_workingFormat.TextCompressionMethod);
             CalcStorage();

@@ -29,7 +29,7 @@ SourceChooser::SourceChooser(const QString& taskProgram, QWidget* parent)
     txtStreamUrl = new QLineEdit;
     txtStreamUrl->setObjectName(QStringLiteral("txtStreamUrl"));
     txtStreamUrl->setPlaceholderText(tr("http://… or https://…, or a .pls, .m3u or .m3u8 list"));
-    auto* lblAddress = new QLabel(tr("&Address"));
+    auto* lblAddress = new QLabel(tr("A&ddress"));
     lblAddress->setBuddy(txtStreamUrl);
     btnTestStream = new QPushButton(tr("Test"));
     btnTestStream->setObjectName(QStringLiteral("btnTestStream"));

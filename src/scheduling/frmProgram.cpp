@@ -140,11 +140,11 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     CheckEnabled = Named(new QCheckBox(QStringLiteral("Ena&bled")), "CheckEnabled");
     CheckEnabled->setChecked(true);
 
-    frameFrequency = Named(new QGroupBox(QStringLiteral("F&requency")), "frameFrequency");
+    frameFrequency = Named(new QGroupBox(QStringLiteral("Fre&quency")), "frameFrequency");
     OptionOneTimeOrDaily[0] =
-        Named(new QRadioButton(QStringLiteral("O&ne Time")), "OptionOneTimeOrDaily(0)");
+        Named(new QRadioButton(QStringLiteral("One &Time")), "OptionOneTimeOrDaily(0)");
     OptionOneTimeOrDaily[1] =
-        Named(new QRadioButton(QStringLiteral("&Daily")), "OptionOneTimeOrDaily(1)");
+        Named(new QRadioButton(QStringLiteral("Dai&ly")), "OptionOneTimeOrDaily(1)");
     OptionOneTimeOrDaily[0]->setChecked(true);
     dtpkrOnceDate = Named(new QDateEdit, "dtpkrOnceDate");
     dtpkrOnceDate->setCalendarPopup(true);
@@ -153,10 +153,10 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     if (!dateFormat.contains(QStringLiteral("yyyy")))
         dateFormat.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
     dtpkrOnceDate->setDisplayFormat(dateFormat);
-    const QString dayCaptions[] = {QStringLiteral("S&un"), QStringLiteral("M&on"),
-                                   QStringLiteral("&Tue"), QStringLiteral("&Wed"),
+    const QString dayCaptions[] = {QStringLiteral("&Sun"), QStringLiteral("Mo&n"),
+                                   QStringLiteral("T&ue"), QStringLiteral("&Wed"),
                                    QStringLiteral("T&hu"), QStringLiteral("F&ri"),
-                                   QStringLiteral("&Sat")};
+                                   QStringLiteral("S&at")};
     auto* days = new QHBoxLayout;
     for (int d = 0; d < 7; ++d) {
         const QByteArray name = "CheckDaysOfWeek(" + QByteArray::number(d) + ')';
@@ -187,6 +187,7 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     auto* lblFormat = Named(new QLabel(QStringLiteral("Recording Format")), "LabelRecordingFormat");
     TextCompressionMethod = Named(new QLineEdit, "TextCompressionMethod");
     TextCompressionMethod->setReadOnly(true);
+    lblFormat->setBuddy(TextCompressionMethod);
     ChangeComprMethodButton =
         Named(new QPushButton(QStringLiteral("Modif&y")), "ChangeComprMethodButton");
 
@@ -264,7 +265,7 @@ void frmProgram::BuildExternalAppTab(QWidget* page)
     lblLaunchPriorDelay->setBuddy(txtLaunchPriorDelay);
     updnLaunchPriorDelay = Named(MakeUpDown(txtLaunchPriorDelay), "updnLaunchPriorDelay");
     chkLaunchAfter =
-        Named(new QCheckBox(QStringLiteral("Launch external program when recording co&mpletes")),
+        Named(new QCheckBox(QStringLiteral("Launch external program when recording comp&letes")),
               "chkLaunchAfter");
     txtLaunchAfter = Named(new QLineEdit, "txtLaunchAfter");
     chkLaunchAfterOnlyIfOk =
@@ -297,7 +298,7 @@ void frmProgram::BuildExternalAppTab(QWidget* page)
 
 void frmProgram::BuildInternetTab(QWidget* page)
 {
-    chkLaunchLink = Named(new QCheckBox(QStringLiteral("Launch &Internet link prior to recording")),
+    chkLaunchLink = Named(new QCheckBox(QStringLiteral("Launch Internet lin&k prior to recording")),
                           "chkLaunchLink");
     txtLaunchLink = Named(new QLineEdit, "txtLaunchLink");
     btnTestUrl = Named(new QPushButton(QStringLiteral("&Test")), "btnTestUrl");
@@ -387,13 +388,13 @@ void frmProgram::Form_Load()
         FormPlacement::PlaceAtMainForm(this, parentWidget(), 100);
         switch (m_services.options.DefaultRecordFileNameFormat) {
         case 1:
-            optDefaultFilename->setText(QStringLiteral("YY&MMDD_hhmmss"));
+            optDefaultFilename->setText(QStringLiteral("YYMM&DD_hhmmss"));
             break;
         case 2:
-            optDefaultFilename->setText(QStringLiteral("DD&MMYY_hhmmss"));
+            optDefaultFilename->setText(QStringLiteral("&DDMMYY_hhmmss"));
             break;
         default:
-            optDefaultFilename->setText(QStringLiteral("&MMDDYY_hhmmss"));
+            optDefaultFilename->setText(QStringLiteral("MM&DDYY_hhmmss"));
             break;
         }
         MixerListsFilled = false;
@@ -614,8 +615,7 @@ void frmProgram::ChangeComprMethodButton_Click()
 {
     Trap(m_services.log, "Program Form ChangeComprMethodButton_Click", [&] {
         // A later cancelled change loses an earlier accepted one; that is intended.
-        FormatChanged = ChangeFormat(m_services.log, m_services.registry, m_services.options,
-                                     m_formFormat, this);
+        FormatChanged = ChangeFormat(m_services.log, m_formFormat, this);
         if (FormatChanged) {
             TextCompressionMethod->setText(m_formFormat.TextCompressionMethod);
             CalcTimeDuration();

@@ -37,7 +37,7 @@ InstanceLock::Holder InstanceLock::TryLock()
     return Holder::Window;
 }
 
-std::optional<int> InstanceLock::RefuseWindowStart(const QString& word,
+std::optional<int> InstanceLock::RefuseWindowStart(bool allowSecondWindow,
                                                    MessageBoxPresenter& messageBox)
 {
     switch (TryLock()) {
@@ -46,13 +46,13 @@ std::optional<int> InstanceLock::RefuseWindowStart(const QString& word,
                         MsgIcon::Exclamation, MsgButtons::Ok);
         return 1;
     case Holder::Window:
-        if (word == QStringLiteral("2"))
+        if (allowSecondWindow)
             return std::nullopt;
         messageBox.Show(QStringLiteral("Nightreel 2000 already running"),
                         QStringLiteral("Nightreel 2000 is already loaded. To restore window, "
                                        "double-click on system tray Nightreel 2000 icon. "
-                                       "If the icon is not present, unload the application via "
-                                       "the Windows task manager or by restarting Windows."),
+                                       "If the icon is not present, end the application with "
+                                       "the system monitor or by logging out and in again."),
                         MsgIcon::Exclamation, MsgButtons::Ok);
         return 0;
     case Holder::None:

@@ -19,8 +19,8 @@ public:
 
     // Takes the lock for the window. When another instance holds it, the user is told and
     // the exit status given back: 1 beside a recorder without a window, which nothing may
-    // run beside; 0 beside another window, unless the word "2" allows a second one.
-    std::optional<int> RefuseWindowStart(const QString& word, MessageBoxPresenter& messageBox);
+    // run beside; 0 beside another window, unless a second one is allowed (the word "2").
+    std::optional<int> RefuseWindowStart(bool allowSecondWindow, MessageBoxPresenter& messageBox);
 
     // What a start says when a recorder without a window runs, and what a second one says.
     static QString AlreadyRunningText()

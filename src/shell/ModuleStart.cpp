@@ -1,8 +1,8 @@
 #include "shell/ModuleStart.h"
 
-#include "common/TextHelpers.h"
 #include "control/CallMessageBox.h"
 #include "formats/FileRowPreview.h"
+#include "shell/CommandLine.h"
 #include "shell/InstanceLock.h"
 #include "shell/SystemSeams.h"
 #include "shell/WidgetMessageBox.h"
@@ -16,7 +16,7 @@ namespace ModuleStart {
 namespace {
 
 // "--inspect FILE": what the recordings list would show of the file; no window, no lock.
-int Inspect(int argc, char* argv[])
+int Inspect(int argc, char* argv[], const QString& file)
 {
     QCoreApplication app(argc, argv);
     SetApplicationNames();
@@ -25,25 +25,24 @@ int Inspect(int argc, char* argv[])
     SystemSeams seams{QDBusConnection(QString()), QDBusConnection(QString())};
     AppContext ctx(seams.With(messageBox), AppFolders::ForCurrentUser());
     QTextStream out(stdout);
-    return InspectFile(ctx.log, QString::fromLocal8Bit(argv[2]), out);
+    return InspectFile(ctx.log, file, out);
 }
 
 } // namespace
 
-int Main(int argc, char* argv[])
+int Main(int argc, char* argv[], const CommandLine& line)
 {
-    if (argc == 3 && qstrcmp(argv[1], "--inspect") == 0)
-        return Inspect(argc, argv);
+    if (!line.inspectFile.isEmpty())
+        return Inspect(argc, argv, line.inspectFile);
     QApplication app(argc, argv);
     SetApplicationNames();
     QApplication::setQuitOnLastWindowClosed(false);
-    // One optional word: "1" starts hidden in the tray, "2" allows a second instance.
-    const QString word = argc > 1 ? Text::Trim(QString::fromLocal8Bit(argv[1])) : QString();
 
     WidgetMessageBox messageBox;
     const AppFolders folders = AppFolders::ForCurrentUser();
     InstanceLock instanceLock(folders.runtimeFolder);
-    if (const auto exitStatus = instanceLock.RefuseWindowStart(word, messageBox))
+    if (const auto exitStatus =
+            instanceLock.RefuseWindowStart(line.allowSecondInstance, messageBox))
         return *exitStatus;
 
     folders.InstallDatabaseOnFirstRun();
@@ -64,7 +63,7 @@ int Main(int argc, char* argv[])
         splash->repaint();
         QCoreApplication::processEvents();
     }
-    frmMain main(ctx, word == QStringLiteral("1"));
+    frmMain main(ctx, line.startHidden);
     splash.reset();
     main.show();
     return app.exec();

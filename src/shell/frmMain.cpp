@@ -282,6 +282,8 @@ void frmMain::ConnectManualRecording()
     for (const char* name : {"ToolbarMain.Record", "mnuManualRecording"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, m_manualRecording,
                 &ManualRecordCommands::ToolbarRecord);
+    connect(ui.Action(QStringLiteral("mnuQuickStart")), &QAction::triggered, m_manualRecording,
+            &ManualRecordCommands::QuickStart);
     for (QWidget* keySensitive :
          {static_cast<QWidget*>(ui.DBGridPrograms), static_cast<QWidget*>(ui.DBGridRecordings),
           static_cast<QWidget*>(ui.SSTab1)})
@@ -330,6 +332,10 @@ void frmMain::ConnectRecorder()
     for (const char* name : {"ToolbarMain.Pause", "mnuPauseRecording"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
                 [this] { m_ctx.recorder.PauseCommand(QStringLiteral("T")); });
+    connect(ui.Action(QStringLiteral("mnuPauseOnly")), &QAction::triggered, this,
+            [this] { m_ctx.recorder.PauseCommand(QStringLiteral("P")); });
+    connect(ui.Action(QStringLiteral("mnuResume")), &QAction::triggered, this,
+            [this] { m_ctx.recorder.PauseCommand(QStringLiteral("R")); });
 }
 
 void frmMain::showEvent(QShowEvent* event)
@@ -389,6 +395,9 @@ void frmMain::UpdateModeDisplay()
     action(QStringLiteral("mnuPlayRecent"))->setEnabled(d.playEnabled);
     action(QStringLiteral("ToolbarMain.Record"))->setEnabled(d.recordEnabled);
     action(QStringLiteral("mnuManualRecording"))->setEnabled(d.recordEnabled);
+    action(QStringLiteral("mnuQuickStart"))->setEnabled(d.recordEnabled);
+    action(QStringLiteral("mnuPauseOnly"))->setEnabled(d.pauseEnabled);
+    action(QStringLiteral("mnuResume"))->setEnabled(d.pauseEnabled);
     QAction* pause = action(QStringLiteral("ToolbarMain.Pause"));
     pause->setEnabled(d.pauseEnabled);
     pause->setChecked(d.pausePressed);

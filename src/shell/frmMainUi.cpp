@@ -17,6 +17,7 @@ void frmMainUi::Setup(QMainWindow* window)
 {
     window->setObjectName(QStringLiteral("frmMain"));
     window->setWindowTitle(QStringLiteral("Nightreel 2000"));
+    window->setWindowIcon(Icons::Application());
     SetupMenus(window);
     SetupToolbars(window);
 
@@ -29,6 +30,13 @@ void frmMainUi::Setup(QMainWindow* window)
     SSTab1->addTab(Page(ToolbarRecordings, DBGridRecordings, "DBGridRecordings"),
                    QStringLiteral("&Recordings"));
     window->setCentralWidget(SSTab1);
+    // Delete acts on the list that has the focus.
+    for (auto [grid, name] : {std::pair{DBGridPrograms, "mnuRemovePrograms"},
+                              std::pair{DBGridRecordings, "mnuRecordingsRemove"}}) {
+        QAction* remove = Action(QString::fromLatin1(name));
+        remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        grid->addAction(remove);
+    }
     SetupStatusBar(window);
 }
 
@@ -67,7 +75,8 @@ void frmMainUi::SetupMenus(QMainWindow* window)
     AddAction(mnuFile, "mnuFileHide", QStringLiteral("&Hide Window"));
     AddAction(mnuFile, "mnuFileSuspend", QStringLiteral("&Suspend Nightreel 2000"))
         ->setCheckable(true);
-    AddAction(mnuFile, "mnuFileExit", QStringLiteral("E&xit Nightreel 2000"));
+    AddAction(mnuFile, "mnuFileExit", QStringLiteral("E&xit Nightreel 2000"))
+        ->setShortcut(Qt::CTRL | Qt::Key_Q);
 
     mnuView = menu("mnuView", QStringLiteral("&View"));
     AddAction(mnuView, "mnuViewPrograms", QStringLiteral("&Programs"))->setCheckable(true);
@@ -80,14 +89,16 @@ void frmMainUi::SetupMenus(QMainWindow* window)
     mnuPrograms = menu("mnuPrograms", QStringLiteral("Pro&gramming"));
     AddAction(mnuPrograms, "mnuAddNew", QStringLiteral("&Add New"));
     AddAction(mnuPrograms, "mnuEdit", QStringLiteral("&Edit"));
-    AddAction(mnuPrograms, "mnuRemovePrograms", QStringLiteral("&Remove"));
+    AddAction(mnuPrograms, "mnuRemovePrograms", QStringLiteral("&Remove"))
+        ->setShortcut(QKeySequence::Delete);
     AddAction(mnuPrograms, "mnuCloneProgram", QStringLiteral("&Clone"));
     AddAction(mnuPrograms, "mnuProgramEnable", QStringLiteral("E&nable/Disable"));
     AddAction(mnuPrograms, "mnuProgramsSelectAll", QStringLiteral("Se&lect All"));
 
     mnuRecordings = menu("mnuRecordings", QStringLiteral("Re&cordings"));
     AddAction(mnuRecordings, "mnuRecordingsPlay", QStringLiteral("&Play "));
-    AddAction(mnuRecordings, "mnuRecordingsRemove", QStringLiteral("&Delete from Disk"));
+    AddAction(mnuRecordings, "mnuRecordingsRemove", QStringLiteral("&Delete from Disk"))
+        ->setShortcut(QKeySequence::Delete);
     AddAction(mnuRecordings, "mnuDetails", QStringLiteral("De&tails"));
     AddAction(mnuRecordings, "mnuRecordingsExplore", QStringLiteral("&Explore"));
     AddAction(mnuRecordings, "mnuRecordingsCopyFilename",
@@ -97,18 +108,31 @@ void frmMainUi::SetupMenus(QMainWindow* window)
     AddAction(mnuManageRecordingList, "mnuAddFileToList", QStringLiteral("Add &File to List"));
     AddAction(mnuManageRecordingList, "mnuAddFolderToList", QStringLiteral("Add F&older to List"));
     AddAction(mnuRecordings, "mnuRecordingsRemoveFromList", QStringLiteral("Re&move from List"));
-    AddAction(mnuRecordings, "mnuClearList", QStringLiteral("&Clear List"));
+    AddAction(mnuRecordings, "mnuClearList", QStringLiteral("Clea&r List"));
     AddAction(mnuRecordings, "mnuLoadList", QStringLiteral("&Load List"));
     AddAction(mnuRecordings, "mnuSaveList", QStringLiteral("Sa&ve List"));
     AddAction(mnuRecordings, "mnuRecordingsSelectAll", QStringLiteral("&Select All"));
 
+    // The recording keys work in the window's lists and tabs (and can be turned off in the
+    // options); the menu shows them, and they act here only while the menu is open.
+    mnuRecording = menu("mnuRecording", QStringLiteral("Rec&ording"));
+    AddAction(mnuRecording, "mnuManualRecording", QStringLiteral("&Start Manual Recording"));
+    const auto keyed = [this](const char* name, const QString& caption, QKeyCombination key) {
+        QAction* action = AddAction(mnuRecording, name, caption);
+        action->setShortcut(key);
+        action->setShortcutContext(Qt::WidgetShortcut);
+    };
+    keyed("mnuQuickStart", QStringLiteral("&Quick Start"), Qt::CTRL | Qt::Key_R);
+    keyed("mnuStopCurrentRecording", QStringLiteral("S&top Current Recording"),
+          Qt::CTRL | Qt::Key_S);
+    keyed("mnuPauseRecording", QStringLiteral("Pa&use Recording"), Qt::CTRL | Qt::Key_T);
+    keyed("mnuPauseOnly", QStringLiteral("&Pause"), Qt::CTRL | Qt::Key_P);
+    keyed("mnuResume", QStringLiteral("&Resume"), Qt::CTRL | Qt::Key_U);
+
     mnuTools = menu("mnuTools", QStringLiteral("&Tools"));
     AddAction(mnuTools, "mnuToolsMixer", QStringLiteral("&Mixer"));
     AddAction(mnuTools, "mnuMixerProfiles", QStringLiteral("Mixer Pro&files"));
-    AddAction(mnuTools, "mnuManualRecording", QStringLiteral("&Start Manual Recording"));
     AddAction(mnuTools, "mnuPlayRecent", QStringLiteral("&Play Most Recent Recording"));
-    AddAction(mnuTools, "mnuStopCurrentRecording", QStringLiteral("S&top Current Recording"));
-    AddAction(mnuTools, "mnuPauseRecording", QStringLiteral("Pa&use Recording"));
     mnuToolsAdvanced = mnuTools->addMenu(QStringLiteral("&Advanced"));
     mnuToolsAdvanced->setObjectName(QStringLiteral("mnuToolsAdvanced"));
     AddAction(mnuToolsAdvanced, "mnuCompactDb", QStringLiteral("&Compact Database"));
@@ -116,7 +140,8 @@ void frmMainUi::SetupMenus(QMainWindow* window)
               QStringLiteral("&Restore Original Database"));
 
     mnuHelp = menu("mnuHelp", QStringLiteral("&Help"));
-    AddAction(mnuHelp, "mnuHelpContents", QStringLiteral("&Contents"));
+    AddAction(mnuHelp, "mnuHelpContents", QStringLiteral("&Contents"))
+        ->setShortcut(QKeySequence::HelpContents);
     AddAction(mnuHelp, "mnuHelpSearch", QStringLiteral("&Search For Help On..."));
     AddAction(mnuHelp, "mnuHelpHomePage", QStringLiteral("Larkmoor Systems &Home Page"));
     AddAction(mnuHelp, "mnuHelpAbout", QStringLiteral("&About Nightreel 2000"));
@@ -139,7 +164,7 @@ void frmMainUi::SetupToolbars(QMainWindow* window)
               Icons::Named("disk"));
     AddButton(ToolbarMain, QStringLiteral("Help"), QStringLiteral("Help"), Icons::Named("help"));
     AddButton(ToolbarMain, QStringLiteral("Error"),
-              QStringLiteral("Error Has Occured! Please check the log."), Icons::Named("error"));
+              QStringLiteral("Error Has Occurred! Please check the log."), Icons::Named("error"));
 
     ToolbarPrograms = new QToolBar;
     ToolbarPrograms->setObjectName(QStringLiteral("ToolbarPrograms"));

@@ -28,6 +28,7 @@ struct frmMainUi {
     QMenu* mnuPrograms = nullptr;
     QMenu* mnuRecordings = nullptr;
     QMenu* mnuManageRecordingList = nullptr;
+    QMenu* mnuRecording = nullptr;
     QMenu* mnuTools = nullptr;
     QMenu* mnuToolsAdvanced = nullptr;
     QMenu* mnuHelp = nullptr;

@@ -19,13 +19,12 @@ void LaunchMixer(EventLog& log, ProcessLauncher& launcher, const QString& mixerP
 {
     if (launcher.StartDetached(AsOneWord(mixerPath)))
         return;
-    log.LogEvent(
-        EventError, QStringLiteral("Mixer Control Not Found"),
-        QStringLiteral("Install the Microsoft Windows mixer or a 3rd party mixer.  To install "
-                       "the Windows mixer, run the Control Panel, doubleclick on the "
-                       "Add/Remove Programs icon, select the Windows Setup tab, doubleclick on "
-                       "the Multimedia component, and select Volume Control.\r\n"
-                       "To install a 3rd party mixer, bring up the Options form from the "
-                       "View/Options menu, select the Advanced tab, and press the Modify mixer "
-                       "control button."));
+    log.LogEvent(EventError, QStringLiteral("Mixer Control Not Found"),
+                 QStringLiteral(
+                     "Install the sound server's volume control or a 3rd party mixer.  To install "
+                     "the volume control, open the desktop's software manager, search for "
+                     "PulseAudio Volume Control (package pavucontrol), and install it.\r\n"
+                     "To install a 3rd party mixer, bring up the Options form from the "
+                     "View/Options menu, select the Advanced tab, and press the Modify mixer "
+                     "control button."));
 }

@@ -78,10 +78,11 @@ void frmMixerProfiles::btnActivate_Click()
         EnableProfileButtons(false);
         return;
     }
-    if (m_messageBox.Show(QStringLiteral("Activate mixer profile"),
-                          QStringLiteral("The Windows mixer settings will be set according to the "
-                                         "selected mixer profile. Proceed?"),
-                          MsgIcon::Question, MsgButtons::YesNo) == MsgResult::Yes)
+    if (m_messageBox.Show(
+            QStringLiteral("Activate mixer profile"),
+            QStringLiteral("The sound server's mixer settings will be set according to the "
+                           "selected mixer profile. Proceed?"),
+            MsgIcon::Question, MsgButtons::YesNo) == MsgResult::Yes)
         m_profiles.ActivateMixerProfile(lstMixerProfiles->currentItem()->text());
 }
 

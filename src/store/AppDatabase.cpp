@@ -179,7 +179,7 @@ void AppDatabase::CompactDatabase()
     } catch (const RuntimeError& error) {
         m_messageBox.Show(
             QStringLiteral("Nightreel 2000 Error"),
-            QStringLiteral("Compact Database failed.  The following error occured: ") +
+            QStringLiteral("Compact Database failed.  The following error occurred: ") +
                 error.Text(),
             MsgIcon::Exclamation, MsgButtons::Ok);
     }

@@ -243,7 +243,6 @@ void Options::GetOptions(RegKeys& registry)
                  DefaultRecordFileNameFormat, 0, 2, 0);
     GetBlnOption(registry, QStringLiteral("SaveMP3FileExtension"), SaveMP3FileExtension, true);
     GetBlnOption(registry, QStringLiteral("ConvertToMP3"), ConvertToMP3, false);
-    ShowMp3Warning = Text::Trim(Read(registry, QStringLiteral("ShowMp3Warning")));
 
     // Manual recording
     GetIntOption(registry, QStringLiteral("DefaultManualRecordingDurationHours"),

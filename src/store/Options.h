@@ -38,7 +38,6 @@ public:
     qint16 DefaultRecordFileNameFormat = 0;
     bool SaveMP3FileExtension = true;
     bool ConvertToMP3 = false;
-    QString ShowMp3Warning; // empty or "Y" shows the warning
 
     // Manual recording
     qint16 DefaultManualRecordingDurationHours = 1;

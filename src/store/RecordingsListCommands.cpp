@@ -155,10 +155,9 @@ void RecordingsListCommands::DeleteSelectedRecordingsFromDisk()
 void RecordingsListCommands::ClearRecordingsList()
 {
     Trap(m_log, "ClearRecordingsList", [&] {
-        // The text lacks a "be" before "removed"; it stands as the system has it.
         if (m_messageBox.Show(
                 QStringLiteral("Clear Recordings List"),
-                QStringLiteral("All recordings will removed from the recording list.  The "
+                QStringLiteral("All recordings will be removed from the recording list.  The "
                                "recordings will not be deleted from disk. Proceed?"),
                 MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
             return;

@@ -42,7 +42,9 @@ frmSaveList::frmSaveList(SavedLists& lists, AppDatabase& database, EventLog& log
     buttons->addWidget(save);
     buttons->addWidget(exit);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(QStringLiteral("Enter list name")));
+    auto* prompt = new QLabel(QStringLiteral("Enter list name"));
+    prompt->setBuddy(m_combo1);
+    layout->addWidget(prompt);
     layout->addWidget(m_combo1);
     layout->addLayout(buttons);
     setMinimumWidth(320);
