@@ -1,22 +1,11 @@
 #include "diagnostics/LoggedMessageBox.h"
 
 #include "diagnostics/EventLog.h"
+#include "diagnostics/UnreadBox.h"
 
 #include <QDebug>
 
 namespace {
-
-MsgResult UnattendedAnswer(MsgButtons buttons)
-{
-    switch (buttons) {
-    case MsgButtons::Ok:
-        return MsgResult::Ok;
-    case MsgButtons::YesNo:
-        return MsgResult::No;
-    default:
-        return MsgResult::Cancel;
-    }
-}
 
 QString AnswerText(MsgResult answer)
 {
@@ -35,15 +24,12 @@ QString AnswerText(MsgResult answer)
 MsgResult LoggedMessageBox::Show(const QString& title, const QString& text, MsgIcon icon,
                                  MsgButtons buttons)
 {
-    const MsgResult answer = UnattendedAnswer(buttons);
+    const MsgResult answer = UnreadAnswer(buttons);
     QString details = text;
     if (answer != MsgResult::Ok)
         details += QStringLiteral("\r\nAnswered without a window: ") + AnswerText(answer);
-    const qint16 type = icon == MsgIcon::Critical      ? EventError
-                        : icon == MsgIcon::Exclamation ? EventWarning
-                                                       : EventInformation;
     if (m_log)
-        m_log->LogEvent(type, title, details);
+        m_log->LogEvent(EventTypeOf(icon), title, details);
     else
         qWarning().noquote() << title << '|' << details;
     return answer;

@@ -2,34 +2,7 @@
 
 #include "common/UnattendedPath.h"
 #include "diagnostics/EventLog.h"
-
-namespace {
-
-EventType TypeOf(MsgIcon icon)
-{
-    switch (icon) {
-    case MsgIcon::Critical:
-        return EventError;
-    case MsgIcon::Exclamation:
-        return EventWarning;
-    default:
-        return EventInformation;
-    }
-}
-
-MsgResult UnreadAnswer(MsgButtons buttons)
-{
-    switch (buttons) {
-    case MsgButtons::Ok:
-        return MsgResult::Ok;
-    case MsgButtons::YesNo:
-        return MsgResult::No;
-    default:
-        return MsgResult::Cancel;
-    }
-}
-
-} // namespace
+#include "diagnostics/UnreadBox.h"
 
 UnattendedMessageBox::UnattendedMessageBox(MessageBoxPresenter& screen, EventLog& log)
     : m_screen(screen)
@@ -43,7 +16,7 @@ MsgResult UnattendedMessageBox::Show(const QString& title, const QString& text, 
     if (!UnattendedPath::Active())
         return m_screen.Show(title, text, icon, buttons);
     // The log keeps it for a user who comes back after the box was closed or covered.
-    m_log.LogEvent(TypeOf(icon), title, text);
+    m_log.LogEvent(EventTypeOf(icon), title, text);
     m_screen.ShowWithoutWaiting(title, text, icon);
     return UnreadAnswer(buttons);
 }
