@@ -233,6 +233,7 @@ void Options::GetOptions(RegKeys& registry)
     // Recording and disk
     DefaultRecordingDirectory =
         Text::Trim(Read(registry, QStringLiteral("DefaultRecordingDirectory")));
+    RecordingInput = Read(registry, QStringLiteral("RecordingInput")).trimmed();
     GetIntOption(registry, QStringLiteral("WarnRecMegsLeft"), WarnRecMegsLeft, 10, 20000,
                  DefaultWarnRecMegsLeft);
     GetIntOption(registry, QStringLiteral("StopRecMegsLeft"), StopRecMegsLeft, 5, 20000,
