@@ -11,6 +11,7 @@
 #include "gui/FormPlacement.h"
 #include "gui/UpDown.h"
 #include "options/AutostartEntry.h"
+#include "options/RecordingInputBox.h"
 #include "options/frmSelectRecordDirectory.h"
 #include "store/Options.h"
 #include "store/RegKeys.h"
@@ -174,6 +175,8 @@ QWidget* frmOptions::BuildRecordTab()
     connect(btnChangeRecordingFolder, &QPushButton::clicked, this,
             &frmOptions::btnChangeRecordingFolder_Click);
     layout->addWidget(folder);
+    frameRecordingInput = new RecordingInputBox;
+    layout->addWidget(frameRecordingInput);
 
     auto* format = new QGroupBox(QStringLiteral("Default Recording Format"));
     LabelCompressionFormat = SunkenLabel("LabelCompressionFormat", format);
@@ -422,6 +425,7 @@ void frmOptions::FormLoad(bool mediaPlayerAvailable)
         chkConfirmLongRecordings->setChecked(o.ConfirmLongRecordings);
         txtLongRecordingHours->setText(TwoDigits(o.LongRecordingHours));
         chkConfirmStopManualRecording->setChecked(o.ConfirmStopManualRecording);
+        frameRecordingInput->SetInputName(o.RecordingInput);
         txtPaddingSeconds->setText(QString::number(o.PaddingSeconds));
 
         if (mediaPlayerAvailable) {
@@ -629,6 +633,8 @@ void frmOptions::cmdOK_Click()
         }
         storeBool("ConfirmStopManualRecording", o.ConfirmStopManualRecording,
                   chkConfirmStopManualRecording->isChecked());
+        o.RecordingInput = frameRecordingInput->InputName();
+        store("RecordingInput", o.RecordingInput);
         SavePlayFwdRevSettings();
 
         storeBool("ShowActualTimeInPlayer", o.ShowActualTimeInPlayer,

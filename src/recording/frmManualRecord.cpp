@@ -147,7 +147,7 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     fields->addWidget(new QLabel(QStringLiteral("Disk Storage:")), 3, 0);
     fields->addWidget(LabelDiskSpaceData, 3, 1, 1, 2);
     fields->addWidget(frameFilename, 4, 0, 1, 3);
-    frameSource = new SourceChooser(m_s.taskProgram);
+    frameSource = new SourceChooser(m_s.taskProgram, SourceChooser::Inputs::OptionsInput);
     fields->addWidget(frameSource, 5, 0, 1, 3);
     fields->setColumnStretch(1, 1);
 

@@ -1,5 +1,6 @@
 #include "scheduling/SourceChooser.h"
 
+#include "gui/InputChooser.h"
 #include "scheduling/StreamAddress.h"
 #include "scheduling/StreamTest.h"
 
@@ -16,16 +17,22 @@ constexpr int StreamItemRole = Qt::UserRole + 1;
 
 } // namespace
 
-SourceChooser::SourceChooser(const QString& taskProgram, QWidget* parent)
+SourceChooser::SourceChooser(const QString& taskProgram, Inputs inputs, QWidget* parent)
     : QGroupBox(tr("Source"), parent)
     , m_test(new StreamTest(taskProgram, this))
 {
     setObjectName(QStringLiteral("frameSource"));
-    cboSource = new QComboBox;
+    if (inputs == Inputs::Listed)
+        cboSource = m_inputs = new InputChooser;
+    else
+        cboSource = new QComboBox;
+    if (cboSource->count() == 0)
+        cboSource->addItem(QString());
+    // Where a program or a manual recording names no input of its own.
+    cboSource->setItemText(0, tr("The input chosen in the options"));
     cboSource->setObjectName(QStringLiteral("cboSource"));
-    cboSource->addItem(tr("The sound server's default input"), QString());
     cboSource->addItem(tr("Internet stream"));
-    cboSource->setItemData(1, true, StreamItemRole);
+    cboSource->setItemData(cboSource->count() - 1, true, StreamItemRole);
     txtStreamUrl = new QLineEdit;
     txtStreamUrl->setObjectName(QStringLiteral("txtStreamUrl"));
     txtStreamUrl->setPlaceholderText(tr("http://… or https://…, or a .pls, .m3u or .m3u8 list"));
@@ -66,6 +73,17 @@ void SourceChooser::SetStreamUrl(const QString& address)
 {
     txtStreamUrl->setText(address.trimmed());
     cboSource->setCurrentIndex(address.trimmed().isEmpty() ? 0 : cboSource->count() - 1);
+}
+
+void SourceChooser::SetInputName(const QString& name)
+{
+    if (m_inputs && !StreamChosen())
+        m_inputs->SetInputName(name);
+}
+
+QString SourceChooser::InputName() const
+{
+    return m_inputs ? m_inputs->InputName() : QString();
 }
 
 bool SourceChooser::StreamChosen() const

@@ -207,7 +207,8 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     grid->addWidget(lblFormat, 4, 0);
     grid->addWidget(TextCompressionMethod, 4, 1, 1, 3);
     grid->addWidget(ChangeComprMethodButton, 4, 4);
-    frameSource = Named(new SourceChooser(m_services.taskProgram), "frameSource");
+    frameSource = Named(new SourceChooser(m_services.taskProgram, SourceChooser::Inputs::Listed),
+                        "frameSource");
     grid->addWidget(frameSource, 5, 0, 1, 5);
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(6, 1);
@@ -417,6 +418,7 @@ void frmProgram::FillProgramForm(const ProgramFormValues& v)
     TextProgramDescription->setText(v.FormDescription);
     CheckEnabled->setChecked(v.FormEnabled);
     frameSource->SetStreamUrl(v.FormStreamUrl);
+    frameSource->SetInputName(v.FormInputName);
     CheckEnabled_Click();
     dtpkrStartTime->setTime(TimeOf(v.FormStartTime));
     dtpkrEndTime->setTime(TimeOf(v.FormEndTime));
@@ -722,6 +724,7 @@ void frmProgram::CopyFormValues()
     v.FormMixerProfileBefore = ProfileOf(lstMixerProfilePrior);
     v.FormMixerProfileAfter = ProfileOf(lstMixerProfileAfter);
     v.FormStreamUrl = frameSource->StreamUrl();
+    v.FormInputName = frameSource->InputName();
     m_values = v;
 }
 
