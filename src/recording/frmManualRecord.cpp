@@ -10,7 +10,6 @@
 #include "formats/frmRecordFormat.h"
 #include "gui/FormPlacement.h"
 #include "recording/clsManualRecord.h"
-#include "scheduling/SourceChooser.h"
 #include "scheduling/StreamAddress.h"
 #include "store/Options.h"
 
@@ -77,14 +76,7 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
                      options.DefaultManualRecordingDurationSeconds);
     optDefaultFilename->setText(DefaultFilenameCaption(options.DefaultRecordFileNameFormat));
 
-    frameSource = new SourceChooser(m_s.taskProgram);
-    fields->addWidget(frameSource, 5, 0, 1, 3);
-    // Made after the form's own controls, the chooser comes before OK in the tab order.
-    QWidget* lastOfSource = frameSource;
-    while (frameSource->isAncestorOf(lastOfSource->nextInFocusChain()))
-        lastOfSource = lastOfSource->nextInFocusChain();
-    setTabOrder(lastOfSource, CommandOk);
-    setTabOrder(CommandOk, CommandCancel);
+    frameSource->SetTaskProgram(m_s.taskProgram);
 
     connect(ChangeComprMethodButton, &QPushButton::clicked, this,
             &frmManualRecord::ChangeComprMethodButton_Click);

@@ -12,7 +12,6 @@ class RegKeys;
 class clsAppStatus;
 
 struct clsManualRecord;
-class SourceChooser;
 
 // What the manual recording dialog uses of the rest of the system.
 struct ManualRecordServices {
@@ -44,9 +43,6 @@ public:
 
     void CommandOk_Click();
     void CalcStorage();
-
-    // Made here, not in the layout file: it takes the recording task's path.
-    SourceChooser* frameSource;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
