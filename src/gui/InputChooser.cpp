@@ -20,7 +20,8 @@ InputChooser::InputChooser(QWidget* parent)
 void InputChooser::SetInputName(const QString& name)
 {
     setCurrentIndex(0);
-    Rebuild(name);
+    if (m_listed)
+        Rebuild(name);
 }
 
 QString InputChooser::InputName() const
@@ -28,9 +29,15 @@ QString InputChooser::InputName() const
     return currentData(NamedInputRole).toBool() ? currentData().toString() : QString();
 }
 
+void InputChooser::SetListed(bool listed)
+{
+    m_listed = listed;
+}
+
 void InputChooser::showPopup()
 {
-    Rebuild(InputName());
+    if (m_listed)
+        Rebuild(InputName());
     QComboBox::showPopup();
 }
 

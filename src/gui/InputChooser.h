@@ -16,6 +16,8 @@ public:
     void SetInputName(const QString& name);
     // Empty for the default input and for any item that is not an input.
     QString InputName() const;
+    // Unlisted, it holds its first item (and an owner's) alone; listed is the default.
+    void SetListed(bool listed);
 
     void showPopup() override;
 
@@ -23,4 +25,6 @@ private:
     // Reads the server's inputs again and chooses the named one (the default when empty),
     // unless an owner's item was chosen.
     void Rebuild(const QString& chosen);
+
+    bool m_listed = true;
 };

@@ -17,20 +17,17 @@ constexpr int StreamItemRole = Qt::UserRole + 1;
 
 } // namespace
 
-SourceChooser::SourceChooser(const QString& taskProgram, Inputs inputs, QWidget* parent)
+SourceChooser::SourceChooser(QWidget* parent)
     : QGroupBox(tr("Source"), parent)
-    , m_test(new StreamTest(taskProgram, this))
+    , m_test(new StreamTest(QString(), this))
+    , m_inputs(new InputChooser)
 {
     setObjectName(QStringLiteral("frameSource"));
-    if (inputs == Inputs::Listed)
-        cboSource = m_inputs = new InputChooser;
-    else
-        cboSource = new QComboBox;
-    if (cboSource->count() == 0)
-        cboSource->addItem(QString());
+    cboSource = m_inputs;
+    cboSource->setObjectName(QStringLiteral("cboSource"));
     // Where a program or a manual recording names no input of its own.
     cboSource->setItemText(0, tr("The input chosen in the options"));
-    cboSource->setObjectName(QStringLiteral("cboSource"));
+    m_inputs->SetListed(false);
     cboSource->addItem(tr("Internet stream"));
     cboSource->setItemData(cboSource->count() - 1, true, StreamItemRole);
     txtStreamUrl = new QLineEdit;
@@ -69,21 +66,31 @@ SourceChooser::SourceChooser(const QString& taskProgram, Inputs inputs, QWidget*
 
 SourceChooser::~SourceChooser() = default;
 
+void SourceChooser::SetTaskProgram(const QString& taskProgram)
+{
+    m_test->SetTaskProgram(taskProgram);
+}
+
 void SourceChooser::SetStreamUrl(const QString& address)
 {
     txtStreamUrl->setText(address.trimmed());
     cboSource->setCurrentIndex(address.trimmed().isEmpty() ? 0 : cboSource->count() - 1);
 }
 
+void SourceChooser::ListInputs()
+{
+    m_inputs->SetListed(true);
+}
+
 void SourceChooser::SetInputName(const QString& name)
 {
-    if (m_inputs && !StreamChosen())
+    if (!StreamChosen())
         m_inputs->SetInputName(name);
 }
 
 QString SourceChooser::InputName() const
 {
-    return m_inputs ? m_inputs->InputName() : QString();
+    return m_inputs->InputName();
 }
 
 bool SourceChooser::StreamChosen() const

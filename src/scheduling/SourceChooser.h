@@ -10,16 +10,20 @@ class QPushButton;
 class StreamTest;
 
 // Where a recording's sound comes from: a sound server input or an internet stream. The list
-// holds the inputs first (the options' input alone, or the server's inputs to choose from) and
-// the stream last; choosing the stream enables its address and its Test, which reads a few
-// seconds of the stream and shows what it found or why it failed.
+// holds the inputs first (the options' input; the server's named ones where a form lists
+// them) and the stream last; choosing the stream enables its address and its Test, which reads a
+// few seconds of the stream and shows what it found or why it failed.
 class SourceChooser : public QGroupBox {
     Q_OBJECT
 public:
-    enum class Inputs { OptionsInput, Listed };
-    // taskProgram is the recording task, which runs the test.
-    SourceChooser(const QString& taskProgram, Inputs inputs, QWidget* parent = nullptr);
+    // Forms make it from their layout files and name the recording task, which runs the
+    // test, before it is shown.
+    explicit SourceChooser(QWidget* parent = nullptr);
     ~SourceChooser() override;
+
+    void SetTaskProgram(const QString& taskProgram);
+    // Offers the server's inputs by name after the options' one (the program editor).
+    void ListInputs();
 
     // An empty address chooses the first item, the options' input.
     void SetStreamUrl(const QString& address);
@@ -40,6 +44,5 @@ private:
     void btnTestStream_Click();
 
     StreamTest* m_test;
-    // Null unless the inputs are listed.
-    InputChooser* m_inputs = nullptr;
+    InputChooser* m_inputs;
 };
