@@ -20,8 +20,7 @@ class PrimedTask : public QObject {
     Q_OBJECT
 public:
     PrimedTask(Clock& clock, EventLog& log, AppDatabase& database, Scheduler& scheduler,
-               const clsAppStatus& appStatus, RecordingTaskLink& link,
-               QObject* parent = nullptr);
+               const clsAppStatus& appStatus, RecordingTaskLink& link, QObject* parent = nullptr);
 
     static constexpr int LeadSeconds = 5;
 
