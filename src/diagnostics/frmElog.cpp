@@ -79,7 +79,7 @@ frmElog::frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
     , m_messageBox(messageBox)
 {
     setObjectName(QStringLiteral("frmElog"));
-    setWindowTitle(QStringLiteral("Error Log"));
+    setWindowTitle(tr("Error Log"));
     setSizeGripEnabled(true);
 
     m_coolBar = new QWidget(this);
@@ -88,14 +88,13 @@ frmElog::frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
     m_toolbar->setObjectName(QStringLiteral("ToolbarElog"));
     m_toolbar->setIconSize(QSize(16, 16));
     m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_details = m_toolbar->addAction(style()->standardIcon(QStyle::SP_FileDialogInfoView),
-                                     QStringLiteral("Details"));
+    m_details =
+        m_toolbar->addAction(style()->standardIcon(QStyle::SP_FileDialogInfoView), tr("Details"));
     m_details->setObjectName(QStringLiteral("Details"));
-    m_details->setToolTip(QStringLiteral("Show the details of the selected entry"));
-    m_remove =
-        m_toolbar->addAction(style()->standardIcon(QStyle::SP_TrashIcon), QStringLiteral("Remove"));
+    m_details->setToolTip(tr("Show the details of the selected entry"));
+    m_remove = m_toolbar->addAction(style()->standardIcon(QStyle::SP_TrashIcon), tr("Remove"));
     m_remove->setObjectName(QStringLiteral("Remove"));
-    m_remove->setToolTip(QStringLiteral("Remove all entries"));
+    m_remove->setToolTip(tr("Remove all entries"));
     auto* coolBarLayout = new QVBoxLayout(m_coolBar);
     coolBarLayout->setContentsMargins(0, 0, 0, 0);
     coolBarLayout->addWidget(m_toolbar);
@@ -124,12 +123,12 @@ frmElog::frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
 
     m_mnuLog = new QMenu(this);
     m_mnuLog->setObjectName(QStringLiteral("mnuLog"));
-    m_mnuDetails = m_mnuLog->addAction(QStringLiteral("&Details"));
+    m_mnuDetails = m_mnuLog->addAction(tr("&Details"));
     m_mnuDetails->setObjectName(QStringLiteral("mnuDetails"));
-    m_mnuRemove = m_mnuLog->addAction(QStringLiteral("&Remove All"));
+    m_mnuRemove = m_mnuLog->addAction(tr("&Remove All"));
     m_mnuRemove->setObjectName(QStringLiteral("mnuRemove"));
     m_mnuLog->addSeparator();
-    m_mnuExit = m_mnuLog->addAction(QStringLiteral("E&xit"));
+    m_mnuExit = m_mnuLog->addAction(tr("E&xit"));
     m_mnuExit->setObjectName(QStringLiteral("mnuExit"));
 
     m_tmrRefresh = new QTimer(this);
@@ -392,10 +391,9 @@ void frmElog::ShowElogDetails()
 
 void frmElog::RemoveElogItems()
 {
-    const MsgResult answer =
-        m_messageBox.Show(QStringLiteral("Remove All Error Log Entries"),
-                          QStringLiteral("This will clear the error log. Proceed?"), MsgIcon::None,
-                          MsgButtons::YesNo);
+    const MsgResult answer = m_messageBox.Show(tr("Remove All Error Log Entries"),
+                                               tr("This will clear the error log. Proceed?"),
+                                               MsgIcon::None, MsgButtons::YesNo);
     if (answer == MsgResult::Yes) {
         try {
             RefreshDataElog();

@@ -50,7 +50,7 @@ frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStat
             UpdateButtonEnables();
     });
     connect(&m_engine, &PlaybackEngine::Failed, this, [this] {
-        lblStatus->setText(QStringLiteral("Error"));
+        lblStatus->setText(tr("Error"));
         lblError->setText(m_engine.ErrorDescription());
     });
     connect(&m_engine, &PlaybackEngine::Warning, this,
@@ -59,24 +59,24 @@ frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStat
 
 void frmPlayPanelMP::BuildForm()
 {
-    btnBeginning = MediaButton(this, "btnBeginning", QStyle::SP_MediaSkipBackward,
-                               QStringLiteral("Go to Beginning"));
-    btnPlay = MediaButton(this, "btnPlay", QStyle::SP_MediaPlay, QStringLiteral("Play"));
-    btnPause = MediaButton(this, "btnPause", QStyle::SP_MediaPause, QStringLiteral("Pause"));
-    btnStop = MediaButton(this, "btnStop", QStyle::SP_MediaStop, QStringLiteral("Stop"));
-    btnEnd = MediaButton(this, "btnEnd", QStyle::SP_MediaSkipForward, QStringLiteral("Go to End"));
+    btnBeginning =
+        MediaButton(this, "btnBeginning", QStyle::SP_MediaSkipBackward, tr("Go to Beginning"));
+    btnPlay = MediaButton(this, "btnPlay", QStyle::SP_MediaPlay, tr("Play"));
+    btnPause = MediaButton(this, "btnPause", QStyle::SP_MediaPause, tr("Pause"));
+    btnStop = MediaButton(this, "btnStop", QStyle::SP_MediaStop, tr("Stop"));
+    btnEnd = MediaButton(this, "btnEnd", QStyle::SP_MediaSkipForward, tr("Go to End"));
     // 0 at the top is full volume; the scale is logarithmic in the level (see the change).
     VSliderVolume = Slider(this, "VSliderVolume", Qt::Vertical, 0, 100);
     VSliderVolume->setInvertedAppearance(true);
-    VSliderVolume->setToolTip(QStringLiteral("Volume"));
+    VSliderVolume->setToolTip(tr("Volume"));
     HSliderBalance = Slider(this, "HSliderBalance", Qt::Horizontal, -10000, 10000);
     HSliderBalance->setSingleStep(100);
     HSliderBalance->setPageStep(1000);
-    HSliderBalance->setToolTip(QStringLiteral("Balance"));
+    HSliderBalance->setToolTip(tr("Balance"));
     HSliderRate = Slider(this, "HSliderRate", Qt::Horizontal, 50, 300);
     HSliderRate->setValue(100);
     HSliderRate->setPageStep(25);
-    HSliderRate->setToolTip(QStringLiteral("Playback at a faster or slower rate"));
+    HSliderRate->setToolTip(tr("Playback at a faster or slower rate"));
     const auto label = [this](const char* name, const QString& text, QWidget* buddy = nullptr) {
         auto* l = new QLabel(text, this);
         l->setObjectName(QString::fromLatin1(name));
@@ -100,9 +100,9 @@ void frmPlayPanelMP::BuildForm()
         transport->addWidget(b);
     transport->addStretch(1);
     auto* mix = new QGridLayout;
-    mix->addWidget(label("lblBalanceCaption", QStringLiteral("Balance"), HSliderBalance), 0, 0);
+    mix->addWidget(label("lblBalanceCaption", tr("Balance"), HSliderBalance), 0, 0);
     mix->addWidget(HSliderBalance, 0, 1);
-    mix->addWidget(label("lblRateCaption", QStringLiteral("Rate"), HSliderRate), 1, 0);
+    mix->addWidget(label("lblRateCaption", tr("Rate"), HSliderRate), 1, 0);
     mix->addWidget(HSliderRate, 1, 1);
     auto* left = new QVBoxLayout;
     left->addWidget(sldTime);
@@ -111,8 +111,7 @@ void frmPlayPanelMP::BuildForm()
     left->addWidget(steps);
     left->addLayout(mix);
     auto* volume = new QVBoxLayout;
-    volume->addWidget(label("lblVolumeCaption", QStringLiteral("Volume"), VSliderVolume), 0,
-                      Qt::AlignHCenter);
+    volume->addWidget(label("lblVolumeCaption", tr("Volume"), VSliderVolume), 0, Qt::AlignHCenter);
     volume->addWidget(VSliderVolume, 1, Qt::AlignHCenter);
     auto* top = new QHBoxLayout;
     top->addLayout(left, 1);
@@ -154,7 +153,7 @@ void frmPlayPanelMP::Form_Load(const QString& file, double startTime)
         UpdateButtonEnables();
         m_engine.Open(file);
         if (m_engine.Failure() == PlaybackEngine::FailureKind::None)
-            lblStatus->setText(QStringLiteral("Loading"));
+            lblStatus->setText(tr("Loading"));
         m_timer.start();
     });
 }

@@ -14,6 +14,7 @@
 #include "scheduling/StreamAddress.h"
 #include "store/Options.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -49,11 +50,11 @@ QString DefaultFilenameCaption(qint16 fileNameFormat)
 {
     switch (fileNameFormat) {
     case 1:
-        return QStringLiteral("YY&MMDD_hhmmss");
+        return QCoreApplication::translate("frmManualRecord", "YY&MMDD_hhmmss");
     case 2:
-        return QStringLiteral("DD&MMYY_hhmmss");
+        return QCoreApplication::translate("frmManualRecord", "DD&MMYY_hhmmss");
     default:
-        return QStringLiteral("&MMDDYY_hhmmss");
+        return QCoreApplication::translate("frmManualRecord", "&MMDDYY_hhmmss");
     }
 }
 
@@ -74,13 +75,13 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     , m_s(services)
 {
     setObjectName(QStringLiteral("frmManualRecord"));
-    setWindowTitle(QStringLiteral("Manual Record"));
+    setWindowTitle(tr("Manual Record"));
     const Options& options = m_s.options;
 
-    TextProgramDescription = new QLineEdit(QStringLiteral("Manual Record"));
+    TextProgramDescription = new QLineEdit(tr("Manual Record"));
     TextProgramDescription->setObjectName(QStringLiteral("TextProgramDescription"));
     TextProgramDescription->installEventFilter(this);
-    auto* lblDescription = new QLabel(QStringLiteral("Description:"));
+    auto* lblDescription = new QLabel(tr("Description:"));
     lblDescription->setBuddy(TextProgramDescription);
 
     QWidget* hoursArrows = nullptr;
@@ -97,15 +98,15 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     auto* duration = new QGridLayout;
     int column = 0;
     for (auto [box, arrows, caption] :
-         {std::tuple{TextDurationHours, hoursArrows, "Hours"},
-          std::tuple{TextDurationMinutes, minutesArrows, "Minutes"},
-          std::tuple{TextDurationSeconds, secondsArrows, "Seconds"}}) {
+         {std::tuple{TextDurationHours, hoursArrows, tr("Hours")},
+          std::tuple{TextDurationMinutes, minutesArrows, tr("Minutes")},
+          std::tuple{TextDurationSeconds, secondsArrows, tr("Seconds")}}) {
         auto* pair = new QHBoxLayout;
         pair->setSpacing(0);
         pair->addWidget(box);
         pair->addWidget(arrows);
         duration->addLayout(pair, 0, column);
-        auto* label = new QLabel(QString::fromLatin1(caption));
+        auto* label = new QLabel(caption);
         label->setBuddy(box);
         duration->addWidget(label, 1, column, Qt::AlignHCenter);
         ++column;
@@ -115,17 +116,17 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     TextCompressionMethod = new QLineEdit;
     TextCompressionMethod->setObjectName(QStringLiteral("TextCompressionMethod"));
     TextCompressionMethod->setReadOnly(true);
-    ChangeComprMethodButton = new QPushButton(QStringLiteral("Modi&fy"));
+    ChangeComprMethodButton = new QPushButton(tr("Modi&fy"));
     ChangeComprMethodButton->setObjectName(QStringLiteral("ChangeComprMethodButton"));
     ChangeComprMethodButton->setAutoDefault(false);
     LabelDiskSpaceData = new QLabel;
     LabelDiskSpaceData->setObjectName(QStringLiteral("LabelDiskSpaceData"));
 
-    auto* frameFilename = new QGroupBox(QStringLiteral("Filename"));
+    auto* frameFilename = new QGroupBox(tr("Filename"));
     optDefaultFilename =
         new QRadioButton(DefaultFilenameCaption(options.DefaultRecordFileNameFormat));
     optDefaultFilename->setObjectName(QStringLiteral("optDefaultFilename"));
-    optUserFilename = new QRadioButton(QStringLiteral("&User"));
+    optUserFilename = new QRadioButton(tr("&User"));
     optUserFilename->setObjectName(QStringLiteral("optUserFilename"));
     txtFilename = new QLineEdit;
     txtFilename->setObjectName(QStringLiteral("txtFilename"));
@@ -139,24 +140,24 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     fields->addWidget(lblDescription, 0, 0);
     fields->addWidget(TextProgramDescription, 0, 1, 1, 2);
     fields->addLayout(duration, 1, 1, 1, 2);
-    auto* lblFormat = new QLabel(QStringLiteral("Recording Format"));
+    auto* lblFormat = new QLabel(tr("Recording Format"));
     lblFormat->setBuddy(TextCompressionMethod);
     fields->addWidget(lblFormat, 2, 0);
     fields->addWidget(TextCompressionMethod, 2, 1);
     fields->addWidget(ChangeComprMethodButton, 2, 2);
-    fields->addWidget(new QLabel(QStringLiteral("Disk Storage:")), 3, 0);
+    fields->addWidget(new QLabel(tr("Disk Storage:")), 3, 0);
     fields->addWidget(LabelDiskSpaceData, 3, 1, 1, 2);
     fields->addWidget(frameFilename, 4, 0, 1, 3);
     frameSource = new SourceChooser(m_s.taskProgram);
     fields->addWidget(frameSource, 5, 0, 1, 3);
     fields->setColumnStretch(1, 1);
 
-    CommandOk = new QPushButton(QStringLiteral("&OK"));
+    CommandOk = new QPushButton(tr("&OK"));
     CommandOk->setObjectName(QStringLiteral("CommandOk"));
     CommandOk->setDefault(true);
-    CommandCancel = new QPushButton(QStringLiteral("&Cancel"));
+    CommandCancel = new QPushButton(tr("&Cancel"));
     CommandCancel->setObjectName(QStringLiteral("CommandCancel"));
-    auto* pressOk = new QLabel(QStringLiteral("Press OK to begin Recording."));
+    auto* pressOk = new QLabel(tr("Press OK to begin Recording."));
     pressOk->setWordWrap(true);
     auto* buttons = new QVBoxLayout;
     buttons->addWidget(pressOk);
@@ -200,8 +201,7 @@ QLineEdit* frmManualRecord::MakeDurationBox(const char* name, const char* upDown
     arrows->setSpacing(0);
     for (auto [type, step] : {std::pair{Qt::UpArrow, 1}, std::pair{Qt::DownArrow, -1}}) {
         auto* arrow = new QToolButton;
-        arrow->setObjectName(QString::fromLatin1(upDownName) +
-                             (step > 0 ? QStringLiteral("Up") : QStringLiteral("Down")));
+        arrow->setObjectName(QString::fromLatin1(upDownName) + (step > 0 ? tr("Up") : tr("Down")));
         arrow->setArrowType(type);
         arrow->setFixedSize(16, 11);
         arrow->setAutoRepeat(true);
@@ -272,9 +272,8 @@ void frmManualRecord::CalcStorage()
         const float mbytes = m_workingFormat.CalcStorageMbytesSng(DurationSecondsOfFields());
         // Below ten Mbytes the Kbytes figure with the digits a single-precision number has.
         LabelDiskSpaceData->setText(
-            mbytes >= 10.0f
-                ? QString::number(double(mbytes), 'f', 1) + QStringLiteral(" Mbytes")
-                : QString::number(double(mbytes * 1024.0f), 'g', 7) + QStringLiteral(" Kbytes"));
+            mbytes >= 10.0f ? QString::number(double(mbytes), 'f', 1) + tr(" Mbytes")
+                            : QString::number(double(mbytes * 1024.0f), 'g', 7) + tr(" Kbytes"));
     });
 }
 
@@ -306,14 +305,13 @@ void frmManualRecord::CommandOk_Click()
         bool failed = false;
         if (optUserFilename->isChecked()) {
             if (InvalidFilenameCharacters(txtFilename->text())) {
-                warn(QStringLiteral("Invalid Filename"),
-                     QStringLiteral("The filename cannot contain any of the following "
-                                    "characters:\n\\ / : * ? \" < > | "));
+                warn(tr("Invalid Filename"), tr("The filename cannot contain any of the following "
+                                                "characters:\n\\ / : * ? \" < > | "));
                 failed = true;
             } else {
                 const QString name = UserFilenameBase(txtFilename->text());
                 if (name.isEmpty()) {
-                    warn(QStringLiteral("Invalid Filename"), QStringLiteral("Invalid Filename"));
+                    warn(tr("Invalid Filename"), tr("Invalid Filename"));
                     failed = true;
                 } else {
                     request.Filename = name;
@@ -325,16 +323,15 @@ void frmManualRecord::CommandOk_Click()
 
         if (m_s.appStatus.Recording()) {
             if (!QuickStart)
-                warn(QStringLiteral("Recording already in progress"),
-                     QStringLiteral("The manual recording request will not be processed since "
-                                    "recording is already in progress."));
+                warn(tr("Recording already in progress"),
+                     tr("The manual recording request will not be processed since "
+                        "recording is already in progress."));
             failed = true;
             reject();
         }
 
         if (Text::Trim(TextProgramDescription->text()).isEmpty()) {
-            warn(QStringLiteral("Program description required"),
-                 QStringLiteral("Please enter a program description."));
+            warn(tr("Program description required"), tr("Please enter a program description."));
             TextProgramDescription->setFocus();
             failed = true;
         }
@@ -342,7 +339,7 @@ void frmManualRecord::CommandOk_Click()
         if (!failed && frameSource->StreamChosen()) {
             const QString problem = StreamAddress::Problem(frameSource->txtStreamUrl->text());
             if (!problem.isEmpty()) {
-                warn(QStringLiteral("Invalid stream address"), problem);
+                warn(tr("Invalid stream address"), problem);
                 frameSource->txtStreamUrl->setFocus();
                 failed = true;
             }
@@ -356,10 +353,10 @@ void frmManualRecord::CommandOk_Click()
         const qint64 minutes = FieldValue(TextDurationHours) * 60 + FieldValue(TextDurationMinutes);
         if (!QuickStart && !failed && m_s.options.ConfirmLongRecordings &&
             minutes > qint64(m_s.options.LongRecordingHours) * 60 &&
-            box.Show(QStringLiteral("Long Recording Confirmation"),
-                     QStringLiteral("A recording longer than ") +
+            box.Show(tr("Long Recording Confirmation"),
+                     tr("A recording longer than ") +
                          QString::number(m_s.options.LongRecordingHours) +
-                         QStringLiteral(" hours is programmed.  Record? "),
+                         tr(" hours is programmed.  Record? "),
                      MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
             failed = true;
 

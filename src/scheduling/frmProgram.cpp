@@ -93,7 +93,7 @@ frmProgram::frmProgram(const ProgramFormServices& services, QWidget* owner)
     , m_services(services)
 {
     setObjectName(QStringLiteral("frmProgram"));
-    setWindowTitle(QStringLiteral("Program"));
+    setWindowTitle(tr("Program"));
 
     SSTab1 = new QTabWidget;
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
@@ -103,20 +103,20 @@ frmProgram::frmProgram(const ProgramFormServices& services, QWidget* owner)
         SSTab1->addTab(frame, title);
         return frame;
     };
-    frameGeneral = page("frameGeneral", QStringLiteral("&General"));
-    frameFile = page("frameFile", QStringLiteral("&File"));
-    frameExternalApp = page("frameExternalApp", QStringLiteral("&External App"));
-    frameInternet = page("frameInternet", QStringLiteral("&Internet"));
-    frameMixer = page("frameMixer", QStringLiteral("&Mixer"));
+    frameGeneral = page("frameGeneral", tr("&General"));
+    frameFile = page("frameFile", tr("&File"));
+    frameExternalApp = page("frameExternalApp", tr("&External App"));
+    frameInternet = page("frameInternet", tr("&Internet"));
+    frameMixer = page("frameMixer", tr("&Mixer"));
     BuildGeneralTab(frameGeneral);
     BuildFileTab(frameFile);
     BuildExternalAppTab(frameExternalApp);
     BuildInternetTab(frameInternet);
     BuildMixerTab(frameMixer);
 
-    CommandOk = Named(new QPushButton(QStringLiteral("&OK")), "CommandOk");
+    CommandOk = Named(new QPushButton(tr("&OK")), "CommandOk");
     CommandOk->setDefault(true);
-    CommandCancel = Named(new QPushButton(QStringLiteral("&Cancel")), "CommandCancel");
+    CommandCancel = Named(new QPushButton(tr("&Cancel")), "CommandCancel");
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(CommandOk);
@@ -135,16 +135,14 @@ frmProgram::frmProgram(const ProgramFormServices& services, QWidget* owner)
 void frmProgram::BuildGeneralTab(QWidget* page)
 {
     TextProgramDescription = Named(new QLineEdit, "TextProgramDescription");
-    auto* lblDescription = Named(new QLabel(QStringLiteral("Description")), "lblDescription");
+    auto* lblDescription = Named(new QLabel(tr("Description")), "lblDescription");
     lblDescription->setBuddy(TextProgramDescription);
-    CheckEnabled = Named(new QCheckBox(QStringLiteral("Ena&bled")), "CheckEnabled");
+    CheckEnabled = Named(new QCheckBox(tr("Ena&bled")), "CheckEnabled");
     CheckEnabled->setChecked(true);
 
-    frameFrequency = Named(new QGroupBox(QStringLiteral("Fre&quency")), "frameFrequency");
-    OptionOneTimeOrDaily[0] =
-        Named(new QRadioButton(QStringLiteral("One &Time")), "OptionOneTimeOrDaily(0)");
-    OptionOneTimeOrDaily[1] =
-        Named(new QRadioButton(QStringLiteral("Dai&ly")), "OptionOneTimeOrDaily(1)");
+    frameFrequency = Named(new QGroupBox(tr("Fre&quency")), "frameFrequency");
+    OptionOneTimeOrDaily[0] = Named(new QRadioButton(tr("One &Time")), "OptionOneTimeOrDaily(0)");
+    OptionOneTimeOrDaily[1] = Named(new QRadioButton(tr("Dai&ly")), "OptionOneTimeOrDaily(1)");
     OptionOneTimeOrDaily[0]->setChecked(true);
     dtpkrOnceDate = Named(new QDateEdit, "dtpkrOnceDate");
     dtpkrOnceDate->setCalendarPopup(true);
@@ -153,10 +151,8 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     if (!dateFormat.contains(QStringLiteral("yyyy")))
         dateFormat.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
     dtpkrOnceDate->setDisplayFormat(dateFormat);
-    const QString dayCaptions[] = {QStringLiteral("&Sun"), QStringLiteral("Mo&n"),
-                                   QStringLiteral("T&ue"), QStringLiteral("&Wed"),
-                                   QStringLiteral("T&hu"), QStringLiteral("F&ri"),
-                                   QStringLiteral("S&at")};
+    const QString dayCaptions[] = {tr("&Sun"), tr("Mo&n"), tr("T&ue"), tr("&Wed"),
+                                   tr("T&hu"), tr("F&ri"), tr("S&at")};
     auto* days = new QHBoxLayout;
     for (int d = 0; d < 7; ++d) {
         const QByteArray name = "CheckDaysOfWeek(" + QByteArray::number(d) + ')';
@@ -175,21 +171,20 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     dtpkrEndTime = Named(new QTimeEdit, "dtpkrEndTime");
     for (QTimeEdit* picker : {dtpkrStartTime, dtpkrEndTime})
         picker->setDisplayFormat(QStringLiteral("HH:mm:ss"));
-    auto* lblStart = Named(new QLabel(QStringLiteral("Start Time")), "lblStartTime");
-    auto* lblEnd = Named(new QLabel(QStringLiteral("End Time")), "lblEndTime");
+    auto* lblStart = Named(new QLabel(tr("Start Time")), "lblStartTime");
+    auto* lblEnd = Named(new QLabel(tr("End Time")), "lblEndTime");
     lblStart->setBuddy(dtpkrStartTime);
     lblEnd->setBuddy(dtpkrEndTime);
-    auto* lblDuration = Named(new QLabel(QStringLiteral("Duration:")), "LabelDuration");
+    auto* lblDuration = Named(new QLabel(tr("Duration:")), "LabelDuration");
     LabelDurationData = Named(new QLabel, "LabelDurationData");
-    auto* lblDisk = Named(new QLabel(QStringLiteral("Disk Storage: ")), "LabelDiskSpace");
+    auto* lblDisk = Named(new QLabel(tr("Disk Storage: ")), "LabelDiskSpace");
     LabelDiskSpaceData = Named(new QLabel, "LabelDiskSpaceData");
 
-    auto* lblFormat = Named(new QLabel(QStringLiteral("Recording Format")), "LabelRecordingFormat");
+    auto* lblFormat = Named(new QLabel(tr("Recording Format")), "LabelRecordingFormat");
     TextCompressionMethod = Named(new QLineEdit, "TextCompressionMethod");
     TextCompressionMethod->setReadOnly(true);
     lblFormat->setBuddy(TextCompressionMethod);
-    ChangeComprMethodButton =
-        Named(new QPushButton(QStringLiteral("Modif&y")), "ChangeComprMethodButton");
+    ChangeComprMethodButton = Named(new QPushButton(tr("Modif&y")), "ChangeComprMethodButton");
 
     auto* grid = new QGridLayout(page);
     grid->addWidget(lblDescription, 0, 0);
@@ -227,11 +222,11 @@ void frmProgram::BuildFileTab(QWidget* page)
 {
     optDefaultFilename = Named(new QRadioButton, "optDefaultFilename");
     optDefaultFilename->setChecked(true);
-    chkPrefix = Named(new QCheckBox(QStringLiteral("&Prefix")), "chkPrefix");
+    chkPrefix = Named(new QCheckBox(tr("&Prefix")), "chkPrefix");
     txtPrefix = Named(new QLineEdit, "txtPrefix");
-    chkSuffix = Named(new QCheckBox(QStringLiteral("&Suffix")), "chkSuffix");
+    chkSuffix = Named(new QCheckBox(tr("&Suffix")), "chkSuffix");
     txtSuffix = Named(new QLineEdit, "txtSuffix");
-    optUserFilename = Named(new QRadioButton(QStringLiteral("&User")), "optUserFilename");
+    optUserFilename = Named(new QRadioButton(tr("&User")), "optUserFilename");
     txtUserFilename = Named(new QLineEdit, "txtUserFilename");
 
     auto* grid = new QGridLayout(page);
@@ -254,23 +249,20 @@ void frmProgram::BuildFileTab(QWidget* page)
 void frmProgram::BuildExternalAppTab(QWidget* page)
 {
     chkLaunchPrior =
-        Named(new QCheckBox(QStringLiteral("Launch external program &prior to recording")),
-              "chkLaunchPrior");
+        Named(new QCheckBox(tr("Launch external program &prior to recording")), "chkLaunchPrior");
     txtLaunchPrior = Named(new QLineEdit, "txtLaunchPrior");
     lblLaunchPriorDelay =
-        Named(new QLabel(QStringLiteral("Number of seconds to launch program p&rior to recording")),
+        Named(new QLabel(tr("Number of seconds to launch program p&rior to recording")),
               "lblLaunchPriorDelay");
     txtLaunchPriorDelay = Named(new QLineEdit(QStringLiteral("0")), "txtLaunchPriorDelay");
     txtLaunchPriorDelay->setMaximumWidth(50);
     lblLaunchPriorDelay->setBuddy(txtLaunchPriorDelay);
     updnLaunchPriorDelay = Named(MakeUpDown(txtLaunchPriorDelay), "updnLaunchPriorDelay");
-    chkLaunchAfter =
-        Named(new QCheckBox(QStringLiteral("Launch external program when recording comp&letes")),
-              "chkLaunchAfter");
+    chkLaunchAfter = Named(new QCheckBox(tr("Launch external program when recording comp&letes")),
+                           "chkLaunchAfter");
     txtLaunchAfter = Named(new QLineEdit, "txtLaunchAfter");
     chkLaunchAfterOnlyIfOk =
-        Named(new QCheckBox(QStringLiteral("Launch only if &successful recording")),
-              "chkLaunchAfterOnlyIfOk");
+        Named(new QCheckBox(tr("Launch only if &successful recording")), "chkLaunchAfterOnlyIfOk");
     btnInfo = Named(new QPushButton(QStringLiteral("Info...")), "btnInfo");
 
     auto* delay = new QHBoxLayout;
@@ -298,24 +290,23 @@ void frmProgram::BuildExternalAppTab(QWidget* page)
 
 void frmProgram::BuildInternetTab(QWidget* page)
 {
-    chkLaunchLink = Named(new QCheckBox(QStringLiteral("Launch Internet lin&k prior to recording")),
-                          "chkLaunchLink");
+    chkLaunchLink =
+        Named(new QCheckBox(tr("Launch Internet lin&k prior to recording")), "chkLaunchLink");
     txtLaunchLink = Named(new QLineEdit, "txtLaunchLink");
-    btnTestUrl = Named(new QPushButton(QStringLiteral("&Test")), "btnTestUrl");
-    lblLaunchLinkDelay = Named(
-        new QLabel(QStringLiteral("Number of seconds to launch Internet link prior to recording")),
-        "lblLaunchLinkDelay");
+    btnTestUrl = Named(new QPushButton(tr("&Test")), "btnTestUrl");
+    lblLaunchLinkDelay =
+        Named(new QLabel(tr("Number of seconds to launch Internet link prior to recording")),
+              "lblLaunchLinkDelay");
     txtLaunchLinkDelay = Named(new QLineEdit(QStringLiteral("0")), "txtLaunchLinkDelay");
     txtLaunchLinkDelay->setMaximumWidth(50);
     lblLaunchLinkDelay->setBuddy(txtLaunchLinkDelay);
     updnLaunchLinkDelay = Named(MakeUpDown(txtLaunchLinkDelay), "updnLaunchLinkDelay");
     frameCloseStreamingPlayer =
-        Named(new QGroupBox(QStringLiteral("Close streaming player when done recording")),
+        Named(new QGroupBox(tr("Close streaming player when done recording")),
               "frameCloseStreamingPlayer");
-    const QString options[] = {
-        QStringLiteral("&Let Nightreel attempt to determine the streaming player"),
-        QStringLiteral("Enter &Window title (or part of) "),
-        QStringLiteral("Do &not close streaming player")};
+    const QString options[] = {tr("&Let Nightreel attempt to determine the streaming player"),
+                               tr("Enter &Window title (or part of) "),
+                               tr("Do &not close streaming player")};
     for (int i = 0; i < 3; ++i) {
         const QByteArray name = "optCloseStreamingPlayer(" + QByteArray::number(i) + ')';
         optCloseStreamingPlayer[i] = Named(new QRadioButton(options[i]), name.constData());
@@ -327,8 +318,7 @@ void frmProgram::BuildInternetTab(QWidget* page)
     if (IsWaylandSession())
         frameCloseStreamingPlayer->setToolTip(StreamingPlayer::WaylandNote());
     chkHangUp =
-        Named(new QCheckBox(QStringLiteral("&Hang up dial up connection when done recording")),
-              "chkHangUp");
+        Named(new QCheckBox(tr("&Hang up dial up connection when done recording")), "chkHangUp");
 
     auto* close = new QGridLayout(frameCloseStreamingPlayer);
     close->addWidget(optCloseStreamingPlayer[0], 0, 0, 1, 2);
@@ -361,18 +351,16 @@ void frmProgram::BuildInternetTab(QWidget* page)
 
 void frmProgram::BuildMixerTab(QWidget* page)
 {
-    auto* lblPrior = Named(new QLabel(QStringLiteral("Activate mixer profile prior to recording")),
-                           "lblMixerProfilePrior");
+    auto* lblPrior =
+        Named(new QLabel(tr("Activate mixer profile prior to recording")), "lblMixerProfilePrior");
     lstMixerProfilePrior = Named(new QListWidget, "lstMixerProfilePrior");
-    auto* lblAfter =
-        Named(new QLabel(QStringLiteral("Activate mixer profile when recording completes")),
-              "lblMixerProfileAfter");
+    auto* lblAfter = Named(new QLabel(tr("Activate mixer profile when recording completes")),
+                           "lblMixerProfileAfter");
     lstMixerProfileAfter = Named(new QListWidget, "lstMixerProfileAfter");
     lblPrior->setBuddy(lstMixerProfilePrior);
     lblAfter->setBuddy(lstMixerProfileAfter);
     auto* lblHint =
-        Named(new QLabel(QStringLiteral("Mixer profiles can be created in the Tools menu.")),
-              "lblMixerHint");
+        Named(new QLabel(tr("Mixer profiles can be created in the Tools menu.")), "lblMixerHint");
 
     auto* grid = new QGridLayout(page);
     grid->addWidget(lblPrior, 0, 0);
@@ -388,13 +376,13 @@ void frmProgram::Form_Load()
         FormPlacement::PlaceAtMainForm(this, parentWidget(), 100);
         switch (m_services.options.DefaultRecordFileNameFormat) {
         case 1:
-            optDefaultFilename->setText(QStringLiteral("YYMM&DD_hhmmss"));
+            optDefaultFilename->setText(tr("YYMM&DD_hhmmss"));
             break;
         case 2:
-            optDefaultFilename->setText(QStringLiteral("&DDMMYY_hhmmss"));
+            optDefaultFilename->setText(tr("&DDMMYY_hhmmss"));
             break;
         default:
-            optDefaultFilename->setText(QStringLiteral("MM&DDYY_hhmmss"));
+            optDefaultFilename->setText(tr("MM&DDYY_hhmmss"));
             break;
         }
         MixerListsFilled = false;
@@ -504,7 +492,7 @@ QString frmProgram::ProfileOf(const QListWidget* list)
 {
     const QListWidgetItem* item = list->currentItem();
     const QString text = item ? Text::Trim(item->text()) : QString();
-    if (text == ProgramEditor::NoneSelected || text == ProgramEditor::NoneAvailable)
+    if (text == ProgramEditor::NoneSelected() || text == ProgramEditor::NoneAvailable())
         return QString();
     return text;
 }
@@ -594,9 +582,9 @@ void frmProgram::FillMixerListBoxes()
                         : QStringList();
     for (QListWidget* list : {lstMixerProfilePrior, lstMixerProfileAfter}) {
         if (files.isEmpty()) {
-            list->addItem(ProgramEditor::NoneAvailable);
+            list->addItem(ProgramEditor::NoneAvailable());
         } else {
-            list->addItem(ProgramEditor::NoneSelected);
+            list->addItem(ProgramEditor::NoneSelected());
             for (const QString& file : files)
                 list->addItem(QFileInfo(file).completeBaseName());
         }
