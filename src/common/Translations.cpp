@@ -21,10 +21,15 @@ void Load(const QString& catalogue, const QString& folder)
 
 } // namespace
 
-void Install()
+void Install(const ProgramFiles& program)
 {
     Load(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    Load(QStringLiteral("nightreel"), ProgramFiles::OfRunningProgram().TranslationFolder());
+    Load(QStringLiteral("nightreel"), program.TranslationFolder());
+}
+
+void Install()
+{
+    Install(ProgramFiles::OfRunningProgram());
 }
 
 } // namespace Translations

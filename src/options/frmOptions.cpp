@@ -543,9 +543,8 @@ void frmOptions::btnDefaultMixer_Click()
     Trap(m_s.log, "Options btnDefaultMixer_Click", [&] {
         const MsgResult answer = m_s.messageBox.Show(
             tr("Default Mixer"),
-            QStringLiteral(
-                "The mixer control will be changed to the sound server's volume control. "
-                "Proceed?"),
+            tr("The mixer control will be changed to the sound server's volume control. "
+               "Proceed?"),
             MsgIcon::Question, MsgButtons::YesNo);
         if (answer == MsgResult::Yes) {
             m_workingMixerPath = Options::DefaultMixerFilePath;

@@ -16,30 +16,38 @@ namespace {
 // translation) of the part that logs them.
 QHash<QString, RecorderNotifications::Event> Events()
 {
-    const QString failed = RecorderNotifications::tr("Recording failed");
-    const QString diskFull =
-        RecorderNotifications::tr("Free disk space fell below the limit set in Options.");
+    const QString failed = QCoreApplication::translate("RecorderNotifications", "Recording failed");
+    const QString diskFull = QCoreApplication::translate(
+        "RecorderNotifications", "Free disk space fell below the limit set in Options.");
     QHash<QString, RecorderNotifications::Event> events{
         {QCoreApplication::translate("RecordingControl", "Recording failed"),
-         {failed, RecorderNotifications::tr("No sound was written.")}},
+         {failed, QCoreApplication::translate("RecorderNotifications", "No sound was written.")}},
         {QCoreApplication::translate("RecordingTaskLink", "Error activating recording task."),
-         {failed, RecorderNotifications::tr("The recording task did not start.")}},
+         {failed, QCoreApplication::translate("RecorderNotifications",
+                                              "The recording task did not start.")}},
         {QCoreApplication::translate("RecordingTaskLink", "Error removing Recording Process."),
-         {failed, RecorderNotifications::tr("An earlier recording task could not be ended.")}},
+         {failed, QCoreApplication::translate("RecorderNotifications",
+                                              "An earlier recording task could not be ended.")}},
         {QCoreApplication::translate("RecordingControl", "No response from recording task."),
-         {RecorderNotifications::tr("Recording task not responding"),
-          RecorderNotifications::tr("The recording was stopped.")}},
+         {QCoreApplication::translate("RecorderNotifications", "Recording task not responding"),
+          QCoreApplication::translate("RecorderNotifications", "The recording was stopped.")}},
         {QCoreApplication::translate("StatusBarPlus",
                                      "Recording stopped due to insufficient disk space."),
-         {RecorderNotifications::tr("Recording stopped: disk nearly full"), diskFull}},
+         {QCoreApplication::translate("RecorderNotifications",
+                                      "Recording stopped: disk nearly full"),
+          diskFull}},
         {QCoreApplication::translate("SilenceAlarm", "Recording is silent"),
-         {RecorderNotifications::tr("Recording is silent"),
-          RecorderNotifications::tr("No sound is coming in."), false, false}},
+         {QCoreApplication::translate("RecorderNotifications", "Recording is silent"),
+          QCoreApplication::translate("RecorderNotifications", "No sound is coming in."), false,
+          false}},
         {QCoreApplication::translate("ConversionQueue", "Error Converting to MP3"),
-         {RecorderNotifications::tr("MP3 conversion failed"), QString(), true}},
+         {QCoreApplication::translate("RecorderNotifications", "MP3 conversion failed"), QString(),
+          true}},
         {QCoreApplication::translate("StatusBarPlus",
                                      "MP3 conversion stopped due to insufficient disk space."),
-         {RecorderNotifications::tr("MP3 conversion stopped: disk nearly full"), diskFull, true}},
+         {QCoreApplication::translate("RecorderNotifications",
+                                      "MP3 conversion stopped: disk nearly full"),
+          diskFull, true}},
     };
     // Each of the task's error codes fails the recording, with its own heading as the reason.
     for (qint32 code = 1000; code <= 1053; ++code)

@@ -158,11 +158,10 @@ void RecordingControl::OnTaskNotResponding()
             return;
         m_s.log.LogEvent(
             EventError, tr("No response from recording task."),
-            QStringLiteral(
-                "Perform a test recording with a PCM recording format. If the error "
-                "does not reoccur, there may have been a problem with the recording "
-                "format.  Otherwise, the recording task may be locked and require a "
-                "system restart. \rThe error occurred during the following recording: ") +
+            tr("Perform a test recording with a PCM recording format. If the error "
+               "does not reoccur, there may have been a problem with the recording "
+               "format.  Otherwise, the recording task may be locked and require a "
+               "system restart. \rThe error occurred during the following recording: ") +
                 m_status.Description);
         m_status.Failed = true;
         StopRecording();

@@ -12,7 +12,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
         return {
             QCoreApplication::translate("RecordingTaskErrors",
                                         "Error communicating with recording task"),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The scheduler communicates with the recording task via a disk file which may be "
                 "locked.  Try restarting the software or rebooting system to unlock the file.  If "
                 "this error re-occurs, the disk containing the TEMP folder may be full or "
@@ -79,20 +80,23 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
         return {
             QCoreApplication::translate("RecordingTaskErrors",
                                         "Error occurred during recording process."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task was not able to allocate memory to store the wave buffer. If "
                 "this problem occurs again, try restarting the software or rebooting system.")};
     case TaskError::BufferMemoryLockFailed:
         return {
             QCoreApplication::translate("RecordingTaskErrors",
                                         "Error occurred during recording process."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task was not able to lock memory that stores the wave buffer. If "
                 "this problem occurs again, try restarting the software or rebooting system.")};
     case TaskError::OpenInputFailed:
         return {
             QCoreApplication::translate("RecordingTaskErrors", "Error Opening Wave Input File."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task was not able to open the wave input file.  This error can "
                 "occur if the recording format is not fully supported, the recording device in "
                 "use by another program, or if recording device is locked. Stop or close any "
@@ -116,7 +120,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
         return {
             QCoreApplication::translate("RecordingTaskErrors",
                                         "Error occurred during recording process."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task was not able to create the wave chunk portion of the recording "
                 "file. Check the recording drive disk space, or try selecting a different "
                 "recording format.  If this problem occurs again, try restarting system.")};
@@ -124,7 +129,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
         return {
             QCoreApplication::translate("RecordingTaskErrors",
                                         "Error occurred during recording process."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task was not able to create the wave format chunk portion of the "
                 "recording file. Check the recording drive disk space or try selecting a different "
                 "recording format.  If this problem occurs again, try restarting system.")};
@@ -132,7 +138,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
         return {
             QCoreApplication::translate("RecordingTaskErrors",
                                         "Error occurred during recording process."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task was not able to create the wave format data portion of the "
                 "recording file. Check the recording drive disk space or try selecting a different "
                 "recording format.  If this problem occurs again, try restarting system.")};
@@ -149,7 +156,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
         return {
             QCoreApplication::translate("RecordingTaskErrors",
                                         "Error occurred during recording process."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task was not able to write the wave fact portion of the recording "
                 "file. Check the recording drive disk space, or try selecting a different "
                 "recording format. If this problem occurs again, try restarting system.")};
@@ -183,7 +191,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
         return {
             QCoreApplication::translate("RecordingTaskErrors",
                                         "Error occurred during recording process."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task was not able to write the software info chunk of the recording "
                 "file. Check the recording drive disk space, or try selecting a different "
                 "recording format.  If this problem occurs again, try restarting system.")};
@@ -199,7 +208,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
     case TaskError::AddBufferFailed:
         return {QCoreApplication::translate("RecordingTaskErrors",
                                             "Error occurred during recording process."),
-                QStringLiteral(
+                QCoreApplication::translate(
+                    "RecordingTaskErrors",
                     "The recording task was not able to add recording buffer during the recording "
                     "process. If this problem occurs again, try selecting a different recording "
                     "format. If problem persists even after changing the recording format, the "
@@ -218,7 +228,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
     case TaskError::UnprepareHeader2Failed:
         return {QCoreApplication::translate("RecordingTaskErrors",
                                             "Error occurred during recording process."),
-                QStringLiteral(
+                QCoreApplication::translate(
+                    "RecordingTaskErrors",
                     "The recording task encountered an error during the unpreparing of header 1 "
                     "during the recording process. If this problem occurs again, try selecting a "
                     "different recording format. If problem persists, try restarting system.")};
@@ -232,7 +243,8 @@ RecordingTaskErrorText RecordingTaskErrorTexts(qint32 code)
     case TaskError::CloseFileFailed:
         return {
             QCoreApplication::translate("RecordingTaskErrors", "Error Closing Wave File."),
-            QStringLiteral(
+            QCoreApplication::translate(
+                "RecordingTaskErrors",
                 "The recording task encountered an error closing the wave file. If this problem "
                 "occurs again, check the disk space of the recording drive, or try selecting a "
                 "different recording format. If problem persists, try restarting system.")};

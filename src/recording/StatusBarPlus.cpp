@@ -130,7 +130,7 @@ bool StatusBarPlus::GuardRecording(const DiskSpaceMb& disk,
         const float size = pendingConversion->DestinationFormat.CalcStorageMbytesSng(qint32(total));
         const double written = double(size) * fraction + 0.5;
         if (disk.free - written < stopLimit)
-            details = QStringLiteral(
+            details = tr(
                 "\r\nRemove recordings from disk or change the recording directory to a "
                 "different disk drive.  Note: MP3 conversion also requires temporary storage for "
                 "the PCM recording in the default recording folder.  Since the PCM file is "

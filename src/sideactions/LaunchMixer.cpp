@@ -22,7 +22,8 @@ void LaunchMixer(EventLog& log, ProcessLauncher& launcher, const QString& mixerP
     if (launcher.StartDetached(AsOneWord(mixerPath)))
         return;
     log.LogEvent(EventError, QCoreApplication::translate("LaunchMixer", "Mixer Control Not Found"),
-                 QStringLiteral(
+                 QCoreApplication::translate(
+                     "LaunchMixer",
                      "Install the sound server's volume control or a 3rd party mixer.  To install "
                      "the volume control, open the desktop's software manager, search for "
                      "PulseAudio Volume Control (package pavucontrol), and install it.\r\n"
