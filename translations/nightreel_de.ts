@@ -335,6 +335,24 @@ Befehl= </translation>
     </message>
 </context>
 <context>
+    <name>InputChooser</name>
+    <message>
+        <source>The sound server&apos;s default input</source>
+        <translation>Standardeingang des Soundservers</translation>
+    </message>
+    <message>
+        <source>%1 (not available now)</source>
+        <translation>%1 (derzeit nicht verfügbar)</translation>
+    </message>
+</context>
+<context>
+    <name>InputLevelMeter</name>
+    <message>
+        <source>Input level</source>
+        <translation>Eingangspegel</translation>
+    </message>
+</context>
+<context>
     <name>InstanceLock</name>
     <message>
         <source>Nightreel 2000</source>
@@ -897,7 +915,7 @@ Beschreibung der überschneidenden Sendung: </translation>
     <name>QCommandLineParser</name>
     <message>
         <source>Displays help on commandline options.</source>
-        <translation>Zeigt Hilfe zu den Kommandozeilenoptionen an.</translation>
+        <translation>Hilfe zu den Befehlszeilenoptionen anzeigen.</translation>
     </message>
 </context>
 <context>
@@ -1083,6 +1101,17 @@ Versuchen Sie ein anderes Aufnahmeformat oder eine andere Bitrate. Bei einer kur
     <message>
         <source>Perform a test recording with a PCM recording format. If the error does not reoccur, there may have been a problem with the recording format.  Otherwise, the recording task may be locked and require a system restart. <byte value="xd"/>The error occurred during the following recording: </source>
         <translation>Machen Sie eine Testaufnahme in einem PCM-Aufnahmeformat. Tritt der Fehler dann nicht wieder auf, lag es vermutlich am Aufnahmeformat. Andernfalls hängt der Aufnahmeprozess möglicherweise und erfordert einen Neustart des Systems. <byte value="xd"/>Der Fehler trat bei folgender Aufnahme auf: </translation>
+    </message>
+</context>
+<context>
+    <name>RecordingInputBox</name>
+    <message>
+        <source>&amp;Input</source>
+        <translation>&amp;Eingang</translation>
+    </message>
+    <message>
+        <source>The level of the chosen input now</source>
+        <translation>Der aktuelle Pegel des gewählten Eingangs</translation>
     </message>
 </context>
 <context>
@@ -1486,10 +1515,6 @@ Spitzenpegel: </translation>
         <translation>Quelle</translation>
     </message>
     <message>
-        <source>The sound server&apos;s default input</source>
-        <translation>Standardeingang des Soundservers</translation>
-    </message>
-    <message>
         <source>Internet stream</source>
         <translation>Internetstream</translation>
     </message>
@@ -1512,6 +1537,10 @@ Spitzenpegel: </translation>
     <message>
         <source>Testing…</source>
         <translation>Test läuft …</translation>
+    </message>
+    <message>
+        <source>The input chosen in the options</source>
+        <translation>Der in den Einstellungen gewählte Eingang</translation>
     </message>
 </context>
 <context>
@@ -2584,14 +2613,6 @@ Das Aufnehmen von Sendungen kann urheberrechtlich geschützt sein; vergewissern 
         <translation>Klicken Sie auf OK, um die Aufnahme zu beginnen.</translation>
     </message>
     <message>
-        <source>Up</source>
-        <translation>Nach oben</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>Nach unten</translation>
-    </message>
-    <message>
         <source> Mbytes</source>
         <translation> MByte</translation>
     </message>
@@ -3223,6 +3244,18 @@ Das Aufnehmen von Sendungen kann urheberrechtlich geschützt sein; vergewissern 
         <source>MM&amp;DDYY_hhmmss</source>
         <translation>MM&amp;DDYY_hhmmss</translation>
     </message>
+    <message>
+        <source>HH:mm:ss</source>
+        <translation>HH:mm:ss</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>Info...</source>
+        <translation>Info …</translation>
+    </message>
 </context>
 <context>
     <name>frmRecordFormat</name>
@@ -3283,10 +3316,6 @@ Das Aufnehmen von Sendungen kann urheberrechtlich geschützt sein; vergewissern 
         <translation>Abtastrate</translation>
     </message>
     <message>
-        <source>Select from &amp;all recording formats</source>
-        <translation>Aus allen Aufnahmeformaten aus&amp;wählen</translation>
-    </message>
-    <message>
         <source>Co&amp;nvert to the selected MP3 format after recording in the appropriate PCM format.
 (Recommended for slow computers)</source>
         <translation>Nach der Aufnahme im passenden PCM-Format in das gewählte MP3-Format &amp;umwandeln.
@@ -3317,6 +3346,10 @@ Das Aufnehmen von Sendungen kann urheberrechtlich geschützt sein; vergewissern 
 recording formats</source>
         <translation>Aus allen Aufnahme-
 formaten aus&amp;wählen</translation>
+    </message>
+    <message>
+        <source>MP3</source>
+        <translation>MP3</translation>
     </message>
 </context>
 <context>
