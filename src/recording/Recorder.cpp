@@ -118,8 +118,8 @@ ModeDisplay Recorder::Mode(ModeDisplay::Extra extra) const
 void Recorder::OpenInternetLink(const QString& link)
 {
     if (!m_s.hasDisplay) {
-        m_s.log.LogEvent(EventInformation, QStringLiteral("Web link not opened"),
-                         QStringLiteral("There is no display to open it on: ") + link);
+        m_s.log.LogEvent(EventInformation, tr("Web link not opened"),
+                         tr("There is no display to open it on: ") + link);
         return;
     }
     ViewHtmlFile(m_s.log, m_s.messageBox, m_s.launcher, m_s.runtimeFolder, link);

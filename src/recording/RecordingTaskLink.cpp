@@ -341,9 +341,8 @@ bool RecordingTaskLink::ActivateNightreeltask()
                     Sleep(1000);
                     if (FindWindowA()) {
                         if (reporting)
-                            m_log.LogEvent(
-                                EventError, QStringLiteral("Error removing Recording Process."),
-                                QStringLiteral("This may require the system to be restarted."));
+                            m_log.LogEvent(EventError, tr("Error removing Recording Process."),
+                                           tr("This may require the system to be restarted."));
                         failed = true;
                     }
                 }
@@ -359,11 +358,10 @@ bool RecordingTaskLink::ActivateNightreeltask()
                                                  QEventLoop::WaitForMoreEvents);
                     if (m_timedOut) {
                         if (reporting)
-                            m_log.LogEvent(
-                                EventError, QStringLiteral("Error activating recording task."),
-                                QStringLiteral("Timeout occurred.  Try restarting software or "
-                                               "rebooting system. If problem persists try a "
-                                               "different recording format."));
+                            m_log.LogEvent(EventError, tr("Error activating recording task."),
+                                           tr("Timeout occurred.  Try restarting software or "
+                                              "rebooting system. If problem persists try a "
+                                              "different recording format."));
                         failed = true;
                         break;
                     }
@@ -378,11 +376,10 @@ bool RecordingTaskLink::ActivateNightreeltask()
                         if (!FindWindowA()) {
                             // This text differs from the one above by " -"; intended.
                             if (reporting)
-                                m_log.LogEvent(
-                                    EventError, QStringLiteral("Error activating recording task."),
-                                    QStringLiteral("Timeout occurred.  - Try restarting software "
-                                                   "or rebooting system. If problem persists try "
-                                                   "a different recording format."));
+                                m_log.LogEvent(EventError, tr("Error activating recording task."),
+                                               tr("Timeout occurred.  - Try restarting software "
+                                                  "or rebooting system. If problem persists try "
+                                                  "a different recording format."));
                             failed = true;
                         }
                         break;
@@ -463,11 +460,10 @@ void RecordingTaskLink::Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint
 
 void RecordingTaskLink::UnexpectedCode(qint64 number)
 {
-    m_log.LogEvent(EventError, QStringLiteral("Run Time Error"),
-                   QStringLiteral("Unexpected code from recording process.  Code=") +
-                       Text::Str(number) +
-                       QStringLiteral(" If problem persists, try a different recording "
-                                      "format or restarting the system"));
+    m_log.LogEvent(EventError, tr("Run Time Error"),
+                   tr("Unexpected code from recording process.  Code=") + Text::Str(number) +
+                       tr(" If problem persists, try a different recording "
+                          "format or restarting the system"));
     emit StopRecording();
 }
 
