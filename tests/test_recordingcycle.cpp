@@ -374,6 +374,8 @@ void TestRecordingCycle::eachProgramRecordsFromItsInput()
     const QString missing =
         "Recording input not found: " + programInput + "; the default input was used.";
     QCOMPARE(messages, recorded == "unplugged.monitor" ? QStringList{missing} : QStringList{});
+}
+
 void TestRecordingCycle::taskStartedAheadIsTakenOverOrEnded_data()
 {
     QTest::addColumn<QString>("meanwhile");
