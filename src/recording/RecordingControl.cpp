@@ -183,6 +183,7 @@ RecordingSettings RecordingControl::Settings(bool manual) const
     const Options& o = m_s.options;
     RecordingSettings settings;
     settings.Folder = o.DefaultRecordingDirectory;
+    settings.RecordingInput = o.RecordingInput;
     settings.FileNameFormat = o.DefaultRecordFileNameFormat;
     settings.StopRecMegsLeft = o.StopRecMegsLeft;
     // Only a manual recording is refused for space.

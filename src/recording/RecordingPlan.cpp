@@ -20,11 +20,12 @@ bool IsMp3(const clsRecordingFormat& format)
 }
 
 // The side actions and names of a program's row, or of a manual recording, which has none.
-void TakeRequest(const RecordingRequest& request, clsRecordingStatus& status, QString& userName,
-                 QString& prefix, QString& suffix)
+void TakeRequest(const RecordingRequest& request, const QString& recordingInput,
+                 clsRecordingStatus& status, QString& userName, QString& prefix, QString& suffix)
 {
     status.ProgramId = request.ProgramId;
     status.StreamingPlayerClose = StreamingPlayerClose::DoNotClose;
+    status.InputName = recordingInput;
     if (!request.Program) {
         status.Description = request.Description;
         status.StreamUrl = request.StreamUrl.trimmed();
@@ -42,6 +43,8 @@ void TakeRequest(const RecordingRequest& request, clsRecordingStatus& status, QS
         status.StreamingPlayerClose = row.StreamingPlayerClose;
     status.HangupInternetConnection = row.HangupInternetConnection;
     status.StreamUrl = row.StreamUrl;
+    if (!row.InputName.isEmpty())
+        status.InputName = row.InputName;
     userName = row.FilenameUser;
     prefix = row.FilenamePrefix;
     suffix = row.FilenameSuffix;
@@ -99,7 +102,7 @@ std::variant<RecordingPlan, RecordingRefusal> PlanRecording(const RecordingReque
     RecordingPlan plan;
     clsRecordingStatus& status = plan.Status;
     QString userName, prefix, suffix;
-    TakeRequest(request, status, userName, prefix, suffix);
+    TakeRequest(request, settings.RecordingInput, status, userName, prefix, suffix);
     plan.Format.CopyFrom(request.Format);
     status.StartTime = request.StartTime;
     status.EndTime = request.EndTime;
@@ -169,5 +172,6 @@ std::variant<RecordingPlan, RecordingRefusal> PlanRecording(const RecordingReque
     parms.silenceSeconds = settings.SilenceSeconds;
     parms.streamUrl = status.StreamUrl;
     parms.finalPath = status.FinalFile;
+    parms.inputName = status.StreamUrl.isEmpty() ? status.InputName : QString();
     return plan;
 }

@@ -31,6 +31,8 @@ struct RecordingRequest {
 // What the start of a recording takes from the options and the machine.
 struct RecordingSettings {
     QString Folder;
+    // The sound server's source of a recording whose program names none.
+    QString RecordingInput;
     qint16 FileNameFormat = 0;
     qint16 StopRecMegsLeft = 0;
     double FreeMbytes = 0.0;

@@ -122,6 +122,7 @@ ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Reco
     v.FormMixerProfileBefore = ExistingProfile(mixerFolder, row.MixerProfileBefore);
     v.FormMixerProfileAfter = ExistingProfile(mixerFolder, row.MixerProfileAfter);
     v.FormStreamUrl = row.StreamUrl;
+    v.FormInputName = row.InputName;
     return v;
 }
 
@@ -212,6 +213,7 @@ qint32 UpdateDbFromProgramForm(DataControl& programs, const ProgramFormValues& v
     set("MixerProfileBefore", v.FormMixerProfileBefore);
     set("MixerProfileAfter", v.FormMixerProfileAfter);
     set("StreamUrl", v.FormStreamUrl.trimmed());
+    set("InputName", v.FormStreamUrl.trimmed().isEmpty() ? v.FormInputName.trimmed() : QString());
     QString frequencyText =
         v.FormFrequency != 0
             ? DaysString(v.FormDays)

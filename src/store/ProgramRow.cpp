@@ -47,5 +47,6 @@ ProgramRow ProgramRow::Read(const Recordset& rs)
     row.MixerProfileAfter = text("MixerProfileAfter");
     row.MixerProfileAfterNull = value("MixerProfileAfter").isNull();
     row.StreamUrl = text("StreamUrl");
+    row.InputName = text("InputName");
     return row;
 }

@@ -38,6 +38,8 @@ struct ProgramRow {
     QString MixerProfileBefore;
     QString MixerProfileAfter;
     QString StreamUrl;
+    // The sound server's source by name; empty for the one the options name.
+    QString InputName;
     // The NULLs that the start of a recording tells apart from empty texts.
     bool DescriptionNull = false;
     bool StreamingPlayerCloseNull = false;
