@@ -174,7 +174,6 @@ private slots:
     void programEnteredThroughTheEditorIsRecorded();
     void dayLongRecordingStopsByTheClock();
     void recordingWithoutDataFails();
-    void manualRecordingNeedsHalfAMegabyteAboveTheLimit();
     void recordingToConvertCapturesPcmAndQueuesIt();
     void aStopAskedWhileTheTaskStartsReachesIt();
     void aWriteErrorKeepsWhatWasWritten();
@@ -529,42 +528,6 @@ void TestRecordingCycle::recordingWithoutDataFails()
     QVERIFY(c.FilesInFolder().isEmpty());
     QVERIFY(c.Recordings().isEmpty());
     QVERIFY(c.tc.launcher.started.isEmpty());
-}
-
-// A manual request is refused with free space a quarter megabyte above the limit and
-// accepted with half a megabyte; a manual recording stops without a question.
-void TestRecordingCycle::manualRecordingNeedsHalfAMegabyteAboveTheLimit()
-{
-    Cycle c;
-    AppContext& ctx = c.ctx();
-    ctx.options.StopRecMegsLeft = 25;
-    ctx.options.ConfirmStopManualRecording = false;
-    c.recorder().Status().ProgramId = -1;
-    c.recorder().Manual().Format.SetToPcm(1, 22050, 16);
-    c.tc.diskSpace.freeMb = 25.25;
-    const double now = At("12:00:00");
-    c.tc.clock.Set(now);
-
-    qint32 id = -1;
-    QString description = "Manual";
-    c.control->StartRecording(id, now, AutomationDate::AddSeconds(now, 60), description);
-    QVERIFY(!ctx.appStatus.Recording());
-    QCOMPARE(c.tc.messageBox.asked.size(), 1);
-    QCOMPARE(c.tc.messageBox.asked[0].title,
-             QString("Recording not started due to insufficient disk space."));
-    QVERIFY(c.recorder().Link().StartedTasks().isEmpty());
-
-    c.tc.diskSpace.freeMb = 25.5;
-    c.control->StartRecording(id, now, AutomationDate::AddSeconds(now, 60), description);
-    QVERIFY(ctx.appStatus.Recording());
-    QCOMPARE(c.recorder().Link().StartedTasks().size(), 1);
-    QTest::qWait(1500);
-    c.control->HandleStopRecordingRequest(ctx.options.ConfirmStopManualRecording);
-    QTRY_VERIFY_WITH_TIMEOUT(!ctx.appStatus.Recording(), 12000);
-    QCOMPARE(c.tc.messageBox.asked.size(), 1);
-    QCOMPARE(c.FilesInFolder(), QStringList{"060126_120000.WAV"});
-    QCOMPARE(c.Recordings().size(), 1);
-    QCOMPARE(c.Recordings()[0].title, QString("Manual"));
 }
 
 // An MP3 format to be converted is captured as 16-bit PCM into a ".WAV.TMP" file beside the
