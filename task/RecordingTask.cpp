@@ -169,9 +169,10 @@ int RecordingTask::TakeFinalParameters()
         return TaskError::ParameterFileLocked;
     if (!parms)
         return TaskError::ParameterFileBad;
-    // The capture is open already: a start in another format or from a stream is not this
-    // task's to take (the scheduler takes over only a task whose format fits).
-    if (parms->format != m_parms.format || !parms->streamUrl.isEmpty())
+    // The capture is open already: a start in another format, from another input or from a
+    // stream is not this task's to take (the scheduler takes over only a task that fits).
+    if (parms->format != m_parms.format || parms->inputName != m_parms.inputName ||
+        !parms->streamUrl.isEmpty())
         return TaskError::BadFormat;
     m_parms = *parms;
     return CreateFile();

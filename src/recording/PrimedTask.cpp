@@ -9,6 +9,8 @@
 #include "recording/RecordingTaskLink.h"
 #include "scheduling/Scheduler.h"
 #include "store/AppDatabase.h"
+#include "store/Options.h"
+#include "store/ProgramRow.h"
 #include "taskcontract/RecParms.h"
 
 namespace {
@@ -18,11 +20,13 @@ constexpr int kDueMarginMsecs = 2;
 
 } // namespace
 
-PrimedTask::PrimedTask(Clock& clock, EventLog& log, AppDatabase& database, Scheduler& scheduler,
-                       const clsAppStatus& appStatus, RecordingTaskLink& link, QObject* parent)
+PrimedTask::PrimedTask(Clock& clock, EventLog& log, const Options& options, AppDatabase& database,
+                       Scheduler& scheduler, const clsAppStatus& appStatus, RecordingTaskLink& link,
+                       QObject* parent)
     : QObject(parent)
     , m_clock(clock)
     , m_log(log)
+    , m_options(options)
     , m_database(database)
     , m_scheduler(scheduler)
     , m_appStatus(appStatus)
@@ -71,8 +75,11 @@ void PrimedTask::Prime()
         RecParms parms;
         parms.description = next.NextProgramDescription;
         parms.format = chosen.WaveFormat();
+        // The input is opened ahead too: the program's own, else the options' one.
+        const QString programInput = TrimmedText(programs.Value(QStringLiteral("InputName")));
+        parms.inputName = programInput.isEmpty() ? m_options.RecordingInput : programInput;
         parms.Write(m_link.ParameterFile());
-        m_link.StartPrimedTask(parms.format);
+        m_link.StartPrimedTask(parms);
         m_dueTimer.start(int(qMax<qint64>(0, m_clock.MsecsUntil(m_start))) + kDueMarginMsecs);
     });
 }

@@ -6,6 +6,7 @@
 class AppDatabase;
 class Clock;
 class EventLog;
+struct Options;
 class RecordingTaskLink;
 class Scheduler;
 class clsAppStatus;
@@ -19,8 +20,9 @@ class clsAppStatus;
 class PrimedTask : public QObject {
     Q_OBJECT
 public:
-    PrimedTask(Clock& clock, EventLog& log, AppDatabase& database, Scheduler& scheduler,
-               const clsAppStatus& appStatus, RecordingTaskLink& link, QObject* parent = nullptr);
+    PrimedTask(Clock& clock, EventLog& log, const Options& options, AppDatabase& database,
+               Scheduler& scheduler, const clsAppStatus& appStatus, RecordingTaskLink& link,
+               QObject* parent = nullptr);
 
     static constexpr int LeadSeconds = 5;
 
@@ -38,6 +40,7 @@ private:
 
     Clock& m_clock;
     EventLog& m_log;
+    const Options& m_options;
     AppDatabase& m_database;
     Scheduler& m_scheduler;
     const clsAppStatus& m_appStatus;

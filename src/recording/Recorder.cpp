@@ -21,8 +21,8 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
                   services.scheduler, m_status, m_conversion, services.sleepInhibitor)
     , m_missed(services.clock, services.log, services.registry, services.scheduler,
                services.database, services.appStatus, m_status, services.sleepInhibitor)
-    , m_primed(services.clock, services.log, services.database, services.scheduler,
-               services.appStatus, m_link)
+    , m_primed(services.clock, services.log, services.options, services.database,
+               services.scheduler, services.appStatus, m_link)
 {
     connect(&m_heartbeat, &Heartbeat::StartRecordingDue, &m_control,
             &RecordingControl::StartRecording);

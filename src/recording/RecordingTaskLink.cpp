@@ -8,6 +8,7 @@
 #include "diagnostics/Trap.h"
 #include "recording/RecordingTaskErrors.h"
 #include "taskcontract/RecParms.h"
+#include "taskcontract/TaskErrors.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -252,10 +253,11 @@ void RecordingTaskLink::StartTask(const QStringList& options)
         m_primedPid = pid;
 }
 
-void RecordingTaskLink::StartPrimedTask(const WaveFormatRecord& format)
+void RecordingTaskLink::StartPrimedTask(const RecParms& parms)
 {
     EndPrimedTask();
-    m_primedFormat = format;
+    m_primedFormat = parms.format;
+    m_primedInput = parms.inputName;
     StartTask({QStringLiteral("--primed")});
 }
 
@@ -271,11 +273,14 @@ RecordingTaskLink::Connection* RecordingTaskLink::PrimedConnection()
 void RecordingTaskLink::OnPrimedPost(Connection& c, quint32 msg, qint32 argument)
 {
     // Nothing a primed task says reaches the recording: only whether it came up. A failure
-    // after that (its input gone) makes it unfit as well.
+    // after that makes it unfit as well, and so does an input that is gone: the task started
+    // at the due second then says so for the log.
     if (msg == REC_MSG_READY && c.primedCode < 0)
         c.primedCode = argument;
     else if (msg == REC_MSG_ERROR)
         c.primedCode = argument;
+    else if (msg == REC_MSG_INPUT_MISSING)
+        c.primedCode = TaskError::OpenInputFailed;
 }
 
 void RecordingTaskLink::EndPrimedTask()
@@ -296,7 +301,8 @@ bool RecordingTaskLink::TakeOverPrimedTask()
     if (!m_primedPid)
         return false;
     const std::optional<RecParms> parms = RecParms::Read(ParameterFile());
-    if (!parms || parms->format != m_primedFormat || !parms->streamUrl.isEmpty()) {
+    if (!parms || parms->format != m_primedFormat || parms->inputName != m_primedInput ||
+        !parms->streamUrl.isEmpty()) {
         EndPrimedTask();
         return false;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/IntervalTimer.h"
+#include "taskcontract/RecParms.h"
 #include "taskcontract/TaskProtocol.h"
 #include "taskcontract/WaveFormatRecord.h"
 
@@ -48,7 +49,7 @@ public:
     // Starts a task ahead of a scheduled start, with its capture open in the format of the
     // parameter file just written, and does not wait. It stays apart from "the task's
     // window" until an activation takes it over; until then it counts as no started task.
-    void StartPrimedTask(const WaveFormatRecord& format);
+    void StartPrimedTask(const RecParms& parms);
     // Ends the primed task, which leaves no file; harmless when there is none.
     void EndPrimedTask();
     bool HasPrimedTask() const { return m_primedPid != 0; }
@@ -148,6 +149,7 @@ private:
     QList<qint64> m_startedTasks;
     qint64 m_primedPid = 0;
     WaveFormatRecord m_primedFormat;
+    QString m_primedInput;
     // Primed tasks ended before they were heard from: they are sent away when they are.
     QList<qint64> m_endedPrimed;
     bool m_taskResponded = false;
