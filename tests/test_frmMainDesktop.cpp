@@ -7,8 +7,8 @@
 #include "TestContext.h"
 #include "XDisplay.h"
 #include "common/AutomationDate.h"
-#include "diagnostics/SysTrayIcon.h"
 #include "shell/frmMain.h"
+#include "tray/SysTrayIcon.h"
 
 #include <QAbstractButton>
 #include <QAction>

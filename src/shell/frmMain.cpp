@@ -4,12 +4,9 @@
 #include "common/MessageBox.h"
 #include "common/ProgramFiles.h"
 #include "common/Twips.h"
-#include "diagnostics/SysTrayIcon.h"
 #include "diagnostics/Trap.h"
-#include "diagnostics/clsSysTrayMgr.h"
 #include "diagnostics/frmElog.h"
 #include "diagnostics/frmErrors.h"
-#include "diagnostics/frmSysTray.h"
 #include "options/frmOptions.h"
 #include "options/frmSelectRecordDirectory.h"
 #include "platform/DesktopNotifications.h"
@@ -31,6 +28,9 @@
 #include "sideactions/frmMixerProfiles.h"
 #include "store/GridColumns.h"
 #include "store/RecordsetModel.h"
+#include "tray/SysTrayIcon.h"
+#include "tray/clsSysTrayMgr.h"
+#include "tray/frmSysTray.h"
 
 #include <QAction>
 #include <QApplication>
