@@ -5,7 +5,7 @@
 #include "PulseFixture.h"
 #include "TestContext.h"
 #include "TestFiles.h"
-#include "common/ProcessLauncher.h"
+#include "platform/ProcessLauncher.h"
 #include "sideactions/LaunchMixer.h"
 #include "sideactions/Volume.h"
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "common/Clock.h"
-#include "common/ProcessLauncher.h"
 #include "platform/AudioDevices.h"
 #include "platform/DesktopNotifications.h"
 #include "platform/DiskSpace.h"
 #include "platform/Joystick.h"
 #include "platform/Mixer.h"
 #include "platform/NetworkConnections.h"
+#include "platform/ProcessLauncher.h"
 #include "platform/SleepInhibitor.h"
 #include "platform/WindowList.h"
 #include "shell/AppContext.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/ProcessLauncher.h"
+#include "platform/ProcessLauncher.h"
 
 #include <QList>
 #include <QSet>
