@@ -5,7 +5,7 @@
 #include "RecordingsListFixture.h"
 #include "player/PlayerChoice.h"
 #include "player/PlayerPanels.h"
-#include "store/RecordingsListCommands.h"
+#include "recordingslist/RecordingsListCommands.h"
 
 #include <QFile>
 #include <QTemporaryDir>

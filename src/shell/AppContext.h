@@ -9,6 +9,8 @@
 #include "formats/clsRecordingFormat.h"
 #include "recording/Recorder.h"
 #include "recording/RecorderNotifications.h"
+#include "recordingslist/RecordingsList.h"
+#include "recordingslist/SavedLists.h"
 #include "scheduling/ProgramFormServices.h"
 #include "scheduling/ProgramListCommands.h"
 #include "scheduling/Scheduler.h"
@@ -16,9 +18,7 @@
 #include "store/AppDatabase.h"
 #include "store/AppFolders.h"
 #include "store/Options.h"
-#include "store/RecordingsList.h"
 #include "store/RegKeys.h"
-#include "store/SavedLists.h"
 
 class AudioDevices;
 class Clock;
