@@ -651,4 +651,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestConversion)
+#include "platform/StorageDiskSpace.h"
 #include "test_conversion.moc"

@@ -7,6 +7,7 @@
 #include "TestContext.h"
 #include "XDisplay.h"
 #include "common/AutomationDate.h"
+#include "platform/FreedesktopNotifications.h"
 #include "shell/frmMain.h"
 #include "tray/SysTrayIcon.h"
 

@@ -8,9 +8,3 @@ public:
     // sound server.
     virtual int CountCaptureSources() = 0;
 };
-
-// The PulseAudio server of the session (PipeWire's pulse server serves as well).
-class PulseAudioDevices : public AudioDevices {
-public:
-    int CountCaptureSources() override;
-};

@@ -11,6 +11,7 @@
 #include "options/frmSelectRecordDirectory.h"
 #include "platform/DesktopNotifications.h"
 #include "platform/Joystick.h"
+#include "platform/ProcessLauncher.h"
 #include "player/MediaPlayerAvailable.h"
 #include "player/PlayPanels.h"
 #include "player/PlayerChoice.h"
@@ -298,8 +299,9 @@ void frmMain::ConnectPlayers()
 {
     m_playPanels =
         std::make_unique<PlayPanels>(m_ctx.log, m_ctx.options, m_ctx.appStatus, m_ctx.mixer, this);
-    m_playerChoice = std::make_unique<PlayerChoice>(m_ctx.log, m_ctx.registry, m_ctx.options,
-                                                    m_ctx.messageBox, *m_playPanels);
+    m_playerChoice = std::make_unique<PlayerChoice>(
+        m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.messageBox, *m_playPanels,
+        [this](const QString& file) { return m_ctx.launcher.OpenWithDefaultProgram(file); });
     m_playerChoice->CheckMediaPlayerControl();
     m_playerChoice->GetPlayerSetting();
     for (const char* name : {"ToolbarMain.Play", "mnuPlayRecent"})

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "platform/AudioDevices.h"
+
+// The PulseAudio server of the session (PipeWire's pulse server serves as well).
+class PulseAudioDevices : public AudioDevices {
+public:
+    int CountCaptureSources() override;
+};
