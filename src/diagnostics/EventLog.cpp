@@ -6,8 +6,6 @@
 #include "diagnostics/clsError.h"
 #include "store/EventLogTable.h"
 
-#include <QLoggingCategory>
-
 Q_LOGGING_CATEGORY(lcEventLog, "nightreel.eventlog")
 
 EventLog::EventLog(EventLogTable& table, clsError& error, const Clock& clock)

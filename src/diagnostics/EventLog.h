@@ -1,7 +1,11 @@
 #pragma once
 
+#include <QLoggingCategory>
 #include <QString>
 #include <functional>
+
+// The program's diagnostic output for the log: every entry, and what could not be written.
+Q_DECLARE_LOGGING_CATEGORY(lcEventLog)
 
 class Clock;
 class EventLogTable;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <exception>
 
 class AppDatabase;
 class MessageBoxPresenter;
@@ -46,6 +47,7 @@ private:
     void FitMessageColumn();
     void SaveSettings();
     void RefreshDataElog();
+    static void ReportUnusableLog(const std::exception& failure);
     void OnRowsChanged();
     void tmrRefresh_Timer();
     void ToggleSelectAll();
