@@ -1,5 +1,14 @@
 #pragma once
 
+#include <QString>
+
+// One source of the sound server: its name, which stays the same across restarts, and the
+// description a user knows it by ("Monitor of Built-in Audio").
+struct CaptureSource {
+    QString name;
+    QString description;
+};
+
 // The sound system's capture devices, as far as the scheduler needs to know them.
 class AudioDevices {
 public:
