@@ -144,6 +144,19 @@ double At(const QString& time, int addDays = 0)
     return Programs::At(kDay.year(), kDay.month(), kDay.day(), time) + addDays;
 }
 
+// The process id of the task started ahead for the link's channel, 0 when none runs.
+qint64 PrimedTaskOf(const RecordingTaskLink& link)
+{
+    const QByteArray wanted = "--primed" + QByteArray(1, '\0') + link.ServerName().toUtf8();
+    for (const QString& entry : QDir("/proc").entryList(QDir::Dirs)) {
+        QFile cmdline("/proc/" + entry + "/cmdline");
+        if (entry.toLongLong() > 0 && cmdline.open(QIODevice::ReadOnly) &&
+            cmdline.readAll().contains(wanted))
+            return entry.toLongLong();
+    }
+    return 0;
+}
+
 } // namespace
 
 class TestRecordingCycle : public QObject {
@@ -155,11 +168,12 @@ private slots:
     void scheduledProgramRecordsIntoItsFile();
     void eachProgramRecordsFromItsInput_data();
     void eachProgramRecordsFromItsInput();
+    void taskStartedAheadIsTakenOverOrEnded_data();
+    void taskStartedAheadIsTakenOverOrEnded();
     void openWindowStartsAtOnceAndEndsByTheClock();
     void programEnteredThroughTheEditorIsRecorded();
     void dayLongRecordingStopsByTheClock();
     void recordingWithoutDataFails();
-    void manualRecordingNeedsHalfAMegabyteAboveTheLimit();
     void recordingToConvertCapturesPcmAndQueuesIt();
     void aStopAskedWhileTheTaskStartsReachesIt();
     void aWriteErrorKeepsWhatWasWritten();
@@ -300,8 +314,6 @@ void TestRecordingCycle::scheduledProgramRecordsIntoItsFile()
     QVERIFY(!c.ctx().appStatus.Recording());
 }
 
-// A program whose window is already open starts on the first tick, with the length of what
-// is left of it, and ends at its end.
 void TestRecordingCycle::eachProgramRecordsFromItsInput_data()
 {
     QTest::addColumn<QString>("programInput");
@@ -363,6 +375,71 @@ void TestRecordingCycle::eachProgramRecordsFromItsInput()
     QCOMPARE(messages, recorded == "unplugged.monitor" ? QStringList{missing} : QStringList{});
 }
 
+void TestRecordingCycle::taskStartedAheadIsTakenOverOrEnded_data()
+{
+    QTest::addColumn<QString>("meanwhile");
+    QTest::addColumn<bool>("recorded");
+
+    QTest::newRow("taken over") << "" << true;
+    QTest::newRow("task died") << "kill" << true;
+    QTest::newRow("program removed") << "DELETE FROM Programs" << false;
+    QTest::newRow("program disabled") << "UPDATE Programs SET Enabled = 0" << false;
+}
+
+// Seconds ahead of a scheduled start its task comes up with the capture open and no file.
+// The start at the due second takes it over and records as any start would; a start that is
+// refused by then ends it without a file or a word in the log, and one that died is replaced.
+void TestRecordingCycle::taskStartedAheadIsTakenOverOrEnded()
+{
+    QFETCH(QString, meanwhile);
+    QFETCH(bool, recorded);
+
+    Cycle c;
+    c.AddProgram(Programs::Weekly("Primed", "10:00:05", "10:00:07", "0100000"));
+    c.tc.clock.Set(At("10:00:02"));
+    c.ctx().scheduler.ScheduleNextRecording();
+    c.recorder().HeartbeatTimer().Timer1_Timer();
+    qint64 primed = 0;
+    QTRY_VERIFY_WITH_TIMEOUT((primed = PrimedTaskOf(c.recorder().Link())) != 0, 5000);
+    QTest::qWait(1000);
+    QVERIFY(c.FilesInFolder().isEmpty());
+    if (meanwhile == "kill") {
+        QVERIFY(QProcess::execute("kill", {"-KILL", QString::number(primed)}) == 0);
+    } else if (!meanwhile.isEmpty()) {
+        QSqlQuery(c.ctx().database.db.Connection()).exec(meanwhile);
+        c.ctx().database.DataPrograms.Requery();
+        c.ctx().scheduler.ScheduleNextRecording();
+    }
+
+    QElapsedTimer elapsed;
+    elapsed.start();
+    for (double at = At("10:00:04"); at <= At("10:00:09") && elapsed.elapsed() < 20000;
+         at = AutomationDate::AddSeconds(at, 0.25)) {
+        c.tc.clock.Set(at);
+        c.recorder().HeartbeatTimer().Timer1_Timer();
+        QTest::qWait(250);
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!c.ctx().appStatus.Recording(), 12000);
+    QTRY_VERIFY_WITH_TIMEOUT(PrimedTaskOf(c.recorder().Link()) == 0, 5000);
+    QCOMPARE(c.Entries().size(), 0);
+    if (!recorded) {
+        QCOMPARE(c.starts, 0);
+        QVERIFY(c.recorder().Link().StartedTasks().isEmpty());
+        QVERIFY(c.FilesInFolder().isEmpty());
+        return;
+    }
+    QCOMPARE(c.starts, 1);
+    QCOMPARE(c.recorder().Link().StartedTasks().size(), 1);
+    QCOMPARE(c.recorder().Link().StartedTasks()[0] == primed, meanwhile.isEmpty());
+    QCOMPARE(c.FilesInFolder(), QStringList{"060126_100005.WAV"});
+    double rms = 0, frequency = 0;
+    QVERIFY(ToneOf(c.folder + "/060126_100005.WAV", rms, frequency));
+    QVERIFY2(rms > 0.1, qPrintable(QString::number(rms)));
+    QCOMPARE(c.Recordings().size(), 1);
+}
+
+// A program whose window is already open starts on the first tick, with the length of what
+// is left of it, and ends at its end.
 void TestRecordingCycle::openWindowStartsAtOnceAndEndsByTheClock()
 {
     Cycle c;
@@ -451,42 +528,6 @@ void TestRecordingCycle::recordingWithoutDataFails()
     QVERIFY(c.FilesInFolder().isEmpty());
     QVERIFY(c.Recordings().isEmpty());
     QVERIFY(c.tc.launcher.started.isEmpty());
-}
-
-// A manual request is refused with free space a quarter megabyte above the limit and
-// accepted with half a megabyte; a manual recording stops without a question.
-void TestRecordingCycle::manualRecordingNeedsHalfAMegabyteAboveTheLimit()
-{
-    Cycle c;
-    AppContext& ctx = c.ctx();
-    ctx.options.StopRecMegsLeft = 25;
-    ctx.options.ConfirmStopManualRecording = false;
-    c.recorder().Status().ProgramId = -1;
-    c.recorder().Manual().Format.SetToPcm(1, 22050, 16);
-    c.tc.diskSpace.freeMb = 25.25;
-    const double now = At("12:00:00");
-    c.tc.clock.Set(now);
-
-    qint32 id = -1;
-    QString description = "Manual";
-    c.control->StartRecording(id, now, AutomationDate::AddSeconds(now, 60), description);
-    QVERIFY(!ctx.appStatus.Recording());
-    QCOMPARE(c.tc.messageBox.asked.size(), 1);
-    QCOMPARE(c.tc.messageBox.asked[0].title,
-             QString("Recording not started due to insufficient disk space."));
-    QVERIFY(c.recorder().Link().StartedTasks().isEmpty());
-
-    c.tc.diskSpace.freeMb = 25.5;
-    c.control->StartRecording(id, now, AutomationDate::AddSeconds(now, 60), description);
-    QVERIFY(ctx.appStatus.Recording());
-    QCOMPARE(c.recorder().Link().StartedTasks().size(), 1);
-    QTest::qWait(1500);
-    c.control->HandleStopRecordingRequest(ctx.options.ConfirmStopManualRecording);
-    QTRY_VERIFY_WITH_TIMEOUT(!ctx.appStatus.Recording(), 12000);
-    QCOMPARE(c.tc.messageBox.asked.size(), 1);
-    QCOMPARE(c.FilesInFolder(), QStringList{"060126_120000.WAV"});
-    QCOMPARE(c.Recordings().size(), 1);
-    QCOMPARE(c.Recordings()[0].title, QString("Manual"));
 }
 
 // An MP3 format to be converted is captured as 16-bit PCM into a ".WAV.TMP" file beside the

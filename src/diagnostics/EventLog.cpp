@@ -6,6 +6,8 @@
 #include "diagnostics/clsError.h"
 #include "store/EventLogTable.h"
 
+#include <QCoreApplication>
+
 Q_LOGGING_CATEGORY(lcEventLog, "nightreel.eventlog")
 
 EventLog::EventLog(EventLogTable& table, clsError& error, const Clock& clock)
@@ -43,12 +45,12 @@ void EventLog::LogEvent(qint16 type, const QString& message, const QString& deta
 
 QString EventLog::RuntimeErrorDetails(const QString& procedureName, const RuntimeError& error)
 {
-    return QStringLiteral("Module: ") + procedureName + QStringLiteral("\r\nError: ") +
-           Text::Str(error.Number()) + QStringLiteral(", ") + error.Text();
+    return tr("Module: ") + procedureName + tr("\r\nError: ") + Text::Str(error.Number()) +
+           QStringLiteral(", ") + error.Text();
 }
 
 void EventLog::LogRuntimeError(const QString& procedureName, const RuntimeError& error)
 {
-    LogEvent(EventError, QStringLiteral("Nightreel 2000 Runtime Error"),
+    LogEvent(EventError, tr("Nightreel 2000 Runtime Error"),
              RuntimeErrorDetails(procedureName, error));
 }

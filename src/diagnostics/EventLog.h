@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QString>
 #include <functional>
@@ -42,4 +43,6 @@ private:
     clsError& m_error;
     const Clock& m_clock;
     Listener m_listener;
+
+    Q_DECLARE_TR_FUNCTIONS(EventLog)
 };

@@ -11,6 +11,7 @@
 #include "store/Options.h"
 #include "store/Recordset.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <cmath>
@@ -62,16 +63,7 @@ void AddRow(AppDatabase& database, const RecordingRow& row)
     try {
         if (IsFileInRecordingsList(database, row.File))
             return;
-        Recordset& rs = database.DataRecordings.recordset();
-        rs.AddNew();
-        rs.SetValue(QStringLiteral("Title"), row.Title);
-        rs.SetValue(QStringLiteral("StartTime"), row.StartTime);
-        rs.SetValue(QStringLiteral("EndTime"), row.EndTime);
-        rs.SetValue(QStringLiteral("CompressionMethod"), row.CompressionMethod);
-        rs.SetValue(QStringLiteral("Size"), double(row.Size));
-        rs.SetValue(QStringLiteral("File"), row.File);
-        rs.Update();
-        rs.SetBookmark(rs.LastModified());
+        database.DataRecordings.recordset().SetBookmark(WriteRecordingRow(database, row));
     } catch (const std::exception&) {
         database.DataRecordings.recordset().CancelUpdate();
     }
@@ -151,9 +143,11 @@ bool ReadMp3(const QString& path, RecordingRow& row)
     row.Title = info.Title.isEmpty() ? GetFileNameFromPath(path) : info.Title;
     StartRow(path, row);
     row.StartTime = AutomationDate::AddSeconds(row.EndTime, -double(info.Duration));
-    row.CompressionMethod = QStringLiteral("MPEG Layer 3  ") + QString::number(info.Bitrate) +
-                            QStringLiteral(" kBits/s, ") + QString::number(info.Frequency) +
-                            QStringLiteral(" Hz, ") + info.Mode;
+    row.CompressionMethod = QCoreApplication::translate("MediaReaders", "MPEG Layer 3  ") +
+                            QString::number(info.Bitrate) +
+                            QCoreApplication::translate("MediaReaders", " kBits/s, ") +
+                            QString::number(info.Frequency) +
+                            QCoreApplication::translate("MediaReaders", " Hz, ") + info.Mode;
     return true;
 }
 

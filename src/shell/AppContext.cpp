@@ -3,6 +3,8 @@
 #include "common/Clock.h"
 #include "diagnostics/Trap.h"
 
+#include <QCoreApplication>
+
 AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     : clock(seams.clock)
     , messageBox(boxes)
@@ -38,7 +40,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     QObject::connect(&registry, &RegKeys::SaveFailed, &registry,
                      [this](const QString& section, const QString& name, const QString& value) {
                          log.LogEvent(EventError,
-                                      QStringLiteral("Error saving setting in registry."),
+                                      QCoreApplication::translate(
+                                          "RegKeys", "Error saving setting in registry."),
                                       section + u' ' + name + u' ' + value);
                      });
     QObject::connect(&database, &AppDatabase::ElogViewed, &error, &clsError::ElogViewed);
