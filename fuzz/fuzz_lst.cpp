@@ -1,6 +1,6 @@
 // Any bytes through the reader of saved recordings lists: every item it gives must be
 // the text between a pair of quotes of the input.
-#include "store/ListFile.h"
+#include "recordingslist/ListFile.h"
 
 #include <cstdint>
 

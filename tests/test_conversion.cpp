@@ -12,8 +12,8 @@
 #include "TestFiles.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/ModuleFileTime.h"
+#include "recordingslist/RecordingsList.h"
 #include "shell/MainFormController.h"
-#include "store/RecordingsList.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -651,4 +651,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestConversion)
+#include "platform/StorageDiskSpace.h"
 #include "test_conversion.moc"

@@ -255,7 +255,7 @@ private slots:
 
         tc.ctx->database.CheckDatabaseMissing();
         QCOMPARE(tc.ctx->error.DatabaseMissing(), !liveFile);
-        tc.ctx->database.RestoreOriginalDatabase();
+        tc.ctx->RestoreOriginalDatabase();
         tc.ctx->database.CheckDatabaseMissing();
         QVERIFY(!tc.ctx->error.DatabaseMissing());
         QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);

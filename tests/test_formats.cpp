@@ -313,7 +313,8 @@ private slots:
         QCOMPARE(q.value(2).toInt(), 0);
         QCOMPARE(q.value(3).toByteArray(), QByteArray(1, '\0'));
         clsRecordingFormat next;
-        QCOMPARE(tc.ctx->defaultFormats.ReadDefaultFormatInfo(next), qint16(0));
+        tc.ctx->defaultFormats.ReadDefaultFormatInfo(next);
+        QCOMPARE(next.nSamplesPerSec(), 11025u);
     }
 
     void theCatalogueListsOnlyWhatItCanDescribe()

@@ -2,10 +2,10 @@
 #include "Programs.h"
 #include "TestContext.h"
 #include "TestFiles.h"
-#include "diagnostics/SysTrayPictures.h"
-#include "diagnostics/clsSysTrayMgr.h"
 #include "recording/ModeDisplay.h"
 #include "shell/frmMain.h"
+#include "tray/SysTrayPictures.h"
+#include "tray/clsSysTrayMgr.h"
 
 #include <QAction>
 #include <QApplication>

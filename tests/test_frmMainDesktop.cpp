@@ -8,8 +8,9 @@
 #include "TestContext.h"
 #include "XDisplay.h"
 #include "common/AutomationDate.h"
-#include "diagnostics/SysTrayIcon.h"
+#include "platform/FreedesktopNotifications.h"
 #include "shell/frmMain.h"
+#include "tray/SysTrayIcon.h"
 
 #include <QAbstractButton>
 #include <QAction>

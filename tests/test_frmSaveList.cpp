@@ -1,7 +1,7 @@
 #include "TestContext.h"
-#include "store/SavedLists.h"
-#include "store/frmLoadList.h"
-#include "store/frmSaveList.h"
+#include "recordingslist/SavedLists.h"
+#include "recordingslist/frmLoadList.h"
+#include "recordingslist/frmSaveList.h"
 
 #include <QCheckBox>
 #include <QComboBox>

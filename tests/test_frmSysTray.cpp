@@ -7,10 +7,10 @@
 #include "TestContext.h"
 #include "XDisplay.h"
 #include "common/AutomationDate.h"
-#include "diagnostics/SysTrayIcon.h"
-#include "diagnostics/clsSysTrayMgr.h"
-#include "diagnostics/frmSysTray.h"
 #include "shell/frmMain.h"
+#include "tray/SysTrayIcon.h"
+#include "tray/clsSysTrayMgr.h"
+#include "tray/frmSysTray.h"
 
 #include <QAction>
 #include <QApplication>

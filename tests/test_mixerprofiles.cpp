@@ -5,7 +5,8 @@
 #include "PulseFixture.h"
 #include "TestContext.h"
 #include "TestFiles.h"
-#include "common/ProcessLauncher.h"
+#include "platform/DetachedProcessLauncher.h"
+#include "platform/ProcessLauncher.h"
 #include "sideactions/LaunchMixer.h"
 #include "sideactions/Volume.h"
 
@@ -290,4 +291,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMixerProfiles)
+#include "platform/MixsetMixer.h"
 #include "test_mixerprofiles.moc"

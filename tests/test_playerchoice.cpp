@@ -3,9 +3,10 @@
 // registry, and recordings that are gone.
 #include "DesktopData.h"
 #include "RecordingsListFixture.h"
+#include "platform/OpenWithDefaultProgram.h"
 #include "player/PlayerChoice.h"
 #include "player/PlayerPanels.h"
-#include "store/RecordingsListCommands.h"
+#include "recordingslist/RecordingsListCommands.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -75,7 +76,7 @@ struct GridView : RecordingsListView {
 
 struct Fixture : RecordingsListFixture {
     explicit Fixture(bool available = true)
-        : choice(ctx.log, ctx.registry, ctx.options, tc.messageBox, panels,
+        : choice(ctx.log, ctx.registry, ctx.options, tc.messageBox, panels, &OpenWithDefaultProgram,
                  [available] { return available; })
     {
         choice.CheckMediaPlayerControl();

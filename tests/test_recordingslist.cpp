@@ -2,8 +2,8 @@
 #include "RecordingsListFixture.h"
 #include "TaskWaveSource.h"
 #include "TestFiles.h"
-#include "store/ListFile.h"
-#include "store/SavedLists.h"
+#include "recordingslist/ListFile.h"
+#include "recordingslist/SavedLists.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "LogCapture.h"
 #include "RecordingsListFixture.h"
-#include "store/RecordingsListCommands.h"
+#include "recordingslist/RecordingsListCommands.h"
 
 #include <QDir>
 #include <QFile>

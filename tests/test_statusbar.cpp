@@ -129,4 +129,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestStatusBar)
+#include "platform/StorageDiskSpace.h"
 #include "test_statusbar.moc"

@@ -2,7 +2,7 @@
 // the timer, and reach the platform only when something changed.
 #include "CountingSysTray.h"
 #include "TestContext.h"
-#include "diagnostics/clsSysTrayMgr.h"
+#include "tray/clsSysTrayMgr.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,6 +1,7 @@
 // The privileged wake helper on a system bus of the test's own, with polkit's stand-in,
 // asked by the recorder's own client; the helper writes a clock folder of the test's.
 #include "SystemBusStandIn.h"
+#include "platform/LogindSleepInhibitor.h"
 #include "platform/SleepInhibitor.h"
 
 #include <QDBusConnectionInterface>

@@ -10,11 +10,11 @@
 #include "formats/clsRecordingFormat.h"
 #include "nightreeladaptor.h"
 #include "recording/Recorder.h"
+#include "recordingslist/RecordingsList.h"
 #include "scheduling/ProgramListCommands.h"
 #include "scheduling/Scheduler.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
-#include "store/RecordingsList.h"
 #include "store/Recordset.h"
 
 #include <QCoreApplication>

@@ -4,15 +4,14 @@
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
 #include "diagnostics/clsError.h"
-#include "store/AppDatabase.h"
+#include "store/EventLogTable.h"
 
 #include <QCoreApplication>
-#include <QLoggingCategory>
 
 Q_LOGGING_CATEGORY(lcEventLog, "nightreel.eventlog")
 
-EventLog::EventLog(AppDatabase& database, clsError& error, const Clock& clock)
-    : m_database(database)
+EventLog::EventLog(EventLogTable& table, clsError& error, const Clock& clock)
+    : m_table(table)
     , m_error(error)
     , m_clock(clock)
 {
@@ -27,34 +26,21 @@ void EventLog::LogEvent(qint16 type, const QString& message, const QString& deta
     else
         qCCritical(lcEventLog).noquote() << message << '|' << details;
     try {
-        Recordset& rs = m_database.ElogRecordset();
-        const int count = CountEventLogRows();
+        const int count = m_table.RowCount();
         // Counted before the insert: the row that makes 951 does not yet fill the log.
         m_error.SetElogFull(count >= FullAt);
         if (count < LimitRows) {
-            rs.AddNew();
-            rs.SetValue(QStringLiteral("Type"), type);
-            rs.SetValue(QStringLiteral("DateAndTime"), m_clock.Now());
-            rs.SetValue(QStringLiteral("Message"), message);
-            rs.SetValue(QStringLiteral("Details"), details);
-            rs.Update();
+            m_table.Append(type, m_clock.Now(), message, details);
             if (type != EventInformation)
                 m_error.NewElogMsgAdded();
         }
-    } catch (const std::exception&) {
-        // A failure to log can't be logged; the caller goes on.
+    } catch (const std::exception& failure) {
+        // A failure to log can't be logged: the diagnostic output has it, and the caller
+        // goes on.
+        qCCritical(lcEventLog).noquote() << "Not written to the event log:" << failure.what();
     }
     if (m_listener)
         m_listener(type, message, details);
-}
-
-int EventLog::CountEventLogRows()
-{
-    Recordset clone = m_database.ElogRecordset().Clone();
-    if (clone.IsEOF())
-        return 0;
-    clone.MoveLast();
-    return clone.RecordCount();
 }
 
 QString EventLog::RuntimeErrorDetails(const QString& procedureName, const RuntimeError& error)

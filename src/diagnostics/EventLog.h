@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 #include <QString>
 #include <functional>
 
-class AppDatabase;
+// The program's diagnostic output for the log: every entry, and what could not be written.
+Q_DECLARE_LOGGING_CATEGORY(lcEventLog)
+
 class Clock;
+class EventLogTable;
 class RuntimeError;
 class clsError;
 
@@ -15,9 +19,9 @@ enum EventType : qint16 { EventInformation = 0, EventWarning = 1, EventError = 2
 // diagnostic output, so that what happens while the database is unusable is not lost.
 class EventLog {
 public:
-    // The log lives in the database; its fill state and unviewed entries go to the error
-    // state.
-    EventLog(AppDatabase& database, clsError& error, const Clock& clock);
+    // The log lives in the database's table; its fill state and unviewed entries go to the
+    // error state.
+    EventLog(EventLogTable& table, clsError& error, const Clock& clock);
 
     static constexpr int FullAt = 951;
     static constexpr int LimitRows = 1000;
@@ -35,9 +39,7 @@ public:
     void SetListener(Listener listener) { m_listener = std::move(listener); }
 
 private:
-    int CountEventLogRows();
-
-    AppDatabase& m_database;
+    EventLogTable& m_table;
     clsError& m_error;
     const Clock& m_clock;
     Listener m_listener;

@@ -18,3 +18,9 @@ void Report(EventLog& log, const char* procedureName, const std::exception& erro
 }
 
 } // namespace TrapDetail
+
+void ReportEach(EventLog& log, const char* procedureName, const QList<std::exception_ptr>& failures)
+{
+    for (const std::exception_ptr& failure : failures)
+        Trap(log, procedureName, [&] { std::rethrow_exception(failure); });
+}

@@ -2,6 +2,7 @@
 
 #include "common/RuntimeError.h"
 
+#include <QList>
 #include <QString>
 #include <exception>
 
@@ -27,6 +28,11 @@ template <typename Body> bool Trap(EventLog& log, const char* procedureName, Bod
     }
     return false;
 }
+
+// Reports each failure that a routine which carries on after errors gave back, under the
+// routine's name.
+void ReportEach(EventLog& log, const char* procedureName,
+                const QList<std::exception_ptr>& failures);
 
 // Runs each step in turn under one routine's trap: a failing step is reported and the next
 // still runs, as a routine that carries on after an error does.

@@ -2,6 +2,7 @@
 
 #include "common/MessageBox.h"
 #include "common/Twips.h"
+#include "diagnostics/EventLog.h"
 #include "diagnostics/clsError.h"
 #include "diagnostics/frmElogDetails.h"
 #include "gui/FormPlacement.h"
@@ -127,10 +128,11 @@ frmElog::frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
         m_database.DataElog.SetRecordSource(GridColumns::SortStatement(
             QStringLiteral("EventLog"),
             GridColumns::DataFieldOf(GridColumns::EventLog(), QStringLiteral("Date/Time")), false));
-        RefreshDataElog();
-    } catch (const std::exception&) {
-        // Without a usable database the log is shown empty; there is nowhere to report it.
+    } catch (const std::exception& failure) {
+        // Without a usable database the log is shown empty.
+        ReportUnusableLog(failure);
     }
+    RefreshDataElog();
     UpdateElogButtons();
     FormResize();
     DBGridLog->setFocus();
@@ -253,10 +255,17 @@ void frmElog::RefreshDataElog()
     m_refreshing = true;
     try {
         m_database.DataElog.Refresh();
-    } catch (const std::exception&) {
-        // The log can't report a failure to read itself; the grid keeps what it shows.
+    } catch (const std::exception& failure) {
+        // The grid keeps what it shows.
+        ReportUnusableLog(failure);
     }
     m_refreshing = false;
+}
+
+void frmElog::ReportUnusableLog(const std::exception& failure)
+{
+    // The log can't take an entry about itself: the diagnostic output has it.
+    qCWarning(lcEventLog).noquote() << "The event log can't be read or cleared:" << failure.what();
 }
 
 void frmElog::UpdateElogButtons()
@@ -355,13 +364,14 @@ void frmElog::RemoveElogItems()
                                                tr("This will clear the error log. Proceed?"),
                                                MsgIcon::None, MsgButtons::YesNo);
     if (answer == MsgResult::Yes) {
+        RefreshDataElog();
         try {
-            RefreshDataElog();
             m_database.db.Execute(QStringLiteral("DELETE FROM [EventLog]"));
-            RefreshDataElog();
-        } catch (const std::exception&) {
-            // A log that can't be cleared stays as it is; there is nowhere to report it.
+        } catch (const std::exception& failure) {
+            // A log that can't be cleared stays as it is.
+            ReportUnusableLog(failure);
         }
+        RefreshDataElog();
     }
     // Also on No: the full condition stays hidden until the next entry recounts the rows.
     m_error.SetElogFull(false);

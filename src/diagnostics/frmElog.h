@@ -3,6 +3,7 @@
 #include "ui_frmElog.h"
 
 #include <QDialog>
+#include <exception>
 
 class AppDatabase;
 class MessageBoxPresenter;
@@ -44,6 +45,7 @@ private:
     void FitMessageColumn();
     void SaveSettings();
     void RefreshDataElog();
+    static void ReportUnusableLog(const std::exception& failure);
     void OnRowsChanged();
     void tmrRefresh_Timer();
     void ToggleSelectAll();

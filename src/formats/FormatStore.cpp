@@ -3,8 +3,8 @@
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
 #include "diagnostics/Trap.h"
+#include "formats/clsProgramFlags.h"
 #include "formats/clsRecordingFormat.h"
-#include "scheduling/clsProgramFlags.h"
 #include "store/DataControl.h"
 #include "store/Options.h"
 #include "store/Recordset.h"
@@ -136,38 +136,36 @@ void DefaultFormatStore::SaveDefaultFormatInfo(clsRecordingFormat& format)
     });
 }
 
-qint16 DefaultFormatStore::ReadDefaultFormatInfo(clsRecordingFormat& format)
+void DefaultFormatStore::ReadDefaultFormatInfo(clsRecordingFormat& format)
 {
-    try {
-        format.SaveMP3FileExtension = ParseBoolSetting(m_registry.GetSetting(
-            kSection, QStringLiteral("SaveMP3FileExtension"), QStringLiteral("True")));
-        format.ConvertToMP3 = ParseBoolSetting(m_registry.GetSetting(
-            kSection, QStringLiteral("ConvertToMP3"), BoolText(RunsOnWindows9x)));
+    format.SaveMP3FileExtension = ParseBoolSetting(m_registry.GetSetting(
+        kSection, QStringLiteral("SaveMP3FileExtension"), QStringLiteral("True")));
+    format.ConvertToMP3 = ParseBoolSetting(
+        m_registry.GetSetting(kSection, QStringLiteral("ConvertToMP3"), BoolText(RunsOnWindows9x)));
 
-        Recordset& rs = m_dataInfo.recordset();
-        rs.MoveFirst();
-        const WaveFormatRecord stored =
-            ReadRecordColumns(rs, QStringLiteral("wfxdflt_"), QStringLiteral("wfxdfltExtra"));
-        const int cb = rs.Value(QStringLiteral("wfxdflt_cbSize")).toInt();
-        if (cb >= 0 && cb <= clsRecordingFormat::nMaxExtraBytes) {
-            format.SetWaveFormatEx(m_log, stored);
-        } else {
-            // A row made for compression drivers with larger formats than this machine
-            // has. The format can't hold its extra bytes, so it keeps the cbSize it had
-            // and phone quality replaces the row.
-            format.SetToPcmPhoneQuality();
-            SaveDefaultFormatInfo(format);
-        }
-        format.CalculateTextCompressionMethodString();
-        return 0;
-    } catch (const std::exception&) {
-        return 1;
+    Recordset& rs = m_dataInfo.recordset();
+    rs.MoveFirst();
+    const WaveFormatRecord stored =
+        ReadRecordColumns(rs, QStringLiteral("wfxdflt_"), QStringLiteral("wfxdfltExtra"));
+    const int cb = rs.Value(QStringLiteral("wfxdflt_cbSize")).toInt();
+    if (cb >= 0 && cb <= clsRecordingFormat::nMaxExtraBytes) {
+        format.SetWaveFormatEx(m_log, stored);
+    } else {
+        // A row made for compression drivers with larger formats than this machine
+        // has. The format can't hold its extra bytes, so it keeps the cbSize it had
+        // and phone quality replaces the row.
+        format.SetToPcmPhoneQuality();
+        SaveDefaultFormatInfo(format);
     }
+    format.CalculateTextCompressionMethodString();
 }
 
 void DefaultFormatStore::GetWfxDefault(clsRecordingFormat& WfxDefault)
 {
-    if (ReadDefaultFormatInfo(WfxDefault) != 0) {
+    try {
+        ReadDefaultFormatInfo(WfxDefault);
+    } catch (const std::exception&) {
+        // Not an error to report: a missing or unreadable row has phone quality as its rule.
         WfxDefault.SetToPcmPhoneQuality();
         SaveDefaultFormatInfo(WfxDefault);
     }

@@ -28,9 +28,9 @@ public:
     // Replaces the Info row by one of this format and saves the two flags; a format other
     // than MP3 saves the flags' defaults, into the format as well.
     void SaveDefaultFormatInfo(clsRecordingFormat& format);
-    // 0 on success, 1 on any failure. A row with more extra bytes than a format can hold is
-    // replaced by phone quality.
-    qint16 ReadDefaultFormatInfo(clsRecordingFormat& format);
+    // Throws when the row or the settings can't be read. A row with more extra bytes than a
+    // format can hold is replaced by phone quality.
+    void ReadDefaultFormatInfo(clsRecordingFormat& format);
     // The default format into WfxDefault; a row that can't be read is replaced by phone
     // quality.
     void GetWfxDefault(clsRecordingFormat& WfxDefault);

@@ -1,6 +1,6 @@
 #include "gui/InputChooser.h"
 
-#include "platform/AudioDevices.h"
+#include "platform/PulseAudioDevices.h"
 
 #include <algorithm>
 

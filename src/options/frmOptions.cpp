@@ -3,7 +3,6 @@
 #include "common/AutomationDate.h"
 #include "common/MessageBox.h"
 #include "common/TextHelpers.h"
-#include "diagnostics/SysTrayIcon.h"
 #include "diagnostics/Trap.h"
 #include "diagnostics/clsError.h"
 #include "formats/FormatStore.h"
@@ -15,6 +14,7 @@
 #include "options/frmSelectRecordDirectory.h"
 #include "store/Options.h"
 #include "store/RegKeys.h"
+#include "tray/SysTrayIcon.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QString>
 
 // One source of the sound server: its name, which stays the same across restarts, and the
@@ -17,12 +16,4 @@ public:
     // How many sources can be recorded from (monitors of outputs count too); 0 without a
     // sound server.
     virtual int CountCaptureSources() = 0;
-};
-
-// The PulseAudio server of the session (PipeWire's pulse server serves as well).
-class PulseAudioDevices : public AudioDevices {
-public:
-    int CountCaptureSources() override;
-    // Every source, the monitors of the outputs included, in the server's order.
-    QList<CaptureSource> CaptureSources();
 };

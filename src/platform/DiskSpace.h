@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QByteArray>
-#include <QHash>
 #include <QString>
 
 // Megabytes (bytes divided by 1024 twice) of the file system that holds a folder.
@@ -26,15 +24,4 @@ public:
 protected:
     // The figures of the file system that holds an existing folder; zeros when unknown.
     virtual DiskSpaceMb Measure(const QString& folder) = 0;
-};
-
-// The real file systems, through statvfs: the guard asks four times a second, and
-// QStorageInfo reads the whole mount table on each call.
-class StorageDiskSpace : public DiskSpace {
-protected:
-    DiskSpaceMb Measure(const QString& folder) override;
-
-private:
-    // The folders asked about, in the file system's encoding: the same few on every round.
-    QHash<QString, QByteArray> m_encoded;
 };

@@ -1,4 +1,4 @@
-#include "platform/DesktopNotifications.h"
+#include "platform/FreedesktopNotifications.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>

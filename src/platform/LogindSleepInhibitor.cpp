@@ -1,4 +1,4 @@
-#include "platform/SleepInhibitor.h"
+#include "platform/LogindSleepInhibitor.h"
 
 #include <QDBusMessage>
 #include <QFile>

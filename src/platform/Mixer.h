@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLibrary>
 #include <QString>
 
 // The sound server's mixer as the system uses it: the whole mixer saved to a profile file
@@ -19,27 +18,4 @@ public:
     // Every channel of the default sink to percent (clamped to 0..100); false when nothing
     // was set.
     virtual bool SetVolume(int percent) = 0;
-};
-
-// The mixer library, loaded by name from a folder (the program's library folder when none is
-// given) at its first use, so that a program without it runs until a mixer is needed. A
-// library that can't be loaded, or lacks an entry point, is a RuntimeError of the call.
-class MixsetMixer : public Mixer {
-public:
-    explicit MixsetMixer(const QString& folder = QString());
-
-    int LoadMixerFile(const QString& path) override;
-    int SaveMixerFile(const QString& path) override;
-    int GetVolume() override;
-    bool SetVolume(int percent) override;
-
-private:
-    void Resolve();
-
-    QString m_folder;
-    QLibrary m_library;
-    int (*m_load)(const char*) = nullptr;
-    int (*m_save)(const char*) = nullptr;
-    int (*m_getMaster)() = nullptr;
-    int (*m_setMaster)(int) = nullptr;
 };

@@ -1,6 +1,7 @@
+#include "platform/MixsetMixer.h"
+
 #include "common/ProgramFiles.h"
 #include "common/RuntimeError.h"
-#include "platform/Mixer.h"
 
 #include <QFile>
 

@@ -24,10 +24,3 @@ public:
     // Takes the connection down; failures are not told.
     virtual void Deactivate(const QString& handle) = 0;
 };
-
-// NetworkManager on the system bus.
-class NetworkManagerConnections : public NetworkConnections {
-public:
-    QList<ActiveConnection> ActiveConnections() override;
-    void Deactivate(const QString& handle) override;
-};

@@ -1,4 +1,4 @@
-#include "platform/NetworkConnections.h"
+#include "platform/NetworkManagerConnections.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>

@@ -1,4 +1,4 @@
-#include "platform/AudioDevices.h"
+#include "platform/PulseAudioDevices.h"
 
 #include <pulse/pulseaudio.h>
 

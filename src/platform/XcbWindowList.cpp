@@ -1,4 +1,4 @@
-#include "platform/WindowList.h"
+#include "platform/XcbWindowList.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -4,7 +4,6 @@
 #include "common/MessageBox.h"
 #include "diagnostics/Trap.h"
 #include "player/MediaPlayerAvailable.h"
-#include "player/OpenWithDefaultProgram.h"
 #include "player/PlayerPanels.h"
 #include "store/Options.h"
 #include "store/RegKeys.h"
@@ -20,15 +19,14 @@ const QString kSettings = QStringLiteral("Settings");
 
 PlayerChoice::PlayerChoice(EventLog& log, RegKeys& registry, Options& options,
                            MessageBoxPresenter& messageBox, PlayerPanels& panels,
-                           std::function<bool()> probe, std::function<int(const QString&)> opener)
+                           std::function<int(const QString&)> opener, std::function<bool()> probe)
     : m_log(log)
     , m_registry(registry)
     , m_options(options)
     , m_messageBox(messageBox)
     , m_panels(panels)
     , m_probe(probe ? std::move(probe) : std::function<bool()>(&::MediaPlayerAvailable))
-    , m_opener(opener ? std::move(opener)
-                      : std::function<int(const QString&)>(&OpenWithDefaultProgram))
+    , m_opener(std::move(opener))
 {
 }
 

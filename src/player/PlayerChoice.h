@@ -23,11 +23,11 @@ public:
     // What settings written by earlier versions call the default program.
     static inline const QString FormerDefaultPlayer = QStringLiteral("Windows Default");
 
-    // probe tells whether the enhanced player can run; opener opens a file in the default
-    // program (see OpenWithDefaultProgram). Tests put in their own.
+    // opener opens a file in the desktop's default program (see OpenWithDefaultProgram);
+    // probe tells whether the enhanced player can run, MediaPlayerAvailable() when empty.
     PlayerChoice(EventLog& log, RegKeys& registry, Options& options,
                  MessageBoxPresenter& messageBox, PlayerPanels& panels,
-                 std::function<bool()> probe = {}, std::function<int(const QString&)> opener = {});
+                 std::function<int(const QString&)> opener, std::function<bool()> probe = {});
 
     // At the first activation, before GetPlayerSetting.
     void CheckMediaPlayerControl();

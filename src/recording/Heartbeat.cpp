@@ -2,11 +2,11 @@
 
 #include "common/AutomationDate.h"
 #include "common/Clock.h"
-#include "common/ProcessLauncher.h"
 #include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
+#include "platform/ProcessLauncher.h"
 #include "recording/clsRecordingStatus.h"
 #include "scheduling/Scheduler.h"
 #include "store/Options.h"

@@ -1,6 +1,9 @@
 #include "shell/AppContext.h"
 
 #include "common/Clock.h"
+#include "diagnostics/Trap.h"
+
+#include <QCoreApplication>
 
 AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     : clock(seams.clock)
@@ -12,10 +15,9 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , windows(seams.windows)
     , network(seams.network)
     , folders(appFolders)
+    , database(folders, messageBox)
     , log(database, error, clock)
     , boxes(seams.messageBox, log)
-    , registry(log)
-    , database(folders, log, error, messageBox)
     , scheduler(clock, database, log, messageBox, options)
     , mixerProfiles(log, mixer, folders.dataFolder + QStringLiteral("/mixer"))
     , defaultFormats(log, registry, options, database.DataInfo)
@@ -33,9 +35,31 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , desktopNotifications(seams.notifications)
     , recorderNotifications(log, options, appStatus, error, recorder, desktopNotifications)
 {
+    // The settings and the database report upward; their troubles are the log's and the
+    // error state's.
+    QObject::connect(&registry, &RegKeys::SaveFailed, &registry,
+                     [this](const QString& section, const QString& name, const QString& value) {
+                         log.LogEvent(EventError,
+                                      QCoreApplication::translate(
+                                          "RegKeys", "Error saving setting in registry."),
+                                      section + u' ' + name + u' ' + value);
+                     });
+    QObject::connect(&database, &AppDatabase::ElogViewed, &error, &clsError::ElogViewed);
+    QObject::connect(&database, &AppDatabase::DatabaseMissingChecked, &error,
+                     &clsError::SetDatabaseMissing);
     // The purge is part of the recorder's run, with a window or without; a window that is
     // there shows the list afterwards.
     QObject::connect(&recorder, &Recorder::PurgeDue, &recorder, [this] { recordingsList.Purge(); });
+}
+
+void AppContext::InitializeDatabase()
+{
+    ReportEach(log, "InitializeControls", database.InitializeControls());
+}
+
+void AppContext::RestoreOriginalDatabase()
+{
+    ReportEach(log, "RestoreOriginalDatabase", database.RestoreOriginalDatabase());
 }
 
 double AppContext::Now() const

@@ -9,6 +9,8 @@
 #include "formats/clsRecordingFormat.h"
 #include "recording/Recorder.h"
 #include "recording/RecorderNotifications.h"
+#include "recordingslist/RecordingsList.h"
+#include "recordingslist/SavedLists.h"
 #include "scheduling/ProgramFormServices.h"
 #include "scheduling/ProgramListCommands.h"
 #include "scheduling/Scheduler.h"
@@ -16,9 +18,7 @@
 #include "store/AppDatabase.h"
 #include "store/AppFolders.h"
 #include "store/Options.h"
-#include "store/RecordingsList.h"
 #include "store/RegKeys.h"
-#include "store/SavedLists.h"
 
 class AudioDevices;
 class Clock;
@@ -59,6 +59,11 @@ public:
     AppContext(const AppContext&) = delete;
     AppContext& operator=(const AppContext&) = delete;
 
+    // The database's steps of the first activation and its restore to the empty original;
+    // the steps that fail are logged.
+    void InitializeDatabase();
+    void RestoreOriginalDatabase();
+
     double Now() const;
     // What the program list's commands and the program editor are built with.
     ProgramListServices ForProgramList();
@@ -78,13 +83,14 @@ public:
     const AppFolders folders;
 
     clsError error;
+    // Before the log, which writes to it.
+    AppDatabase database;
     EventLog log;
     // What messageBox is: the seam's boxes, which never wait on the recorder's own paths.
     UnattendedMessageBox boxes;
     RegKeys registry;
     Options options;
     clsAppStatus appStatus;
-    AppDatabase database;
     Scheduler scheduler;
     // The profiles in the data folder's "mixer".
     MixerProfiles mixerProfiles;

@@ -43,7 +43,7 @@ void MainFormController::InitializeForFirstActivation(const FolderChooser& choos
     // Each step carries on after a failure of the one before: above all the heartbeat
     // must start, or nothing would ever be recorded.
     TrapEach(
-        m_ctx.log, "Main Form Load", [&] { m_ctx.database.InitializeControls(); },
+        m_ctx.log, "Main Form Load", [&] { m_ctx.InitializeDatabase(); },
         [&] { CheckDefaultRecordingDirectory(chooser); },
         [&] { m_ctx.defaultFormats.GetWfxDefault(m_ctx.WfxDefault); },
         [&] { m_ctx.scheduler.ScheduleNextRecording(); }, [&] { m_ctx.recorder.Start(); });
@@ -162,7 +162,7 @@ void MainFormController::mnuRestoreOriginalDb_Click()
                               MsgIcon::None, MsgButtons::YesNo) == MsgResult::Yes;
     if (proceed) {
         m_ctx.appStatus.SetMaintenance(true);
-        m_ctx.database.RestoreOriginalDatabase();
+        m_ctx.RestoreOriginalDatabase();
     }
     // These run after a refused question too.
     m_ctx.database.CheckDatabaseMissing();

@@ -3,12 +3,12 @@
 #include "gui/GridSelection.h"
 #include "options/frmSelectExistingRecordDirectory.h"
 #include "player/PlayerChoice.h"
+#include "recordingslist/frmLoadList.h"
+#include "recordingslist/frmRecordingDetails.h"
+#include "recordingslist/frmSaveList.h"
 #include "shell/AppContext.h"
 #include "shell/frmMain.h"
 #include "store/RecordsetModel.h"
-#include "store/frmLoadList.h"
-#include "store/frmRecordingDetails.h"
-#include "store/frmSaveList.h"
 
 #include <QClipboard>
 #include <QDesktopServices>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "store/RecordingsList.h"
-#include "store/RecordingsListCommands.h"
+#include "recordingslist/RecordingsList.h"
+#include "recordingslist/RecordingsListCommands.h"
 
 #include <QObject>
 

@@ -1,15 +1,24 @@
 #pragma once
 
 #include "common/Clock.h"
-#include "common/ProcessLauncher.h"
 #include "platform/AudioDevices.h"
 #include "platform/DesktopNotifications.h"
+#include "platform/DetachedProcessLauncher.h"
 #include "platform/DiskSpace.h"
+#include "platform/FreedesktopNotifications.h"
 #include "platform/Joystick.h"
+#include "platform/LinuxJoystick.h"
+#include "platform/LogindSleepInhibitor.h"
 #include "platform/Mixer.h"
+#include "platform/MixsetMixer.h"
 #include "platform/NetworkConnections.h"
+#include "platform/NetworkManagerConnections.h"
+#include "platform/ProcessLauncher.h"
+#include "platform/PulseAudioDevices.h"
 #include "platform/SleepInhibitor.h"
+#include "platform/StorageDiskSpace.h"
 #include "platform/WindowList.h"
+#include "platform/XcbWindowList.h"
 #include "shell/AppContext.h"
 
 #include <QCoreApplication>

@@ -4,16 +4,14 @@
 #include "common/MessageBox.h"
 #include "common/ProgramFiles.h"
 #include "common/Twips.h"
-#include "diagnostics/SysTrayIcon.h"
 #include "diagnostics/Trap.h"
-#include "diagnostics/clsSysTrayMgr.h"
 #include "diagnostics/frmElog.h"
 #include "diagnostics/frmErrors.h"
-#include "diagnostics/frmSysTray.h"
 #include "options/frmOptions.h"
 #include "options/frmSelectRecordDirectory.h"
 #include "platform/DesktopNotifications.h"
 #include "platform/Joystick.h"
+#include "platform/ProcessLauncher.h"
 #include "player/MediaPlayerAvailable.h"
 #include "player/PlayPanels.h"
 #include "player/PlayerChoice.h"
@@ -31,6 +29,9 @@
 #include "sideactions/frmMixerProfiles.h"
 #include "store/GridColumns.h"
 #include "store/RecordsetModel.h"
+#include "tray/SysTrayIcon.h"
+#include "tray/clsSysTrayMgr.h"
+#include "tray/frmSysTray.h"
 
 #include <QAction>
 #include <QApplication>
@@ -298,8 +299,9 @@ void frmMain::ConnectPlayers()
 {
     m_playPanels =
         std::make_unique<PlayPanels>(m_ctx.log, m_ctx.options, m_ctx.appStatus, m_ctx.mixer, this);
-    m_playerChoice = std::make_unique<PlayerChoice>(m_ctx.log, m_ctx.registry, m_ctx.options,
-                                                    m_ctx.messageBox, *m_playPanels);
+    m_playerChoice = std::make_unique<PlayerChoice>(
+        m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.messageBox, *m_playPanels,
+        [this](const QString& file) { return m_ctx.launcher.OpenWithDefaultProgram(file); });
     m_playerChoice->CheckMediaPlayerControl();
     m_playerChoice->GetPlayerSetting();
     for (const char* name : {"ToolbarMain.Play", "mnuPlayRecent"})

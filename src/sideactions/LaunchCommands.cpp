@@ -1,9 +1,9 @@
 #include "sideactions/LaunchCommands.h"
 
-#include "common/ProcessLauncher.h"
 #include "common/TextHelpers.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
+#include "platform/ProcessLauncher.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "sideactions/LaunchMixer.h"
 
-#include "common/ProcessLauncher.h"
 #include "diagnostics/EventLog.h"
+#include "platform/ProcessLauncher.h"
 
 #include <QCoreApplication>
 

@@ -1,9 +1,9 @@
 #include "sideactions/ViewHtmlFile.h"
 
 #include "common/MessageBox.h"
-#include "common/ProcessLauncher.h"
 #include "common/RuntimeError.h"
 #include "diagnostics/Trap.h"
+#include "platform/ProcessLauncher.h"
 
 #include <QCoreApplication>
 #include <QDir>

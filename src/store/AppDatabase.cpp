@@ -2,17 +2,14 @@
 
 #include "common/FileHelpers.h"
 #include "common/MessageBox.h"
-#include "diagnostics/EventLog.h"
-#include "diagnostics/Trap.h"
-#include "diagnostics/clsError.h"
+#include "common/RuntimeError.h"
+#include "store/EachStep.h"
 #include "store/GridColumns.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
 namespace {
-
-const char kInitializeControls[] = "InitializeControls";
 
 struct AddedColumn {
     const char* name;
@@ -42,28 +39,14 @@ constexpr AddedColumn kAddedProgramColumns[] = {
     {"LaunchAfterOnlyIfOk", "INTEGER"},
 };
 
-template <typename... Steps> void EachStepSilently(Steps&&... steps)
-{
-    auto silently = [](auto&& step) {
-        try {
-            step();
-        } catch (const std::exception&) {
-        }
-    };
-    (silently(steps), ...);
-}
-
 } // namespace
 
-AppDatabase::AppDatabase(const AppFolders& folders, EventLog& log, clsError& error,
-                         MessageBoxPresenter& messageBox)
+AppDatabase::AppDatabase(const AppFolders& folders, MessageBoxPresenter& messageBox)
     : DataPrograms(db)
     , DataRecordings(db)
     , DataInfo(db)
     , DataElog(db)
     , m_folders(folders)
-    , m_log(log)
-    , m_error(error)
     , m_messageBox(messageBox)
 {
 }
@@ -73,22 +56,23 @@ QString AppDatabase::DatabaseFile() const
     return m_folders.DatabaseFile();
 }
 
-void AppDatabase::InitializeControls()
+QList<std::exception_ptr> AppDatabase::InitializeControls()
 {
-    TrapEach(
-        m_log, kInitializeControls, [&] { db.Open(DatabaseFile()); },
-        [&] { UpgradeProgramsTable(); }, [&] { OpenRecordsets(); },
-        [&] { DataPrograms.SetRecordset(rsPrograms); },
-        [&] { DataRecordings.SetRecordset(rsRecordings); }, [&] { DataInfo.SetRecordset(rsInfo); },
-        [&] { DataPrograms.Refresh(); }, [&] { DataRecordings.Refresh(); },
-        [&] { DataInfo.Refresh(); }, [&] { SortDbgrids(); });
+    QList<std::exception_ptr> failures = EachStep([&] { db.Open(DatabaseFile()); });
+    UpgradeProgramsTable(failures);
+    failures << EachStep([&] { OpenRecordsets(); }, [&] { DataPrograms.SetRecordset(rsPrograms); },
+                         [&] { DataRecordings.SetRecordset(rsRecordings); },
+                         [&] { DataInfo.SetRecordset(rsInfo); }, [&] { DataPrograms.Refresh(); },
+                         [&] { DataRecordings.Refresh(); }, [&] { DataInfo.Refresh(); },
+                         [&] { SortDbgrids(); });
+    return failures;
 }
 
-void AppDatabase::UpgradeProgramsTable()
+void AppDatabase::UpgradeProgramsTable(QList<std::exception_ptr>& failures)
 {
     // Each column on its own: one that can't be added is reported and the next is tried.
     for (const AddedColumn& column : kAddedProgramColumns) {
-        Trap(m_log, kInitializeControls, [&] {
+        failures << EachStep([&] {
             const QString name = QString::fromLatin1(column.name);
             if (!db.TableHasColumn(QStringLiteral("Programs"), name))
                 db.Execute(QStringLiteral("ALTER TABLE [Programs] ADD COLUMN [%1] %2")
@@ -134,7 +118,7 @@ void AppDatabase::UnloadElog()
 
 void AppDatabase::CheckDatabaseMissing()
 {
-    m_error.SetDatabaseMissing(!FileExistsOrClear(DatabaseFile()));
+    emit DatabaseMissingChecked(!FileExistsOrClear(DatabaseFile()));
 }
 
 void AppDatabase::CloseAll()
@@ -146,7 +130,7 @@ void AppDatabase::CloseAll()
 Recordset& AppDatabase::ElogRecordset()
 {
     if (!m_elogBound) {
-        m_error.ElogViewed();
+        emit ElogViewed();
         DataElog.SetRecordset(rsEventLog);
         DataElog.SetRecordSource(GridColumns::SortStatement(
             QStringLiteral("EventLog"),
@@ -155,6 +139,27 @@ Recordset& AppDatabase::ElogRecordset()
         m_elogBound = true;
     }
     return DataElog.recordset();
+}
+
+int AppDatabase::RowCount()
+{
+    Recordset clone = ElogRecordset().Clone();
+    if (clone.IsEOF())
+        return 0;
+    clone.MoveLast();
+    return clone.RecordCount();
+}
+
+void AppDatabase::Append(qint16 type, double dateAndTime, const QString& message,
+                         const QString& details)
+{
+    Recordset& rs = ElogRecordset();
+    rs.AddNew();
+    rs.SetValue(QStringLiteral("Type"), type);
+    rs.SetValue(QStringLiteral("DateAndTime"), dateAndTime);
+    rs.SetValue(QStringLiteral("Message"), message);
+    rs.SetValue(QStringLiteral("Details"), details);
+    rs.Update();
 }
 
 void AppDatabase::CompactDatabase()
@@ -185,10 +190,10 @@ void AppDatabase::CompactDatabase()
     }
 }
 
-void AppDatabase::RestoreOriginalDatabase()
+QList<std::exception_ptr> AppDatabase::RestoreOriginalDatabase()
 {
-    EachStepSilently(
-        [&] { m_error.ElogViewed(); },
+    emit ElogViewed();
+    return EachStep(
         [&] {
             CloseRecordsetsAndDatabase();
             UnloadElog();

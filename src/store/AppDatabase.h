@@ -3,34 +3,37 @@
 #include "store/AppFolders.h"
 #include "store/DataControl.h"
 #include "store/Database.h"
+#include "store/EventLogTable.h"
 #include "store/Recordset.h"
 
-#include <QCoreApplication>
+#include <QList>
+#include <QObject>
+#include <exception>
 
-class EventLog;
 class MessageBoxPresenter;
-class clsError;
 
 // The open database of the run: the file, one recordset per table, and the data controls
 // that the grids show. Holds the start-up steps, the sort of the grids, compaction and the
-// restore of the empty original.
-class AppDatabase {
+// restore of the empty original. It reports upward and logs nothing itself.
+class AppDatabase : public QObject, public EventLogTable {
+    Q_OBJECT
 public:
-    AppDatabase(const AppFolders& folders, EventLog& log, clsError& error,
-                MessageBoxPresenter& messageBox);
+    AppDatabase(const AppFolders& folders, MessageBoxPresenter& messageBox);
 
-    // The database steps of the first activation: open, upgrade, bind, sort. Each step
-    // that fails is logged and the next one runs, so a missing or damaged file does not
-    // stop the start.
-    void InitializeControls();
+    // The database steps of the first activation: open, upgrade, bind, sort. A failing step
+    // does not stop the next, so a missing or damaged file does not stop the start; the
+    // failures come back in order.
+    QList<std::exception_ptr> InitializeControls();
     // The default order of both main grids.
     void SortDbgrids();
     // Compacts the file through the temp file. A failure is shown and leaves the lists
     // closed; the file itself stays as it was.
     void CompactDatabase();
-    // Replaces the file by the empty original; failing steps are skipped silently.
-    void RestoreOriginalDatabase();
-    // After a compaction or restore: the database counts as missing unless the file is there.
+    // Replaces the file by the empty original; a failing step does not stop the next, and
+    // the failures come back in order.
+    QList<std::exception_ptr> RestoreOriginalDatabase();
+    // After a compaction or restore: the database counts as missing unless the file is there
+    // (DatabaseMissingChecked says which).
     void CheckDatabaseMissing();
     // Closes the recordsets and then the file, at the end of the run.
     void CloseAll();
@@ -40,6 +43,10 @@ public:
     Recordset& ElogRecordset();
 
     QString DatabaseFile() const;
+
+    int RowCount() override;
+    void Append(qint16 type, double dateAndTime, const QString& message,
+                const QString& details) override;
 
     Database db;
     Recordset rsPrograms;
@@ -51,17 +58,19 @@ public:
     DataControl DataInfo;
     DataControl DataElog;
 
+signals:
+    // The log's recordset was bound, which counts as the log having been viewed, or the
+    // log is about to be replaced by the original's empty one.
+    void ElogViewed();
+    void DatabaseMissingChecked(bool missing);
+
 private:
-    void UpgradeProgramsTable();
+    void UpgradeProgramsTable(QList<std::exception_ptr>& failures);
     void OpenRecordsets();
     void CloseRecordsetsAndDatabase();
     void UnloadElog();
 
     const AppFolders m_folders;
-    EventLog& m_log;
-    clsError& m_error;
     MessageBoxPresenter& m_messageBox;
     bool m_elogBound = false;
-
-    Q_DECLARE_TR_FUNCTIONS(AppDatabase)
 };

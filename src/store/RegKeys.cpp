@@ -1,8 +1,5 @@
 #include "store/RegKeys.h"
 
-#include "diagnostics/EventLog.h"
-
-#include <QCoreApplication>
 #include <QSettings>
 #include <QStringList>
 
@@ -12,11 +9,6 @@ const QString kOrganization = QStringLiteral("Larkmoor Systems");
 const QString kApplication = QStringLiteral("Nightreel");
 
 } // namespace
-
-RegKeys::RegKeys(EventLog& log)
-    : m_log(log)
-{
-}
 
 QString RegKeys::GetSetting(const QString& section, const QString& name,
                             const QString& defaultValue) const
@@ -42,9 +34,7 @@ void RegKeys::SaveSetting(const QString& section, const QString& name, const QSt
     settings.endGroup();
     settings.sync();
     if (settings.status() != QSettings::NoError)
-        m_log.LogEvent(EventError,
-                       QCoreApplication::translate("RegKeys", "Error saving setting in registry."),
-                       section + u' ' + name + u' ' + value);
+        emit SaveFailed(section, name, value);
 }
 
 void RegKeys::DeleteSetting(const QString& section, const QString& name)

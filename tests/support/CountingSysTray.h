@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diagnostics/cSysTray.h"
+#include "tray/cSysTray.h"
 
 #include <QElapsedTimer>
 #include <QList>

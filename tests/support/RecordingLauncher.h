@@ -1,6 +1,7 @@
 #pragma once
 
-#include "common/ProcessLauncher.h"
+#include "platform/DetachedProcessLauncher.h"
+#include "platform/ProcessLauncher.h"
 
 #include <QList>
 #include <QSet>
@@ -32,6 +33,12 @@ public:
         if (desktopPages)
             return m_desktop.ShellExecute(program, url, windowStyle);
         return !failing.contains(url);
+    }
+
+    // A file opened in its default program is opened for real.
+    int OpenWithDefaultProgram(const QString& file) override
+    {
+        return m_desktop.OpenWithDefaultProgram(file);
     }
 
     QStringList started;

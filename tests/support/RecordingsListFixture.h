@@ -1,7 +1,7 @@
 #pragma once
 
 #include "TestContext.h"
-#include "store/RecordingsList.h"
+#include "recordingslist/RecordingsList.h"
 
 #include <QDir>
 

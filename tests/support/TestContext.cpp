@@ -58,7 +58,7 @@ QString TestContext::SettingsFile() const
 
 void TestContext::OpenDatabase()
 {
-    ctx->database.InitializeControls();
+    ctx->InitializeDatabase();
 }
 
 qint64 TestContext::AddProgram(const QVariantHash& columns)

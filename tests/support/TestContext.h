@@ -8,10 +8,16 @@
 #include "platform/DesktopNotifications.h"
 #include "platform/DiskSpace.h"
 #include "platform/Joystick.h"
+#include "platform/LinuxJoystick.h"
+#include "platform/LogindSleepInhibitor.h"
 #include "platform/Mixer.h"
+#include "platform/MixsetMixer.h"
 #include "platform/NetworkConnections.h"
+#include "platform/NetworkManagerConnections.h"
 #include "platform/SleepInhibitor.h"
+#include "platform/StorageDiskSpace.h"
 #include "platform/WindowList.h"
+#include "platform/XcbWindowList.h"
 #include "shell/AppContext.h"
 
 #include <QDir>

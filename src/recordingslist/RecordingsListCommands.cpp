@@ -1,11 +1,11 @@
-#include "store/RecordingsListCommands.h"
+#include "recordingslist/RecordingsListCommands.h"
 
 #include "common/FileHelpers.h"
 #include "common/MessageBox.h"
 #include "diagnostics/Trap.h"
+#include "recordingslist/RecordingsList.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
-#include "store/RecordingsList.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "scheduling/clsProgramFlags.h"
+#include "formats/clsProgramFlags.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "store/ListFile.h"
+#include "recordingslist/ListFile.h"
 
 #include <QFile>
 

@@ -1,4 +1,4 @@
-#include "platform/Joystick.h"
+#include "platform/LinuxJoystick.h"
 
 #include <QDir>
 #include <QSocketNotifier>

@@ -1,4 +1,4 @@
-#include "store/frmSaveList.h"
+#include "recordingslist/frmSaveList.h"
 
 #include "common/MessageBox.h"
 #include "common/PathHelpers.h"
@@ -6,8 +6,8 @@
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "gui/FormPlacement.h"
+#include "recordingslist/SavedLists.h"
 #include "store/AppDatabase.h"
-#include "store/SavedLists.h"
 
 #include <QComboBox>
 #include <QDir>

@@ -1,7 +1,9 @@
 // GIO's headers use `signals` as a name, which Qt would otherwise define as a keyword.
 #define QT_NO_KEYWORDS
 
-#include "common/ProcessLauncher.h"
+#include "platform/DetachedProcessLauncher.h"
+
+#include "platform/OpenWithDefaultProgram.h"
 
 #include <QProcess>
 #include <gio/gdesktopappinfo.h>
@@ -68,4 +70,9 @@ bool DetachedProcessLauncher::ShellExecute(const QString& program, const QString
     const gboolean started = g_app_info_launch_uris(G_APP_INFO(app.get()), &uris, nullptr, &error);
     std::unique_ptr<GError, GErrorDeleter> owned(error);
     return started;
+}
+
+int DetachedProcessLauncher::OpenWithDefaultProgram(const QString& file)
+{
+    return ::OpenWithDefaultProgram(file);
 }

@@ -1,4 +1,4 @@
-#include "diagnostics/clsSysTrayMgr.h"
+#include "tray/clsSysTrayMgr.h"
 
 #include "common/clsAppStatus.h"
 #include "diagnostics/Trap.h"

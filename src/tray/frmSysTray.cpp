@@ -1,6 +1,6 @@
-#include "diagnostics/frmSysTray.h"
+#include "tray/frmSysTray.h"
 
-#include "diagnostics/SysTrayIcon.h"
+#include "tray/SysTrayIcon.h"
 
 #include <QAction>
 #include <QDBusConnection>

@@ -1,4 +1,4 @@
-#include "store/RecordingsList.h"
+#include "recordingslist/RecordingsList.h"
 
 #include "common/AutomationDate.h"
 #include "common/Clock.h"

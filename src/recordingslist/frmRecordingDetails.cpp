@@ -1,8 +1,8 @@
-#include "store/frmRecordingDetails.h"
+#include "recordingslist/frmRecordingDetails.h"
 
 #include "gui/FormPlacement.h"
+#include "recordingslist/RecordingsList.h"
 #include "store/Options.h"
-#include "store/RecordingsList.h"
 #include "store/Recordset.h"
 
 #include <QFormLayout>

@@ -24,13 +24,7 @@ public:
     // Starts a program that FindExecutable named, with the URL as its argument; false when
     // it could not be started.
     virtual bool ShellExecute(const QString& program, const QString& url, int windowStyle) = 0;
-};
-
-// The real starts: processes for commands, the desktop's handlers (GIO) for files and URLs.
-class DetachedProcessLauncher : public ProcessLauncher {
-public:
-    using ProcessLauncher::StartDetached;
-    bool StartDetached(const QString& commandLine, int windowStyle) override;
-    QString FindExecutable(const QString& file) override;
-    bool ShellExecute(const QString& program, const QString& url, int windowStyle) override;
+    // Opens the file in the desktop's default program for its type; the result as
+    // ::OpenWithDefaultProgram gives it.
+    virtual int OpenWithDefaultProgram(const QString& file) = 0;
 };

@@ -1,10 +1,10 @@
-#include "store/frmLoadList.h"
+#include "recordingslist/frmLoadList.h"
 
 #include "common/MessageBox.h"
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "gui/FormPlacement.h"
-#include "store/SavedLists.h"
+#include "recordingslist/SavedLists.h"
 
 #include <QCheckBox>
 #include <QFile>

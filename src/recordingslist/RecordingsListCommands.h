@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/MessageBox.h"
-#include "store/RecordingsListView.h"
+#include "recordingslist/RecordingsListView.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/IntervalTimer.h"
-#include "diagnostics/cSysTray.h"
+#include "tray/cSysTray.h"
 
 #include <QObject>
 #include <QString>

@@ -1,7 +1,7 @@
-#include "diagnostics/SysTrayIcon.h"
+#include "tray/SysTrayIcon.h"
 
-#include "diagnostics/SysTrayPictures.h"
 #include "diagnostics/Trap.h"
+#include "tray/SysTrayPictures.h"
 
 #include <QMenu>
 #include <QWidget>

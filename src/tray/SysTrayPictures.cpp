@@ -1,4 +1,4 @@
-#include "diagnostics/SysTrayPictures.h"
+#include "tray/SysTrayPictures.h"
 
 #include <QGuiApplication>
 #include <QHash>

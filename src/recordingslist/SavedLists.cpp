@@ -1,10 +1,10 @@
-#include "store/SavedLists.h"
+#include "recordingslist/SavedLists.h"
 
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
+#include "recordingslist/ListFile.h"
+#include "recordingslist/RecordingsList.h"
 #include "store/AppDatabase.h"
-#include "store/ListFile.h"
-#include "store/RecordingsList.h"
 
 #include <QDir>
 #include <QFile>

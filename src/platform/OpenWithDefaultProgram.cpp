@@ -1,7 +1,7 @@
 // GIO's headers use `signals` as a name, which Qt would otherwise define as a keyword.
 #define QT_NO_KEYWORDS
 
-#include "player/OpenWithDefaultProgram.h"
+#include "platform/OpenWithDefaultProgram.h"
 
 #include <QFileInfo>
 #include <gio/gio.h>
