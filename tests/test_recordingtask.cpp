@@ -3,12 +3,14 @@
 #include "PulseFixture.h"
 #include "SoxTone.h"
 #include "TestContext.h"
+#include "TestParts.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/WaveFileChunks.h"
 #include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
 #include "taskcontract/RecParms.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -408,5 +410,5 @@ private:
     std::unique_ptr<PulseFixture> m_pulse;
 };
 
-QTEST_GUILESS_MAIN(TestRecordingTask)
+NIGHTREEL_TEST_PARTS_MAIN(TestRecordingTask, QCoreApplication)
 #include "test_recordingtask.moc"

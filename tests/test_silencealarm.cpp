@@ -1,8 +1,10 @@
 // The silence alarm of a scheduled recording, made by the program's recorder and the real
 // recording task from a sound server of the test's own whose tone the test stops and starts.
-#include "LinkedRecording.h"
 #include "Programs.h"
+#include "RecordingRig.h"
+#include "TestParts.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QSqlQuery>
@@ -27,7 +29,7 @@ class TestSilenceAlarm : public QObject {
 private slots:
     void initTestCase()
     {
-        const QString why = LinkedRecording::StartSound(m_pulse);
+        const QString why = RecordingRig::StartSound(m_pulse);
         if (!why.isEmpty())
             QSKIP(qPrintable(why));
     }
@@ -48,7 +50,7 @@ private slots:
         QFETCH(int, toneStopsAt);
         QFETCH(int, toneReturnsAt);
         QFETCH(QStringList, messages);
-        LinkedRecording r;
+        RecordingRig r;
         r.tc.ctx->options.SilenceAlarmSeconds = 3;
         QVariantHash row = Programs::WithPcmFormat(
             Programs::Weekly("Night watch", "10:00:10", "10:00:22", "0100000"));
@@ -74,7 +76,7 @@ private slots:
         });
         QObject::connect(&r.tc.ctx->recorder.Control(), &RecordingControl::RecordingEnded,
                          [&] { capturedSeconds = captured.elapsed() / 1000.0; });
-        QVERIFY(r.Run(LinkedRecording::At("10:00:08")));
+        QVERIFY(r.Run(RecordingRig::At("10:00:08")));
 
         const QList<LogEntry> entries = r.tc.LogEntries();
         QStringList logged;
@@ -107,5 +109,5 @@ private:
     std::unique_ptr<PulseFixture> m_pulse;
 };
 
-QTEST_GUILESS_MAIN(TestSilenceAlarm)
+NIGHTREEL_TEST_PARTS_MAIN(TestSilenceAlarm, QCoreApplication)
 #include "test_silencealarm.moc"
