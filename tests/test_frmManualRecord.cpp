@@ -140,7 +140,6 @@ private slots:
     void dialogNameAndFormatServeOneRecording();
     void joystickButtonsDriveARecording();
     void scheduledProgramStartsLateAfterAManualOne();
-    void grabTheForm();
 
 private:
     std::unique_ptr<PulseFixture> m_pulse;
@@ -457,19 +456,6 @@ void TestFrmManualRecord::scheduledProgramStartsLateAfterAManualOne()
     QVERIFY2(files[1] >= QString("060126_120008.WAV"), qPrintable(files[1]));
     const double seconds = Soxi("-D", w.folder + "/" + files[1]).toDouble();
     QVERIFY2(seconds > 0.0 && seconds < 5.0, qPrintable(QString::number(seconds)));
-}
-
-// The dialog renders; its picture goes to NIGHTREEL_PNG_DIR for a reviewer when that is set.
-void TestFrmManualRecord::grabTheForm()
-{
-    const QTemporaryDir scratch;
-    const QString folder = qEnvironmentVariable("NIGHTREEL_PNG_DIR", scratch.path());
-    QDir().mkpath(folder);
-    Window w;
-    w.SetDefaultDuration(1, 30, 0);
-    frmManualRecord form(w.Services(), false, nullptr);
-    form.adjustSize();
-    QVERIFY(form.grab().save(folder + "/frmManualRecord.png"));
 }
 
 NIGHTREEL_TEST_PARTS_MAIN(TestFrmManualRecord, QApplication)

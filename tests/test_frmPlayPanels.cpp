@@ -342,20 +342,6 @@ private slots:
                  qPrintable(log[0].details));
         QVERIFY(qAbs(panel.Engine().CurrentPosition() - 8.0) < 0.5);
     }
-
-    void grabs()
-    {
-        const QTemporaryDir scratch;
-        const QString dir = qEnvironmentVariable("NIGHTREEL_GRAB_DIR", scratch.path());
-        Fixture f;
-        frmPlayPanelMP& enhanced = f.Enhanced();
-        enhanced.btnPlay->click();
-        QTest::qWait(1200);
-        QVERIFY(enhanced.grab().save(dir + "/frmPlayPanelMP.png"));
-        frmPlayPanel& classic = f.Classic();
-        QTest::qWait(1200);
-        QVERIFY(classic.grab().save(dir + "/frmPlayPanel.png"));
-    }
 };
 
 NIGHTREEL_TEST_PARTS_MAIN(TestPlayPanels, QApplication)

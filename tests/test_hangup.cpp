@@ -41,20 +41,14 @@ void TestHangUp::dialUpKinds_data()
     QTest::addColumn<bool>("dialUp");
     QTest::newRow("mobile modem") << "gsm"
                                   << "" << true;
-    QTest::newRow("cdma modem") << "cdma"
-                                << "" << true;
     QTest::newRow("dsl over ppp") << "pppoe"
                                   << "" << true;
-    QTest::newRow("adsl") << "adsl"
-                          << "" << true;
     QTest::newRow("phone's dial-up") << "bluetooth"
                                      << "dun" << true;
     QTest::newRow("phone's network") << "bluetooth"
                                      << "panu" << false;
     QTest::newRow("ethernet") << "802-3-ethernet"
                               << "" << false;
-    QTest::newRow("wi-fi") << "802-11-wireless"
-                           << "" << false;
     QTest::newRow("vpn") << "vpn"
                          << "" << false;
 }

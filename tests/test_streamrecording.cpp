@@ -9,6 +9,7 @@
 #include "scheduling/StreamTest.h"
 #include "store/Recordset.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
 #include <QSignalSpy>
@@ -293,5 +294,5 @@ private:
     QByteArray m_mp3;
 };
 
-QTEST_MAIN(TestStreamRecording)
+NIGHTREEL_TEST_PARTS_MAIN(TestStreamRecording, QCoreApplication)
 #include "test_streamrecording.moc"
