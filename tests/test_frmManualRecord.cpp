@@ -32,11 +32,6 @@
 
 namespace {
 
-double At(const QString& time)
-{
-    return RecordingRig::At(time);
-}
-
 // The main window over the rig, activated, with a default format of 16-bit mono PCM at
 // 44.1 kHz; the clock runs at real speed from Monday 1 June 2026, 12:00:00.
 struct Window : RecordingRig {

@@ -149,13 +149,11 @@ RecParms Parms(const QString& output, const QByteArray& record)
     return p;
 }
 
-QStringList LoggedMessages(TestContext& tc)
+QStringList LoggedMessages(const TestContext& tc)
 {
     QStringList messages;
-    QSqlQuery q(tc.ctx->database.db.Connection());
-    q.exec("SELECT Message FROM EventLog ORDER BY ID");
-    while (q.next())
-        messages << q.value(0).toString();
+    for (const LogEntry& e : tc.LogEntries())
+        messages << e.message;
     return messages;
 }
 

@@ -20,12 +20,6 @@ using namespace TaskProtocol;
 
 namespace {
 
-struct Entry {
-    int type;
-    QString message;
-    QString details;
-};
-
 // A context and a link that starts the stand-in with the given plan.
 struct Fixture {
     explicit Fixture(const QString& plan)
@@ -58,19 +52,11 @@ struct Fixture {
         tc.ctx->appStatus.SetRecording(true);
         return link->ActivateNightreeltask() && link->SendMessage(REC_MSG_START) == 0;
     }
-    QList<Entry> Entries()
-    {
-        QList<Entry> entries;
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        q.exec("SELECT Type, Message, Details FROM EventLog ORDER BY ID");
-        while (q.next())
-            entries << Entry{q.value(0).toInt(), q.value(1).toString(), q.value(2).toString()};
-        return entries;
-    }
-    QStringList Messages()
+    QList<LogEntry> Entries() const { return tc.LogEntries(); }
+    QStringList Messages() const
     {
         QStringList messages;
-        for (const Entry& e : Entries())
+        for (const LogEntry& e : tc.LogEntries())
             messages << e.message;
         return messages;
     }
