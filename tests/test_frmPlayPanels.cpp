@@ -1,10 +1,10 @@
 // Both player panels played into a private sound server's null sink and heard at its
 // monitor: levels, balance, rate, skips and keys, the formats, a broken file, and the
-// classic panel's master volume. NIGHTREEL_GRAB_DIR set makes the grabs test save both
-// panels as pictures there.
+// classic panel's master volume.
 #include "Pactl.h"
 #include "PulseFixture.h"
 #include "SinkMonitor.h"
+#include "TaskWaveSource.h"
 #include "TestContext.h"
 #include "TestFiles.h"
 #include "TestParts.h"
@@ -46,32 +46,22 @@ struct Tones {
         RunProgram("lame",
                    {"--quiet", "-t", "--cbr", "-b", "128", Path("tone.wav"), Path("frames.mp3")},
                    &ok);
-        const QByteArray frames = ReadFile(Path("frames.mp3"));
-        QByteArray fmt;
-        const auto put16 = [](QByteArray& b, quint16 v) {
-            b.append(char(v & 0xff)).append(char(v >> 8));
-        };
-        const auto put32 = [&](QByteArray& b, quint32 v) {
-            put16(b, quint16(v & 0xffff));
-            put16(b, quint16(v >> 16));
-        };
-        put16(fmt, 0x55), put16(fmt, 2), put32(fmt, 44100), put32(fmt, 16000);
-        put16(fmt, 1), put16(fmt, 0), put16(fmt, 12);
-        put16(fmt, 1), put32(fmt, 2), put16(fmt, 417), put16(fmt, 1), put16(fmt, 1393);
-        QByteArray body = "WAVEfmt ";
-        put32(body, quint32(fmt.size()));
+        const std::string frames = ReadFile(Path("frames.mp3")).toStdString();
+        const std::string fmt = TaskWaveSource::Mp3Record(2, 44100, 128);
+        std::string body = "WAVEfmt ";
+        TaskWaveSource::PutLe32(body, uint32_t(fmt.size()));
         body += fmt + "fact";
-        put32(body, 4);
-        put32(body, 441000);
+        TaskWaveSource::PutLe32(body, 4);
+        TaskWaveSource::PutLe32(body, 441000);
         body += "data";
-        put32(body, quint32(frames.size()));
-        body += frames;
-        QByteArray riff = "RIFF";
-        put32(riff, quint32(body.size()));
+        TaskWaveSource::PutLe32(body, uint32_t(frames.size()));
+        std::string riff = "RIFF";
+        TaskWaveSource::PutLe32(riff, uint32_t(body.size() + frames.size()));
         QByteArray junk(20000, '\0');
         for (int i = 0; i < junk.size(); ++i)
             junk[i] = char((i * 7919) % 251);
-        return ok && WriteFile(Path("mp3inside.wav"), riff + body) &&
+        return ok &&
+               WriteFile(Path("mp3inside.wav"), QByteArray::fromStdString(riff + body + frames)) &&
                WriteFile(Path("broken.wav"), junk);
     }
 };
