@@ -341,6 +341,79 @@ private slots:
                  AutomationDate::ToDateTime(written));
     }
 
+    // Each option the dialog edits is written under the name the next start reads.
+    void savedOptionsReadBack()
+    {
+        TestContext tc;
+        Options saved;
+        saved.DefaultRecordingDirectory = tc.Root();
+        saved.WarnRecMegsLeft = 300;
+        saved.StopRecMegsLeft = 200;
+        saved.LongRecordingHours = 7;
+        saved.ConfirmLongRecordings = false;
+        saved.DefaultRecordFileNameFormat = 2;
+        saved.DefaultManualRecordingDurationHours = 4;
+        saved.DefaultManualRecordingDurationMinutes = 5;
+        saved.DefaultManualRecordingDurationSeconds = 6;
+        saved.ConfirmStopManualRecording = false;
+        saved.AllowJoystickActivation = true;
+        saved.PurgeRecordings = true;
+        saved.PurgeDays = 9;
+        saved.PurgeTime = AutomationDate::FromTime(3, 4, 5);
+        saved.RemoveExpiredPrograms = false;
+        saved.MixerFilePath = QStringLiteral("/bin/sh");
+        saved.ShowActualTimeInPlayer = true;
+        saved.ShowRecordingTimeInTaskBar = true;
+        saved.HiddenWindowStatupMode = true;
+        saved.ShowSplashScreen = false;
+        saved.WavPlayer = QStringLiteral("Desktop Default");
+        saved.Mp3Player = QStringLiteral("Nightreel Classic Player");
+        saved.KeepAwakeForRecordings = false;
+        saved.SilenceAlarm = false;
+        saved.ShowDesktopNotifications = false;
+        saved.PaddingSeconds = 90;
+        saved.SaveOptions(tc.ctx->registry);
+
+        Options read;
+        read.GetOptions(tc.ctx->registry);
+        for (const auto& [name, member] :
+             std::initializer_list<std::pair<const char*, qint16 Options::*>>{
+                 {"WarnRecMegsLeft", &Options::WarnRecMegsLeft},
+                 {"StopRecMegsLeft", &Options::StopRecMegsLeft},
+                 {"LongRecordingHours", &Options::LongRecordingHours},
+                 {"DefaultRecordFileNameFormat", &Options::DefaultRecordFileNameFormat},
+                 {"DefaultManualRecordingDurationHours",
+                  &Options::DefaultManualRecordingDurationHours},
+                 {"DefaultManualRecordingDurationMinutes",
+                  &Options::DefaultManualRecordingDurationMinutes},
+                 {"DefaultManualRecordingDurationSeconds",
+                  &Options::DefaultManualRecordingDurationSeconds},
+                 {"PurgeDays", &Options::PurgeDays},
+                 {"PaddingSeconds", &Options::PaddingSeconds}})
+            QVERIFY2(read.*member == saved.*member, name);
+        for (const auto& [name, member] :
+             std::initializer_list<std::pair<const char*, bool Options::*>>{
+                 {"ConfirmLongRecordings", &Options::ConfirmLongRecordings},
+                 {"ConfirmStopManualRecording", &Options::ConfirmStopManualRecording},
+                 {"AllowJoystickActivation", &Options::AllowJoystickActivation},
+                 {"PurgeRecordings", &Options::PurgeRecordings},
+                 {"RemoveExpiredPrograms", &Options::RemoveExpiredPrograms},
+                 {"ShowActualTimeInPlayer", &Options::ShowActualTimeInPlayer},
+                 {"ShowRecordingTimeInTaskBar", &Options::ShowRecordingTimeInTaskBar},
+                 {"HiddenWindowStatupMode", &Options::HiddenWindowStatupMode},
+                 {"ShowSplashScreen", &Options::ShowSplashScreen},
+                 {"KeepAwakeForRecordings", &Options::KeepAwakeForRecordings},
+                 {"SilenceAlarm", &Options::SilenceAlarm},
+                 {"ShowDesktopNotifications", &Options::ShowDesktopNotifications}})
+            QVERIFY2(read.*member == saved.*member, name);
+        QCOMPARE(read.DefaultRecordingDirectory, saved.DefaultRecordingDirectory);
+        QCOMPARE(read.MixerFilePath, saved.MixerFilePath);
+        QCOMPARE(AutomationDate::ToDateTime(read.PurgeTime).time(), QTime(3, 4, 5));
+        // The player choice is read where it is made, not by GetOptions.
+        QCOMPARE(Stored(tc, "WavPlayer"), saved.WavPlayer);
+        QCOMPARE(Stored(tc, "Mp3Player"), saved.Mp3Player);
+    }
+
     void recentRecordingIsClearedWhenItsFileIsGone()
     {
         TestContext tc;

@@ -14,14 +14,10 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QStyle>
 #include <QStyledItemDelegate>
-#include <QTableView>
 #include <QTimer>
-#include <QToolBar>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -78,72 +74,35 @@ frmElog::frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
     , m_registry(registry)
     , m_messageBox(messageBox)
 {
-    setObjectName(QStringLiteral("frmElog"));
-    setWindowTitle(QStringLiteral("Error Log"));
-    setSizeGripEnabled(true);
+    setupUi(this);
+    Details->setIcon(style()->standardIcon(QStyle::SP_FileDialogInfoView));
+    Remove->setIcon(style()->standardIcon(QStyle::SP_TrashIcon));
 
-    m_coolBar = new QWidget(this);
-    m_coolBar->setObjectName(QStringLiteral("CoolBarLog"));
-    m_toolbar = new QToolBar(m_coolBar);
-    m_toolbar->setObjectName(QStringLiteral("ToolbarElog"));
-    m_toolbar->setIconSize(QSize(16, 16));
-    m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_details = m_toolbar->addAction(style()->standardIcon(QStyle::SP_FileDialogInfoView),
-                                     QStringLiteral("Details"));
-    m_details->setObjectName(QStringLiteral("Details"));
-    m_details->setToolTip(QStringLiteral("Show the details of the selected entry"));
-    m_remove =
-        m_toolbar->addAction(style()->standardIcon(QStyle::SP_TrashIcon), QStringLiteral("Remove"));
-    m_remove->setObjectName(QStringLiteral("Remove"));
-    m_remove->setToolTip(QStringLiteral("Remove all entries"));
-    auto* coolBarLayout = new QVBoxLayout(m_coolBar);
-    coolBarLayout->setContentsMargins(0, 0, 0, 0);
-    coolBarLayout->addWidget(m_toolbar);
-
-    m_grid = new QTableView(this);
-    m_grid->setObjectName(QStringLiteral("DBGridLog"));
     m_model = new RecordsetModel(m_database.DataElog, GridColumns::EventLog(), this);
-    m_grid->setModel(m_model);
-    m_grid->setItemDelegateForColumn(kTypeColumn, new TypePictureDelegate(m_grid));
-    m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_grid->setWordWrap(false);
-    m_grid->setSortingEnabled(false);
-    m_grid->horizontalHeader()->setSectionsClickable(false);
-    m_grid->horizontalHeader()->setHighlightSections(false);
-    m_grid->verticalHeader()->setDefaultSectionSize(20);
-    m_grid->verticalHeader()->setFixedWidth(14);
-    m_grid->viewport()->installEventFilter(this);
-    m_grid->installEventFilter(this);
+    DBGridLog->setModel(m_model);
+    DBGridLog->setItemDelegateForColumn(kTypeColumn, new TypePictureDelegate(DBGridLog));
+    DBGridLog->horizontalHeader()->setSectionsClickable(false);
+    DBGridLog->verticalHeader()->setFixedWidth(14);
+    DBGridLog->viewport()->installEventFilter(this);
+    DBGridLog->installEventFilter(this);
     // The corner toggles the selection of all rows instead of selecting all.
-    if (auto* corner = m_grid->findChild<QAbstractButton*>()) {
-        disconnect(corner, nullptr, m_grid, nullptr);
+    if (auto* corner = DBGridLog->findChild<QAbstractButton*>()) {
+        disconnect(corner, nullptr, DBGridLog, nullptr);
         connect(corner, &QAbstractButton::clicked, this, &frmElog::ToggleSelectAll);
     }
-
-    m_mnuLog = new QMenu(this);
-    m_mnuLog->setObjectName(QStringLiteral("mnuLog"));
-    m_mnuDetails = m_mnuLog->addAction(QStringLiteral("&Details"));
-    m_mnuDetails->setObjectName(QStringLiteral("mnuDetails"));
-    m_mnuRemove = m_mnuLog->addAction(QStringLiteral("&Remove All"));
-    m_mnuRemove->setObjectName(QStringLiteral("mnuRemove"));
-    m_mnuLog->addSeparator();
-    m_mnuExit = m_mnuLog->addAction(QStringLiteral("E&xit"));
-    m_mnuExit->setObjectName(QStringLiteral("mnuExit"));
 
     m_tmrRefresh = new QTimer(this);
     m_tmrRefresh->setObjectName(QStringLiteral("tmrRefresh"));
     m_tmrRefresh->setSingleShot(true);
 
-    connect(m_details, &QAction::triggered, this, &frmElog::ShowElogDetails);
-    connect(m_mnuDetails, &QAction::triggered, this, &frmElog::ShowElogDetails);
-    connect(m_remove, &QAction::triggered, this, &frmElog::RemoveElogItems);
-    connect(m_mnuRemove, &QAction::triggered, this, &frmElog::RemoveElogItems);
-    connect(m_mnuExit, &QAction::triggered, this, &QDialog::reject);
+    connect(Details, &QAction::triggered, this, &frmElog::ShowElogDetails);
+    connect(mnuDetails, &QAction::triggered, this, &frmElog::ShowElogDetails);
+    connect(Remove, &QAction::triggered, this, &frmElog::RemoveElogItems);
+    connect(mnuRemove, &QAction::triggered, this, &frmElog::RemoveElogItems);
+    connect(mnuExit, &QAction::triggered, this, &QDialog::reject);
     connect(m_tmrRefresh, &QTimer::timeout, this, &frmElog::tmrRefresh_Timer);
     connect(m_model, &RecordsetModel::RowsChanged, this, &frmElog::OnRowsChanged);
-    connect(m_grid->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int section) {
+    connect(DBGridLog->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int section) {
         if (section == kTypeColumn || section == kDateColumn)
             FitMessageColumn();
     });
@@ -152,16 +111,16 @@ frmElog::frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
     // the layout in twips, as the program has always stored it.
     RestoreGeometry(owner);
     m_resizeActive = true;
-    m_coolBar->setFixedHeight(kBarHeight);
-    m_toolbar->setFixedHeight(kBarHeight);
-    m_grid->setColumnWidth(kTypeColumn, Twips::ToPixels(ReadSetting("ElogFormCol0Width", 500)));
-    m_grid->setColumnWidth(kDateColumn, Twips::ToPixels(ReadSetting("ElogFormCol1Width", 1800)));
+    CoolBarLog->setFixedHeight(kBarHeight);
+    ToolbarElog->setFixedHeight(kBarHeight);
+    DBGridLog->setColumnWidth(kTypeColumn, Twips::ToPixels(ReadSetting("ElogFormCol0Width", 500)));
+    DBGridLog->setColumnWidth(kDateColumn, Twips::ToPixels(ReadSetting("ElogFormCol1Width", 1800)));
     // Details lie beyond the message, reached by scrolling; the details form shows them whole.
-    m_grid->setColumnWidth(kDetailsColumn, Twips::ToPixels(3000));
-    m_details->setEnabled(false);
-    m_remove->setEnabled(false);
-    m_mnuDetails->setEnabled(false);
-    m_mnuRemove->setEnabled(false);
+    DBGridLog->setColumnWidth(kDetailsColumn, Twips::ToPixels(3000));
+    Details->setEnabled(false);
+    Remove->setEnabled(false);
+    mnuDetails->setEnabled(false);
+    mnuRemove->setEnabled(false);
     m_error.ElogViewed();
     try {
         m_database.ElogRecordset();
@@ -174,7 +133,7 @@ frmElog::frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
     }
     UpdateElogButtons();
     FormResize();
-    m_grid->setFocus();
+    DBGridLog->setFocus();
 }
 
 frmElog::~frmElog()
@@ -216,8 +175,8 @@ void frmElog::SaveSettings()
     save("ElogFormLeft", x());
     save("ElogFormWidth", width());
     save("ElogFormHeight", height());
-    save("ElogFormCol0Width", m_grid->columnWidth(kTypeColumn));
-    save("ElogFormCol1Width", m_grid->columnWidth(kDateColumn));
+    save("ElogFormCol0Width", DBGridLog->columnWidth(kTypeColumn));
+    save("ElogFormCol1Width", DBGridLog->columnWidth(kDateColumn));
 }
 
 void frmElog::done(int result)
@@ -276,17 +235,17 @@ void frmElog::FormResize()
     const int margin = Twips::ToPixels(300) / 2;
     const int gridWidth = qMax(0, width() - Twips::ToPixels(300));
     const int gridHeight = qMax(0, height() - Twips::ToPixels(528));
-    m_coolBar->setGeometry(margin, 2, gridWidth, kBarHeight);
-    m_grid->setGeometry(margin, kBarHeight + 5, gridWidth, gridHeight);
+    CoolBarLog->setGeometry(margin, 2, gridWidth, kBarHeight);
+    DBGridLog->setGeometry(margin, kBarHeight + 5, gridWidth, gridHeight);
     FitMessageColumn();
 }
 
 void frmElog::FitMessageColumn()
 {
     // The message stays readable: it gets the width that the picture and the date leave.
-    const int rest = m_grid->viewport()->width() - m_grid->columnWidth(kTypeColumn) -
-                     m_grid->columnWidth(kDateColumn);
-    m_grid->setColumnWidth(kMessageColumn, qMax(rest, 60));
+    const int rest = DBGridLog->viewport()->width() - DBGridLog->columnWidth(kTypeColumn) -
+                     DBGridLog->columnWidth(kDateColumn);
+    DBGridLog->setColumnWidth(kMessageColumn, qMax(rest, 60));
 }
 
 void frmElog::RefreshDataElog()
@@ -302,12 +261,12 @@ void frmElog::RefreshDataElog()
 
 void frmElog::UpdateElogButtons()
 {
-    m_grid->viewport()->update();
+    DBGridLog->viewport()->update();
     const bool any = m_model->rowCount() > 0;
-    m_details->setEnabled(any);
-    m_remove->setEnabled(any);
-    m_mnuDetails->setEnabled(any);
-    m_mnuRemove->setEnabled(any);
+    Details->setEnabled(any);
+    Remove->setEnabled(any);
+    mnuDetails->setEnabled(any);
+    mnuRemove->setEnabled(any);
 }
 
 void frmElog::OnRowsChanged()
@@ -328,10 +287,10 @@ void frmElog::tmrRefresh_Timer()
 void frmElog::ToggleSelectAll()
 {
     const int rows = m_model->rowCount();
-    if (m_grid->selectionModel()->selectedRows().size() < rows)
-        m_grid->selectAll();
+    if (DBGridLog->selectionModel()->selectedRows().size() < rows)
+        DBGridLog->selectAll();
     else
-        m_grid->clearSelection();
+        DBGridLog->clearSelection();
 }
 
 bool frmElog::GridMousePress(QMouseEvent* event)
@@ -339,25 +298,25 @@ bool frmElog::GridMousePress(QMouseEvent* event)
     m_mouseY = event->position().toPoint().y();
     if (event->button() != Qt::RightButton)
         return false;
-    const QModelIndex index = m_grid->indexAt(event->position().toPoint());
+    const QModelIndex index = DBGridLog->indexAt(event->position().toPoint());
     if (!index.isValid())
         return false;
-    m_grid->setCurrentIndex(index);
-    m_mnuLog->popup(m_grid->viewport()->mapToGlobal(event->position().toPoint()));
+    DBGridLog->setCurrentIndex(index);
+    mnuLog->popup(DBGridLog->viewport()->mapToGlobal(event->position().toPoint()));
     return true;
 }
 
 bool frmElog::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_grid->viewport()) {
+    if (watched == DBGridLog->viewport()) {
         if (event->type() == QEvent::MouseButtonPress)
             return GridMousePress(static_cast<QMouseEvent*>(event));
         if (event->type() == QEvent::MouseButtonDblClick) {
-            if (m_grid->rowAt(m_mouseY) >= 0)
+            if (DBGridLog->rowAt(m_mouseY) >= 0)
                 ShowElogDetails();
             return true;
         }
-    } else if (watched == m_grid && event->type() == QEvent::KeyPress) {
+    } else if (watched == DBGridLog && event->type() == QEvent::KeyPress) {
         auto* key = static_cast<QKeyEvent*>(event);
         const auto modifiers = key->modifiers() & ~Qt::KeypadModifier;
         if (modifiers == Qt::NoModifier) {
@@ -379,7 +338,7 @@ void frmElog::ShowElogDetails()
     if (m_model->rowCount() == 0)
         return;
     // A fresh grid stands on its first row, as the recordset does after a refresh.
-    const int row = m_grid->currentIndex().isValid() ? m_grid->currentIndex().row() : 0;
+    const int row = DBGridLog->currentIndex().isValid() ? DBGridLog->currentIndex().row() : 0;
     auto value = [&](int column) {
         return m_model->index(row, column).data(Qt::EditRole);
     };

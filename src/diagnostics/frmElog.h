@@ -1,14 +1,12 @@
 #pragma once
 
+#include "ui_frmElog.h"
+
 #include <QDialog>
 
 class AppDatabase;
 class MessageBoxPresenter;
-class QAction;
-class QMenu;
-class QTableView;
 class QTimer;
-class QToolBar;
 class RecordsetModel;
 class RegKeys;
 class clsError;
@@ -16,7 +14,7 @@ class clsError;
 // The event log, newest entry on top. Bringing it to the front counts as having viewed the
 // log: the unviewed count goes back to 0 and entries logged while it is on screen add none.
 // Entries logged while it is open appear by themselves a moment later.
-class frmElog : public QDialog {
+class frmElog : public QDialog, private Ui::frmElog {
     Q_OBJECT
 public:
     frmElog(AppDatabase& database, clsError& error, RegKeys& registry,
@@ -55,16 +53,7 @@ private:
     clsError& m_error;
     RegKeys& m_registry;
     MessageBoxPresenter& m_messageBox;
-    QWidget* m_coolBar;
-    QToolBar* m_toolbar;
-    QAction* m_details;
-    QAction* m_remove;
-    QTableView* m_grid;
     RecordsetModel* m_model;
-    QMenu* m_mnuLog;
-    QAction* m_mnuDetails;
-    QAction* m_mnuRemove;
-    QAction* m_mnuExit;
     QTimer* m_tmrRefresh;
 
     bool m_resizeActive = false;

@@ -7,17 +7,9 @@
 #include "formats/frmMp3RecordingFormatInfo.h"
 #include "gui/FormPlacement.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QLocale>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -58,132 +50,12 @@ frmRecordFormat::frmRecordFormat(EventLog& log, clsRecordingFormat& format, QWid
     , m_log(log)
     , m_format(format)
 {
-    setObjectName(QStringLiteral("frmRecordFormat"));
-    setWindowTitle(QStringLiteral("Select Recording Format"));
-
-    auto named = [](QWidget* widget, const char* name) {
-        widget->setObjectName(QString::fromLatin1(name));
-        return widget;
-    };
-
-    Frame4 = new QGroupBox(QStringLiteral("Format Selected"), this);
-    named(Frame4, "Frame4");
-    LabelFormat = new QLabel(Frame4);
-    named(LabelFormat, "LabelFormat");
-    LabelFormat->setWordWrap(true);
-    LabelFormat->setMinimumHeight(36);
-    LabelFormat->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    (new QVBoxLayout(Frame4))->addWidget(LabelFormat);
-
-    CheckUsePcm = new QCheckBox(QStringLiteral("&Use PCM format "), this);
-    named(CheckUsePcm, "CheckUsePcm");
-
-    framePcmFormat = new QGroupBox(QStringLiteral("&Standard PCM Format "), this);
-    named(framePcmFormat, "framePcmFormat");
-    optPhoneQuality = new QRadioButton(QStringLiteral("&Phone Quality"), framePcmFormat);
-    named(optPhoneQuality, "optPhoneQuality");
-    optRadioQuality = new QRadioButton(QStringLiteral("&Radio Quality"), framePcmFormat);
-    named(optRadioQuality, "optRadioQuality");
-    optCDQuality = new QRadioButton(QStringLiteral("C&D Quality"), framePcmFormat);
-    named(optCDQuality, "optCDQuality");
-
-    FrameChannels = new QGroupBox(QStringLiteral("C&hannels"), framePcmFormat);
-    named(FrameChannels, "FrameChannels");
-    OptionMono = new QRadioButton(QStringLiteral("&Mono"), FrameChannels);
-    named(OptionMono, "OptionMono");
-    OptionStereo = new QRadioButton(QStringLiteral(" S&tereo"), FrameChannels);
-    named(OptionStereo, "OptionStereo");
-    auto* channels = new QVBoxLayout(FrameChannels);
-    channels->addWidget(OptionMono);
-    channels->addWidget(OptionStereo);
-
-    FrameResolution = new QGroupBox(QStringLiteral("R&esolution"), framePcmFormat);
-    named(FrameResolution, "FrameResolution");
-    Option8bit = new QRadioButton(QStringLiteral("&8 bit"), FrameResolution);
-    named(Option8bit, "Option8bit");
-    Option16bit = new QRadioButton(QStringLiteral("&16  bit"), FrameResolution);
-    named(Option16bit, "Option16bit");
-    auto* resolution = new QVBoxLayout(FrameResolution);
-    resolution->addWidget(Option8bit);
-    resolution->addWidget(Option16bit);
-
-    LabelSampleRate = new QLabel(QStringLiteral("Sample Rate"), framePcmFormat);
-    named(LabelSampleRate, "LabelSampleRate");
-    ComboSampleRate = new QComboBox(framePcmFormat);
-    named(ComboSampleRate, "ComboSampleRate");
-    LabelSampleRate->setBuddy(ComboSampleRate);
-
-    auto* presets = new QVBoxLayout;
-    presets->addWidget(optPhoneQuality);
-    presets->addWidget(optRadioQuality);
-    presets->addWidget(optCDQuality);
-    presets->addStretch();
-    auto* rate = new QVBoxLayout;
-    rate->addWidget(LabelSampleRate);
-    rate->addWidget(ComboSampleRate);
-    rate->addStretch();
-    auto* pcm = new QHBoxLayout(framePcmFormat);
-    pcm->addLayout(presets);
-    pcm->addWidget(FrameChannels);
-    pcm->addWidget(FrameResolution);
-    pcm->addLayout(rate);
-
-    CommandAdvanced = new QPushButton(QStringLiteral("Select from &all recording formats"), this);
-    named(CommandAdvanced, "CommandAdvanced");
-
-    frameMP3 = new QGroupBox(QStringLiteral("MP3"), this);
-    named(frameMP3, "frameMP3");
-    // The caption is long for one line; it is broken where its two sentences meet.
-    chkConvert = new QCheckBox(
-        QStringLiteral("Co&nvert to the selected MP3 format after recording in the appropriate "
-                       "PCM format.\n(Recommended for slow computers)"),
-        frameMP3);
-    named(chkConvert, "chkConvert");
-    chkMP3FileExtension = new QCheckBox(QStringLiteral("Sa&ve with .MP3 file extension"), frameMP3);
-    named(chkMP3FileExtension, "chkMP3FileExtension");
+    setupUi(this);
     // Beside the MP3 frame, not in it: the steps it shows are wanted while MP3 is not yet
     // chosen and the frame is unavailable.
-    btnInfo = new QPushButton(this);
-    named(btnInfo, "btnInfo");
     btnInfo->setIcon(style()->standardIcon(QStyle::SP_MessageBoxInformation));
-    btnInfo->setToolTip(QStringLiteral("Selecting MP3 Recording Format"));
-    auto* mp3 = new QGridLayout(frameMP3);
-    mp3->addWidget(chkConvert, 0, 0);
-    mp3->addWidget(chkMP3FileExtension, 1, 0);
-
-    Label1 = new QLabel(QStringLiteral("NOTE: It is strongly recommended to perform a short test "
-                                       "recording if no recording has been made with this "
-                                       "format before."),
-                        this);
-    named(Label1, "Label1");
-    Label1->setWordWrap(true);
-
-    CommandOk = new QPushButton(QStringLiteral("&OK"), this);
-    named(CommandOk, "CommandOk");
-    CommandOk->setDefault(true);
-    CommandCancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    named(CommandCancel, "CommandCancel");
-
-    auto* pcmRow = new QHBoxLayout;
-    pcmRow->addWidget(CheckUsePcm);
-    pcmRow->addStretch();
-    pcmRow->addWidget(CommandAdvanced);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(Label1, 1);
-    buttons->addWidget(CommandOk);
-    buttons->addWidget(CommandCancel);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(Frame4);
-    layout->addLayout(pcmRow);
-    layout->addWidget(framePcmFormat);
-    auto* mp3Row = new QHBoxLayout;
-    mp3Row->addWidget(frameMP3, 1);
-    mp3Row->addWidget(btnInfo, 0, Qt::AlignVCenter);
-    layout->addLayout(mp3Row);
-    layout->addLayout(buttons);
 
     // Form load.
-    CommandAdvanced->setText(QStringLiteral("Select from &all\nrecording formats"));
     FormPlacement::PlaceAtMainForm(this, parent, FormOffsetTwips);
     m_backup.CopyFrom(m_format);
     chkMP3FileExtension->setChecked(m_format.SaveMP3FileExtension);

@@ -1,23 +1,18 @@
 #pragma once
 
 #include "formats/clsRecordingFormat.h"
+#include "ui_frmRecordFormat.h"
 
 #include <QDialog>
 #include <QList>
 
 class EventLog;
-class QCheckBox;
-class QComboBox;
-class QGroupBox;
-class QLabel;
-class QPushButton;
-class QRadioButton;
 
 // "Select Recording Format": chooses a recording format, in place, on the object it is
 // given, and keeps a copy for Cancel. Standard PCM formats are chosen on the form; any
 // other through "Select from all recording formats". OK marks the format as confirmed
 // (FormatChanged).
-class frmRecordFormat : public QDialog {
+class frmRecordFormat : public QDialog, private Ui::frmRecordFormat {
     Q_OBJECT
 public:
     frmRecordFormat(EventLog& log, clsRecordingFormat& format, QWidget* parent);
@@ -43,30 +38,6 @@ private:
     clsRecordingFormat m_backup;
     QList<quint32> m_sampleRates;
     bool m_updating = false;
-
-    QCheckBox* CheckUsePcm;
-    QGroupBox* framePcmFormat;
-    QRadioButton* optPhoneQuality;
-    QRadioButton* optRadioQuality;
-    QRadioButton* optCDQuality;
-    QGroupBox* FrameChannels;
-    QRadioButton* OptionMono;
-    QRadioButton* OptionStereo;
-    QGroupBox* FrameResolution;
-    QRadioButton* Option8bit;
-    QRadioButton* Option16bit;
-    QLabel* LabelSampleRate;
-    QComboBox* ComboSampleRate;
-    QPushButton* CommandAdvanced;
-    QGroupBox* frameMP3;
-    QCheckBox* chkConvert;
-    QCheckBox* chkMP3FileExtension;
-    QPushButton* btnInfo;
-    QGroupBox* Frame4;
-    QLabel* LabelFormat;
-    QLabel* Label1;
-    QPushButton* CommandOk;
-    QPushButton* CommandCancel;
 };
 
 // Shows the format dialog for the format, modally over owner; true when the user

@@ -46,11 +46,6 @@ QString TwoDigits(int value)
     return QStringLiteral("%1").arg(value, 2, 10, QLatin1Char('0'));
 }
 
-QString BoolText(bool value)
-{
-    return value ? QStringLiteral("True") : QStringLiteral("False");
-}
-
 // The box's text as a number, as the checks compare it.
 double Number(const QLineEdit* box)
 {
@@ -587,21 +582,9 @@ void frmOptions::cmdOK_Click()
 {
     Trap(m_s.log, "Options cmdOK_Click", [&] {
         Options& o = m_s.options;
-        const auto store = [this](const char* key, const QString& value) {
-            m_s.registry.SaveSetting(kSection, QLatin1String(key), value);
-        };
-        const auto storeBool = [&store](const char* key, bool& global, bool value) {
-            global = value;
-            store(key, BoolText(value));
-        };
-        const auto storeInt = [&store](const char* key, qint16& global, qint16 value) {
-            global = value;
-            store(key, QString::number(value));
-        };
-
         // First, so that it is kept even when the folder check below fails.
-        storeBool("HiddenWindowStatupMode", o.HiddenWindowStatupMode,
-                  optHiddenStartupMode->isChecked());
+        o.HiddenWindowStatupMode = optHiddenStartupMode->isChecked();
+        o.SaveStartupMode(m_s.registry);
 
         if (m_workingRecordingFolder.isEmpty() || !QDir(m_workingRecordingFolder).exists()) {
             m_s.messageBox.Show(
@@ -611,77 +594,62 @@ void frmOptions::cmdOK_Click()
             return;
         }
         o.DefaultRecordingDirectory = m_workingRecordingFolder;
-        store("DefaultRecordingDirectory", m_workingRecordingFolder);
         m_s.error.SetInvalidRecordingDirectory(false);
 
         // The two disk limits go together: one out of range drops both.
         const double warn = Number(txtWarnRecMegsLeft);
         const double stop = Number(txtStopRecMegsLeft);
         if (Within(warn, 10, 20000) && Within(stop, 5, 20000)) {
-            const qint16 stopValue = Int16(stop);
-            storeInt("WarnRecMegsLeft", o.WarnRecMegsLeft, qMax(Int16(warn), stopValue));
-            storeInt("StopRecMegsLeft", o.StopRecMegsLeft, stopValue);
+            o.StopRecMegsLeft = Int16(stop);
+            o.WarnRecMegsLeft = qMax(Int16(warn), o.StopRecMegsLeft);
         }
 
         if (m_formatChanged) {
             m_s.defaultFormat.CopyFrom(m_workingFormat);
             m_s.formatStore.SaveDefaultFormatInfo(m_s.defaultFormat);
         }
-        storeBool("ConfirmStopManualRecording", o.ConfirmStopManualRecording,
-                  chkConfirmStopManualRecording->isChecked());
+        o.ConfirmStopManualRecording = chkConfirmStopManualRecording->isChecked();
         SavePlayFwdRevSettings();
 
-        storeBool("ShowActualTimeInPlayer", o.ShowActualTimeInPlayer,
-                  chkShowActualTimeInPlayer->isChecked());
-        storeBool("ShowSplashScreen", o.ShowSplashScreen, chkShowSplashScreen->isChecked());
+        o.ShowActualTimeInPlayer = chkShowActualTimeInPlayer->isChecked();
+        o.ShowSplashScreen = chkShowSplashScreen->isChecked();
         o.WavPlayer = ComboWavPlayer->currentText();
-        store("WavPlayer", o.WavPlayer);
         o.Mp3Player = ComboMP3Player->currentText();
-        store("Mp3Player", o.Mp3Player);
-        storeBool("RemoveExpiredPrograms", o.RemoveExpiredPrograms,
-                  chkRemoveExpiredPrograms->isChecked());
-        storeBool("ShowRecordingTimeInTaskBar", o.ShowRecordingTimeInTaskBar,
-                  chkShowRecordingTimeInTaskBar->isChecked());
-        storeBool("KeepAwakeForRecordings", o.KeepAwakeForRecordings,
-                  chkKeepAwakeForRecordings->isChecked());
-        storeBool("SilenceAlarm", o.SilenceAlarm, chkSilenceAlarm->isChecked());
-        storeBool("ShowDesktopNotifications", o.ShowDesktopNotifications,
-                  chkShowDesktopNotifications->isChecked());
+        o.RemoveExpiredPrograms = chkRemoveExpiredPrograms->isChecked();
+        o.ShowRecordingTimeInTaskBar = chkShowRecordingTimeInTaskBar->isChecked();
+        o.KeepAwakeForRecordings = chkKeepAwakeForRecordings->isChecked();
+        o.SilenceAlarm = chkSilenceAlarm->isChecked();
+        o.ShowDesktopNotifications = chkShowDesktopNotifications->isChecked();
         o.MixerFilePath = m_workingMixerPath;
-        store("MixerFilePath", m_workingMixerPath);
-        storeBool("AllowJoystickActivation", o.AllowJoystickActivation,
-                  chkAllowJoystickActivation->isChecked());
-        storeInt("DefaultRecordFileNameFormat", o.DefaultRecordFileNameFormat,
-                 qint16(qMax(0, comboDefaultRecordFileNameFormat->currentIndex())));
+        o.AllowJoystickActivation = chkAllowJoystickActivation->isChecked();
+        o.DefaultRecordFileNameFormat =
+            qint16(qMax(0, comboDefaultRecordFileNameFormat->currentIndex()));
         // Enter may press OK while a duration box still has the focus: the clamp that
         // leaving the box would have done is done here.
         ClampDuration(TextDurationHours, 23);
         ClampDuration(TextDurationMinutes, 59);
         ClampDuration(TextDurationSeconds, 59);
-        storeInt("DefaultManualRecordingDurationHours", o.DefaultManualRecordingDurationHours,
-                 Int16(Number(TextDurationHours)));
-        storeInt("DefaultManualRecordingDurationMinutes", o.DefaultManualRecordingDurationMinutes,
-                 Int16(Number(TextDurationMinutes)));
-        storeInt("DefaultManualRecordingDurationSeconds", o.DefaultManualRecordingDurationSeconds,
-                 Int16(Number(TextDurationSeconds)));
+        o.DefaultManualRecordingDurationHours = Int16(Number(TextDurationHours));
+        o.DefaultManualRecordingDurationMinutes = Int16(Number(TextDurationMinutes));
+        o.DefaultManualRecordingDurationSeconds = Int16(Number(TextDurationSeconds));
 
+        // A group with a value out of range keeps what it had.
         const double longHours = Number(txtLongRecordingHours);
         if (Within(longHours, 1, 23)) {
-            storeInt("LongRecordingHours", o.LongRecordingHours, Int16(longHours));
-            storeBool("ConfirmLongRecordings", o.ConfirmLongRecordings,
-                      chkConfirmLongRecordings->isChecked());
+            o.LongRecordingHours = Int16(longHours);
+            o.ConfirmLongRecordings = chkConfirmLongRecordings->isChecked();
         }
         const double padding = Number(txtPaddingSeconds);
         if (Within(padding, 0, Options::MaxPaddingSeconds))
-            storeInt("PaddingSeconds", o.PaddingSeconds, Int16(padding));
+            o.PaddingSeconds = Int16(padding);
         const double purgeDays = Number(txtPurgeDays);
         if (Within(purgeDays, 3, 999)) {
-            storeInt("PurgeDays", o.PurgeDays, Int16(purgeDays));
-            storeBool("PurgeRecordings", o.PurgeRecordings, chkPurgeOldRecordings->isChecked());
+            o.PurgeDays = Int16(purgeDays);
+            o.PurgeRecordings = chkPurgeOldRecordings->isChecked();
             const QTime t = dtpkrPurgeTime->time();
             o.PurgeTime = AutomationDate::FromTime(t.hour(), t.minute(), t.second());
-            store("PurgeTime", Options::TimeText(o.PurgeTime));
         }
+        o.SaveOptions(m_s.registry);
 
         AutostartEntry::Set(chkStartupFolder->isChecked(), m_s.programFolder);
         if (m_s.updateStatusBarPlus)

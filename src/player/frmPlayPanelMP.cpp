@@ -8,27 +8,11 @@
 #include "player/TimeSlider.h"
 #include "store/Options.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
-
-namespace {
-
-QSlider* Slider(QWidget* parent, const char* name, Qt::Orientation orientation, int min, int max)
-{
-    auto* slider = new QSlider(orientation, parent);
-    slider->setObjectName(QString::fromLatin1(name));
-    slider->setRange(min, max);
-    return slider;
-}
-
-} // namespace
 
 frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStatus& appStatus,
                                int& volume, QWidget* mainForm)
@@ -59,70 +43,22 @@ frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStat
 
 void frmPlayPanelMP::BuildForm()
 {
-    btnBeginning = MediaButton(this, "btnBeginning", QStyle::SP_MediaSkipBackward,
-                               QStringLiteral("Go to Beginning"));
-    btnPlay = MediaButton(this, "btnPlay", QStyle::SP_MediaPlay, QStringLiteral("Play"));
-    btnPause = MediaButton(this, "btnPause", QStyle::SP_MediaPause, QStringLiteral("Pause"));
-    btnStop = MediaButton(this, "btnStop", QStyle::SP_MediaStop, QStringLiteral("Stop"));
-    btnEnd = MediaButton(this, "btnEnd", QStyle::SP_MediaSkipForward, QStringLiteral("Go to End"));
-    // 0 at the top is full volume; the scale is logarithmic in the level (see the change).
-    VSliderVolume = Slider(this, "VSliderVolume", Qt::Vertical, 0, 100);
-    VSliderVolume->setInvertedAppearance(true);
-    VSliderVolume->setToolTip(QStringLiteral("Volume"));
-    HSliderBalance = Slider(this, "HSliderBalance", Qt::Horizontal, -10000, 10000);
-    HSliderBalance->setSingleStep(100);
-    HSliderBalance->setPageStep(1000);
-    HSliderBalance->setToolTip(QStringLiteral("Balance"));
-    HSliderRate = Slider(this, "HSliderRate", Qt::Horizontal, 50, 300);
-    HSliderRate->setValue(100);
-    HSliderRate->setPageStep(25);
-    HSliderRate->setToolTip(QStringLiteral("Playback at a faster or slower rate"));
-    const auto label = [this](const char* name, const QString& text, QWidget* buddy = nullptr) {
-        auto* l = new QLabel(text, this);
-        l->setObjectName(QString::fromLatin1(name));
-        l->setBuddy(buddy);
-        return l;
-    };
-    lblStatus = label("lblStatus", QString());
-    lblStatus->setAlignment(Qt::AlignCenter);
-    lblError = label("lblError", QString());
-    lblError->setWordWrap(true);
+    setupUi(this);
+    for (auto [button, icon] :
+         {std::pair{btnBeginning, QStyle::SP_MediaSkipBackward},
+          std::pair{btnPlay, QStyle::SP_MediaPlay}, std::pair{btnPause, QStyle::SP_MediaPause},
+          std::pair{btnStop, QStyle::SP_MediaStop}, std::pair{btnEnd, QStyle::SP_MediaSkipForward}})
+        button->setIcon(style()->standardIcon(icon));
     QPalette errorPalette = lblError->palette();
     errorPalette.setColor(QPalette::WindowText, Qt::darkRed);
     lblError->setPalette(errorPalette);
 
-    auto* times = new QHBoxLayout;
-    times->addWidget(lblTime);
-    times->addWidget(lblStatus, 1);
-    times->addWidget(lblLength);
-    auto* transport = new QHBoxLayout;
-    for (QToolButton* b : {btnBeginning, btnPlay, btnPause, btnStop, btnEnd})
-        transport->addWidget(b);
-    transport->addStretch(1);
-    auto* mix = new QGridLayout;
-    mix->addWidget(label("lblBalanceCaption", QStringLiteral("Balance"), HSliderBalance), 0, 0);
-    mix->addWidget(HSliderBalance, 0, 1);
-    mix->addWidget(label("lblRateCaption", QStringLiteral("Rate"), HSliderRate), 1, 0);
-    mix->addWidget(HSliderRate, 1, 1);
-    auto* left = new QVBoxLayout;
-    left->addWidget(sldTime);
-    left->addLayout(times);
-    left->addLayout(transport);
-    left->addWidget(steps);
-    left->addLayout(mix);
-    auto* volume = new QVBoxLayout;
-    volume->addWidget(label("lblVolumeCaption", QStringLiteral("Volume"), VSliderVolume), 0,
-                      Qt::AlignHCenter);
-    volume->addWidget(VSliderVolume, 1, Qt::AlignHCenter);
-    auto* top = new QHBoxLayout;
-    top->addLayout(left, 1);
-    top->addLayout(volume);
-    auto* bottom = new QHBoxLayout;
-    bottom->addWidget(lblError, 1);
-    bottom->addWidget(btnExit, 0, Qt::AlignBottom);
-    auto* form = new QVBoxLayout(this);
-    form->addLayout(top);
-    form->addLayout(bottom);
+    // The parts both panels share are made by the base and take their places here.
+    leftColumn->insertWidget(0, sldTime);
+    timesRow->insertWidget(0, lblTime);
+    timesRow->addWidget(lblLength);
+    leftColumn->insertWidget(3, steps);
+    bottomRow->addWidget(btnExit, 0, Qt::AlignBottom);
 
     connect(btnPlay, &QToolButton::clicked, this, &frmPlayPanelMP::btnPlay_Click);
     connect(btnPause, &QToolButton::clicked, this, &frmPlayPanelMP::btnPause_Click);
@@ -132,6 +68,7 @@ void frmPlayPanelMP::BuildForm()
     connect(steps, &PlayStepButtons::Forward, this, &frmPlayPanelMP::btnForward_Click);
     connect(steps, &PlayStepButtons::Reverse, this, &frmPlayPanelMP::btnReverse_Click);
     connect(sldTime, &TimeSlider::Jumped, this, &frmPlayPanelMP::sldTime_Jump);
+    // 0 at the top is full volume; the scale is logarithmic in the level (see the change).
     connect(VSliderVolume, &QSlider::valueChanged, this, &frmPlayPanelMP::VSliderVolume_Change);
     connect(HSliderBalance, &QSlider::valueChanged, this,
             [this](int value) { m_engine.SetBalance(value); });

@@ -1,16 +1,14 @@
 #pragma once
 
 #include "player/PlayPanelForm.h"
-
-class QSlider;
-class QToolButton;
+#include "ui_frmPlayPanelMP.h"
 
 // The enhanced player: WAV and MP3, the six skip buttons, a time slider that jumps where it
 // is clicked, volume, balance and rate, and the recording's clock time if the options ask
 // for it. Not modal; it plays on while a recording runs. Closing it clears Playing.
 // The enhanced player: WAV and MP3, opened at the load and played when told to; volume,
 // balance and rate of its own, and the transport buttons of a media player.
-class frmPlayPanelMP : public PlayPanelForm {
+class frmPlayPanelMP : public PlayPanelForm, public Ui::frmPlayPanelMP {
     Q_OBJECT
 public:
     // volume is the level kept for the run (hundredths of a decibel); the panel starts at it
@@ -31,17 +29,6 @@ public:
     void btnReverse_Click(int index);
     void sldTime_Jump(int value);
     bool CheckKeys(int key, Qt::KeyboardModifiers modifiers) override;
-
-    QToolButton* btnPlay;
-    QToolButton* btnPause;
-    QToolButton* btnStop;
-    QToolButton* btnBeginning;
-    QToolButton* btnEnd;
-    QSlider* VSliderVolume;
-    QSlider* HSliderBalance;
-    QSlider* HSliderRate;
-    QLabel* lblStatus;
-    QLabel* lblError;
 
 private:
     void BuildForm();

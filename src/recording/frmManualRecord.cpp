@@ -10,27 +10,19 @@
 #include "formats/frmRecordFormat.h"
 #include "gui/FormPlacement.h"
 #include "recording/clsManualRecord.h"
-#include "scheduling/SourceChooser.h"
 #include "scheduling/StreamAddress.h"
 #include "store/Options.h"
 
 #include <QEvent>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTimer>
 #include <QToolButton>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <limits>
 
 namespace {
 
+// Each duration box carries its upper limit as this property, set in the layout file.
 const char* const kMaximum = "maximum";
 
 QString TwoDigits(qint64 value)
@@ -73,102 +65,18 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     , QuickStart(quickStart)
     , m_s(services)
 {
-    setObjectName(QStringLiteral("frmManualRecord"));
-    setWindowTitle(QStringLiteral("Manual Record"));
+    setupUi(this);
     const Options& options = m_s.options;
-
-    TextProgramDescription = new QLineEdit(QStringLiteral("Manual Record"));
-    TextProgramDescription->setObjectName(QStringLiteral("TextProgramDescription"));
     TextProgramDescription->installEventFilter(this);
-    auto* lblDescription = new QLabel(QStringLiteral("Description:"));
-    lblDescription->setBuddy(TextProgramDescription);
+    SetUpDurationBox(TextDurationHours, UpDownDurationHoursUp, UpDownDurationHoursDown,
+                     options.DefaultManualRecordingDurationHours);
+    SetUpDurationBox(TextDurationMinutes, UpDownDurationMinutesUp, UpDownDurationMinutesDown,
+                     options.DefaultManualRecordingDurationMinutes);
+    SetUpDurationBox(TextDurationSeconds, UpDownDurationSecondsUp, UpDownDurationSecondsDown,
+                     options.DefaultManualRecordingDurationSeconds);
+    optDefaultFilename->setText(DefaultFilenameCaption(options.DefaultRecordFileNameFormat));
 
-    QWidget* hoursArrows = nullptr;
-    QWidget* minutesArrows = nullptr;
-    QWidget* secondsArrows = nullptr;
-    TextDurationHours = MakeDurationBox("TextDurationHours", "UpDownDurationHours", 23,
-                                        options.DefaultManualRecordingDurationHours, hoursArrows);
-    TextDurationMinutes =
-        MakeDurationBox("TextDurationMinutes", "UpDownDurationMinutes", 59,
-                        options.DefaultManualRecordingDurationMinutes, minutesArrows);
-    TextDurationSeconds =
-        MakeDurationBox("TextDurationSeconds", "UpDownDurationSeconds", 59,
-                        options.DefaultManualRecordingDurationSeconds, secondsArrows);
-    auto* duration = new QGridLayout;
-    int column = 0;
-    for (auto [box, arrows, caption] :
-         {std::tuple{TextDurationHours, hoursArrows, "Hours"},
-          std::tuple{TextDurationMinutes, minutesArrows, "Minutes"},
-          std::tuple{TextDurationSeconds, secondsArrows, "Seconds"}}) {
-        auto* pair = new QHBoxLayout;
-        pair->setSpacing(0);
-        pair->addWidget(box);
-        pair->addWidget(arrows);
-        duration->addLayout(pair, 0, column);
-        auto* label = new QLabel(QString::fromLatin1(caption));
-        label->setBuddy(box);
-        duration->addWidget(label, 1, column, Qt::AlignHCenter);
-        ++column;
-    }
-    duration->setColumnStretch(3, 1);
-
-    TextCompressionMethod = new QLineEdit;
-    TextCompressionMethod->setObjectName(QStringLiteral("TextCompressionMethod"));
-    TextCompressionMethod->setReadOnly(true);
-    ChangeComprMethodButton = new QPushButton(QStringLiteral("Modi&fy"));
-    ChangeComprMethodButton->setObjectName(QStringLiteral("ChangeComprMethodButton"));
-    ChangeComprMethodButton->setAutoDefault(false);
-    LabelDiskSpaceData = new QLabel;
-    LabelDiskSpaceData->setObjectName(QStringLiteral("LabelDiskSpaceData"));
-
-    auto* frameFilename = new QGroupBox(QStringLiteral("Filename"));
-    optDefaultFilename =
-        new QRadioButton(DefaultFilenameCaption(options.DefaultRecordFileNameFormat));
-    optDefaultFilename->setObjectName(QStringLiteral("optDefaultFilename"));
-    optUserFilename = new QRadioButton(QStringLiteral("&User"));
-    optUserFilename->setObjectName(QStringLiteral("optUserFilename"));
-    txtFilename = new QLineEdit;
-    txtFilename->setObjectName(QStringLiteral("txtFilename"));
-    auto* filenameLayout = new QGridLayout(frameFilename);
-    filenameLayout->addWidget(optDefaultFilename, 0, 0, 1, 2);
-    filenameLayout->addWidget(optUserFilename, 1, 0);
-    filenameLayout->addWidget(txtFilename, 1, 1);
-    filenameLayout->setColumnStretch(1, 1);
-
-    auto* fields = new QGridLayout;
-    fields->addWidget(lblDescription, 0, 0);
-    fields->addWidget(TextProgramDescription, 0, 1, 1, 2);
-    fields->addLayout(duration, 1, 1, 1, 2);
-    auto* lblFormat = new QLabel(QStringLiteral("Recording Format"));
-    lblFormat->setBuddy(TextCompressionMethod);
-    fields->addWidget(lblFormat, 2, 0);
-    fields->addWidget(TextCompressionMethod, 2, 1);
-    fields->addWidget(ChangeComprMethodButton, 2, 2);
-    fields->addWidget(new QLabel(QStringLiteral("Disk Storage:")), 3, 0);
-    fields->addWidget(LabelDiskSpaceData, 3, 1, 1, 2);
-    fields->addWidget(frameFilename, 4, 0, 1, 3);
-    frameSource = new SourceChooser(m_s.taskProgram);
-    fields->addWidget(frameSource, 5, 0, 1, 3);
-    fields->setColumnStretch(1, 1);
-
-    CommandOk = new QPushButton(QStringLiteral("&OK"));
-    CommandOk->setObjectName(QStringLiteral("CommandOk"));
-    CommandOk->setDefault(true);
-    CommandCancel = new QPushButton(QStringLiteral("&Cancel"));
-    CommandCancel->setObjectName(QStringLiteral("CommandCancel"));
-    auto* pressOk = new QLabel(QStringLiteral("Press OK to begin Recording."));
-    pressOk->setWordWrap(true);
-    auto* buttons = new QVBoxLayout;
-    buttons->addWidget(pressOk);
-    buttons->addWidget(CommandOk);
-    buttons->addWidget(CommandCancel);
-    buttons->addStretch();
-
-    auto* layout = new QHBoxLayout(this);
-    layout->addLayout(fields, 1);
-    layout->addSpacing(8);
-    layout->addLayout(buttons);
-    setMinimumWidth(560);
+    frameSource->SetTaskProgram(m_s.taskProgram);
 
     connect(ChangeComprMethodButton, &QPushButton::clicked, this,
             &frmManualRecord::ChangeComprMethodButton_Click);
@@ -181,35 +89,16 @@ frmManualRecord::frmManualRecord(const ManualRecordServices& services, bool quic
     Form_Load();
 }
 
-QLineEdit* frmManualRecord::MakeDurationBox(const char* name, const char* upDownName, int max,
-                                            int start, QWidget*& withArrows)
+void frmManualRecord::SetUpDurationBox(QLineEdit* box, QToolButton* up, QToolButton* down,
+                                       int start)
 {
-    auto* box = new QLineEdit(TwoDigits(start));
-    box->setObjectName(QString::fromLatin1(name));
-    box->setProperty(kMaximum, max);
-    box->setMaxLength(5);
+    box->setText(TwoDigits(start));
+    // Four digits wide in the font the box has.
     box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 12);
-    box->setAlignment(Qt::AlignRight);
     box->installEventFilter(this);
     connect(box, &QLineEdit::textChanged, this, &frmManualRecord::CalcStorage);
-
-    withArrows = new QWidget;
-    withArrows->setObjectName(QString::fromLatin1(upDownName));
-    auto* arrows = new QVBoxLayout(withArrows);
-    arrows->setContentsMargins(0, 0, 0, 0);
-    arrows->setSpacing(0);
-    for (auto [type, step] : {std::pair{Qt::UpArrow, 1}, std::pair{Qt::DownArrow, -1}}) {
-        auto* arrow = new QToolButton;
-        arrow->setObjectName(QString::fromLatin1(upDownName) +
-                             (step > 0 ? QStringLiteral("Up") : QStringLiteral("Down")));
-        arrow->setArrowType(type);
-        arrow->setFixedSize(16, 11);
-        arrow->setAutoRepeat(true);
-        arrow->setFocusPolicy(Qt::NoFocus);
-        connect(arrow, &QToolButton::clicked, box, [box, step] { StepDurationBox(box, step); });
-        arrows->addWidget(arrow);
-    }
-    return box;
+    connect(up, &QToolButton::clicked, box, [box] { StepDurationBox(box, 1); });
+    connect(down, &QToolButton::clicked, box, [box] { StepDurationBox(box, -1); });
 }
 
 void frmManualRecord::Form_Load()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "formats/clsRecordingFormat.h"
+#include "ui_frmManualRecord.h"
 
 #include <QDialog>
 
@@ -11,11 +12,6 @@ class RegKeys;
 class clsAppStatus;
 
 struct clsManualRecord;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class SourceChooser;
 
 // What the manual recording dialog uses of the rest of the system.
 struct ManualRecordServices {
@@ -36,7 +32,7 @@ struct ManualRecordServices {
 // now. It writes its answer into the request and sets Requested only when all checks pass.
 // The quick start of keys and joystick loads it without showing it and presses OK itself;
 // then the long-recording question is not asked.
-class frmManualRecord : public QDialog {
+class frmManualRecord : public QDialog, public Ui::frmManualRecord {
     Q_OBJECT
 public:
     frmManualRecord(const ManualRecordServices& services, bool quickStart, QWidget* owner);
@@ -48,26 +44,11 @@ public:
     void CommandOk_Click();
     void CalcStorage();
 
-    QLineEdit* TextProgramDescription;
-    QLineEdit* TextDurationHours;
-    QLineEdit* TextDurationMinutes;
-    QLineEdit* TextDurationSeconds;
-    QLineEdit* TextCompressionMethod;
-    QPushButton* ChangeComprMethodButton;
-    QLabel* LabelDiskSpaceData;
-    QRadioButton* optDefaultFilename;
-    QRadioButton* optUserFilename;
-    QLineEdit* txtFilename;
-    SourceChooser* frameSource;
-    QPushButton* CommandOk;
-    QPushButton* CommandCancel;
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QLineEdit* MakeDurationBox(const char* name, const char* upDownName, int max, int start,
-                               QWidget*& withArrows);
+    void SetUpDurationBox(QLineEdit* box, QToolButton* up, QToolButton* down, int start);
     void Form_Load();
     void ChangeComprMethodButton_Click();
     // The rule on leaving a duration box: its value forced into the range, two digits.

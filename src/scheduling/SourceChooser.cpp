@@ -16,9 +16,9 @@ constexpr int StreamItemRole = Qt::UserRole + 1;
 
 } // namespace
 
-SourceChooser::SourceChooser(const QString& taskProgram, QWidget* parent)
+SourceChooser::SourceChooser(QWidget* parent)
     : QGroupBox(tr("Source"), parent)
-    , m_test(new StreamTest(taskProgram, this))
+    , m_test(new StreamTest(QString(), this))
 {
     setObjectName(QStringLiteral("frameSource"));
     cboSource = new QComboBox;
@@ -61,6 +61,11 @@ SourceChooser::SourceChooser(const QString& taskProgram, QWidget* parent)
 }
 
 SourceChooser::~SourceChooser() = default;
+
+void SourceChooser::SetTaskProgram(const QString& taskProgram)
+{
+    m_test->SetTaskProgram(taskProgram);
+}
 
 void SourceChooser::SetStreamUrl(const QString& address)
 {

@@ -15,9 +15,12 @@ class StreamTest;
 class SourceChooser : public QGroupBox {
     Q_OBJECT
 public:
-    // taskProgram is the recording task, which runs the test.
-    explicit SourceChooser(const QString& taskProgram, QWidget* parent = nullptr);
+    // Forms make it from their layout files and name the recording task, which runs the
+    // test, before it is shown.
+    explicit SourceChooser(QWidget* parent = nullptr);
     ~SourceChooser() override;
+
+    void SetTaskProgram(const QString& taskProgram);
 
     // An empty address chooses the default input.
     void SetStreamUrl(const QString& address);

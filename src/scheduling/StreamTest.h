@@ -14,6 +14,8 @@ public:
     explicit StreamTest(const QString& taskProgram, QObject* parent = nullptr);
     ~StreamTest() override;
 
+    void SetTaskProgram(const QString& taskProgram) { m_taskProgram = taskProgram; }
+
     // A test under way is abandoned for the new one.
     void Start(const QString& address);
     bool Running() const { return m_process != nullptr; }

@@ -9,52 +9,24 @@
 #include "gui/FormPlacement.h"
 #include "platform/WaylandSession.h"
 #include "scheduling/ProgramValidator.h"
-#include "scheduling/SourceChooser.h"
 #include "scheduling/frmLaunchProgramInfo.h"
 #include "sideactions/StreamingPlayer.h"
 #include "sideactions/ViewHtmlFile.h"
 #include "store/Options.h"
 
-#include <QCheckBox>
-#include <QDateEdit>
 #include <QDir>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabWidget>
-#include <QTimeEdit>
-#include <QToolButton>
-#include <QVBoxLayout>
 #include <algorithm>
 
 namespace {
 
-// The arrows beside a delay box: they step the number in the box within 0..120.
-QWidget* MakeUpDown(QLineEdit* buddy)
+// The arrows beside a delay box step the number in the box within 0..120.
+void ConnectUpDown(QLineEdit* box, QToolButton* up, QToolButton* down)
 {
-    auto* box = new QWidget;
-    auto* layout = new QVBoxLayout(box);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    const auto arrow = [&](Qt::ArrowType type, int step) {
-        auto* button = new QToolButton;
-        button->setArrowType(type);
-        button->setFixedSize(16, 11);
-        button->setAutoRepeat(true);
-        QObject::connect(button, &QToolButton::clicked, buddy, [buddy, step] {
-            const qint64 value = Text::RoundHalfEven(Text::Val(Text::Trim(buddy->text())));
-            buddy->setText(QString::number(std::clamp<qint64>(value + step, 0, 120)));
+    for (auto [arrow, step] : {std::pair{up, 1}, std::pair{down, -1}})
+        QObject::connect(arrow, &QToolButton::clicked, box, [box, step] {
+            const qint64 value = Text::RoundHalfEven(Text::Val(Text::Trim(box->text())));
+            box->setText(QString::number(std::clamp<qint64>(value + step, 0, 120)));
         });
-        layout->addWidget(button);
-    };
-    arrow(Qt::UpArrow, 1);
-    arrow(Qt::DownArrow, -1);
-    return box;
 }
 
 QDate DateOf(double date)
@@ -81,137 +53,49 @@ double TimeValue(const QTimeEdit* picker)
 
 } // namespace
 
-template <typename T> T* frmProgram::Named(T* widget, const char* name)
-{
-    widget->setObjectName(QString::fromLatin1(name));
-    m_controls.append(widget);
-    return widget;
-}
-
 frmProgram::frmProgram(const ProgramFormServices& services, QWidget* owner)
     : QDialog(owner)
     , m_services(services)
 {
-    setObjectName(QStringLiteral("frmProgram"));
-    setWindowTitle(QStringLiteral("Program"));
-
-    SSTab1 = new QTabWidget;
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    const auto page = [this](const char* name, const QString& title) {
-        auto* frame = new QWidget;
-        frame->setObjectName(QString::fromLatin1(name));
-        SSTab1->addTab(frame, title);
-        return frame;
+    setupUi(this);
+    // Control arrays keep the names they have always had, an index in parentheses, which a
+    // layout file can't give.
+    OptionOneTimeOrDaily = {OptionOneTimeOrDaily_0, OptionOneTimeOrDaily_1};
+    CheckDaysOfWeek = {CheckDaysOfWeek_0, CheckDaysOfWeek_1, CheckDaysOfWeek_2, CheckDaysOfWeek_3,
+                       CheckDaysOfWeek_4, CheckDaysOfWeek_5, CheckDaysOfWeek_6};
+    optCloseStreamingPlayer = {optCloseStreamingPlayer_0, optCloseStreamingPlayer_1,
+                               optCloseStreamingPlayer_2};
+    const auto indexNames = [](const auto& controls, const char* name) {
+        for (size_t i = 0; i < controls.size(); ++i)
+            controls[i]->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i));
     };
-    frameGeneral = page("frameGeneral", QStringLiteral("&General"));
-    frameFile = page("frameFile", QStringLiteral("&File"));
-    frameExternalApp = page("frameExternalApp", QStringLiteral("&External App"));
-    frameInternet = page("frameInternet", QStringLiteral("&Internet"));
-    frameMixer = page("frameMixer", QStringLiteral("&Mixer"));
-    BuildGeneralTab(frameGeneral);
-    BuildFileTab(frameFile);
-    BuildExternalAppTab(frameExternalApp);
-    BuildInternetTab(frameInternet);
-    BuildMixerTab(frameMixer);
+    indexNames(OptionOneTimeOrDaily, "OptionOneTimeOrDaily");
+    indexNames(CheckDaysOfWeek, "CheckDaysOfWeek");
+    indexNames(optCloseStreamingPlayer, "optCloseStreamingPlayer");
 
-    CommandOk = Named(new QPushButton(QStringLiteral("&OK")), "CommandOk");
-    CommandOk->setDefault(true);
-    CommandCancel = Named(new QPushButton(QStringLiteral("&Cancel")), "CommandCancel");
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(CommandOk);
-    buttons->addWidget(CommandCancel);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(SSTab1, 1);
-    layout->addLayout(buttons);
+    // What CheckEnabled switches: the controls on the tabs and in their two frames, not the
+    // parts of compound controls (the source chooser, the pickers, the arrows).
+    for (QWidget* parent :
+         std::initializer_list<QWidget*>{frameGeneral, frameFrequency, frameFile, frameExternalApp,
+                                         frameInternet, frameCloseStreamingPlayer, frameMixer})
+        m_controls += parent->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    m_controls << CommandOk << CommandCancel;
 
-    connect(CommandOk, &QPushButton::clicked, this, &frmProgram::CommandOk_Click);
-    connect(CommandCancel, &QPushButton::clicked, this, &frmProgram::CommandCancel_Click);
-    connect(SSTab1, &QTabWidget::currentChanged, this, &frmProgram::SSTab1_Click);
-
-    Form_Load();
-}
-
-void frmProgram::BuildGeneralTab(QWidget* page)
-{
-    TextProgramDescription = Named(new QLineEdit, "TextProgramDescription");
-    auto* lblDescription = Named(new QLabel(QStringLiteral("Description")), "lblDescription");
-    lblDescription->setBuddy(TextProgramDescription);
-    CheckEnabled = Named(new QCheckBox(QStringLiteral("Ena&bled")), "CheckEnabled");
-    CheckEnabled->setChecked(true);
-
-    frameFrequency = Named(new QGroupBox(QStringLiteral("Fre&quency")), "frameFrequency");
-    OptionOneTimeOrDaily[0] =
-        Named(new QRadioButton(QStringLiteral("One &Time")), "OptionOneTimeOrDaily(0)");
-    OptionOneTimeOrDaily[1] =
-        Named(new QRadioButton(QStringLiteral("Dai&ly")), "OptionOneTimeOrDaily(1)");
-    OptionOneTimeOrDaily[0]->setChecked(true);
-    dtpkrOnceDate = Named(new QDateEdit, "dtpkrOnceDate");
-    dtpkrOnceDate->setCalendarPopup(true);
     // The locale's short date, always with four digits of the year.
     QString dateFormat = QLocale().dateFormat(QLocale::ShortFormat);
     if (!dateFormat.contains(QStringLiteral("yyyy")))
         dateFormat.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
     dtpkrOnceDate->setDisplayFormat(dateFormat);
-    const QString dayCaptions[] = {QStringLiteral("&Sun"), QStringLiteral("Mo&n"),
-                                   QStringLiteral("T&ue"), QStringLiteral("&Wed"),
-                                   QStringLiteral("T&hu"), QStringLiteral("F&ri"),
-                                   QStringLiteral("S&at")};
-    auto* days = new QHBoxLayout;
-    for (int d = 0; d < 7; ++d) {
-        const QByteArray name = "CheckDaysOfWeek(" + QByteArray::number(d) + ')';
-        CheckDaysOfWeek[d] = Named(new QCheckBox(dayCaptions[d]), name.constData());
-        days->addWidget(CheckDaysOfWeek[d]);
-    }
-    days->addStretch();
-    auto* frequency = new QGridLayout(frameFrequency);
-    frequency->addWidget(OptionOneTimeOrDaily[0], 0, 0);
-    frequency->addWidget(dtpkrOnceDate, 0, 1, Qt::AlignLeft);
-    frequency->addWidget(OptionOneTimeOrDaily[1], 1, 0);
-    frequency->addLayout(days, 1, 1);
-    frequency->setColumnStretch(1, 1);
+    frameSource->SetTaskProgram(m_services.taskProgram);
+    if (IsWaylandSession())
+        frameCloseStreamingPlayer->setToolTip(StreamingPlayer::WaylandNote());
 
-    dtpkrStartTime = Named(new QTimeEdit, "dtpkrStartTime");
-    dtpkrEndTime = Named(new QTimeEdit, "dtpkrEndTime");
-    for (QTimeEdit* picker : {dtpkrStartTime, dtpkrEndTime})
-        picker->setDisplayFormat(QStringLiteral("HH:mm:ss"));
-    auto* lblStart = Named(new QLabel(QStringLiteral("Start Time")), "lblStartTime");
-    auto* lblEnd = Named(new QLabel(QStringLiteral("End Time")), "lblEndTime");
-    lblStart->setBuddy(dtpkrStartTime);
-    lblEnd->setBuddy(dtpkrEndTime);
-    auto* lblDuration = Named(new QLabel(QStringLiteral("Duration:")), "LabelDuration");
-    LabelDurationData = Named(new QLabel, "LabelDurationData");
-    auto* lblDisk = Named(new QLabel(QStringLiteral("Disk Storage: ")), "LabelDiskSpace");
-    LabelDiskSpaceData = Named(new QLabel, "LabelDiskSpaceData");
+    ConnectControls();
+    Form_Load();
+}
 
-    auto* lblFormat = Named(new QLabel(QStringLiteral("Recording Format")), "LabelRecordingFormat");
-    TextCompressionMethod = Named(new QLineEdit, "TextCompressionMethod");
-    TextCompressionMethod->setReadOnly(true);
-    lblFormat->setBuddy(TextCompressionMethod);
-    ChangeComprMethodButton =
-        Named(new QPushButton(QStringLiteral("Modif&y")), "ChangeComprMethodButton");
-
-    auto* grid = new QGridLayout(page);
-    grid->addWidget(lblDescription, 0, 0);
-    grid->addWidget(TextProgramDescription, 0, 1, 1, 3);
-    grid->addWidget(CheckEnabled, 0, 4);
-    grid->addWidget(frameFrequency, 1, 0, 1, 5);
-    grid->addWidget(lblStart, 2, 0);
-    grid->addWidget(dtpkrStartTime, 2, 1);
-    grid->addWidget(lblDuration, 2, 2);
-    grid->addWidget(LabelDurationData, 2, 3, 1, 2);
-    grid->addWidget(lblEnd, 3, 0);
-    grid->addWidget(dtpkrEndTime, 3, 1);
-    grid->addWidget(lblDisk, 3, 2);
-    grid->addWidget(LabelDiskSpaceData, 3, 3, 1, 2);
-    grid->addWidget(lblFormat, 4, 0);
-    grid->addWidget(TextCompressionMethod, 4, 1, 1, 3);
-    grid->addWidget(ChangeComprMethodButton, 4, 4);
-    frameSource = Named(new SourceChooser(m_services.taskProgram), "frameSource");
-    grid->addWidget(frameSource, 5, 0, 1, 5);
-    grid->setColumnStretch(3, 1);
-    grid->setRowStretch(6, 1);
-
+void frmProgram::ConnectControls()
+{
     connect(OptionOneTimeOrDaily[0], &QRadioButton::clicked, this,
             &frmProgram::OptionOneTimeOrDaily_Click);
     connect(OptionOneTimeOrDaily[1], &QRadioButton::clicked, this,
@@ -221,165 +105,26 @@ void frmProgram::BuildGeneralTab(QWidget* page)
     connect(dtpkrEndTime, &QTimeEdit::timeChanged, this, &frmProgram::CalcTimeDuration);
     connect(ChangeComprMethodButton, &QPushButton::clicked, this,
             &frmProgram::ChangeComprMethodButton_Click);
-}
-
-void frmProgram::BuildFileTab(QWidget* page)
-{
-    optDefaultFilename = Named(new QRadioButton, "optDefaultFilename");
-    optDefaultFilename->setChecked(true);
-    chkPrefix = Named(new QCheckBox(QStringLiteral("&Prefix")), "chkPrefix");
-    txtPrefix = Named(new QLineEdit, "txtPrefix");
-    chkSuffix = Named(new QCheckBox(QStringLiteral("&Suffix")), "chkSuffix");
-    txtSuffix = Named(new QLineEdit, "txtSuffix");
-    optUserFilename = Named(new QRadioButton(QStringLiteral("&User")), "optUserFilename");
-    txtUserFilename = Named(new QLineEdit, "txtUserFilename");
-
-    auto* grid = new QGridLayout(page);
-    grid->addWidget(optDefaultFilename, 0, 0, 1, 3);
-    grid->addWidget(chkPrefix, 1, 1);
-    grid->addWidget(txtPrefix, 1, 2);
-    grid->addWidget(chkSuffix, 2, 1);
-    grid->addWidget(txtSuffix, 2, 2);
-    grid->addWidget(optUserFilename, 3, 0, 1, 2);
-    grid->addWidget(txtUserFilename, 3, 2);
-    grid->setColumnMinimumWidth(0, 20);
-    grid->setColumnStretch(2, 1);
-    grid->setRowStretch(4, 1);
 
     for (QAbstractButton* button : std::initializer_list<QAbstractButton*>{
              optDefaultFilename, optUserFilename, chkPrefix, chkSuffix})
         connect(button, &QAbstractButton::clicked, this, &frmProgram::DoFilenameEnables);
-}
-
-void frmProgram::BuildExternalAppTab(QWidget* page)
-{
-    chkLaunchPrior =
-        Named(new QCheckBox(QStringLiteral("Launch external program &prior to recording")),
-              "chkLaunchPrior");
-    txtLaunchPrior = Named(new QLineEdit, "txtLaunchPrior");
-    lblLaunchPriorDelay =
-        Named(new QLabel(QStringLiteral("Number of seconds to launch program p&rior to recording")),
-              "lblLaunchPriorDelay");
-    txtLaunchPriorDelay = Named(new QLineEdit(QStringLiteral("0")), "txtLaunchPriorDelay");
-    txtLaunchPriorDelay->setMaximumWidth(50);
-    lblLaunchPriorDelay->setBuddy(txtLaunchPriorDelay);
-    updnLaunchPriorDelay = Named(MakeUpDown(txtLaunchPriorDelay), "updnLaunchPriorDelay");
-    chkLaunchAfter =
-        Named(new QCheckBox(QStringLiteral("Launch external program when recording comp&letes")),
-              "chkLaunchAfter");
-    txtLaunchAfter = Named(new QLineEdit, "txtLaunchAfter");
-    chkLaunchAfterOnlyIfOk =
-        Named(new QCheckBox(QStringLiteral("Launch only if &successful recording")),
-              "chkLaunchAfterOnlyIfOk");
-    btnInfo = Named(new QPushButton(QStringLiteral("Info...")), "btnInfo");
-
-    auto* delay = new QHBoxLayout;
-    delay->addWidget(lblLaunchPriorDelay);
-    delay->addWidget(txtLaunchPriorDelay);
-    delay->addWidget(updnLaunchPriorDelay);
-    delay->addStretch();
-    auto* grid = new QGridLayout(page);
-    grid->addWidget(chkLaunchPrior, 0, 0, 1, 2);
-    grid->addWidget(txtLaunchPrior, 1, 1);
-    grid->addLayout(delay, 2, 1);
-    grid->addWidget(chkLaunchAfter, 3, 0, 1, 2);
-    grid->addWidget(txtLaunchAfter, 4, 1);
-    grid->addWidget(chkLaunchAfterOnlyIfOk, 5, 1);
-    grid->addWidget(btnInfo, 6, 1, Qt::AlignRight);
-    grid->setColumnMinimumWidth(0, 20);
-    grid->setColumnStretch(1, 1);
-    grid->setRowStretch(7, 1);
 
     connect(chkLaunchPrior, &QCheckBox::clicked, this, &frmProgram::DoLaunchPriorEnables);
     connect(chkLaunchAfter, &QCheckBox::clicked, this, &frmProgram::DoLaunchAfterEnables);
     connect(chkLaunchAfterOnlyIfOk, &QCheckBox::clicked, this, &frmProgram::DoLaunchAfterEnables);
     connect(btnInfo, &QPushButton::clicked, this, &frmProgram::btnInfo_Click);
-}
-
-void frmProgram::BuildInternetTab(QWidget* page)
-{
-    chkLaunchLink = Named(new QCheckBox(QStringLiteral("Launch Internet lin&k prior to recording")),
-                          "chkLaunchLink");
-    txtLaunchLink = Named(new QLineEdit, "txtLaunchLink");
-    btnTestUrl = Named(new QPushButton(QStringLiteral("&Test")), "btnTestUrl");
-    lblLaunchLinkDelay = Named(
-        new QLabel(QStringLiteral("Number of seconds to launch Internet link prior to recording")),
-        "lblLaunchLinkDelay");
-    txtLaunchLinkDelay = Named(new QLineEdit(QStringLiteral("0")), "txtLaunchLinkDelay");
-    txtLaunchLinkDelay->setMaximumWidth(50);
-    lblLaunchLinkDelay->setBuddy(txtLaunchLinkDelay);
-    updnLaunchLinkDelay = Named(MakeUpDown(txtLaunchLinkDelay), "updnLaunchLinkDelay");
-    frameCloseStreamingPlayer =
-        Named(new QGroupBox(QStringLiteral("Close streaming player when done recording")),
-              "frameCloseStreamingPlayer");
-    const QString options[] = {
-        QStringLiteral("&Let Nightreel attempt to determine the streaming player"),
-        QStringLiteral("Enter &Window title (or part of) "),
-        QStringLiteral("Do &not close streaming player")};
-    for (int i = 0; i < 3; ++i) {
-        const QByteArray name = "optCloseStreamingPlayer(" + QByteArray::number(i) + ')';
-        optCloseStreamingPlayer[i] = Named(new QRadioButton(options[i]), name.constData());
-        connect(optCloseStreamingPlayer[i], &QRadioButton::clicked, this,
-                &frmProgram::DoLaunchLinkEnables);
-    }
-    optCloseStreamingPlayer[0]->setChecked(true);
-    txtStreamingPlayerWindowTitle = Named(new QLineEdit, "txtStreamingPlayerWindowTitle");
-    if (IsWaylandSession())
-        frameCloseStreamingPlayer->setToolTip(StreamingPlayer::WaylandNote());
-    chkHangUp =
-        Named(new QCheckBox(QStringLiteral("&Hang up dial up connection when done recording")),
-              "chkHangUp");
-
-    auto* close = new QGridLayout(frameCloseStreamingPlayer);
-    close->addWidget(optCloseStreamingPlayer[0], 0, 0, 1, 2);
-    close->addWidget(optCloseStreamingPlayer[1], 1, 0);
-    close->addWidget(txtStreamingPlayerWindowTitle, 1, 1);
-    close->addWidget(optCloseStreamingPlayer[2], 2, 0, 1, 2);
-    close->setColumnStretch(1, 1);
-
-    auto* link = new QHBoxLayout;
-    link->addWidget(txtLaunchLink, 1);
-    link->addWidget(btnTestUrl);
-    auto* delay = new QHBoxLayout;
-    delay->addWidget(lblLaunchLinkDelay);
-    delay->addWidget(txtLaunchLinkDelay);
-    delay->addWidget(updnLaunchLinkDelay);
-    delay->addStretch();
-    auto* grid = new QGridLayout(page);
-    grid->addWidget(chkLaunchLink, 0, 0, 1, 2);
-    grid->addLayout(link, 1, 1);
-    grid->addLayout(delay, 2, 1);
-    grid->addWidget(frameCloseStreamingPlayer, 3, 1);
-    grid->addWidget(chkHangUp, 4, 1);
-    grid->setColumnMinimumWidth(0, 20);
-    grid->setColumnStretch(1, 1);
-    grid->setRowStretch(5, 1);
+    ConnectUpDown(txtLaunchPriorDelay, updnLaunchPriorDelayUp, updnLaunchPriorDelayDown);
 
     connect(chkLaunchLink, &QCheckBox::clicked, this, &frmProgram::DoLaunchLinkEnables);
+    for (QRadioButton* option : optCloseStreamingPlayer)
+        connect(option, &QRadioButton::clicked, this, &frmProgram::DoLaunchLinkEnables);
     connect(btnTestUrl, &QPushButton::clicked, this, &frmProgram::btnTestUrl_Click);
-}
+    ConnectUpDown(txtLaunchLinkDelay, updnLaunchLinkDelayUp, updnLaunchLinkDelayDown);
 
-void frmProgram::BuildMixerTab(QWidget* page)
-{
-    auto* lblPrior = Named(new QLabel(QStringLiteral("Activate mixer profile prior to recording")),
-                           "lblMixerProfilePrior");
-    lstMixerProfilePrior = Named(new QListWidget, "lstMixerProfilePrior");
-    auto* lblAfter =
-        Named(new QLabel(QStringLiteral("Activate mixer profile when recording completes")),
-              "lblMixerProfileAfter");
-    lstMixerProfileAfter = Named(new QListWidget, "lstMixerProfileAfter");
-    lblPrior->setBuddy(lstMixerProfilePrior);
-    lblAfter->setBuddy(lstMixerProfileAfter);
-    auto* lblHint =
-        Named(new QLabel(QStringLiteral("Mixer profiles can be created in the Tools menu.")),
-              "lblMixerHint");
-
-    auto* grid = new QGridLayout(page);
-    grid->addWidget(lblPrior, 0, 0);
-    grid->addWidget(lblAfter, 0, 1);
-    grid->addWidget(lstMixerProfilePrior, 1, 0);
-    grid->addWidget(lstMixerProfileAfter, 1, 1);
-    grid->addWidget(lblHint, 2, 0, 1, 2);
+    connect(CommandOk, &QPushButton::clicked, this, &frmProgram::CommandOk_Click);
+    connect(CommandCancel, &QPushButton::clicked, this, &frmProgram::CommandCancel_Click);
+    connect(SSTab1, &QTabWidget::currentChanged, this, &frmProgram::SSTab1_Click);
 }
 
 void frmProgram::Form_Load()

@@ -2,28 +2,18 @@
 
 #include "scheduling/ProgramEditor.h"
 #include "scheduling/ProgramFormServices.h"
+#include "ui_frmProgram.h"
 
 #include <QDialog>
 #include <QList>
 #include <array>
 
 struct ProgramCheckValues;
-class QCheckBox;
-class QDateEdit;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QListWidget;
-class QPushButton;
-class QRadioButton;
-class QTabWidget;
-class QTimeEdit;
-class SourceChooser;
 
 // The program editor: one program on five tabs. It writes nothing to the database itself;
 // the caller fills it, shows it modally and, when ProgramFormOk() is true afterwards,
 // writes FormValues().
-class frmProgram : public QDialog {
+class frmProgram : public QDialog, private Ui::frmProgram {
     Q_OBJECT
 public:
     frmProgram(const ProgramFormServices& services, QWidget* owner);
@@ -56,12 +46,7 @@ public:
     const ProgramFormValues& FormValues() const { return m_values; }
 
 private:
-    void BuildGeneralTab(QWidget* page);
-    void BuildFileTab(QWidget* page);
-    void BuildExternalAppTab(QWidget* page);
-    void BuildInternetTab(QWidget* page);
-    void BuildMixerTab(QWidget* page);
-    template <typename T> T* Named(T* widget, const char* name);
+    void ConnectControls();
 
     void Form_Load();
     void ApplyFrequencyRule();
@@ -85,62 +70,11 @@ private:
     clsRecordingFormat m_programFormat;
     clsRecordingFormat m_formFormat;
     bool m_programFormOk = false;
-    // Every control that CheckEnabled switches, in the order they were made.
+    // Every control that CheckEnabled switches.
     QList<QWidget*> m_controls;
 
-    QTabWidget* SSTab1;
-    QWidget* frameGeneral;
-    QWidget* frameFile;
-    QWidget* frameExternalApp;
-    QWidget* frameInternet;
-    QWidget* frameMixer;
-
-    QLineEdit* TextProgramDescription;
-    QCheckBox* CheckEnabled;
-    QGroupBox* frameFrequency;
+    // The controls that are arrays, by index.
     std::array<QRadioButton*, 2> OptionOneTimeOrDaily{};
-    QDateEdit* dtpkrOnceDate;
     std::array<QCheckBox*, 7> CheckDaysOfWeek{};
-    QTimeEdit* dtpkrStartTime;
-    QTimeEdit* dtpkrEndTime;
-    QLabel* LabelDurationData;
-    QLabel* LabelDiskSpaceData;
-    QLineEdit* TextCompressionMethod;
-    QPushButton* ChangeComprMethodButton;
-    SourceChooser* frameSource;
-
-    QRadioButton* optDefaultFilename;
-    QRadioButton* optUserFilename;
-    QLineEdit* txtUserFilename;
-    QCheckBox* chkPrefix;
-    QLineEdit* txtPrefix;
-    QCheckBox* chkSuffix;
-    QLineEdit* txtSuffix;
-
-    QCheckBox* chkLaunchPrior;
-    QLineEdit* txtLaunchPrior;
-    QLineEdit* txtLaunchPriorDelay;
-    QWidget* updnLaunchPriorDelay;
-    QLabel* lblLaunchPriorDelay;
-    QCheckBox* chkLaunchAfter;
-    QLineEdit* txtLaunchAfter;
-    QCheckBox* chkLaunchAfterOnlyIfOk;
-    QPushButton* btnInfo;
-
-    QCheckBox* chkLaunchLink;
-    QLineEdit* txtLaunchLink;
-    QPushButton* btnTestUrl;
-    QLineEdit* txtLaunchLinkDelay;
-    QWidget* updnLaunchLinkDelay;
-    QLabel* lblLaunchLinkDelay;
-    QGroupBox* frameCloseStreamingPlayer;
     std::array<QRadioButton*, 3> optCloseStreamingPlayer{};
-    QLineEdit* txtStreamingPlayerWindowTitle;
-    QCheckBox* chkHangUp;
-
-    QListWidget* lstMixerProfilePrior;
-    QListWidget* lstMixerProfileAfter;
-
-    QPushButton* CommandOk;
-    QPushButton* CommandCancel;
 };

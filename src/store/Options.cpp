@@ -300,6 +300,60 @@ void Options::GetOptions(RegKeys& registry)
     }
 }
 
+void Options::SaveStartupMode(RegKeys& registry) const
+{
+    Write(registry, QStringLiteral("HiddenWindowStatupMode"), BoolText(HiddenWindowStatupMode));
+}
+
+void Options::SaveOptions(RegKeys& registry) const
+{
+    const auto saveBool = [&registry](const QString& name, bool value) {
+        Write(registry, name, BoolText(value));
+    };
+    const auto saveInt = [&registry](const QString& name, qint16 value) {
+        Write(registry, name, QString::number(value));
+    };
+
+    // Recording and disk
+    Write(registry, QStringLiteral("DefaultRecordingDirectory"), DefaultRecordingDirectory);
+    saveInt(QStringLiteral("WarnRecMegsLeft"), WarnRecMegsLeft);
+    saveInt(QStringLiteral("StopRecMegsLeft"), StopRecMegsLeft);
+    saveInt(QStringLiteral("LongRecordingHours"), LongRecordingHours);
+    saveBool(QStringLiteral("ConfirmLongRecordings"), ConfirmLongRecordings);
+    saveInt(QStringLiteral("DefaultRecordFileNameFormat"), DefaultRecordFileNameFormat);
+
+    // Manual recording
+    saveInt(QStringLiteral("DefaultManualRecordingDurationHours"),
+            DefaultManualRecordingDurationHours);
+    saveInt(QStringLiteral("DefaultManualRecordingDurationMinutes"),
+            DefaultManualRecordingDurationMinutes);
+    saveInt(QStringLiteral("DefaultManualRecordingDurationSeconds"),
+            DefaultManualRecordingDurationSeconds);
+    saveBool(QStringLiteral("ConfirmStopManualRecording"), ConfirmStopManualRecording);
+    saveBool(QStringLiteral("AllowJoystickActivation"), AllowJoystickActivation);
+
+    // Purge
+    saveBool(QStringLiteral("PurgeRecordings"), PurgeRecordings);
+    saveInt(QStringLiteral("PurgeDays"), PurgeDays);
+    Write(registry, QStringLiteral("PurgeTime"), TimeText(PurgeTime));
+
+    // General
+    saveBool(QStringLiteral("RemoveExpiredPrograms"), RemoveExpiredPrograms);
+    Write(registry, QStringLiteral("MixerFilePath"), MixerFilePath);
+    saveBool(QStringLiteral("ShowActualTimeInPlayer"), ShowActualTimeInPlayer);
+    saveBool(QStringLiteral("ShowRecordingTimeInTaskBar"), ShowRecordingTimeInTaskBar);
+    SaveStartupMode(registry);
+    saveBool(QStringLiteral("ShowSplashScreen"), ShowSplashScreen);
+    Write(registry, QStringLiteral("WavPlayer"), WavPlayer);
+    Write(registry, QStringLiteral("Mp3Player"), Mp3Player);
+
+    // Unattended running
+    saveBool(QStringLiteral("KeepAwakeForRecordings"), KeepAwakeForRecordings);
+    saveBool(QStringLiteral("SilenceAlarm"), SilenceAlarm);
+    saveBool(QStringLiteral("ShowDesktopNotifications"), ShowDesktopNotifications);
+    saveInt(QStringLiteral("PaddingSeconds"), PaddingSeconds);
+}
+
 QString Options::TimeText(double time)
 {
     return QLocale().toString(AutomationDate::ToDateTime(time).time(), LocaleTimeFormat());

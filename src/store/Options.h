@@ -7,7 +7,7 @@
 class RegKeys;
 
 // The user's options as the program holds them during a run: read once at start-up from
-// the section "Settings", written back by the options dialog together with the member.
+// the section "Settings", written back when the options dialog sets the members.
 // Members carry the names of their settings.
 //
 // The typed readers share one rule: a value that is absent or not acceptable gives the
@@ -93,6 +93,11 @@ public:
     // Reads every option but the window layout and the player choice, in a fixed order,
     // then repairs a warning limit set below the stopping limit.
     void GetOptions(RegKeys& registry);
+    // Writes every option the options dialog edits, each under its setting's name. The step
+    // table and the most recent recording have savers of their own.
+    void SaveOptions(RegKeys& registry) const;
+    // The start-up mode alone: the dialog keeps it even when it refuses the rest.
+    void SaveStartupMode(RegKeys& registry) const;
 
     // A whole number within min..max; anything else (no value, no number, beyond 16 bits,
     // out of range) takes defaultValue and stores it.
