@@ -27,12 +27,14 @@ const QList<CommandUsage>& Commands()
         {"programs", "programs", "The program list.", 0, 0, {}},
         {"add",
          "add --once YYYY-MM-DD | --weekly mon,wed,... --start HH:MM[:SS] --end HH:MM[:SS]\n"
-         "    --desc TEXT [--format wav|mp3-128|...] [--stream URL] [--yes]",
+         "    --desc TEXT [--format wav|mp3-128|...] [--stream URL | --input NAME] [--yes]",
          "Adds a program, with the program editor's checks. An end before the start lies on "
-         "the next day. --yes confirms a recording longer than the options allow.",
+         "the next day. --input records from a sound server source by its name (pactl list short "
+         "sources) instead of the options' input. --yes confirms a recording longer than the "
+         "options allow.",
          0,
          0,
-         {"once", "weekly", "start", "end", "desc", "format", "stream", "yes"}},
+         {"once", "weekly", "start", "end", "desc", "format", "stream", "input", "yes"}},
         {"remove", "remove ID", "Removes a program.", 1, 1, {}},
         {"enable", "enable ID", "Enables a program.", 1, 1, {}},
         {"disable", "disable ID", "Disables a program.", 1, 1, {}},
@@ -64,7 +66,8 @@ const CommandUsage* Find(const QString& name)
 }
 
 // Options that take a value; the others are flags.
-const QStringList kValueOptions = {"once", "weekly", "start", "end", "desc", "format", "stream"};
+const QStringList kValueOptions = {"once", "weekly", "start",  "end",
+                                   "desc", "format", "stream", "input"};
 
 } // namespace
 

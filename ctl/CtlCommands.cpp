@@ -119,8 +119,9 @@ CtlResult CtlCommands::Add(const CtlRequest& request)
     }
     if (o.contains(QStringLiteral("format")))
         program.insert("format", o.value(QStringLiteral("format")));
-    if (o.contains(QStringLiteral("stream")))
-        program.insert("stream", o.value(QStringLiteral("stream")));
+    for (const char* source : {"stream", "input"})
+        if (o.contains(QLatin1String(source)))
+            program.insert(QLatin1String(source), o.value(QLatin1String(source)));
     if (o.contains(QStringLiteral("yes")))
         program.insert("confirmed", true);
     return Answer(m_recorder.AddProgram(program));

@@ -244,6 +244,8 @@ int RecordingTask::OpenCapture()
         }
         pa_threaded_mainloop_wait(m_mainloop);
     }
+    const QByteArray input = m_parms.inputName.toUtf8();
+    const bool inputFound = code == 0 && (input.isEmpty() || SourceExists(input));
     if (code == 0) {
         m_stream = pa_stream_new(m_context, "Recording", &sampleSpec, nullptr);
         if (!m_stream) {
@@ -251,8 +253,9 @@ int RecordingTask::OpenCapture()
         } else {
             pa_stream_set_state_callback(m_stream, &RecordingTask::OnStreamState, this);
             pa_stream_set_read_callback(m_stream, &RecordingTask::OnStreamRead, this);
-            // The default source, or the one that PULSE_SOURCE names.
-            if (pa_stream_connect_record(m_stream, nullptr, &attr, PA_STREAM_ADJUST_LATENCY) < 0)
+            // The chosen source; else the default, or the one that PULSE_SOURCE names.
+            const char* device = inputFound && !input.isEmpty() ? input.constData() : nullptr;
+            if (pa_stream_connect_record(m_stream, device, &attr, PA_STREAM_ADJUST_LATENCY) < 0)
                 code = CaptureErrorCode(pa_context_errno(m_context));
         }
     }
@@ -272,7 +275,38 @@ int RecordingTask::OpenCapture()
             m_sourceName = name;
     }
     pa_threaded_mainloop_unlock(m_mainloop);
+    if (code == 0 && !inputFound) {
+        m_socket.write(Encode(Frame{Kind::Post, REC_MSG_INPUT_MISSING, 0, input}));
+        m_socket.flush();
+    }
     return code;
+}
+
+bool RecordingTask::SourceExists(const QByteArray& name)
+{
+    struct Lookup {
+        pa_threaded_mainloop* mainloop;
+        bool found = false;
+        bool done = false;
+    } lookup{m_mainloop};
+    const auto onSource = [](pa_context*, const pa_source_info* info, int eol, void* data) {
+        auto* l = static_cast<Lookup*>(data);
+        if (info)
+            l->found = true;
+        // A missing source ends the answer with a negative eol and no info.
+        if (eol != 0) {
+            l->done = true;
+            pa_threaded_mainloop_signal(l->mainloop, 0);
+        }
+    };
+    pa_operation* op =
+        pa_context_get_source_info_by_name(m_context, name.constData(), onSource, &lookup);
+    if (!op)
+        return false;
+    while (!lookup.done && pa_operation_get_state(op) == PA_OPERATION_RUNNING)
+        pa_threaded_mainloop_wait(m_mainloop);
+    pa_operation_unref(op);
+    return lookup.found;
 }
 
 void RecordingTask::OnContextState(pa_context*, void* self)

@@ -36,6 +36,8 @@ private:
     void PostReady();
     void SetSampleSpec();
     int OpenCapture();
+    // Asks the server with the main loop locked; false for a source it does not know.
+    bool SourceExists(const QByteArray& name);
     void OpenStream();
     int OpenEncoder();
     static void OnContextState(pa_context* context, void* self);

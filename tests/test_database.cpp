@@ -57,9 +57,9 @@ private slots:
                      } + kOlderTables);
         tc.OpenDatabase();
         Recordset& rs = tc.ctx->database.DataPrograms.recordset();
-        QCOMPARE(rs.FieldNames().size(), 18 + 15);
+        QCOMPARE(rs.FieldNames().size(), 18 + 16);
         for (const char* column :
-             {"Flags", "LaunchAfterOnlyIfOk", "StreamingPlayerClose", "StreamUrl"}) {
+             {"Flags", "LaunchAfterOnlyIfOk", "StreamingPlayerClose", "StreamUrl", "InputName"}) {
             QVERIFY(rs.FieldIndex(column) >= 0);
             QVERIFY(rs.IsNull(column));
         }
@@ -69,7 +69,7 @@ private slots:
         // The next start finds everything in place and adds nothing.
         tc.ctx->database.CloseAll();
         tc.OpenDatabase();
-        QCOMPARE(tc.ctx->database.DataPrograms.recordset().FieldNames().size(), 18 + 15);
+        QCOMPARE(tc.ctx->database.DataPrograms.recordset().FieldNames().size(), 18 + 16);
         QCOMPARE(tc.CountRows("EventLog"), 0);
     }
 
@@ -79,7 +79,7 @@ private slots:
         TestContext tc;
         const QString file = tc.ctx->database.DatabaseFile();
         QFile::remove(file);
-        // Columns can't be added to a view: every one of the fifteen fails.
+        // Columns can't be added to a view: every one of the sixteen fails.
         RunSql(file, QStringList{
                          "CREATE TABLE OldPrograms (ID INTEGER PRIMARY KEY, Description TEXT, "
                          "DescriptionText TEXT)",
@@ -90,7 +90,7 @@ private slots:
         QVERIFY(q.exec("SELECT COUNT(*) FROM EventLog WHERE Details LIKE "
                        "'%Module: InitializeControls%'"));
         QVERIFY(q.next());
-        QCOMPARE(q.value(0).toInt(), 15);
+        QCOMPARE(q.value(0).toInt(), 16);
         QVERIFY(tc.ctx->database.DataRecordings.recordset().IsOpen());
     }
 

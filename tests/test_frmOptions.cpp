@@ -169,6 +169,9 @@ private slots:
     void aFreshReadGetsWhatOkStored()
     {
         OptionsFixture f;
+        // An input unplugged for now is kept, not lost by opening the options.
+        const QString unplugged = "alsa_input.usb-Mic-00.analog-stereo";
+        f.tc.ctx->options.RecordingInput = unplugged;
         auto form = f.Open();
         for (const char* edit :
              {"chkShowSplashScreen=0", "optHiddenStartupMode=1", "chkConfirmLongRecordings=0",
@@ -212,6 +215,7 @@ private slots:
         QCOMPARE(o.SilenceAlarm, false);
         QCOMPARE(o.ShowDesktopNotifications, false);
         QCOMPARE(o.PaddingSeconds, qint16(90));
+        QCOMPARE(o.RecordingInput, unplugged);
         QCOMPARE(o.PlayStepSizes[0].Value, 20);
         QCOMPARE(o.PlayStepSizes[0].Minute, true);
         QCOMPARE(o.DefaultRecordingDirectory, f.tc.Root() + "/rec");

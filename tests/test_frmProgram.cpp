@@ -42,7 +42,7 @@ void Apply(QWidget* form, const QStringList& edits)
         } else if (auto* line = qobject_cast<QLineEdit*>(control)) {
             line->setText(value);
         } else if (auto* list = qobject_cast<QComboBox*>(control)) {
-            list->setCurrentIndex(value.toInt());
+            list->setCurrentIndex(value == "last" ? list->count() - 1 : value.toInt());
         } else {
             qFatal("can't edit %s", qPrintable(name));
         }
@@ -137,7 +137,7 @@ private slots:
             << QStringList{"dtpkrStartTime=11:00:00"} << false << "Invalid date and time"
             << "The scheduled date and time must be later than the current time.";
         QTest::newRow("a stream's address that is not http")
-            << QStringList{"cboSource=1", "txtStreamUrl=ftp://radio.example.org/live"} << false
+            << QStringList{"cboSource=last", "txtStreamUrl=ftp://radio.example.org/live"} << false
             << "Invalid stream address"
             << "The address of an internet stream must begin with http:// or https://, such as "
                "http://radio.example.org/live.mp3, or name a .pls, .m3u or .m3u8 list.";
@@ -247,11 +247,11 @@ private slots:
                                       << "StreamingPlayerClose"
                                       << "DO_NOT_CLOSE";
         QTest::newRow("stream address trimmed")
-            << QStringList{"cboSource=1", "txtStreamUrl= https://radio.example.org/a.pls "}
+            << QStringList{"cboSource=last", "txtStreamUrl= https://radio.example.org/a.pls "}
             << "StreamUrl"
             << "https://radio.example.org/a.pls";
         QTest::newRow("address typed, then the input chosen")
-            << QStringList{"cboSource=1", "txtStreamUrl=http://r.example", "cboSource=0"}
+            << QStringList{"cboSource=last", "txtStreamUrl=http://r.example", "cboSource=0"}
             << "StreamUrl"
             << "";
         QTest::newRow("window title as typed")

@@ -24,8 +24,12 @@ private slots:
                                                  << QString();
         QVariantMap listed = times;
         listed.insert("days", QStringList{"fri", "mon"});
-        QTest::newRow("weekly days as a list")
-            << listed << QVariantMap{{"days", QStringList{"mon", "fri"}}} << QString();
+        listed.insert("input", " alsa_output.usb.monitor ");
+        QTest::newRow("weekly days as a list, an input of its own")
+            << listed
+            << QVariantMap{{"days", QStringList{"mon", "fri"}},
+                           {"input", "alsa_output.usb.monitor"}}
+            << QString();
         QVariantMap once = times;
         once.insert("once", "2030-02-28");
         once.insert("format", "mp3-128");

@@ -43,6 +43,8 @@ class TestRecordingCycle : public QObject {
 private slots:
     void initTestCase();
     void scheduledProgramRecordsIntoItsFile();
+    void eachProgramRecordsFromItsInput_data();
+    void eachProgramRecordsFromItsInput();
     void openWindowStartsAtOnceAndEndsByTheClock();
     void dayLongRecordingStopsByTheClock();
     void recordingWithoutDataFails();
@@ -125,6 +127,67 @@ void TestRecordingCycle::scheduledProgramRecordsIntoItsFile()
 
 // A program whose window is already open starts on the first tick, with the length of what
 // is left of it, and ends at its end.
+void TestRecordingCycle::eachProgramRecordsFromItsInput_data()
+{
+    QTest::addColumn<QString>("programInput");
+    QTest::addColumn<QString>("optionsInput");
+    QTest::addColumn<QString>("recorded");
+    QTest::addColumn<bool>("tone");
+
+    // The tone plays into recmic; quietsink.monitor hears nothing.
+    QTest::newRow("its own") << "quietsink.monitor"
+                             << "recmic"
+                             << "quietsink.monitor" << false;
+    QTest::newRow("the options'") << ""
+                                  << "quietsink.monitor"
+                                  << "quietsink.monitor" << false;
+    QTest::newRow("its own before the options'") << "recmic"
+                                                 << "quietsink.monitor"
+                                                 << "recmic" << true;
+    QTest::newRow("gone: the default") << "unplugged.monitor"
+                                       << ""
+                                       << "unplugged.monitor" << true;
+}
+
+// A program records from the input it names, else from the options' one; an input that is
+// gone at the start gives a recording of the default input and a line in the log.
+void TestRecordingCycle::eachProgramRecordsFromItsInput()
+{
+    QFETCH(QString, programInput);
+    QFETCH(QString, optionsInput);
+    QFETCH(QString, recorded);
+    QFETCH(bool, tone);
+
+    QByteArray module;
+    QVERIFY(Pactl::Run({"load-module", "module-null-sink", "sink_name=quietsink"}, &module));
+    const auto unload = qScopeGuard([&] { Pactl::Run({"unload-module", module}); });
+    QVERIFY(Pactl::Run({"set-default-source", "recmic"}));
+
+    Cycle c;
+    c.ctx().options.RecordingInput = optionsInput;
+    QVariantHash row = Programs::Weekly("Morning news", "10:00:05", "10:00:08", "0100000");
+    row.insert("InputName", programInput);
+    c.AddProgram(row);
+    QVERIFY(c.RecordOnce(At("10:00:04")));
+    QVERIFY(c.parmsAtStart);
+    QCOMPARE(c.parmsAtStart->inputName, recorded);
+
+    double rms = -1, frequency = -1;
+    // Silence has no frequency to measure.
+    ToneOf(c.folder + "/060126_100005.WAV", rms, frequency);
+    if (tone)
+        QVERIFY2(rms > 0.1 && frequency > 900 && frequency < 1100,
+                 qPrintable(QString("%1 %2").arg(rms).arg(frequency)));
+    else
+        QVERIFY2(rms >= 0 && rms < 0.001, qPrintable(QString::number(rms)));
+    QStringList messages;
+    for (const LogEntry& entry : c.Entries())
+        messages << entry.message;
+    const QString missing =
+        "Recording input not found: " + programInput + "; the default input was used.";
+    QCOMPARE(messages, recorded == "unplugged.monitor" ? QStringList{missing} : QStringList{});
+}
+
 void TestRecordingCycle::openWindowStartsAtOnceAndEndsByTheClock()
 {
     RecordingRig r;

@@ -347,6 +347,7 @@ private slots:
         TestContext tc;
         Options saved;
         saved.DefaultRecordingDirectory = tc.Root();
+        saved.RecordingInput = QStringLiteral("alsa_output.pci.analog-stereo.monitor");
         saved.WarnRecMegsLeft = 300;
         saved.StopRecMegsLeft = 200;
         saved.LongRecordingHours = 7;
@@ -407,6 +408,7 @@ private slots:
                  {"ShowDesktopNotifications", &Options::ShowDesktopNotifications}})
             QVERIFY2(read.*member == saved.*member, name);
         QCOMPARE(read.DefaultRecordingDirectory, saved.DefaultRecordingDirectory);
+        QCOMPARE(read.RecordingInput, saved.RecordingInput);
         QCOMPARE(read.MixerFilePath, saved.MixerFilePath);
         QCOMPARE(AutomationDate::ToDateTime(read.PurgeTime).time(), QTime(3, 4, 5));
         // The player choice is read where it is made, not by GetOptions.

@@ -76,6 +76,9 @@ std::optional<QString> Apply(EventLog& log, const QVariantMap& request, ProgramF
         } else if (key == QStringLiteral("stream")) {
             // Empty: the sound server's input again.
             v.FormStreamUrl = value.toString().trimmed();
+        } else if (key == QStringLiteral("input")) {
+            // A sound server source by its name; empty: the options' input again.
+            v.FormInputName = value.toString().trimmed();
         } else if (key == QStringLiteral("filename")) {
             v.FormFilenameUser = value.toString().trimmed();
         } else if (key == QStringLiteral("prefix")) {
@@ -138,7 +141,8 @@ QVariantMap ToMap(qint32 id, const ProgramFormValues& v)
     }
     for (const auto& [key, value] :
          {std::pair{"filename", v.FormFilenameUser}, std::pair{"prefix", v.FormFilenamePrefix},
-          std::pair{"suffix", v.FormFilenameSuffix}, std::pair{"stream", v.FormStreamUrl}})
+          std::pair{"suffix", v.FormFilenameSuffix}, std::pair{"stream", v.FormStreamUrl},
+          std::pair{"input", v.FormInputName}})
         if (!value.isEmpty())
             map.insert(QString::fromLatin1(key), value);
     return map;

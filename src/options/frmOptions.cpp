@@ -11,6 +11,7 @@
 #include "gui/FormPlacement.h"
 #include "gui/UpDown.h"
 #include "options/AutostartEntry.h"
+#include "options/RecordingInputBox.h"
 #include "options/frmSelectRecordDirectory.h"
 #include "store/Options.h"
 #include "store/RegKeys.h"
@@ -169,6 +170,8 @@ QWidget* frmOptions::BuildRecordTab()
     connect(btnChangeRecordingFolder, &QPushButton::clicked, this,
             &frmOptions::btnChangeRecordingFolder_Click);
     layout->addWidget(folder);
+    frameRecordingInput = new RecordingInputBox;
+    layout->addWidget(frameRecordingInput);
 
     auto* format = new QGroupBox(QStringLiteral("Default Recording Format"));
     LabelCompressionFormat = SunkenLabel("LabelCompressionFormat", format);
@@ -417,6 +420,7 @@ void frmOptions::FormLoad(bool mediaPlayerAvailable)
         chkConfirmLongRecordings->setChecked(o.ConfirmLongRecordings);
         txtLongRecordingHours->setText(TwoDigits(o.LongRecordingHours));
         chkConfirmStopManualRecording->setChecked(o.ConfirmStopManualRecording);
+        frameRecordingInput->SetInputName(o.RecordingInput);
         txtPaddingSeconds->setText(QString::number(o.PaddingSeconds));
 
         if (mediaPlayerAvailable) {
@@ -609,6 +613,7 @@ void frmOptions::cmdOK_Click()
             m_s.formatStore.SaveDefaultFormatInfo(m_s.defaultFormat);
         }
         o.ConfirmStopManualRecording = chkConfirmStopManualRecording->isChecked();
+        o.RecordingInput = frameRecordingInput->InputName();
         SavePlayFwdRevSettings();
 
         o.ShowActualTimeInPlayer = chkShowActualTimeInPlayer->isChecked();

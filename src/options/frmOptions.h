@@ -18,6 +18,7 @@ class QPushButton;
 class QRadioButton;
 class QTabWidget;
 class QTimeEdit;
+class RecordingInputBox;
 class RegKeys;
 class UpDown;
 class clsError;
@@ -79,6 +80,7 @@ private:
     QTabWidget* SSTab1;
     // Record
     QLabel* lblRecordingFolder;
+    RecordingInputBox* frameRecordingInput;
     QPushButton* btnChangeRecordingFolder;
     QLabel* LabelCompressionFormat;
     QPushButton* CommandChangeDefautWfx;

@@ -1,5 +1,15 @@
 #pragma once
 
+#include <QList>
+#include <QString>
+
+// One source of the sound server: its name, which stays the same across restarts, and the
+// description a user knows it by ("Monitor of Built-in Audio").
+struct CaptureSource {
+    QString name;
+    QString description;
+};
+
 // The sound system's capture devices, as far as the scheduler needs to know them.
 class AudioDevices {
 public:
@@ -13,4 +23,6 @@ public:
 class PulseAudioDevices : public AudioDevices {
 public:
     int CountCaptureSources() override;
+    // Every source, the monitors of the outputs included, in the server's order.
+    QList<CaptureSource> CaptureSources();
 };

@@ -5,8 +5,7 @@
 namespace {
 
 struct Query {
-    pa_mainloop* loop = nullptr;
-    int sources = 0;
+    QList<CaptureSource> sources;
     bool done = false;
 };
 
@@ -18,7 +17,8 @@ void OnSource(pa_context*, const pa_source_info* info, int eol, void* userdata)
         return;
     }
     if (info)
-        ++query->sources;
+        query->sources.append(
+            {QString::fromUtf8(info->name), QString::fromUtf8(info->description)});
 }
 
 void OnState(pa_context* context, void* userdata)
@@ -41,21 +41,25 @@ void OnState(pa_context* context, void* userdata)
 
 int PulseAudioDevices::CountCaptureSources()
 {
+    return int(CaptureSources().size());
+}
+
+QList<CaptureSource> PulseAudioDevices::CaptureSources()
+{
     Query query;
-    query.loop = pa_mainloop_new();
-    if (!query.loop)
-        return 0;
-    pa_context* context =
-        pa_context_new(pa_mainloop_get_api(query.loop), "Nightreel 2000 device count");
-    // No server means no device: never start one just to count.
+    pa_mainloop* loop = pa_mainloop_new();
+    if (!loop)
+        return {};
+    pa_context* context = pa_context_new(pa_mainloop_get_api(loop), "Nightreel 2000 inputs");
+    // No server means no device: never start one just to list them.
     if (context && pa_context_connect(context, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0) {
         pa_context_set_state_callback(context, OnState, &query);
-        while (!query.done && pa_mainloop_iterate(query.loop, 1, nullptr) >= 0) {
+        while (!query.done && pa_mainloop_iterate(loop, 1, nullptr) >= 0) {
         }
         pa_context_disconnect(context);
     }
     if (context)
         pa_context_unref(context);
-    pa_mainloop_free(query.loop);
+    pa_mainloop_free(loop);
     return query.sources;
 }

@@ -232,6 +232,9 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         status.HangupInternetConnection =
             BoolColumn(programs, QStringLiteral("HangupInternetConnection"));
         status.StreamUrl = TextColumn(programs, QStringLiteral("StreamUrl"), true);
+        status.InputName = TextColumn(programs, QStringLiteral("InputName"), true);
+        if (status.InputName.isEmpty())
+            status.InputName = m_s.options.RecordingInput;
         userName = TextColumn(programs, QStringLiteral("FilenameUser"), false);
         prefix = TextColumn(programs, QStringLiteral("FilenamePrefix"), false);
         suffix = TextColumn(programs, QStringLiteral("FilenameSuffix"), false);
@@ -241,6 +244,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         chosen.CopyFrom(m_manual.Format);
         userName = m_manual.Filename;
         status.StreamUrl = m_manual.StreamUrl.trimmed();
+        status.InputName = m_s.options.RecordingInput;
         status.LaunchAppAfter.clear();
         status.InternetLink.clear();
         status.MixerProfileBefore.clear();
@@ -346,6 +350,7 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     parms.streamUrl = status.StreamUrl;
     parms.dueStartMsecs = status.StreamUrl.isEmpty() ? 0 : DueMsecs(m_s.clock, StartTime);
     parms.finalPath = finalFile;
+    parms.inputName = status.StreamUrl.isEmpty() ? status.InputName : QString();
 
     // The keep-alive runs from before the parameter file is written.
     m_link.StartKeepAlive();

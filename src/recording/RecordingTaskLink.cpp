@@ -336,6 +336,13 @@ void RecordingTaskLink::Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint
     case REC_MSG_STREAM_GAP:
         emit StreamGap(lParam, QString::fromUtf8(m_postPayload));
         break;
+    case REC_MSG_INPUT_MISSING:
+        // The recording goes on from the default input; the log tells what it holds.
+        m_log.LogEvent(EventWarning,
+                       QStringLiteral("Recording input not found: %1; the default input was used.")
+                           .arg(QString::fromUtf8(m_postPayload)),
+                       QStringLiteral("Choose another input in the program or in the options."));
+        break;
     case REC_MSG_KEEPALIVE:
         KeepAliveMissCount = 0;
         break;

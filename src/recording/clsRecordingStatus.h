@@ -30,4 +30,6 @@ struct clsRecordingStatus {
     bool NextProgramScheduled = false;
     // The internet stream recorded instead of the sound server's input; empty for the input.
     QString StreamUrl;
+    // The sound server's source by name; empty for its default input.
+    QString InputName;
 };

@@ -131,6 +131,7 @@ ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Reco
     v.FormMixerProfileBefore = ExistingProfile(mixerFolder, TrimmedText(rs, "MixerProfileBefore"));
     v.FormMixerProfileAfter = ExistingProfile(mixerFolder, TrimmedText(rs, "MixerProfileAfter"));
     v.FormStreamUrl = TrimmedText(rs, "StreamUrl");
+    v.FormInputName = TrimmedText(rs, "InputName");
     return v;
 }
 
@@ -221,6 +222,7 @@ qint32 UpdateDbFromProgramForm(DataControl& programs, const ProgramFormValues& v
     set("MixerProfileBefore", v.FormMixerProfileBefore);
     set("MixerProfileAfter", v.FormMixerProfileAfter);
     set("StreamUrl", v.FormStreamUrl.trimmed());
+    set("InputName", v.FormStreamUrl.trimmed().isEmpty() ? v.FormInputName.trimmed() : QString());
     QString frequencyText =
         v.FormFrequency != 0
             ? DaysString(v.FormDays)

@@ -41,6 +41,8 @@ struct ProgramFormValues {
     QString FormMixerProfileAfter;
     // The internet stream the program records; empty for the sound server's input.
     QString FormStreamUrl;
+    // The sound server's source by name; empty for the options' choice.
+    QString FormInputName;
     // The program's recording format, written with the row.
     clsRecordingFormat FormFormat;
 };

@@ -1,5 +1,6 @@
 #include "scheduling/SourceChooser.h"
 
+#include "gui/InputChooser.h"
 #include "scheduling/StreamAddress.h"
 #include "scheduling/StreamTest.h"
 
@@ -19,13 +20,16 @@ constexpr int StreamItemRole = Qt::UserRole + 1;
 SourceChooser::SourceChooser(QWidget* parent)
     : QGroupBox(tr("Source"), parent)
     , m_test(new StreamTest(QString(), this))
+    , m_inputs(new InputChooser)
 {
     setObjectName(QStringLiteral("frameSource"));
-    cboSource = new QComboBox;
+    cboSource = m_inputs;
     cboSource->setObjectName(QStringLiteral("cboSource"));
-    cboSource->addItem(tr("The sound server's default input"), QString());
+    // Where a program or a manual recording names no input of its own.
+    cboSource->setItemText(0, tr("The input chosen in the options"));
+    m_inputs->SetListed(false);
     cboSource->addItem(tr("Internet stream"));
-    cboSource->setItemData(1, true, StreamItemRole);
+    cboSource->setItemData(cboSource->count() - 1, true, StreamItemRole);
     txtStreamUrl = new QLineEdit;
     txtStreamUrl->setObjectName(QStringLiteral("txtStreamUrl"));
     txtStreamUrl->setPlaceholderText(tr("http://… or https://…, or a .pls, .m3u or .m3u8 list"));
@@ -71,6 +75,22 @@ void SourceChooser::SetStreamUrl(const QString& address)
 {
     txtStreamUrl->setText(address.trimmed());
     cboSource->setCurrentIndex(address.trimmed().isEmpty() ? 0 : cboSource->count() - 1);
+}
+
+void SourceChooser::ListInputs()
+{
+    m_inputs->SetListed(true);
+}
+
+void SourceChooser::SetInputName(const QString& name)
+{
+    if (!StreamChosen())
+        m_inputs->SetInputName(name);
+}
+
+QString SourceChooser::InputName() const
+{
+    return m_inputs->InputName();
 }
 
 bool SourceChooser::StreamChosen() const

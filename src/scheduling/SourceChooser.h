@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 
+class InputChooser;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -9,9 +10,9 @@ class QPushButton;
 class StreamTest;
 
 // Where a recording's sound comes from: a sound server input or an internet stream. The list
-// holds the inputs first (the default input; the server's named ones can join it) and the
-// stream last; choosing the stream enables its address and its Test, which reads a few
-// seconds of the stream and shows what it found or why it failed.
+// holds the inputs first (the options' input; the server's named ones where a form lists
+// them) and the stream last; choosing the stream enables its address and its Test, which reads a
+// few seconds of the stream and shows what it found or why it failed.
 class SourceChooser : public QGroupBox {
     Q_OBJECT
 public:
@@ -21,12 +22,17 @@ public:
     ~SourceChooser() override;
 
     void SetTaskProgram(const QString& taskProgram);
+    // Offers the server's inputs by name after the options' one (the program editor).
+    void ListInputs();
 
-    // An empty address chooses the default input.
+    // An empty address chooses the first item, the options' input.
     void SetStreamUrl(const QString& address);
     // Empty when an input is chosen.
     QString StreamUrl() const;
     bool StreamChosen() const;
+    // With the inputs listed: the chosen input's name, empty for the options' input.
+    void SetInputName(const QString& name);
+    QString InputName() const;
 
     QComboBox* cboSource;
     QLineEdit* txtStreamUrl;
@@ -38,4 +44,5 @@ private:
     void btnTestStream_Click();
 
     StreamTest* m_test;
+    InputChooser* m_inputs;
 };

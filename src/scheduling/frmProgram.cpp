@@ -87,6 +87,7 @@ frmProgram::frmProgram(const ProgramFormServices& services, QWidget* owner)
         dateFormat.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
     dtpkrOnceDate->setDisplayFormat(dateFormat);
     frameSource->SetTaskProgram(m_services.taskProgram);
+    frameSource->ListInputs();
     if (IsWaylandSession())
         frameCloseStreamingPlayer->setToolTip(StreamingPlayer::WaylandNote());
 
@@ -162,6 +163,7 @@ void frmProgram::FillProgramForm(const ProgramFormValues& v)
     TextProgramDescription->setText(v.FormDescription);
     CheckEnabled->setChecked(v.FormEnabled);
     frameSource->SetStreamUrl(v.FormStreamUrl);
+    frameSource->SetInputName(v.FormInputName);
     CheckEnabled_Click();
     dtpkrStartTime->setTime(TimeOf(v.FormStartTime));
     dtpkrEndTime->setTime(TimeOf(v.FormEndTime));
@@ -467,6 +469,7 @@ void frmProgram::CopyFormValues()
     v.FormMixerProfileBefore = ProfileOf(lstMixerProfilePrior);
     v.FormMixerProfileAfter = ProfileOf(lstMixerProfileAfter);
     v.FormStreamUrl = frameSource->StreamUrl();
+    v.FormInputName = frameSource->InputName();
     m_values = v;
 }
 

@@ -35,6 +35,8 @@ constexpr AddedColumn kAddedProgramColumns[] = {
     // An internet stream recorded instead of the sound server's input; empty or NULL for
     // the input.
     {"StreamUrl", "TEXT"},
+    // The sound server's source by name; empty or NULL for the setting RecordingInput.
+    {"InputName", "TEXT"},
     {"HangupInternetConnection", "INTEGER"},
     {"LaunchAfterOnlyIfOk", "INTEGER"},
 };

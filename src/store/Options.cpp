@@ -233,6 +233,7 @@ void Options::GetOptions(RegKeys& registry)
     // Recording and disk
     DefaultRecordingDirectory =
         Text::Trim(Read(registry, QStringLiteral("DefaultRecordingDirectory")));
+    RecordingInput = Read(registry, QStringLiteral("RecordingInput")).trimmed();
     GetIntOption(registry, QStringLiteral("WarnRecMegsLeft"), WarnRecMegsLeft, 10, 20000,
                  DefaultWarnRecMegsLeft);
     GetIntOption(registry, QStringLiteral("StopRecMegsLeft"), StopRecMegsLeft, 5, 20000,
@@ -316,6 +317,7 @@ void Options::SaveOptions(RegKeys& registry) const
 
     // Recording and disk
     Write(registry, QStringLiteral("DefaultRecordingDirectory"), DefaultRecordingDirectory);
+    Write(registry, QStringLiteral("RecordingInput"), RecordingInput);
     saveInt(QStringLiteral("WarnRecMegsLeft"), WarnRecMegsLeft);
     saveInt(QStringLiteral("StopRecMegsLeft"), StopRecMegsLeft);
     saveInt(QStringLiteral("LongRecordingHours"), LongRecordingHours);

@@ -31,6 +31,9 @@ public:
 
     // Recording and disk
     QString DefaultRecordingDirectory;
+    // The sound server's source that recordings are taken from, by its name; empty for the
+    // server's default. A program may name its own.
+    QString RecordingInput;
     qint16 WarnRecMegsLeft = DefaultWarnRecMegsLeft; // Mbytes free at which to warn
     qint16 StopRecMegsLeft = DefaultStopRecMegsLeft; // Mbytes free at which to stop
     qint16 LongRecordingHours = 3;

@@ -42,7 +42,8 @@ CREATE TABLE Programs (
     StreamingPlayerClose TEXT,
     HangupInternetConnection INTEGER,
     LaunchAfterOnlyIfOk INTEGER,
-    StreamUrl TEXT
+    StreamUrl TEXT,
+    InputName TEXT
 );
 
 CREATE TABLE Recordings (

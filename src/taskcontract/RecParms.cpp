@@ -52,10 +52,13 @@ void RecParms::Write(const QString& path) const
         bytes += NumberLine(value);
     for (int i = 0; i < format.cbSize; ++i)
         bytes += NumberLine(i < format.extra.size() ? quint8(format.extra.at(i)) : 0);
-    if (silenceSeconds > 0 || !streamUrl.isEmpty())
+    const bool streamLines = !streamUrl.isEmpty() || !inputName.isEmpty();
+    if (silenceSeconds > 0 || streamLines)
         bytes += NumberLine(silenceThresholdDb) + NumberLine(silenceSeconds);
-    if (!streamUrl.isEmpty())
+    if (streamLines)
         bytes += TextLine(streamUrl) + NumberLine(dueStartMsecs) + TextLine(finalPath);
+    if (!inputName.isEmpty())
+        bytes += TextLine(inputName);
     if (file.write(bytes) != bytes.size() || !file.flush())
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("Path/File access error"));
 }
@@ -126,6 +129,8 @@ std::optional<RecParms> RecParms::Read(const QString& path, bool* couldOpen)
         ok = ok && good;
         p.finalPath = lines.at(streamLine + 2);
     }
+    if (lines.size() >= streamLine + 4)
+        p.inputName = lines.at(streamLine + 3);
     if (!ok)
         return std::nullopt;
     return p;

@@ -33,6 +33,9 @@ struct RecParms {
     QString streamUrl;
     qint64 dueStartMsecs = 0;
     QString finalPath;
+    // The sound server's source to record from by its name, in one line after the stream's
+    // (which are then always written, the address empty); empty for the server's default.
+    QString inputName;
 
     // Deletes any old file and writes this one; throws RuntimeError on failure.
     void Write(const QString& path) const;

@@ -41,6 +41,9 @@ constexpr qint32 NoSignalLevel = -32768;
 // payload its start as ISO 8601 local time.
 constexpr quint32 REC_MSG_STREAM_FORMAT = 1056;
 constexpr quint32 REC_MSG_STREAM_GAP = 1057;
+// Task to scheduler: the named input was not found at the start, so the recording is taken
+// from the server's default input; the payload is the name.
+constexpr quint32 REC_MSG_INPUT_MISSING = 1058;
 // A REC_MSG_ERROR may carry a text payload: what the code alone can't say (the address and
 // the reason a stream could not be reached).
 // The main window's own system command, handled beside the task's messages.
