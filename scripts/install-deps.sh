@@ -15,6 +15,7 @@ packages=(
     dbus python3-dbusmock openbox
     weston qt6-wayland pipewire pipewire-pulse wireplumber
     desktop-file-utils appstream librsvg2-bin dpkg-dev file libqt6svg6
+    qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
 )
 missing=()
 for p in "${packages[@]}"; do

@@ -65,9 +65,10 @@ int CaptureErrorCode(int paError)
 
 } // namespace
 
-RecordingTask::RecordingTask(const QString& serverName, QObject* parent)
+RecordingTask::RecordingTask(const QString& serverName, bool primed, QObject* parent)
     : QObject(parent)
     , m_serverName(serverName)
+    , m_primed(primed)
 {
     m_clock.start();
     connect(&m_socket, &QLocalSocket::readyRead, this, &RecordingTask::OnReadyRead);
@@ -146,11 +147,34 @@ int RecordingTask::Prepare()
         OpenStream();
     else if (const int code = OpenCapture())
         return code;
+    return m_primed ? 0 : CreateFile();
+}
+
+int RecordingTask::CreateFile()
+{
     const bool bareMp3 = m_mp3 && m_parms.outputPath.toUpper().endsWith(QLatin1String(".MP3"));
     if (const int code = m_file.Create(m_parms, bareMp3))
         return code;
     m_sinceHeaderUpdate.start();
     return 0;
+}
+
+int RecordingTask::TakeFinalParameters()
+{
+    m_primed = false;
+    bool opened = false;
+    const std::optional<RecParms> parms =
+        RecParms::Read(RecParms::PathIn(QFileInfo(m_serverName).absolutePath()), &opened);
+    if (!opened)
+        return TaskError::ParameterFileLocked;
+    if (!parms)
+        return TaskError::ParameterFileBad;
+    // The capture is open already: a start in another format or from a stream is not this
+    // task's to take (the scheduler takes over only a task whose format fits).
+    if (parms->format != m_parms.format || !parms->streamUrl.isEmpty())
+        return TaskError::BadFormat;
+    m_parms = *parms;
+    return CreateFile();
 }
 
 int RecordingTask::OpenEncoder()
@@ -602,6 +626,16 @@ void RecordingTask::OnCall(quint32 number)
     qint32 result = 0;
     if (number == REC_MSG_START) {
         result = m_readyCode;
+        if (result == 0 && m_primed) {
+            result = TakeFinalParameters();
+            // Nobody else would end a task that never got its file.
+            if (result != 0) {
+                Send(Kind::Reply, number, result);
+                Finish();
+                Leave();
+                return;
+            }
+        }
         if (result == 0) {
             // A stream opened ahead of time begins at its due moment, not at the command.
             qint64 hold = m_parms.dueStartMsecs - QDateTime::currentMSecsSinceEpoch();

@@ -22,10 +22,14 @@ class StreamCapture;
 // sound server's input or an internet stream) and the output file, says it is ready, and
 // records between the start and the stop command. Sound arrives on the sound server's or
 // GStreamer's thread; the channel and the file's end run on the main thread.
+//
+// A primed task is started ahead of a scheduled start: it opens the capture in the format
+// of its parameter file and says it is ready, but reads the parameter file again at the
+// start command, which names the file it is to write. Ended before that, it leaves no file.
 class RecordingTask : public QObject {
     Q_OBJECT
 public:
-    explicit RecordingTask(const QString& serverName, QObject* parent = nullptr);
+    RecordingTask(const QString& serverName, bool primed, QObject* parent = nullptr);
     ~RecordingTask() override;
 
     // False when the scheduler can't be reached: then there is nobody to report to.
@@ -33,6 +37,9 @@ public:
 
 private:
     int Prepare();
+    // The output file of the parameter file as it stands; for a primed task at the start.
+    int CreateFile();
+    int TakeFinalParameters();
     void PostReady();
     void SetSampleSpec();
     int OpenCapture();
@@ -80,6 +87,7 @@ private:
     TaskProtocol::FrameReader m_reader;
     RecParms m_parms;
     int m_readyCode = 0;
+    bool m_primed = false;
     bool m_mp3 = false;
     bool m_leaving = false;
     bool m_readySent = false;

@@ -1,5 +1,6 @@
 // nightreel-rec: records one recording for the scheduler whose channel is named on the
-// command line, then leaves. With --probe and an address it tests an internet stream.
+// command line, then leaves. With --probe and an address it tests an internet stream; with
+// --primed before the channel it is started ahead of its recording (see RecordingTask).
 #include "RecordingTask.h"
 #include "StreamProbe.h"
 
@@ -14,9 +15,10 @@ int main(int argc, char** argv)
         StreamProbe probe(args.at(2));
         return app.exec();
     }
-    if (args.size() != 2)
+    const bool primed = args.size() == 3 && args.at(1) == QLatin1String("--primed");
+    if (args.size() != 2 && !primed)
         return 2;
-    RecordingTask task(args.at(1));
+    RecordingTask task(args.last(), primed);
     if (!task.Begin())
         return 1;
     return app.exec();

@@ -4,6 +4,7 @@
 // the service the tests are skipped.
 #include "ModalDialogs.h"
 #include "NotificationDaemonStandIn.h"
+#include "Programs.h"
 #include "TestContext.h"
 #include "XDisplay.h"
 #include "common/AutomationDate.h"
@@ -160,6 +161,34 @@ private slots:
         QFETCH(QStringList, notified);
         QCOMPARE(m_daemon->Notified(), notified);
         ctx().options.ShowDesktopNotifications = true;
+    }
+
+    // Programs missed while the recorder was not running: one notification lists them all,
+    // as the log does, and the next start finds none to tell again.
+    void missedRecordingsAreNotifiedOnce()
+    {
+        m_daemon->Forget();
+        m_tc->AddProgram(Programs::Weekly("Late show", "23:00:00", "23:30:00", "0100000"));
+        m_tc->AddProgram(Programs::Weekly("Night news", "00:00:00", "00:05:00", "0010000"));
+        ctx().database.DataPrograms.Requery();
+        ctx().registry.SaveSetting("Settings", "RecorderAliveTime",
+                                   QString::number(Programs::At(2026, 6, 1, "22:00:00")));
+        m_tc->clock.Set(Programs::At(2026, 6, 2, "08:00:00"));
+        ctx().recorder.Missed().CheckAtStart();
+        m_tc->clock.AdvanceSeconds(600);
+        ctx().recorder.Missed().CheckAtStart();
+        QTest::qWait(300);
+
+        QStringList missed;
+        for (const LogEntry& e : m_tc->LogEntries()) {
+            if (e.message.startsWith("Missed recording: "))
+                missed << e.message;
+        }
+        QCOMPARE(missed.size(), 2);
+        QVERIFY(missed[0].contains("Late show") && missed[1].contains("Night news"));
+        QCOMPARE(m_daemon->Notified(),
+                 QStringList{"Nightreel 2000|nightreel|Recordings missed|" + missed.join(" / ") +
+                             "|default,Open Event Log|2"});
     }
 
     // The click on a notification brings the window forward with the event log open.

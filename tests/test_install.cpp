@@ -106,6 +106,7 @@ void TestInstall::programFindsItsPieces()
         QVERIFY2(QFileInfo::exists(files.LibraryFolder() + library), library);
     QVERIFY(QFileInfo::exists(files.Manual()));
     QVERIFY(QFileInfo::exists(files.DesktopEntry()));
+    QVERIFY(QFileInfo::exists(files.TranslationFolder() + "/nightreel_de.qm"));
 }
 
 void TestInstall::desktopFilesAreValid_data()

@@ -15,7 +15,9 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QProcess>
 #include <QScopeGuard>
+#include <QSqlQuery>
 #include <QTest>
 #include <QTimer>
 #include <QtEndian>
@@ -36,6 +38,20 @@ void VerifyTone(const QString& path, double skip = 0.0)
     QVERIFY2(rms > 0.1, qPrintable(QString::number(rms)));
     QVERIFY2(frequency > 900 && frequency < 1100, qPrintable(QString::number(frequency)));
 }
+
+// The process id of the task started ahead for the link's channel, 0 when none runs.
+qint64 PrimedTaskOf(const RecordingTaskLink& link)
+{
+    const QByteArray wanted = "--primed" + QByteArray(1, '\0') + link.ServerName().toUtf8();
+    for (const QString& entry : QDir("/proc").entryList(QDir::Dirs)) {
+        QFile cmdline("/proc/" + entry + "/cmdline");
+        if (entry.toLongLong() > 0 && cmdline.open(QIODevice::ReadOnly) &&
+            cmdline.readAll().contains(wanted))
+            return entry.toLongLong();
+    }
+    return 0;
+}
+
 } // namespace
 
 class TestRecordingCycle : public QObject {
@@ -46,6 +62,8 @@ private slots:
     void scheduledProgramRecordsIntoItsFile();
     void eachProgramRecordsFromItsInput_data();
     void eachProgramRecordsFromItsInput();
+    void taskStartedAheadIsTakenOverOrEnded_data();
+    void taskStartedAheadIsTakenOverOrEnded();
     void openWindowStartsAtOnceAndEndsByTheClock();
     void dayLongRecordingStopsByTheClock();
     void recordingWithoutDataFails();
@@ -180,6 +198,67 @@ void TestRecordingCycle::eachProgramRecordsFromItsInput()
         "Recording input not found: " + programInput + "; the default input was used.";
     QCOMPARE(r.LoggedMessages(),
              recorded == "unplugged.monitor" ? QStringList{missing} : QStringList{});
+}
+
+void TestRecordingCycle::taskStartedAheadIsTakenOverOrEnded_data()
+{
+    QTest::addColumn<QString>("meanwhile");
+    QTest::addColumn<bool>("recorded");
+
+    QTest::newRow("taken over") << "" << true;
+    QTest::newRow("task died") << "kill" << true;
+    QTest::newRow("program removed") << "DELETE FROM Programs" << false;
+    QTest::newRow("program disabled") << "UPDATE Programs SET Enabled = 0" << false;
+}
+
+// Seconds ahead of a scheduled start its task comes up with the capture open and no file.
+// The start at the due second takes it over and records as any start would; a start that is
+// refused by then ends it without a file or a word in the log, and one that died is replaced.
+void TestRecordingCycle::taskStartedAheadIsTakenOverOrEnded()
+{
+    QFETCH(QString, meanwhile);
+    QFETCH(bool, recorded);
+
+    RecordingRig r;
+    r.AddProgram(Programs::Weekly("Primed", "10:00:05", "10:00:07", "0100000"));
+    r.tc.clock.Set(At("10:00:02"));
+    r.ctx().scheduler.ScheduleNextRecording();
+    r.recorder().HeartbeatTimer().Timer1_Timer();
+    qint64 primed = 0;
+    QTRY_VERIFY_WITH_TIMEOUT((primed = PrimedTaskOf(r.recorder().Link())) != 0, 5000);
+    QTest::qWait(1000);
+    QVERIFY(r.Files().isEmpty());
+    if (meanwhile == "kill") {
+        QVERIFY(QProcess::execute("kill", {"-KILL", QString::number(primed)}) == 0);
+    } else if (!meanwhile.isEmpty()) {
+        QSqlQuery(r.ctx().database.db.Connection()).exec(meanwhile);
+        r.ctx().database.DataPrograms.Requery();
+        r.ctx().scheduler.ScheduleNextRecording();
+    }
+
+    QElapsedTimer elapsed;
+    elapsed.start();
+    for (double at = At("10:00:04"); at <= At("10:00:09") && elapsed.elapsed() < 20000;
+         at = AutomationDate::AddSeconds(at, 0.25)) {
+        r.tc.clock.Set(at);
+        r.recorder().HeartbeatTimer().Timer1_Timer();
+        QTest::qWait(250);
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!r.ctx().appStatus.Recording(), 12000);
+    QTRY_VERIFY_WITH_TIMEOUT(PrimedTaskOf(r.recorder().Link()) == 0, 5000);
+    QCOMPARE(r.Log().size(), 0);
+    if (!recorded) {
+        QCOMPARE(r.starts, 0);
+        QVERIFY(r.recorder().Link().StartedTasks().isEmpty());
+        QVERIFY(r.Files().isEmpty());
+        return;
+    }
+    QCOMPARE(r.starts, 1);
+    QCOMPARE(r.recorder().Link().StartedTasks().size(), 1);
+    QCOMPARE(r.recorder().Link().StartedTasks()[0] == primed, meanwhile.isEmpty());
+    QCOMPARE(r.Files(), QStringList{"060126_100005.WAV"});
+    VerifyTone(r.folder + "/060126_100005.WAV");
+    QCOMPARE(r.Recordings().size(), 1);
 }
 
 // A program whose window is already open starts on the first tick, with the length of what

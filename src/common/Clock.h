@@ -9,6 +9,11 @@ public:
     virtual ~Clock() = default;
     // The present local time as an automation date.
     virtual double Now() const = 0;
+    // Milliseconds from the present until the date, for a timer that is to meet a second.
+    virtual qint64 MsecsUntil(double date) const
+    {
+        return qint64(AutomationDate::SecondsBetween(Now(), date)) * 1000;
+    }
 };
 
 class SystemClock : public Clock {
@@ -21,5 +26,10 @@ public:
         const QTime time = now.time();
         return AutomationDate::FromDateTime(
             QDateTime(now.date(), QTime(time.hour(), time.minute(), time.second())));
+    }
+    // Counted from the present millisecond.
+    qint64 MsecsUntil(double date) const override
+    {
+        return QDateTime::currentDateTime().msecsTo(AutomationDate::ToDateTime(date));
     }
 };

@@ -35,6 +35,11 @@ QString ProgramFiles::Manual() const
                        : m_programFolder + QStringLiteral("/docs/manual.html");
 }
 
+QString ProgramFiles::TranslationFolder() const
+{
+    return Under(NIGHTREEL_DATA_FROM_BIN, QStringLiteral("translations"));
+}
+
 QString ProgramFiles::DesktopEntry() const
 {
     return Under(NIGHTREEL_APPLICATIONS_FROM_BIN, QStringLiteral("nightreel.desktop"));

@@ -3,9 +3,9 @@
 #include <QString>
 
 // Where the program's own pieces lie: the recording task, the private libraries (encoder and
-// mixer), the manual and the desktop entry. They are found from the folder of the executable,
-// never from PATH or the system's library path, so that a program always runs with the pieces
-// of its own build. Two layouts:
+// mixer), the manual, the catalogues of translated texts and the desktop entry. They are found from
+// the folder of the executable, never from PATH or the system's library path, so that a program
+// always runs with the pieces of its own build. Two layouts:
 // - installed: each piece in its folder of the installation, at a path relative to the
 //   program that the build fixes from the install dirs (so any prefix or DESTDIR works);
 // - a build folder: everything beside the program.
@@ -22,6 +22,8 @@ public:
     // The folder of libnightreelenc.so and libmixset.so.
     QString LibraryFolder() const;
     QString Manual() const;
+    // The folder of the nightreel_LANGUAGE.qm catalogues.
+    QString TranslationFolder() const;
     QString DesktopEntry() const;
 
 private:

@@ -21,19 +21,17 @@ void clsAppStatus::HandleSuspendMenuClickEvent(MessageBoxPresenter& messageBox)
         Set(m_suspended, false);
         return;
     }
-    const QString invalid = QStringLiteral("Invalid request");
+    const QString invalid = tr("Invalid request");
     if (m_recording) {
-        messageBox.Show(invalid,
-                        QStringLiteral("Please stop the recording in process prior to suspending."),
+        messageBox.Show(invalid, tr("Please stop the recording in process prior to suspending."),
                         MsgIcon::Exclamation, MsgButtons::Ok);
     } else if (m_converting) {
-        messageBox.Show(
-            invalid,
-            QStringLiteral("Please stop the MP3 conversion in process prior to suspending."),
-            MsgIcon::Exclamation, MsgButtons::Ok);
-    } else if (messageBox.Show(QStringLiteral("Suspend Nightreel 2000"),
-                               QStringLiteral("This will suspend Nightreel 2000. No recording will "
-                                              "take place while suspended. Proceed?"),
+        messageBox.Show(invalid,
+                        tr("Please stop the MP3 conversion in process prior to suspending."),
+                        MsgIcon::Exclamation, MsgButtons::Ok);
+    } else if (messageBox.Show(tr("Suspend Nightreel 2000"),
+                               tr("This will suspend Nightreel 2000. No recording will "
+                                  "take place while suspended. Proceed?"),
                                MsgIcon::None, MsgButtons::YesNo) == MsgResult::Yes) {
         Set(m_suspended, true);
     }

@@ -17,6 +17,7 @@
 #include "store/RecordingsList.h"
 #include "store/Recordset.h"
 
+#include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDBusMetaType>
 #include <QDebug>
@@ -102,12 +103,12 @@ ControlService::ControlService(const ControlServices& services, QObject* parent)
 bool ControlService::Register(QDBusConnection bus)
 {
     if (!bus.isConnected()) {
-        qWarning().noquote() << "The control interface is not offered: no session bus.";
+        qWarning().noquote() << tr("The control interface is not offered: no session bus.");
         return false;
     }
     if (!bus.registerObject(QString::fromLatin1(ObjectPath), this) ||
         !bus.registerService(QString::fromLatin1(ServiceName))) {
-        qWarning().noquote() << "The control interface is not offered:"
+        qWarning().noquote() << tr("The control interface is not offered:")
                              << bus.lastError().message();
         return false;
     }
@@ -163,7 +164,7 @@ QString ControlService::FailureReason() const
                      rs.Value(QStringLiteral("Details")).toString();
         }
     }
-    return reason.isEmpty() ? QStringLiteral("The recording failed; see the event log.") : reason;
+    return reason.isEmpty() ? tr("The recording failed; see the event log.") : reason;
 }
 
 QVariantMap ControlService::Status()
@@ -220,8 +221,7 @@ void ControlService::RequireProgram(qint64 id)
     Recordset rs = m_s.database.DataPrograms.recordset().Clone();
     rs.FindFirst(QStringLiteral("ID = ") + QString::number(id));
     if (rs.NoMatch())
-        throw Refusal{QStringLiteral("NoSuchProgram"),
-                      QStringLiteral("There is no program %1.").arg(id)};
+        throw Refusal{QStringLiteral("NoSuchProgram"), tr("There is no program %1.").arg(id)};
 }
 
 qint64 ControlService::RunProgramCommand(qint64 bookmark, const QVariantMap& changes,
@@ -245,7 +245,7 @@ int ControlService::AddProgram(const QVariantMap& program)
         id = int(RunProgramCommand(-1, program, [](ProgramListCommands& c) { c.AddNewProgram(); }));
         if (id < 0)
             throw Refusal{QStringLiteral("Failed"),
-                          QStringLiteral("The program was not saved; see the event log.")};
+                          tr("The program was not saved; see the event log.")};
     });
     return id;
 }
@@ -284,13 +284,12 @@ QString ControlService::StartManual(uint seconds, const QString& description)
     Serve([&] {
         if (seconds < 1 || seconds > uint(kLongestManualSeconds))
             throw Refusal{QStringLiteral("InvalidArgument"),
-                          QStringLiteral("A manual recording lasts from 1 second to 23:59:59.")};
+                          tr("A manual recording lasts from 1 second to 23:59:59.")};
         if (m_s.appStatus.Recording())
             throw Refusal{QStringLiteral("RecordingInProgress"),
-                          QStringLiteral("A recording is already in progress.")};
+                          tr("A recording is already in progress.")};
         if (description.trimmed().isEmpty())
-            throw Refusal{QStringLiteral("DescriptionRequired"),
-                          QStringLiteral("Please enter a description.")};
+            throw Refusal{QStringLiteral("DescriptionRequired"), tr("Please enter a description.")};
         clsManualRecord& request = m_s.recorder.Manual();
         request.Format.CopyFrom(m_s.defaultFormat);
         if (CheckFor2GbLimit(m_s.messageBox, request.Format, qint32(seconds)))
@@ -302,7 +301,7 @@ QString ControlService::StartManual(uint seconds, const QString& description)
         m_s.recorder.StartManualRecording();
         if (!m_s.appStatus.Recording())
             throw Refusal{QStringLiteral("NotStarted"),
-                          QStringLiteral("The recording did not start; see the event log.")};
+                          tr("The recording did not start; see the event log.")};
         file = m_s.recorder.Status().FinalFile;
     });
     return file;
@@ -313,7 +312,7 @@ void ControlService::Stop()
     Serve([&] {
         if (!m_s.appStatus.Recording() && !m_s.appStatus.Converting())
             throw Refusal{QStringLiteral("NotRecording"),
-                          QStringLiteral("Nothing is being recorded or converted.")};
+                          tr("Nothing is being recorded or converted.")};
         m_s.recorder.StopCommand(false);
     });
 }
@@ -322,8 +321,7 @@ bool ControlService::PauseResume()
 {
     Serve([&] {
         if (!m_s.appStatus.Recording())
-            throw Refusal{QStringLiteral("NotRecording"),
-                          QStringLiteral("Nothing is being recorded.")};
+            throw Refusal{QStringLiteral("NotRecording"), tr("Nothing is being recorded.")};
         m_s.recorder.PauseCommand(QStringLiteral("T"));
     });
     return m_s.appStatus.Paused();
@@ -353,14 +351,14 @@ void ControlService::DeleteRecording(int id, bool deleteFile)
         };
         if (!listed())
             throw Refusal{QStringLiteral("NoSuchRecording"),
-                          QStringLiteral("There is no recording %1.").arg(id)};
+                          tr("There is no recording %1.").arg(id)};
         if (deleteFile)
             m_s.recordingsList.DeleteFromDisk({id});
         else
             m_s.recordingsList.RemoveFromList({id});
         if (listed())
             throw Refusal{QStringLiteral("NotDeleted"),
-                          QStringLiteral("The file could not be deleted; see the event log.")};
+                          tr("The file could not be deleted; see the event log.")};
     });
 }
 

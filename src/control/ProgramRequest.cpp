@@ -3,6 +3,7 @@
 #include "common/AutomationDate.h"
 #include "control/RecordingFormatName.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QStringList>
 #include <QTime>
@@ -29,7 +30,8 @@ QString TimeText(double timeOfDay)
 
 QString Invalid(const QString& key, const QVariant& value)
 {
-    return QStringLiteral("Invalid value for %1: %2").arg(key, value.toString());
+    return QCoreApplication::translate("ProgramRequest", "Invalid value for %1: %2")
+        .arg(key, value.toString());
 }
 
 } // namespace
@@ -86,7 +88,7 @@ std::optional<QString> Apply(EventLog& log, const QVariantMap& request, ProgramF
         } else if (key == QStringLiteral("suffix")) {
             v.FormFilenameSuffix = value.toString();
         } else if (key != QStringLiteral("confirmed")) {
-            return QStringLiteral("Unknown key: ") + key;
+            return QCoreApplication::translate("ProgramRequest", "Unknown key: ") + key;
         }
     }
     // As in the editor: a file name of the user's own leaves no prefix or suffix.

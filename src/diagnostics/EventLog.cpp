@@ -6,6 +6,7 @@
 #include "diagnostics/clsError.h"
 #include "store/AppDatabase.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 Q_LOGGING_CATEGORY(lcEventLog, "nightreel.eventlog")
@@ -58,12 +59,12 @@ int EventLog::CountEventLogRows()
 
 QString EventLog::RuntimeErrorDetails(const QString& procedureName, const RuntimeError& error)
 {
-    return QStringLiteral("Module: ") + procedureName + QStringLiteral("\r\nError: ") +
-           Text::Str(error.Number()) + QStringLiteral(", ") + error.Text();
+    return tr("Module: ") + procedureName + tr("\r\nError: ") + Text::Str(error.Number()) +
+           QStringLiteral(", ") + error.Text();
 }
 
 void EventLog::LogRuntimeError(const QString& procedureName, const RuntimeError& error)
 {
-    LogEvent(EventError, QStringLiteral("Nightreel 2000 Runtime Error"),
+    LogEvent(EventError, tr("Nightreel 2000 Runtime Error"),
              RuntimeErrorDetails(procedureName, error));
 }

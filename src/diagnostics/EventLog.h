@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <functional>
 
@@ -40,4 +41,6 @@ private:
     clsError& m_error;
     const Clock& m_clock;
     Listener m_listener;
+
+    Q_DECLARE_TR_FUNCTIONS(EventLog)
 };

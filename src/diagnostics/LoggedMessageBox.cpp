@@ -3,6 +3,7 @@
 #include "diagnostics/EventLog.h"
 #include "diagnostics/UnreadBox.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 
 namespace {
@@ -11,9 +12,9 @@ QString AnswerText(MsgResult answer)
 {
     switch (answer) {
     case MsgResult::No:
-        return QStringLiteral("No");
+        return QCoreApplication::translate("LoggedMessageBox", "No");
     case MsgResult::Cancel:
-        return QStringLiteral("Cancel");
+        return QCoreApplication::translate("LoggedMessageBox", "Cancel");
     default:
         return QString();
     }
@@ -27,7 +28,7 @@ MsgResult LoggedMessageBox::Show(const QString& title, const QString& text, MsgI
     const MsgResult answer = UnreadAnswer(buttons);
     QString details = text;
     if (answer != MsgResult::Ok)
-        details += QStringLiteral("\r\nAnswered without a window: ") + AnswerText(answer);
+        details += tr("\r\nAnswered without a window: ") + AnswerText(answer);
     if (m_log)
         m_log->LogEvent(EventTypeOf(icon), title, details);
     else

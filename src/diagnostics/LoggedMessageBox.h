@@ -2,6 +2,8 @@
 
 #include "common/MessageBox.h"
 
+#include <QCoreApplication>
+
 class EventLog;
 
 // The message boxes of a recorder that has no window: each becomes an entry of the event
@@ -20,4 +22,6 @@ public:
 
 private:
     EventLog* m_log = nullptr;
+
+    Q_DECLARE_TR_FUNCTIONS(LoggedMessageBox)
 };

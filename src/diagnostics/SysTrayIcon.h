@@ -2,6 +2,7 @@
 
 #include "diagnostics/cSysTray.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QSystemTrayIcon>
 
@@ -33,9 +34,10 @@ public:
     // Why nothing is hidden in the tray, for the log and the forms' tips.
     static QString MissingNote()
     {
-        return QStringLiteral("This desktop has no notification area (system tray) to hide "
-                              "Nightreel 2000 in: the window is minimised to the task bar "
-                              "instead, and a hidden start starts minimised.");
+        return QCoreApplication::translate(
+            "SysTrayIcon", "This desktop has no notification area (system tray) to hide "
+                           "Nightreel 2000 in: the window is minimised to the task bar "
+                           "instead, and a hidden start starts minimised.");
     }
 
 private:

@@ -38,13 +38,12 @@ void clsError::UpdateErrorIndication()
     m_forceUpdate = false;
     ErrorIndication indication;
     if (AnyCurrentErrorsOrWarnings()) {
-        indication.toolTip = QStringLiteral("Errors or warnings are present - Click to view");
+        indication.toolTip = tr("Errors or warnings are present - Click to view");
         indication.buttonVisible = true;
         indication.errorsMenuEnabled = true;
     } else if (UnviewedElogErrors()) {
-        indication.toolTip = m_numUnviewedElogErrors == 1
-                                 ? QStringLiteral("Error occurred - click to view")
-                                 : QStringLiteral("Errors occurred - click to view");
+        indication.toolTip = m_numUnviewedElogErrors == 1 ? tr("Error occurred - click to view")
+                                                          : tr("Errors occurred - click to view");
         indication.buttonVisible = true;
     }
     m_indication = indication;
@@ -55,33 +54,33 @@ QStringList clsError::ConditionTexts() const
 {
     QStringList texts;
     if (NoAudioRecordDevice())
-        texts << QStringLiteral("No sound server input found.  Check that PulseAudio or "
-                                "PipeWire is running and that an input is not disabled.");
+        texts << tr("No sound server input found.  Check that PulseAudio or "
+                    "PipeWire is running and that an input is not disabled.");
     if (InvalidRecordingDirectory())
-        texts << QStringLiteral("Invalid Recording Folder.  "
-                                "Go to View/Options and select a recording folder.");
+        texts << tr("Invalid Recording Folder.  "
+                    "Go to View/Options and select a recording folder.");
     if (DiskLowStopRecording())
-        texts << QStringLiteral("Disk Low - no further recording allowed.  "
-                                "Delete recordings from disk or change "
-                                "recording folder. "
-                                "You can also change the limit to stop recording in View/Options.");
+        texts << tr("Disk Low - no further recording allowed.  "
+                    "Delete recordings from disk or change "
+                    "recording folder. "
+                    "You can also change the limit to stop recording in View/Options.");
     // The stop block already says the disk is low; the warning would repeat it.
     else if (DiskLowWarn())
-        texts << QStringLiteral("Disk Low Warning.  "
-                                "Delete recordings from disk or change "
-                                "recording folder. "
-                                "You can also change the disk warning limit in View/Options.");
+        texts << tr("Disk Low Warning.  "
+                    "Delete recordings from disk or change "
+                    "recording folder. "
+                    "You can also change the disk warning limit in View/Options.");
     if (ElogFull())
-        texts << QStringLiteral("The Error Log is Full. "
-                                "Go to View/Error Log (or press the View Error Log "
-                                "button below) and remove all event log items. ");
+        texts << tr("The Error Log is Full. "
+                    "Go to View/Error Log (or press the View Error Log "
+                    "button below) and remove all event log items. ");
     if (DatabaseMissing())
-        texts << QStringLiteral("Database is missing. "
-                                "Go to Tools/Advanced/Restore Original Database "
-                                "to create new database.");
+        texts << tr("Database is missing. "
+                    "Go to Tools/Advanced/Restore Original Database "
+                    "to create new database.");
     if (RecordingSilent())
-        texts << QStringLiteral("Recording is silent.  "
-                                "Check that the source is playing and that its mixer levels "
-                                "are up; see the Error Log for the source.");
+        texts << tr("Recording is silent.  "
+                    "Check that the source is playing and that its mixer levels "
+                    "are up; see the Error Log for the source.");
     return texts;
 }

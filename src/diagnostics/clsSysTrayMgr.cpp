@@ -4,6 +4,8 @@
 #include "diagnostics/Trap.h"
 #include "diagnostics/clsError.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 struct Choice {
@@ -13,7 +15,8 @@ struct Choice {
 
 QString Tip(const char* state)
 {
-    return QStringLiteral("Nightreel 2000 - ") + QLatin1String(state);
+    return QCoreApplication::translate("clsSysTrayMgr", "Nightreel 2000 - ") +
+           QCoreApplication::translate("clsSysTrayMgr", state);
 }
 
 } // namespace
@@ -40,7 +43,7 @@ clsSysTrayMgr::~clsSysTrayMgr() = default;
 void clsSysTrayMgr::InitializeSystemTray()
 {
     m_currentIcon = {SysTrayList::General, SysTrayPicture::Normal};
-    m_currentTip = Tip("STOPPED");
+    m_currentTip = Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "STOPPED"));
     // No icon (no notification area) is no reason to stop: the status is not looked at.
     m_tray->Activate(m_currentIcon, m_currentTip, false);
     m_recordPhase = 1;
@@ -63,32 +66,40 @@ void clsSysTrayMgr::Update()
         // The first state that holds decides: a recording hides a current error until it
         // ends, as the picture shows one thing at a time.
         if (s.Suspended()) {
-            c = {Tip("SUSPENDED"), {SysTrayList::General, SysTrayPicture::Suspended}};
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "SUSPENDED")),
+                 {SysTrayList::General, SysTrayPicture::Suspended}};
         } else if (s.Recording() && s.Paused()) {
             const int picture = s.Playing() ? (even ? 3 : 4) : (even ? 1 : 2);
-            c = {Tip("RECORDING PAUSED"), {SysTrayList::Pause, picture}};
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "RECORDING PAUSED")),
+                 {SysTrayList::Pause, picture}};
             emit PausedBlink(even);
         } else if (s.Recording() && s.Playing()) {
-            c = {Tip("PLAYING and RECORDING"), {SysTrayList::RecordAndPlay, m_recordPhase}};
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "PLAYING and RECORDING")),
+                 {SysTrayList::RecordAndPlay, m_recordPhase}};
         } else if (s.Recording()) {
-            c = {Tip("RECORDING"), {SysTrayList::Record, m_recordPhase}};
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "RECORDING")),
+                 {SysTrayList::Record, m_recordPhase}};
         } else if (s.Converting() && s.Playing()) {
-            c = {Tip("PLAYING & CONVERTING TO MP3"), {SysTrayList::ConvertAndPlay, m_convertPhase}};
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "PLAYING & CONVERTING TO MP3")),
+                 {SysTrayList::ConvertAndPlay, m_convertPhase}};
         } else if (s.Converting()) {
-            c = {Tip("CONVERTING TO MP3"), {SysTrayList::Convert, m_convertPhase}};
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "CONVERTING TO MP3")),
+                 {SysTrayList::Convert, m_convertPhase}};
         } else if (s.Playing()) {
-            c = {Tip("PLAYING"), {SysTrayList::General, SysTrayPicture::Play}};
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "PLAYING")),
+                 {SysTrayList::General, SysTrayPicture::Play}};
         } else if (m_error.AnyCurrentErrorsOrWarnings()) {
-            c = {Tip("Errors or warnings are present."),
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "Errors or warnings are present.")),
                  {SysTrayList::General, SysTrayPicture::Error}};
         } else if (m_error.NumUnviewedElogErrors() == 1) {
-            c = {Tip("Error occurred, check the error log"),
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "Error occurred, check the error log")),
                  {SysTrayList::General, SysTrayPicture::Error}};
         } else if (m_error.UnviewedElogErrors()) {
-            c = {Tip("Errors occurred, check the error log"),
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "Errors occurred, check the error log")),
                  {SysTrayList::General, SysTrayPicture::Error}};
         } else {
-            c = {Tip("STOPPED"), {SysTrayList::General, SysTrayPicture::Normal}};
+            c = {Tip(QT_TRANSLATE_NOOP("clsSysTrayMgr", "STOPPED")),
+                 {SysTrayList::General, SysTrayPicture::Normal}};
         }
 
         if (c.picture == m_currentIcon) {

@@ -351,10 +351,9 @@ void frmElog::ShowElogDetails()
 
 void frmElog::RemoveElogItems()
 {
-    const MsgResult answer =
-        m_messageBox.Show(QStringLiteral("Remove All Error Log Entries"),
-                          QStringLiteral("This will clear the error log. Proceed?"), MsgIcon::None,
-                          MsgButtons::YesNo);
+    const MsgResult answer = m_messageBox.Show(tr("Remove All Error Log Entries"),
+                                               tr("This will clear the error log. Proceed?"),
+                                               MsgIcon::None, MsgButtons::YesNo);
     if (answer == MsgResult::Yes) {
         try {
             RefreshDataElog();

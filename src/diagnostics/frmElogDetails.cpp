@@ -33,7 +33,7 @@ frmElogDetails::frmElogDetails(QWidget* owner)
     , m_lblDetails(ValueLabel("lblDetails"))
 {
     setObjectName(QStringLiteral("frmElogDetails"));
-    setWindowTitle(QStringLiteral("Error Log Details"));
+    setWindowTitle(tr("Error Log Details"));
 
     m_lblDescription->setWordWrap(true);
     m_lblDetails->setWordWrap(true);
@@ -44,18 +44,18 @@ frmElogDetails::frmElogDetails(QWidget* owner)
     detailsArea->setFrameShape(QFrame::NoFrame);
     detailsArea->setMinimumHeight(100);
 
-    auto* frame = new QGroupBox(QStringLiteral("Details"));
+    auto* frame = new QGroupBox(tr("Details"));
     frame->setObjectName(QStringLiteral("fraDetails"));
     auto* fields = new QFormLayout;
-    fields->addRow(QStringLiteral("Date:"), m_lblDate);
-    fields->addRow(QStringLiteral("Time:"), m_lblTime);
-    fields->addRow(QStringLiteral("Type:"), m_lblType);
-    fields->addRow(QStringLiteral("Description:"), m_lblDescription);
+    fields->addRow(tr("Date:"), m_lblDate);
+    fields->addRow(tr("Time:"), m_lblTime);
+    fields->addRow(tr("Type:"), m_lblType);
+    fields->addRow(tr("Description:"), m_lblDescription);
     auto* frameLayout = new QVBoxLayout(frame);
     frameLayout->addLayout(fields);
     frameLayout->addWidget(detailsArea, 1);
 
-    auto* btnExit = new QPushButton(QStringLiteral("E&xit"));
+    auto* btnExit = new QPushButton(tr("E&xit"));
     btnExit->setObjectName(QStringLiteral("btnExit"));
     btnExit->setDefault(true);
     connect(btnExit, &QPushButton::clicked, this, &QDialog::accept);
@@ -79,13 +79,13 @@ void frmElogDetails::Fill(const QVariant& type, const QVariant& dateAndTime, con
     if (!type.isNull()) {
         switch (type.toInt()) {
         case 0:
-            m_lblType->setText(QStringLiteral("Information"));
+            m_lblType->setText(tr("Information"));
             break;
         case 1:
-            m_lblType->setText(QStringLiteral("Warning"));
+            m_lblType->setText(tr("Warning"));
             break;
         case 2:
-            m_lblType->setText(QStringLiteral("Error"));
+            m_lblType->setText(tr("Error"));
             break;
         default:
             break;

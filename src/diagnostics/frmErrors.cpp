@@ -30,13 +30,13 @@ frmErrors::frmErrors(clsError& error, AppDatabase& database, RegKeys& registry,
     , m_messageBox(messageBox)
     , m_txtbxErrors(new QPlainTextEdit)
     , m_lblNumErrors(new QLabel)
-    , m_btnViewElog(new QPushButton(QStringLiteral("&View Error Log")))
-    , m_btnExit(new QPushButton(QStringLiteral("E&xit")))
+    , m_btnViewElog(new QPushButton(tr("&View Error Log")))
+    , m_btnExit(new QPushButton(tr("E&xit")))
 {
     setObjectName(QStringLiteral("frmErrors"));
     setWindowTitle(QStringLiteral("Errors/Warnings"));
 
-    auto* head = new QLabel(QStringLiteral("The following error/warning conditions are present:"));
+    auto* head = new QLabel(tr("The following error/warning conditions are present:"));
     head->setObjectName(QStringLiteral("lblHead"));
     m_txtbxErrors->setObjectName(QStringLiteral("txtbxErrors"));
     m_txtbxErrors->setReadOnly(true);
@@ -69,10 +69,10 @@ void frmErrors::RefreshErrorList()
     m_txtbxErrors->setPlainText(ErrorListText(error));
     if (error.UnviewedElogErrors()) {
         const int count = error.NumUnviewedElogErrors();
-        m_lblNumErrors->setText(
-            count == 1 ? QStringLiteral("There is an unviewed error/warning in the error log.")
-                       : QStringLiteral("There are ") + QString::number(count) +
-                             QStringLiteral(" unviewed errors/warnings in the error log."));
+        m_lblNumErrors->setText(count == 1
+                                    ? tr("There is an unviewed error/warning in the error log.")
+                                    : tr("There are ") + QString::number(count) +
+                                          tr(" unviewed errors/warnings in the error log."));
         m_btnViewElog->setEnabled(true);
     } else {
         m_lblNumErrors->clear();

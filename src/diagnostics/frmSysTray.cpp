@@ -33,7 +33,7 @@ bool StatusNotifierHostRegistered()
 
 frmSysTray::frmSysTray(QObject* parent)
     : QObject(parent)
-    , m_menu(std::make_unique<QMenu>(QStringLiteral("&System Tray")))
+    , m_menu(std::make_unique<QMenu>(tr("&System Tray")))
 {
     m_menu->setObjectName(QStringLiteral("mnuSystemTray"));
     const auto add = [this](const char* name, const QString& caption) {
@@ -41,17 +41,16 @@ frmSysTray::frmSysTray(QObject* parent)
         action->setObjectName(QString::fromLatin1(name));
         return action;
     };
-    mnuRestore = add("mnuRestore", QStringLiteral("Restore &Window"));
+    mnuRestore = add("mnuRestore", tr("Restore &Window"));
     m_menu->addSeparator();
-    mnuSystrayDiskStatus = add("mnuSystrayDiskStatus", QStringLiteral("&Disk Status"));
-    mnuSystrayAbout = add("mnuSystrayAbout", QStringLiteral("&About"));
+    mnuSystrayDiskStatus = add("mnuSystrayDiskStatus", tr("&Disk Status"));
+    mnuSystrayAbout = add("mnuSystrayAbout", tr("&About"));
     m_menu->addSeparator();
-    mnuSystrayStopRecording =
-        add("mnuSystrayStopRecording", QStringLiteral("&Stop Current Recording"));
-    mnuSystrayPauseRecording = add("mnuSystrayPauseRecording", QStringLiteral("&Pause Recording"));
-    mnuSystraySuspend = add("mnuSystraySuspend", QStringLiteral("S&uspend"));
+    mnuSystrayStopRecording = add("mnuSystrayStopRecording", tr("&Stop Current Recording"));
+    mnuSystrayPauseRecording = add("mnuSystrayPauseRecording", tr("&Pause Recording"));
+    mnuSystraySuspend = add("mnuSystraySuspend", tr("S&uspend"));
     mnuSystraySuspend->setCheckable(true);
-    mnuExit = add("mnuExit", QStringLiteral("E&xit"));
+    mnuExit = add("mnuExit", tr("E&xit"));
     // The window is on screen at the start; hiding it opens the way back.
     mnuRestore->setEnabled(false);
     mnuSystrayStopRecording->setEnabled(false);

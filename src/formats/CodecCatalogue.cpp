@@ -1,5 +1,6 @@
 #include "formats/CodecCatalogue.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QtEndian>
 #include <algorithm>
@@ -20,7 +21,8 @@ QList<int> Mp3BitRates(quint32 samplesPerSec)
 
 QString ChannelsText(quint16 channels)
 {
-    return channels == 2 ? QStringLiteral("Stereo") : QStringLiteral("Mono");
+    return channels == 2 ? QCoreApplication::translate("CodecCatalogue", "Stereo")
+                         : QCoreApplication::translate("CodecCatalogue", "Mono");
 }
 
 } // namespace
@@ -38,7 +40,7 @@ bool FormatTagName(quint16 formatTag, QString& name)
         name = QStringLiteral("PCM");
         return true;
     case WaveFormatRecord::TagMpegLayer3:
-        name = QStringLiteral("MPEG Layer-3");
+        name = QCoreApplication::translate("CodecCatalogue", "MPEG Layer-3");
         return true;
     default:
         return false;
@@ -61,7 +63,8 @@ bool FormatDescription(const QByteArray& record, QString& description)
             r.nAvgBytesPerSec != quint32(r.nBlockAlign) * r.nSamplesPerSec)
             return false;
         description = c.toString(r.nSamplesPerSec / 1000.0, 'f', 3) + QStringLiteral(" kHz, ") +
-                      QString::number(r.nBitsPerSample) + QStringLiteral(" Bit, ") +
+                      QString::number(r.nBitsPerSample) +
+                      QCoreApplication::translate("CodecCatalogue", " Bit, ") +
                       ChannelsText(r.nChannels);
         return true;
     }
@@ -72,9 +75,10 @@ bool FormatDescription(const QByteArray& record, QString& description)
         const int kbits = int(r.nAvgBytesPerSec * 8 / 1000);
         if (r.nAvgBytesPerSec * 8 % 1000 != 0 || !Mp3BitRates(r.nSamplesPerSec).contains(kbits))
             return false;
-        description = QString::number(kbits) + QStringLiteral(" kBit/s, ") +
-                      QLocale(QLocale::English).toString(r.nSamplesPerSec) +
-                      QStringLiteral(" Hz, ") + ChannelsText(r.nChannels);
+        description =
+            QString::number(kbits) + QCoreApplication::translate("CodecCatalogue", " kBit/s, ") +
+            QLocale(QLocale::English).toString(r.nSamplesPerSec) +
+            QCoreApplication::translate("CodecCatalogue", " Hz, ") + ChannelsText(r.nChannels);
         return true;
     }
     return false;

@@ -24,7 +24,7 @@ FormatChooser::FormatChooser(const QByteArray& current, QWidget* parent)
     , m_attributes(new QListWidget(this))
 {
     setObjectName(QStringLiteral("FormatChooser"));
-    setWindowTitle(QStringLiteral("Select Recording Format"));
+    setWindowTitle(tr("Select Recording Format"));
     m_tags->setObjectName(QStringLiteral("cboFormatTag"));
     m_attributes->setObjectName(QStringLiteral("lstAttributes"));
 
@@ -46,8 +46,8 @@ FormatChooser::FormatChooser(const QByteArray& current, QWidget* parent)
     connect(m_attributes, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
 
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("&Format:"), m_tags);
-    form->addRow(QStringLiteral("&Attributes:"), m_attributes);
+    form->addRow(tr("&Format:"), m_tags);
+    form->addRow(tr("&Attributes:"), m_attributes);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(buttons);

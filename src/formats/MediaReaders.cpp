@@ -11,6 +11,7 @@
 #include "store/Options.h"
 #include "store/Recordset.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <cmath>
@@ -151,9 +152,11 @@ bool ReadMp3(const QString& path, RecordingRow& row)
     row.Title = info.Title.isEmpty() ? GetFileNameFromPath(path) : info.Title;
     StartRow(path, row);
     row.StartTime = AutomationDate::AddSeconds(row.EndTime, -double(info.Duration));
-    row.CompressionMethod = QStringLiteral("MPEG Layer 3  ") + QString::number(info.Bitrate) +
-                            QStringLiteral(" kBits/s, ") + QString::number(info.Frequency) +
-                            QStringLiteral(" Hz, ") + info.Mode;
+    row.CompressionMethod = QCoreApplication::translate("MediaReaders", "MPEG Layer 3  ") +
+                            QString::number(info.Bitrate) +
+                            QCoreApplication::translate("MediaReaders", " kBits/s, ") +
+                            QString::number(info.Frequency) +
+                            QCoreApplication::translate("MediaReaders", " Hz, ") + info.Mode;
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "common/TextHelpers.h"
 #include "diagnostics/Trap.h"
 
+#include <QCoreApplication>
 #include <cmath>
 #include <cstring>
 
@@ -105,11 +106,10 @@ void clsRecordingFormat::CalculateTextCompressionMethodString()
     TextCompressionMethodShort = TextCompressionMethod;
     if (m_wfx.wFormatTag == WAVE_FORMAT_MPEGLAYER3) {
         TextCompressionMethod += QStringLiteral("   (");
-        TextCompressionMethod += ConvertToMP3
-                                     ? QStringLiteral("Record in PCM format and convert to MP3; ")
-                                     : QStringLiteral("Record MP3 in real-time; ");
-        TextCompressionMethod += SaveMP3FileExtension ? QStringLiteral("Save as .MP3 file")
-                                                      : QStringLiteral("Save as .WAV file");
+        TextCompressionMethod += ConvertToMP3 ? tr("Record in PCM format and convert to MP3; ")
+                                              : tr("Record MP3 in real-time; ");
+        TextCompressionMethod +=
+            SaveMP3FileExtension ? tr("Save as .MP3 file") : tr("Save as .WAV file");
         TextCompressionMethod += QStringLiteral(" )");
     }
 }
@@ -148,21 +148,25 @@ bool CheckFor2GbLimit(MessageBoxPresenter& messageBox, const clsRecordingFormat&
         clsRecordingFormat pcm;
         pcm.SetToPcm(format.nChannels(), format.nSamplesPerSec(), 16);
         if (pcm.CalcStorageMbytesSng(Seconds) > 2000.0f) {
-            messageBox.Show(title,
-                            QStringLiteral("The temporary PCM file required for conversion "
-                                           "exceeds 2 Gigabytes, which is the maximum size "
-                                           "supported.  Please shorten the recording time or "
-                                           "the recording format frequency."),
-                            MsgIcon::Exclamation, MsgButtons::Ok);
+            messageBox.Show(
+                title,
+                QCoreApplication::translate("clsRecordingFormat",
+                                            "The temporary PCM file required for conversion "
+                                            "exceeds 2 Gigabytes, which is the maximum size "
+                                            "supported.  Please shorten the recording time or "
+                                            "the recording format frequency."),
+                MsgIcon::Exclamation, MsgButtons::Ok);
             return true;
         }
     }
     if (format.CalcStorageMbytesSng(Seconds) > 2000.0f) {
-        messageBox.Show(title,
-                        QStringLiteral("The recording exceeds 2 Gigabytes, which is the "
-                                       "maximum size supported.  Please shorten the recording "
-                                       "time or the recording format frequency."),
-                        MsgIcon::Exclamation, MsgButtons::Ok);
+        messageBox.Show(
+            title,
+            QCoreApplication::translate("clsRecordingFormat",
+                                        "The recording exceeds 2 Gigabytes, which is the "
+                                        "maximum size supported.  Please shorten the recording "
+                                        "time or the recording format frequency."),
+            MsgIcon::Exclamation, MsgButtons::Ok);
         return true;
     }
     return false;

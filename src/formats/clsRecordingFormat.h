@@ -4,6 +4,7 @@
 #include "taskcontract/WaveFormatRecord.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 #include <QtGlobal>
 #include <array>
@@ -84,6 +85,8 @@ private:
     std::array<quint8, CodecCatalogue::MaxFormatSize()> m_block{};
     // Holds no more than nMaxExtraBytes extra bytes, exactly cbSize of them.
     WaveFormatRecord m_wfx;
+
+    Q_DECLARE_TR_FUNCTIONS(clsRecordingFormat)
 };
 
 // The rules that differ for Windows 95 and 98 take their "any other Windows" branch here.

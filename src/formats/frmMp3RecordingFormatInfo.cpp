@@ -9,15 +9,14 @@ frmMp3RecordingFormatInfo::frmMp3RecordingFormatInfo(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmMp3RecordingFormatInfo"));
-    setWindowTitle(QStringLiteral("Selecting MP3 Recording Format"));
+    setWindowTitle(tr("Selecting MP3 Recording Format"));
     const QString texts[] = {
-        QStringLiteral("To enable MP3 recording, follow the steps below:"),
-        QStringLiteral("1) Click on the ") +
-            QStringLiteral("\"Select from all recording formats\"") + QStringLiteral(" button"),
-        QStringLiteral("2) Select the ") + QStringLiteral("\"MPEG Layer-3\"") +
-            QStringLiteral(" recording format.  If this recording format does not show up on "
-                           "the list, install the MP3 encoder library (package libmp3lame0) "
-                           "and start Nightreel 2000 again."),
+        tr("To enable MP3 recording, follow the steps below:"),
+        tr("1) Click on the ") + tr("\"Select from all recording formats\"") + tr(" button"),
+        tr("2) Select the ") + tr("\"MPEG Layer-3\"") +
+            tr(" recording format.  If this recording format does not show up on "
+               "the list, install the MP3 encoder library (package libmp3lame0) "
+               "and start Nightreel 2000 again."),
     };
     auto* layout = new QVBoxLayout(this);
     for (int i = 0; i < 3; ++i) {
@@ -26,7 +25,7 @@ frmMp3RecordingFormatInfo::frmMp3RecordingFormatInfo(QWidget* parent)
         label->setWordWrap(true);
         layout->addWidget(label);
     }
-    auto* ok = new QPushButton(QStringLiteral("&OK"), this);
+    auto* ok = new QPushButton(tr("&OK"), this);
     ok->setObjectName(QStringLiteral("CommandOk"));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);

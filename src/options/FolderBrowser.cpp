@@ -160,7 +160,7 @@ FolderBrowser::Buttons FolderBrowser::LayOutForm(QDialog* form, QLabel* prompt, 
     int row = 0;
     fields->addWidget(prompt, row++, 0, 1, 2);
     if (path) {
-        fields->addWidget(caption(QStringLiteral("Path"), path), row, 0);
+        fields->addWidget(caption(tr("Path"), path), row, 0);
         fields->addWidget(path, row++, 1);
     }
     fields->addWidget(caption(drives, m_drives), row, 0);
@@ -169,8 +169,7 @@ FolderBrowser::Buttons FolderBrowser::LayOutForm(QDialog* form, QLabel* prompt, 
     fields->addWidget(m_dirs, row, 1);
     fields->setRowStretch(row, 1);
 
-    Buttons buttons{new QPushButton(QStringLiteral("&OK")),
-                    new QPushButton(QStringLiteral("&Cancel"))};
+    Buttons buttons{new QPushButton(tr("&OK")), new QPushButton(tr("&Cancel"))};
     buttons.btnOK->setObjectName(QStringLiteral("btnOK"));
     buttons.btnOK->setDefault(true);
     buttons.btnCancel->setObjectName(QStringLiteral("btnCancel"));

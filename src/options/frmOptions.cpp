@@ -116,17 +116,16 @@ frmOptions::frmOptions(const OptionsFormServices& services, bool mediaPlayerAvai
     , m_s(services)
 {
     setObjectName(QStringLiteral("frmOptions"));
-    setWindowTitle(QStringLiteral("Options"));
+    setWindowTitle(tr("Options"));
     SSTab1 = Named(new QTabWidget(this), QStringLiteral("SSTab1"));
-    SSTab1->addTab(BuildRecordTab(), QStringLiteral("Record"));
-    SSTab1->addTab(BuildPlayTab(), QStringLiteral("Play"));
-    SSTab1->addTab(BuildStartupTab(), QStringLiteral("Startup"));
-    SSTab1->addTab(BuildDiskTab(), QStringLiteral("Disk"));
-    SSTab1->addTab(BuildAdvancedTab(), QStringLiteral("Advanced"));
+    SSTab1->addTab(BuildRecordTab(), tr("Record"));
+    SSTab1->addTab(BuildPlayTab(), tr("Play"));
+    SSTab1->addTab(BuildStartupTab(), tr("Startup"));
+    SSTab1->addTab(BuildDiskTab(), tr("Disk"));
+    SSTab1->addTab(BuildAdvancedTab(), tr("Advanced"));
 
     cmdOK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
-    cmdCancel =
-        Named(new QPushButton(QStringLiteral("&Cancel"), this), QStringLiteral("cmdCancel"));
+    cmdCancel = Named(new QPushButton(tr("&Cancel"), this), QStringLiteral("cmdCancel"));
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &frmOptions::cmdOK_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -160,10 +159,10 @@ QWidget* frmOptions::BuildRecordTab()
     auto* frame = Named(new QWidget, QStringLiteral("frameRecord"));
     auto* layout = new QVBoxLayout(frame);
 
-    auto* folder = new QGroupBox(QStringLiteral("Default Recording &Folder"));
+    auto* folder = new QGroupBox(tr("Default Recording &Folder"));
     lblRecordingFolder = SunkenLabel("lblRecordingFolder", folder);
-    btnChangeRecordingFolder = Named(new QPushButton(QStringLiteral("C&hange...")),
-                                     QStringLiteral("btnChangeRecordingFolder"));
+    btnChangeRecordingFolder =
+        Named(new QPushButton(tr("C&hange...")), QStringLiteral("btnChangeRecordingFolder"));
     auto* folderLine = new QHBoxLayout(folder);
     folderLine->addWidget(lblRecordingFolder, 1);
     folderLine->addWidget(btnChangeRecordingFolder);
@@ -173,10 +172,10 @@ QWidget* frmOptions::BuildRecordTab()
     frameRecordingInput = new RecordingInputBox;
     layout->addWidget(frameRecordingInput);
 
-    auto* format = new QGroupBox(QStringLiteral("Default Recording Format"));
+    auto* format = new QGroupBox(tr("Default Recording Format"));
     LabelCompressionFormat = SunkenLabel("LabelCompressionFormat", format);
     CommandChangeDefautWfx =
-        Named(new QPushButton(QStringLiteral("&Modify")), QStringLiteral("CommandChangeDefautWfx"));
+        Named(new QPushButton(tr("&Modify")), QStringLiteral("CommandChangeDefautWfx"));
     auto* formatLine = new QHBoxLayout(format);
     formatLine->addWidget(LabelCompressionFormat, 1);
     formatLine->addWidget(CommandChangeDefautWfx);
@@ -184,7 +183,7 @@ QWidget* frmOptions::BuildRecordTab()
             &frmOptions::CommandChangeDefautWfx_Click);
     layout->addWidget(format);
 
-    auto* duration = new QGroupBox(QStringLiteral("Default Manual Recording Duration"));
+    auto* duration = new QGroupBox(tr("Default Manual Recording Duration"));
     TextDurationHours =
         LimitedBox("TextDurationHours", "UpDownDurationHours", 0, 23, UpDownDurationHours);
     TextDurationMinutes =
@@ -200,23 +199,21 @@ QWidget* frmOptions::BuildRecordTab()
         BoxLine(nullptr, TextDurationSeconds, UpDownDurationSeconds, QStringLiteral("seconds")));
     layout->addWidget(duration);
 
-    chkConfirmLongRecordings =
-        Named(new QCheckBox(QStringLiteral("Co&nfirm when recordings longer than")),
-              QStringLiteral("chkConfirmLongRecordings"));
+    chkConfirmLongRecordings = Named(new QCheckBox(tr("Co&nfirm when recordings longer than")),
+                                     QStringLiteral("chkConfirmLongRecordings"));
     txtLongRecordingHours = LimitedBox("txtLongRecordingHours", "updnConfirmLongRecordings", 1, 23,
                                        updnConfirmLongRecordings);
     layout->addLayout(BoxLine(chkConfirmLongRecordings, txtLongRecordingHours,
-                              updnConfirmLongRecordings, QStringLiteral("hours are programmed")));
-    chkConfirmStopManualRecording =
-        Named(new QCheckBox(QStringLiteral("Confirm &stop of manual recordings")),
-              QStringLiteral("chkConfirmStopManualRecording"));
+                              updnConfirmLongRecordings, tr("hours are programmed")));
+    chkConfirmStopManualRecording = Named(new QCheckBox(tr("Confirm &stop of manual recordings")),
+                                          QStringLiteral("chkConfirmStopManualRecording"));
     layout->addWidget(chkConfirmStopManualRecording);
     txtPaddingSeconds = LimitedBox("txtPaddingSeconds", "updnPaddingSeconds", 0,
                                    Options::MaxPaddingSeconds, updnPaddingSeconds);
-    auto* paddingLabel = new QLabel(QStringLiteral("Start &programmed recordings"));
+    auto* paddingLabel = new QLabel(tr("Start &programmed recordings"));
     paddingLabel->setBuddy(txtPaddingSeconds);
     layout->addLayout(BoxLine(paddingLabel, txtPaddingSeconds, updnPaddingSeconds,
-                              QStringLiteral("seconds early and end them as many seconds late")));
+                              tr("seconds early and end them as many seconds late")));
     layout->addStretch();
     return frame;
 }
@@ -228,24 +225,24 @@ QWidget* frmOptions::BuildPlayTab()
     auto* players = new QGridLayout;
     ComboWavPlayer = Named(new QComboBox, QStringLiteral("ComboWavPlayer"));
     ComboMP3Player = Named(new QComboBox, QStringLiteral("ComboMP3Player"));
-    players->addWidget(LabelFor(QStringLiteral("WAV files"), ComboWavPlayer), 0, 0);
+    players->addWidget(LabelFor(tr("WAV files"), ComboWavPlayer), 0, 0);
     players->addWidget(ComboWavPlayer, 0, 1);
-    players->addWidget(LabelFor(QStringLiteral("MP3 files"), ComboMP3Player), 1, 0);
+    players->addWidget(LabelFor(tr("MP3 files"), ComboMP3Player), 1, 0);
     players->addWidget(ComboMP3Player, 1, 1);
     players->setColumnStretch(2, 1);
     layout->addLayout(players);
 
-    auto* steps = new QGroupBox(QStringLiteral("C&ustomize play forward/reverse buttons"));
+    auto* steps = new QGroupBox(tr("C&ustomize play forward/reverse buttons"));
     auto* grid = new QGridLayout(steps);
     for (int i = 0; i < 6; ++i) {
         const QString n = QString::number(i);
-        auto* label = Named(new QLabel(QStringLiteral("Button %1").arg(i + 1)),
-                            QStringLiteral("lblFwdRev") + n);
+        auto* label =
+            Named(new QLabel(tr("Button %1").arg(i + 1)), QStringLiteral("lblFwdRev") + n);
         const QByteArray box = ("txtFwdRev" + n).toLatin1();
         const QByteArray arrows = ("UpDown1" + n).toLatin1();
         txtFwdRev[i] = LimitedBox(box.constData(), arrows.constData(), 1, 59, UpDown1[i]);
         comboMinSec[i] = Named(new QComboBox, QStringLiteral("comboMinSec") + n);
-        comboMinSec[i]->addItems({QStringLiteral("Seconds"), QStringLiteral("Minutes")});
+        comboMinSec[i]->addItems({tr("Seconds"), tr("Minutes")});
         label->setBuddy(txtFwdRev[i]);
         const int row = i % 3;
         const int column = i / 3 * 5;
@@ -256,9 +253,8 @@ QWidget* frmOptions::BuildPlayTab()
     }
     grid->setColumnMinimumWidth(4, 16);
     layout->addWidget(steps);
-    chkShowActualTimeInPlayer =
-        Named(new QCheckBox(QStringLiteral("&Show actual record time in player")),
-              QStringLiteral("chkShowActualTimeInPlayer"));
+    chkShowActualTimeInPlayer = Named(new QCheckBox(tr("&Show actual record time in player")),
+                                      QStringLiteral("chkShowActualTimeInPlayer"));
     layout->addWidget(chkShowActualTimeInPlayer);
     layout->addStretch();
     return frame;
@@ -268,21 +264,20 @@ QWidget* frmOptions::BuildStartupTab()
 {
     auto* frame = Named(new QWidget, QStringLiteral("frameStartup"));
     auto* layout = new QVBoxLayout(frame);
-    chkStartupFolder =
-        Named(new QCheckBox(QStringLiteral("Run Nightreel 2000 when the desktop &starts")),
-              QStringLiteral("chkStartupFolder"));
+    chkStartupFolder = Named(new QCheckBox(tr("Run Nightreel 2000 when the desktop &starts")),
+                             QStringLiteral("chkStartupFolder"));
     layout->addWidget(chkStartupFolder);
-    auto* mode = new QGroupBox(QStringLiteral("Desktop Startup Mode"));
+    auto* mode = new QGroupBox(tr("Desktop Startup Mode"));
     optNormalStartupMode =
-        Named(new QRadioButton(QStringLiteral("&Normal")), QStringLiteral("optNormalStartupMode"));
+        Named(new QRadioButton(tr("&Normal")), QStringLiteral("optNormalStartupMode"));
     optHiddenStartupMode =
-        Named(new QRadioButton(QStringLiteral("&Hidden")), QStringLiteral("optHiddenStartupMode"));
+        Named(new QRadioButton(tr("&Hidden")), QStringLiteral("optHiddenStartupMode"));
     auto* modeLayout = new QVBoxLayout(mode);
     modeLayout->addWidget(optNormalStartupMode);
     modeLayout->addWidget(optHiddenStartupMode);
     layout->addWidget(mode);
-    chkShowSplashScreen = Named(new QCheckBox(QStringLiteral("Sho&w Splash Screen")),
-                                QStringLiteral("chkShowSplashScreen"));
+    chkShowSplashScreen =
+        Named(new QCheckBox(tr("Sho&w Splash Screen")), QStringLiteral("chkShowSplashScreen"));
     layout->addWidget(chkShowSplashScreen);
     layout->addStretch();
     return frame;
@@ -297,30 +292,29 @@ QWidget* frmOptions::BuildDiskTab()
     txtStopRecMegsLeft =
         LimitedBox("txtStopRecMegsLeft", "updnStopRecMegsLeft", 5, 20000, updnStopRecMegsLeft);
     auto* limits = new QGridLayout;
-    limits->addWidget(LabelFor(QStringLiteral("Warn when disk has"), txtWarnRecMegsLeft), 0, 0);
+    limits->addWidget(LabelFor(tr("Warn when disk has"), txtWarnRecMegsLeft), 0, 0);
     limits->addWidget(txtWarnRecMegsLeft, 0, 1);
     limits->addWidget(updnWarnRecMegsLeft, 0, 2);
-    limits->addWidget(new QLabel(QStringLiteral("Megabytes left")), 0, 3);
-    limits->addWidget(LabelFor(QStringLiteral("Stop recording when disk has"), txtStopRecMegsLeft),
-                      1, 0);
+    limits->addWidget(new QLabel(tr("Megabytes left")), 0, 3);
+    limits->addWidget(LabelFor(tr("Stop recording when disk has"), txtStopRecMegsLeft), 1, 0);
     limits->addWidget(txtStopRecMegsLeft, 1, 1);
     limits->addWidget(updnStopRecMegsLeft, 1, 2);
-    limits->addWidget(new QLabel(QStringLiteral("Megabytes left")), 1, 3);
+    limits->addWidget(new QLabel(tr("Megabytes left")), 1, 3);
     limits->setColumnStretch(4, 1);
     layout->addLayout(limits);
 
-    chkPurgeOldRecordings = Named(new QCheckBox(QStringLiteral("R&emove recordings older than")),
+    chkPurgeOldRecordings = Named(new QCheckBox(tr("R&emove recordings older than")),
                                   QStringLiteral("chkPurgeOldRecordings"));
     chkPurgeOldRecordings->setToolTip(
-        QStringLiteral("Removes only recordings that are in the recordings list, with their CUE "
-                       "sheets, and takes them off the list. Other files in the recording folder "
-                       "are never removed."));
+        tr("Removes only recordings that are in the recordings list, with their CUE "
+           "sheets, and takes them off the list. Other files in the recording folder "
+           "are never removed."));
     txtPurgeDays = LimitedBox("txtPurgeDays", "updnPurgeDays", 3, 999, updnPurgeDays);
     layout->addLayout(
         BoxLine(chkPurgeOldRecordings, txtPurgeDays, updnPurgeDays, QStringLiteral("days")));
     dtpkrPurgeTime = Named(new QTimeEdit, QStringLiteral("dtpkrPurgeTime"));
     dtpkrPurgeTime->setDisplayFormat(QStringLiteral("h:mm:ss AP"));
-    auto* purgeTimeLabel = new QLabel(QStringLiteral("Per&form purging daily at"));
+    auto* purgeTimeLabel = new QLabel(tr("Per&form purging daily at"));
     purgeTimeLabel->setBuddy(dtpkrPurgeTime);
     auto* timeLine = new QHBoxLayout;
     timeLine->addSpacing(20);
@@ -328,8 +322,8 @@ QWidget* frmOptions::BuildDiskTab()
     timeLine->addWidget(dtpkrPurgeTime);
     timeLine->addStretch();
     layout->addLayout(timeLine);
-    auto* note = new QLabel(
-        QStringLiteral("NOTE: Purging is done only in the current default recording folder."));
+    auto* note =
+        new QLabel(tr("NOTE: Purging is done only in the current default recording folder."));
     note->setWordWrap(true);
     layout->addWidget(note);
     layout->addStretch();
@@ -340,27 +334,24 @@ QWidget* frmOptions::BuildAdvancedTab()
 {
     auto* frame = Named(new QWidget, QStringLiteral("frameAdvanced"));
     auto* layout = new QVBoxLayout(frame);
-    chkAllowJoystickActivation = Named(new QCheckBox(QStringLiteral("Allow &joystick activation")),
+    chkAllowJoystickActivation = Named(new QCheckBox(tr("Allow &joystick activation")),
                                        QStringLiteral("chkAllowJoystickActivation"));
-    chkRemoveExpiredPrograms =
-        Named(new QCheckBox(QStringLiteral("A&utomatically remove expired programs")),
-              QStringLiteral("chkRemoveExpiredPrograms"));
+    chkRemoveExpiredPrograms = Named(new QCheckBox(tr("A&utomatically remove expired programs")),
+                                     QStringLiteral("chkRemoveExpiredPrograms"));
     chkShowRecordingTimeInTaskBar =
-        Named(new QCheckBox(QStringLiteral("Show elapsed recording time in the desktop task &bar")),
+        Named(new QCheckBox(tr("Show elapsed recording time in the desktop task &bar")),
               QStringLiteral("chkShowRecordingTimeInTaskBar"));
     // For a machine left alone: no sleep while a recording is due, and a warning in the log
     // when the input stays silent.
-    chkKeepAwakeForRecordings =
-        Named(new QCheckBox(QStringLiteral("&Keep the computer awake for recordings")),
-              QStringLiteral("chkKeepAwakeForRecordings"));
-    chkSilenceAlarm = Named(new QCheckBox(QStringLiteral("&Warn when a recording is silent")),
+    chkKeepAwakeForRecordings = Named(new QCheckBox(tr("&Keep the computer awake for recordings")),
+                                      QStringLiteral("chkKeepAwakeForRecordings"));
+    chkSilenceAlarm = Named(new QCheckBox(tr("&Warn when a recording is silent")),
                             QStringLiteral("chkSilenceAlarm"));
-    chkShowDesktopNotifications =
-        Named(new QCheckBox(QStringLiteral("Show desktop &notifications")),
-              QStringLiteral("chkShowDesktopNotifications"));
+    chkShowDesktopNotifications = Named(new QCheckBox(tr("Show desktop &notifications")),
+                                        QStringLiteral("chkShowDesktopNotifications"));
     chkShowDesktopNotifications->setToolTip(
-        QStringLiteral("A failed recording, a silent input, a full disk or a failed conversion "
-                       "is also announced on the desktop."));
+        tr("A failed recording, a silent input, a full disk or a failed conversion "
+           "is also announced on the desktop."));
     for (QCheckBox* box :
          {chkAllowJoystickActivation, chkRemoveExpiredPrograms, chkShowRecordingTimeInTaskBar,
           chkKeepAwakeForRecordings, chkSilenceAlarm, chkShowDesktopNotifications})
@@ -371,18 +362,16 @@ QWidget* frmOptions::BuildAdvancedTab()
                                                 QStringLiteral("YYMMDD_hhmmss"),
                                                 QStringLiteral("DDMMYY_hhmmss")});
     auto* nameLine = new QHBoxLayout;
-    nameLine->addWidget(LabelFor(QStringLiteral("Default recording file name format:"),
-                                 comboDefaultRecordFileNameFormat));
+    nameLine->addWidget(
+        LabelFor(tr("Default recording file name format:"), comboDefaultRecordFileNameFormat));
     nameLine->addWidget(comboDefaultRecordFileNameFormat);
     nameLine->addStretch();
     layout->addLayout(nameLine);
 
-    auto* mixer = new QGroupBox(QStringLiteral("&Mixer Control"));
+    auto* mixer = new QGroupBox(tr("&Mixer Control"));
     lblMixerControl = SunkenLabel("lblMixerControl", mixer);
-    btnSelectMixer =
-        Named(new QPushButton(QStringLiteral("Se&lect...")), QStringLiteral("btnSelectMixer"));
-    btnDefaultMixer =
-        Named(new QPushButton(QStringLiteral("&default")), QStringLiteral("btnDefaultMixer"));
+    btnSelectMixer = Named(new QPushButton(tr("Se&lect...")), QStringLiteral("btnSelectMixer"));
+    btnDefaultMixer = Named(new QPushButton(tr("&default")), QStringLiteral("btnDefaultMixer"));
     auto* mixerLine = new QHBoxLayout(mixer);
     mixerLine->addWidget(lblMixerControl, 1);
     mixerLine->addWidget(btnSelectMixer);
@@ -505,7 +494,7 @@ void frmOptions::ClampOnLostFocus(QLineEdit* box)
 
 void frmOptions::ShowRecordingFolder()
 {
-    lblRecordingFolder->setText(m_workingRecordingFolder.isEmpty() ? QStringLiteral("(none)")
+    lblRecordingFolder->setText(m_workingRecordingFolder.isEmpty() ? tr("(none)")
                                                                    : m_workingRecordingFolder);
 }
 
@@ -552,10 +541,9 @@ void frmOptions::btnDefaultMixer_Click()
 {
     Trap(m_s.log, "Options btnDefaultMixer_Click", [&] {
         const MsgResult answer = m_s.messageBox.Show(
-            QStringLiteral("Default Mixer"),
-            QStringLiteral(
-                "The mixer control will be changed to the sound server's volume control. "
-                "Proceed?"),
+            tr("Default Mixer"),
+            tr("The mixer control will be changed to the sound server's volume control. "
+               "Proceed?"),
             MsgIcon::Question, MsgButtons::YesNo);
         if (answer == MsgResult::Yes) {
             m_workingMixerPath = Options::DefaultMixerFilePath;
@@ -574,8 +562,7 @@ void frmOptions::SavePlayFwdRevSettings()
 {
     Trap(m_s.log, "SavePlayFwdRevSettings", [&] {
         for (int i = 0; i < 6; ++i) {
-            m_s.options.PlayStepSizes[i] = {comboMinSec[i]->currentText() ==
-                                                QStringLiteral("Minutes"),
+            m_s.options.PlayStepSizes[i] = {comboMinSec[i]->currentText() == tr("Minutes"),
                                             int(Text::RoundHalfEven(Number(txtFwdRev[i])))};
         }
         m_s.options.SaveCurrentStepSizeSettings(m_s.registry);
@@ -591,10 +578,9 @@ void frmOptions::cmdOK_Click()
         o.SaveStartupMode(m_s.registry);
 
         if (m_workingRecordingFolder.isEmpty() || !QDir(m_workingRecordingFolder).exists()) {
-            m_s.messageBox.Show(
-                QStringLiteral("Invalid option"),
-                QStringLiteral("Recordings directory does not exist or could not be created"),
-                MsgIcon::Exclamation, MsgButtons::Ok);
+            m_s.messageBox.Show(tr("Invalid option"),
+                                tr("Recordings directory does not exist or could not be created"),
+                                MsgIcon::Exclamation, MsgButtons::Ok);
             return;
         }
         o.DefaultRecordingDirectory = m_workingRecordingFolder;

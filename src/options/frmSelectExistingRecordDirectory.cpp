@@ -12,14 +12,14 @@ frmSelectExistingRecordDirectory::frmSelectExistingRecordDirectory(QWidget* owne
                                                                    const QString& startFolder)
     : QDialog(owner)
     , m_browser(new FolderBrowser(this))
-    , m_lblPrompt(new QLabel(QStringLiteral("Select disk drive and folder.")))
+    , m_lblPrompt(new QLabel(tr("Select disk drive and folder.")))
 {
     setObjectName(QStringLiteral("frmSelectExistingRecordDirectory"));
-    setWindowTitle(QStringLiteral("Select Folder"));
+    setWindowTitle(tr("Select Folder"));
     m_lblPrompt->setObjectName(QStringLiteral("lblPrompt"));
 
-    const FolderBrowser::Buttons buttons = m_browser->LayOutForm(
-        this, m_lblPrompt, nullptr, QStringLiteral("Drive"), QStringLiteral("Folder"));
+    const FolderBrowser::Buttons buttons =
+        m_browser->LayOutForm(this, m_lblPrompt, nullptr, tr("Drive"), tr("Folder"));
     resize(400, 340);
 
     connect(buttons.btnOK, &QPushButton::clicked, this,
@@ -41,7 +41,7 @@ QString frmSelectExistingRecordDirectory::Choose(QWidget* owner, const QString& 
 void frmSelectExistingRecordDirectory::btnOK_Click()
 {
     // The caller's scan of the folder can take a while; say so before it starts.
-    m_lblPrompt->setText(QStringLiteral("Please wait ..."));
+    m_lblPrompt->setText(tr("Please wait ..."));
     m_lblPrompt->repaint();
     m_selectedFolder = FolderPaths::WithClosingSeparator(m_browser->Path());
     accept();

@@ -35,13 +35,13 @@ frmSelectRecordDirectory::frmSelectRecordDirectory(EventLog& log, MessageBoxPres
     , m_txtPath(new QLineEdit)
 {
     setObjectName(QStringLiteral("frmSelectRecordDirectory"));
-    setWindowTitle(QStringLiteral("Select Recording Folder"));
+    setWindowTitle(tr("Select Recording Folder"));
     m_txtPath->setObjectName(QStringLiteral("txtPath"));
 
-    auto* lblPrompt = new QLabel(QStringLiteral("Enter or select recording directory."));
+    auto* lblPrompt = new QLabel(tr("Enter or select recording directory."));
     lblPrompt->setObjectName(QStringLiteral("lblPrompt"));
-    const FolderBrowser::Buttons buttons = m_browser->LayOutForm(
-        this, lblPrompt, m_txtPath, QStringLiteral("Drives"), QStringLiteral("Directories"));
+    const FolderBrowser::Buttons buttons =
+        m_browser->LayOutForm(this, lblPrompt, m_txtPath, tr("Drives"), tr("Directories"));
     resize(420, 360);
 
     connect(buttons.btnOK, &QPushButton::clicked, this, &frmSelectRecordDirectory::btnOK_Click);
@@ -92,9 +92,9 @@ void frmSelectRecordDirectory::OkClicked()
     m_selectedRecordingFolder.clear();
     QString path;
     if (!FolderPaths::FullPathName(m_txtPath->text(), path)) {
-        m_messageBox.Show(QStringLiteral("Invalid Recording Directory"),
-                          QStringLiteral("A valid Recording folder is required.") +
-                              QStringLiteral(" Reselect directory or cancel."),
+        m_messageBox.Show(tr("Invalid Recording Directory"),
+                          tr("A valid Recording folder is required.") +
+                              tr(" Reselect directory or cancel."),
                           MsgIcon::Exclamation, MsgButtons::Ok);
         return;
     }
@@ -103,10 +103,9 @@ void frmSelectRecordDirectory::OkClicked()
         accept();
         return;
     }
-    const MsgResult answer = m_messageBox.Show(QStringLiteral("Create Folder"),
-                                               QStringLiteral("Folder ") + path +
-                                                   QStringLiteral(" does not exist.  Create it?"),
-                                               MsgIcon::None, MsgButtons::YesNo);
+    const MsgResult answer = m_messageBox.Show(
+        tr("Create Folder"), tr("Folder ") + path + tr(" does not exist.  Create it?"),
+        MsgIcon::None, MsgButtons::YesNo);
     if (answer != MsgResult::Yes)
         return;
     path = FolderPaths::WithClosingSeparator(path.trimmed());
@@ -115,9 +114,8 @@ void frmSelectRecordDirectory::OkClicked()
         accept();
         return;
     }
-    m_messageBox.Show(QStringLiteral("Can not create folder"),
-                      QStringLiteral("Media may be full or read-only.") +
-                          QStringLiteral(" Reselect drive and directory."),
+    m_messageBox.Show(tr("Can not create folder"),
+                      tr("Media may be full or read-only.") + tr(" Reselect drive and directory."),
                       MsgIcon::Exclamation, MsgButtons::Ok);
 }
 

@@ -27,14 +27,14 @@ FreedesktopNotifications::FreedesktopNotifications(const QDBusConnection& bus, Q
 void FreedesktopNotifications::Notify(const DesktopNotification& notification)
 {
     if (!m_bus.isConnected()) {
-        ReportUnavailable(QStringLiteral("there is no session bus."));
+        ReportUnavailable(tr("there is no session bus."));
         return;
     }
     QDBusMessage call =
         QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("Notify"));
     QStringList actions;
     if (notification.opensEventLog)
-        actions << kDefaultAction << QStringLiteral("Open Event Log");
+        actions << kDefaultAction << tr("Open Event Log");
     // The desktop entry lets the desktop group the notifications under the program.
     const QVariantMap hints{
         {QStringLiteral("desktop-entry"), QStringLiteral("nightreel")},

@@ -21,7 +21,7 @@ PlayPanelForm::PlayPanelForm(EventLog& log, const Options& options, clsAppStatus
     , m_appStatus(appStatus)
     , m_mainForm(mainForm)
 {
-    setWindowTitle(QStringLiteral("Play Recording"));
+    setWindowTitle(tr("Play Recording"));
     steps = new PlayStepButtons(options.PlayStepSizes, this);
     sldTime = new TimeSlider(this);
     sldTime->setObjectName(QStringLiteral("sldTime"));
@@ -29,7 +29,7 @@ PlayPanelForm::PlayPanelForm(EventLog& log, const Options& options, clsAppStatus
     lblTime->setObjectName(QStringLiteral("lblTime"));
     lblLength = new QLabel(this);
     lblLength->setObjectName(QStringLiteral("lblLength"));
-    btnExit = new QPushButton(QStringLiteral("E&xit"), this);
+    btnExit = new QPushButton(tr("E&xit"), this);
     btnExit->setObjectName(QStringLiteral("btnExit"));
     connect(btnExit, &QPushButton::clicked, this, &QWidget::close);
 }

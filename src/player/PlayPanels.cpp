@@ -4,9 +4,9 @@
 #include "player/frmPlayPanel.h"
 #include "player/frmPlayPanelMP.h"
 
-namespace {
+#include <QCoreApplication>
 
-const QString kTitle = QStringLiteral("Nightreel 2000 playing - ");
+namespace {
 
 // Closing the old panel ends its play (and clears Playing) before the new one begins.
 template <typename Panel> void Unload(std::unique_ptr<Panel>& panel)
@@ -35,7 +35,8 @@ void PlayPanels::OpenEnhanced(const QString& file, const QString& title, double 
     Unload(m_enhanced);
     m_enhanced =
         std::make_unique<frmPlayPanelMP>(m_log, m_options, m_appStatus, m_volume, m_mainForm);
-    m_enhanced->setWindowTitle(kTitle + title);
+    m_enhanced->setWindowTitle(
+        QCoreApplication::translate("PlayPanels", "Nightreel 2000 playing - ") + title);
     m_enhanced->Form_Load(file, startTime);
     m_appStatus.SetPlaying(true);
     m_enhanced->show();
@@ -45,7 +46,8 @@ void PlayPanels::OpenClassic(const QString& file, const QString& title, double s
 {
     Unload(m_classic);
     m_classic = std::make_unique<frmPlayPanel>(m_log, m_options, m_appStatus, m_mixer, m_mainForm);
-    m_classic->setWindowTitle(kTitle + title);
+    m_classic->setWindowTitle(
+        QCoreApplication::translate("PlayPanels", "Nightreel 2000 playing - ") + title);
     m_classic->Form_Load(file, startTime);
     m_appStatus.SetPlaying(true);
     m_classic->show();

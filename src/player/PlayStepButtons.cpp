@@ -21,11 +21,11 @@ PlayStepButtons::PlayStepButtons(const std::array<Options::PlayStep, 6>& steps, 
         auto* back = new QToolButton(this);
         back->setObjectName(QStringLiteral("btnReverse%1").arg(i));
         back->setIcon(style()->standardIcon(QStyle::SP_MediaSeekBackward));
-        back->setToolTip(QStringLiteral("Rewind ") + label);
+        back->setToolTip(tr("Rewind ") + label);
         auto* forward = new QToolButton(this);
         forward->setObjectName(QStringLiteral("btnForward%1").arg(i));
         forward->setIcon(style()->standardIcon(QStyle::SP_MediaSeekForward));
-        forward->setToolTip(QStringLiteral("Fast Forward ") + label);
+        forward->setToolTip(tr("Fast Forward ") + label);
         grid->addWidget(text, 0, 2 * i, 1, 2);
         grid->addWidget(back, 1, 2 * i);
         grid->addWidget(forward, 1, 2 * i + 1);

@@ -1,5 +1,7 @@
 #include "player/PlayTime.h"
 
+#include <QCoreApplication>
+
 namespace PlayTime {
 
 QString HourMinSecsText(qint64 seconds)
@@ -17,8 +19,9 @@ QString ClockText(double startTime, qint64 seconds)
 
 QString StepLabel(const Options::PlayStep& step)
 {
-    return QString::number(step.Value) +
-           (step.Minute ? QStringLiteral(" min") : QStringLiteral(" sec"));
+    return QString::number(step.Value) + (step.Minute
+                                              ? QCoreApplication::translate("PlayTime", " min")
+                                              : QCoreApplication::translate("PlayTime", " sec"));
 }
 
 int StepSeconds(const Options::PlayStep& step)

@@ -139,7 +139,7 @@ void PlaybackEngine::Open(const QString& file)
             if (bin)
                 gst_object_unref(gst_object_ref_sink(bin));
         m_failure = FailureKind::MissingDecoder;
-        m_error = QStringLiteral("The playback elements are not installed.");
+        m_error = tr("The playback elements are not installed.");
         Q_EMIT Failed(m_error);
         return;
     }

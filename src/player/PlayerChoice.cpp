@@ -9,6 +9,7 @@
 #include "store/Options.h"
 #include "store/RegKeys.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace {
@@ -91,11 +92,11 @@ void PlayerChoice::PlayExistingFile(const QString& file, const QString& title, d
         return;
     const QString kind = mp3 ? QStringLiteral("MP3") : QStringLiteral("WAV");
     m_messageBox.Show(QString(),
-                      QStringLiteral("Error Launching default desktop ") + kind +
-                          QStringLiteral(" player. Error Code=") + QString::number(result) +
-                          QStringLiteral("\nPerhaps there is no desktop application associated "
-                                         "with ") +
-                          kind + QStringLiteral(" files."),
+                      tr("Error Launching default desktop ") + kind + tr(" player. Error Code=") +
+                          QString::number(result) +
+                          tr("\nPerhaps there is no desktop application associated "
+                             "with ") +
+                          kind + tr(" files."),
                       MsgIcon::Exclamation, MsgButtons::Ok);
 }
 
@@ -108,10 +109,10 @@ void PlayerChoice::ToolbarPlay()
                              m_options.RecentRecordingTime);
             return;
         }
-        m_messageBox.Show(QStringLiteral("Recent Recording Not Found"),
-                          QStringLiteral("Most recent recording was not found. It may have been "
-                                         "deleted, recording media may have been removed, or "
-                                         "disk drive letter may have changed."),
+        m_messageBox.Show(tr("Recent Recording Not Found"),
+                          tr("Most recent recording was not found. It may have been "
+                             "deleted, recording media may have been removed, or "
+                             "disk drive letter may have changed."),
                           MsgIcon::Exclamation, MsgButtons::Ok);
         // The Play button follows the recent recording, now gone, at the next mode display.
         m_options.SaveRecentRecording(m_registry, QString(), QString(), 0.0);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <functional>
 
@@ -51,4 +52,6 @@ private:
     std::function<bool()> m_probe;
     std::function<int(const QString&)> m_opener;
     bool m_mediaPlayerAvailable = false;
+
+    Q_DECLARE_TR_FUNCTIONS(PlayerChoice)
 };

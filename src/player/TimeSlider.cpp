@@ -5,7 +5,7 @@
 TimeSlider::TimeSlider(QWidget* parent)
     : QSlider(Qt::Horizontal, parent)
 {
-    setToolTip(QStringLiteral("Time Control"));
+    setToolTip(tr("Time Control"));
     setRange(0, 1000);
 }
 

@@ -11,6 +11,7 @@
 #include "sideactions/Volume.h"
 #include "store/Options.h"
 
+#include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -56,18 +57,19 @@ QString LoadErrorDetails(int number)
 {
     switch (number) {
     case kInvalidDeviceId:
-        return QStringLiteral("Invalid device id.");
+        return QCoreApplication::translate("frmPlayPanel", "Invalid device id.");
     case kDeviceNotOpen:
-        return QStringLiteral("The device is not open or is not known.");
+        return QCoreApplication::translate("frmPlayPanel",
+                                           "The device is not open or is not known.");
     case kDriverNotLoaded:
-        return QStringLiteral("Error load media device driver.");
+        return QCoreApplication::translate("frmPlayPanel", "Error load media device driver.");
     case kActionNotAvailable:
-        return QStringLiteral("Action not available for this device.");
+        return QCoreApplication::translate("frmPlayPanel", "Action not available for this device.");
     case kInvalidFilename:
-        return QStringLiteral("Invalid filename.");
+        return QCoreApplication::translate("frmPlayPanel", "Invalid filename.");
     default:
-        return QStringLiteral("Play Panel Form Load Error (") + QString::number(number) +
-               QStringLiteral(").");
+        return QCoreApplication::translate("frmPlayPanel", "Play Panel Form Load Error (") +
+               QString::number(number) + QStringLiteral(").");
     }
 }
 
@@ -89,11 +91,11 @@ void frmPlayPanel::BuildForm()
     mciWave = new QFrame(this);
     mciWave->setObjectName(QStringLiteral("mciWave"));
     mciWave->setFrameShape(QFrame::StyledPanel);
-    btnPrev = MediaButton(mciWave, "btnPrev", QStyle::SP_MediaSkipBackward, QStringLiteral("Prev"));
-    btnNext = MediaButton(mciWave, "btnNext", QStyle::SP_MediaSkipForward, QStringLiteral("Next"));
-    btnPlay = MediaButton(mciWave, "btnPlay", QStyle::SP_MediaPlay, QStringLiteral("Play"));
-    btnPause = MediaButton(mciWave, "btnPause", QStyle::SP_MediaPause, QStringLiteral("Pause"));
-    btnStop = MediaButton(mciWave, "btnStop", QStyle::SP_MediaStop, QStringLiteral("Stop"));
+    btnPrev = MediaButton(mciWave, "btnPrev", QStyle::SP_MediaSkipBackward, tr("Prev"));
+    btnNext = MediaButton(mciWave, "btnNext", QStyle::SP_MediaSkipForward, tr("Next"));
+    btnPlay = MediaButton(mciWave, "btnPlay", QStyle::SP_MediaPlay, tr("Play"));
+    btnPause = MediaButton(mciWave, "btnPause", QStyle::SP_MediaPause, tr("Pause"));
+    btnStop = MediaButton(mciWave, "btnStop", QStyle::SP_MediaStop, tr("Stop"));
     auto* device = new QHBoxLayout(mciWave);
     device->setContentsMargins(2, 2, 2, 2);
     device->setSpacing(1);
@@ -105,7 +107,7 @@ void frmPlayPanel::BuildForm()
     VSlider1->setObjectName(QStringLiteral("VSlider1"));
     VSlider1->setRange(0, 100);
     VSlider1->setInvertedAppearance(true);
-    VSlider1->setToolTip(QStringLiteral("Volume"));
+    VSlider1->setToolTip(tr("Volume"));
 
     auto* times = new QHBoxLayout;
     times->addWidget(lblTime);
@@ -165,7 +167,7 @@ void frmPlayPanel::Form_Load(const QString& file, double startTime)
     sldTime->setValue(0);
     if (!m_engine.WaitForOpen(OpenTimeoutMs)) {
         const int number = LoadErrorNumber(m_engine.Failure());
-        m_log.LogEvent(2, QStringLiteral("Error in Loading Play Panel"), LoadErrorDetails(number));
+        m_log.LogEvent(2, tr("Error in Loading Play Panel"), LoadErrorDetails(number));
         return;
     }
     lblLength->setText(PlayTime::HourMinSecsText(LengthMs() / 1000));

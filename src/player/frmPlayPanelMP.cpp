@@ -34,7 +34,7 @@ frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStat
             UpdateButtonEnables();
     });
     connect(&m_engine, &PlaybackEngine::Failed, this, [this] {
-        lblStatus->setText(QStringLiteral("Error"));
+        lblStatus->setText(tr("Error"));
         lblError->setText(m_engine.ErrorDescription());
     });
     connect(&m_engine, &PlaybackEngine::Warning, this,
@@ -91,7 +91,7 @@ void frmPlayPanelMP::Form_Load(const QString& file, double startTime)
         UpdateButtonEnables();
         m_engine.Open(file);
         if (m_engine.Failure() == PlaybackEngine::FailureKind::None)
-            lblStatus->setText(QStringLiteral("Loading"));
+            lblStatus->setText(tr("Loading"));
         m_timer.start();
     });
 }

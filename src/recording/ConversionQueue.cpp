@@ -107,10 +107,10 @@ QStringList ConversionQueue::KeepLeftCaptures(const QStringList& captures)
         if (!QFile::rename(capture, wave))
             continue;
         kept << wave;
-        m_log.LogEvent(EventWarning, QStringLiteral("Recording kept in PCM format"),
-                       QStringLiteral("The following recording was being made when Nightreel "
-                                      "2000 ended; it was not converted to MP3 and is kept as a "
-                                      "PCM wave file.\r\nFile: ") +
+        m_log.LogEvent(EventWarning, tr("Recording kept in PCM format"),
+                       tr("The following recording was being made when Nightreel "
+                          "2000 ended; it was not converted to MP3 and is kept as a "
+                          "PCM wave file.\r\nFile: ") +
                            wave);
     }
     return kept;
@@ -176,7 +176,7 @@ void ConversionQueue::IdleBranch()
     // A conversion started on a nearly full disk would only fill it.
     const DiskSpaceMb disk = m_diskSpace.GetRecDirDiskSpaceMb(FolderOf(request.DestinationFile));
     if (disk.free + 0.5 < m_options.StopRecMegsLeft) {
-        KeepCapture(request, QStringLiteral("There was not enough disk space to convert it."));
+        KeepCapture(request, tr("There was not enough disk space to convert it."));
         SaveQueue();
         TimerConvert.SetInterval(IdleInterval);
         return;
@@ -243,7 +243,7 @@ void ConversionQueue::StopBranch()
     // captures stay as they are.
     while (!Mp3ConvertQueue.isEmpty())
         KeepCapture(*Mp3ConvertQueue.takeFirst(),
-                    QStringLiteral("The MP3 conversions were stopped before it was converted."));
+                    tr("The MP3 conversions were stopped before it was converted."));
     clsConvertToMP3Request& request = *CurrentConvertRequest;
     const int32_t code = Finish(request);
     if (code != 0) {
@@ -252,7 +252,7 @@ void ConversionQueue::StopBranch()
     }
     // The partial MP3 is saved, as the user was told; the whole recording stays beside it.
     ListResult(request, true);
-    KeepCapture(request, QStringLiteral("Its MP3 conversion was stopped part-way."));
+    KeepCapture(request, tr("Its MP3 conversion was stopped part-way."));
     emit UpdateRecordingsButtonsAndMenus();
     emit UpdateModeDisplay();
     m_appStatus.SetConverting(false);
@@ -266,13 +266,13 @@ void ConversionQueue::StopBranch()
 void ConversionQueue::FailureBranch(int32_t code)
 {
     const clsConvertToMP3Request& request = *CurrentConvertRequest;
-    m_log.LogEvent(EventError, QStringLiteral("Error Converting to MP3"),
-                   QStringLiteral("Error Code: ") + QString::number(code) +
-                       QStringLiteral("\r\nDescription: ") + request.Description);
+    m_log.LogEvent(EventError, tr("Error Converting to MP3"),
+                   tr("Error Code: ") + QString::number(code) + tr("\r\nDescription: ") +
+                       request.Description);
     m_encoder.Mp3ConvertErrorCleanUp();
     // Only the incomplete result goes: the recording itself is kept.
     QFile::remove(ResultFile(request));
-    KeepCapture(request, QStringLiteral("Its MP3 conversion failed."));
+    KeepCapture(request, tr("Its MP3 conversion failed."));
     LaunchAfterRecording(m_log, m_launcher, false, request.LaunchAppAfter,
                          request.LaunchAfterOnlyIfOk, request.DestinationFile);
     m_appStatus.SetConverting(false);
@@ -283,12 +283,11 @@ void ConversionQueue::FailureBranch(int32_t code)
 void ConversionQueue::HoldForLibrary(int32_t code)
 {
     const clsConvertToMP3Request& request = *CurrentConvertRequest;
-    m_log.LogEvent(EventError, QStringLiteral("Error Converting to MP3"),
-                   QStringLiteral("Error Code: ") + QString::number(code) +
-                       QStringLiteral("\r\nDescription: ") + request.Description +
-                       QStringLiteral("\r\n") + m_encoder.ErrorString() +
-                       QStringLiteral("\r\nThe recordings waiting for conversion are kept and "
-                                      "converted at the next start of Nightreel 2000."));
+    m_log.LogEvent(EventError, tr("Error Converting to MP3"),
+                   tr("Error Code: ") + QString::number(code) + tr("\r\nDescription: ") +
+                       request.Description + QStringLiteral("\r\n") + m_encoder.ErrorString() +
+                       tr("\r\nThe recordings waiting for conversion are kept and "
+                          "converted at the next start of Nightreel 2000."));
     Mp3ConvertQueue.prepend(CurrentConvertRequest);
     m_heldForLibrary = true;
     SaveQueue();
@@ -312,7 +311,7 @@ void ConversionQueue::ListResult(clsConvertToMP3Request& request, bool stoppedEa
     request.DestinationFile = FreeFileName(request.DestinationFile);
     if (!QFile::rename(ResultFile(request), request.DestinationFile))
         throw RuntimeError(ErrorNumber::PathFileAccess,
-                           QStringLiteral("Path/File access error: ") + request.DestinationFile);
+                           tr("Path/File access error: ") + request.DestinationFile);
     // A converted file's date is the end of the recording that its size gives, not the end
     // of the conversion; the row reads it, and the row's tag then changes it again.
     const float size = ModuleFileTime::GetFileSizeMbytes(request.DestinationFile);
@@ -337,15 +336,15 @@ void ConversionQueue::KeepCapture(const clsConvertToMP3Request& request, const Q
     const QString kept = FreeFileName(request.SourceFile.chopped(4));
     if (!QFile::rename(request.SourceFile, kept))
         throw RuntimeError(ErrorNumber::PathFileAccess,
-                           QStringLiteral("Path/File access error: ") + request.SourceFile);
+                           tr("Path/File access error: ") + request.SourceFile);
     emit DoEndOfRecordingStuff(request.Description, kept, request.StartTime, request.EndTime,
                                request.SourceFormat.TextCompressionMethodShort,
                                request.SourceFormat);
-    m_log.LogEvent(EventWarning, QStringLiteral("Recording kept in PCM format"),
-                   QStringLiteral("The following recording was not converted to MP3 and is kept "
-                                  "as a PCM wave file: ") +
-                       request.Description + QStringLiteral("\r\n") + why +
-                       QStringLiteral("\r\nFile: ") + kept);
+    m_log.LogEvent(EventWarning, tr("Recording kept in PCM format"),
+                   tr("The following recording was not converted to MP3 and is kept "
+                      "as a PCM wave file: ") +
+                       request.Description + QStringLiteral("\r\n") + why + tr("\r\nFile: ") +
+                       kept);
 }
 
 void ConversionQueue::SaveQueue()

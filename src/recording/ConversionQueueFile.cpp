@@ -3,6 +3,7 @@
 #include "common/RuntimeError.h"
 #include "taskcontract/WaveFormatRecord.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -68,8 +69,10 @@ void ConversionQueueFile::Save(const QString& path, const Mp3ConvertQueueList& r
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(list).toJson()) < 0 ||
         !file.commit())
-        throw RuntimeError(ErrorNumber::PathFileAccess,
-                           QStringLiteral("Path/File access error: ") + file.errorString());
+        throw RuntimeError(
+            ErrorNumber::PathFileAccess,
+            QCoreApplication::translate("ConversionQueueFile", "Path/File access error: ") +
+                file.errorString());
 }
 
 Mp3ConvertQueueList ConversionQueueFile::Load(EventLog& log, const QString& path)

@@ -2,6 +2,8 @@
 
 #include "common/ProgramFiles.h"
 
+#include <QCoreApplication>
+
 EncoderLibrary::EncoderLibrary()
     : m_folder(ProgramFiles::OfRunningProgram().LibraryFolder())
 {
@@ -26,7 +28,7 @@ bool EncoderLibrary::Load()
         m_library.resolve("Mp3ConvertErrorCleanUp"));
     if (m_start && m_step && m_finish && m_cleanUp)
         return true;
-    m_error = QStringLiteral("%1 lacks an entry point").arg(m_library.fileName());
+    m_error = tr("%1 lacks an entry point").arg(m_library.fileName());
     m_start = nullptr;
     return false;
 }

@@ -2,6 +2,7 @@
 
 #include "nightreelenc.h"
 
+#include <QCoreApplication>
 #include <QLibrary>
 #include <QString>
 
@@ -44,4 +45,6 @@ private:
     NightreelEncEncodeNextBufferFn m_step = nullptr;
     NightreelEncFinishEncodeMp3Fn m_finish = nullptr;
     NightreelEncMp3ConvertErrorCleanUpFn m_cleanUp = nullptr;
+
+    Q_DECLARE_TR_FUNCTIONS(EncoderLibrary)
 };

@@ -123,11 +123,10 @@ void Heartbeat::LaunchAppPrior(double now)
     const QString command = m_scheduler.next.NextLaunchAppPrior;
     // The command runs as it stands: no file name is put into it ahead of a recording.
     if (!m_launcher.StartDetached(command, WindowStyleMinimizedNoActivate))
-        m_log.LogEvent(
-            EventWarning, QStringLiteral("Invalid Launch Application command"),
-            QStringLiteral("The command to launch an application is invalid.  Check the file "
-                           "paths and that the applications exists.\r\nCommand= ") +
-                command);
+        m_log.LogEvent(EventWarning, tr("Invalid Launch Application command"),
+                       tr("The command to launch an application is invalid.  Check the file "
+                          "paths and that the applications exists.\r\nCommand= ") +
+                           command);
     m_scheduler.next.NextAppLaunchTime = AutomationDate::Never();
 }
 

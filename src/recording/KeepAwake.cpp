@@ -50,13 +50,13 @@ void KeepAwake::Update()
         m_inhibitor.SetWatching(on);
         QString why;
         if (on && m_appStatus.Recording())
-            why = QStringLiteral("Recording ") + m_status.Description;
+            why = tr("Recording ") + m_status.Description;
         // A capture to convert waits in the queue for a moment before its conversion starts.
         else if (on && m_conversion.HasWork())
-            why = QStringLiteral("Converting a recording to MP3");
+            why = tr("Converting a recording to MP3");
         else if (on && next.NextProgramFound && now >= WindowStart(next) &&
                  now < next.NextProgramEnd)
-            why = QStringLiteral("Recording ") + next.NextProgramDescription;
+            why = tr("Recording ") + next.NextProgramDescription;
         if (why.isEmpty())
             m_inhibitor.Release();
         else
@@ -90,11 +90,11 @@ void KeepAwake::UpdateWakeAlarm(double now)
     m_wakeAlarmSet = m_inhibitor.SetWakeAlarm(alarm) && alarm != 0;
     if (!m_wakeAlarmSet && alarm != 0 && !m_wakeAlarmMissingSaid) {
         m_wakeAlarmMissingSaid = true;
-        m_log.LogEvent(EventInformation, QStringLiteral("No wake alarm"),
-                       QStringLiteral("The computer's clock has no wake alarm that Nightreel "
-                                      "2000 may set (its helper nightreel-wake is not installed "
-                                      "or not allowed), so a computer that sleeps will not "
-                                      "wake by itself for a recording."));
+        m_log.LogEvent(EventInformation, tr("No wake alarm"),
+                       tr("The computer's clock has no wake alarm that Nightreel "
+                          "2000 may set (its helper nightreel-wake is not installed "
+                          "or not allowed), so a computer that sleeps will not "
+                          "wake by itself for a recording."));
     }
 }
 
@@ -116,10 +116,9 @@ void KeepAwake::OnPrepareForSleep(bool start)
         } else {
             return;
         }
-        m_log.LogEvent(EventWarning, QStringLiteral("Computer going to sleep"),
-                       QStringLiteral("The computer is going to sleep and will not wake by "
-                                      "itself for the following recording:\r\n") +
-                           description + QStringLiteral("\r\nStart: ") +
-                           Options::DateText(startTime));
+        m_log.LogEvent(EventWarning, tr("Computer going to sleep"),
+                       tr("The computer is going to sleep and will not wake by "
+                          "itself for the following recording:\r\n") +
+                           description + tr("\r\nStart: ") + Options::DateText(startTime));
     });
 }

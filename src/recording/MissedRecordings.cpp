@@ -11,12 +11,12 @@
 #include "store/Options.h"
 #include "store/RegKeys.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 const QString kSection = QStringLiteral("Settings");
 const QString kAliveKey = QStringLiteral("RecorderAliveTime");
-const QString kNotRunning = QStringLiteral("the recorder was not running");
-const QString kAsleep = QStringLiteral("the computer was asleep");
 
 QString LengthText(qint64 seconds)
 {
@@ -24,8 +24,8 @@ QString LengthText(qint64 seconds)
     if (minutes < 1)
         return QStringLiteral("%1 s").arg(seconds);
     if (minutes < 60)
-        return QStringLiteral("%1 min").arg(minutes);
-    return QStringLiteral("%1 h %2 min")
+        return QCoreApplication::translate("MissedRecordings", "%1 min").arg(minutes);
+    return QCoreApplication::translate("MissedRecordings", "%1 h %2 min")
         .arg(QString::number(minutes / 60), QString::number(minutes % 60).rightJustified(2, u'0'));
 }
 
@@ -64,7 +64,7 @@ void MissedRecordings::CheckAtStart()
             m_registry.GetSetting(kSection, kAliveKey, QString()).trimmed().toDouble(&known);
         // The very first start has nothing to look back on.
         if (known)
-            Report(lastAlive, now, kNotRunning);
+            Report(lastAlive, now, tr("the recorder was not running"));
         WriteAlive(now);
     });
 }
@@ -104,13 +104,12 @@ void MissedRecordings::OnPrepareForSleep(bool start)
         const double sleptFrom = m_lastAlive;
         // The task was frozen with the machine and goes on writing the same file.
         if (m_appStatus.Recording() && m_status.StartTime <= sleptFrom)
-            m_log.LogEvent(EventWarning,
-                           QStringLiteral("Gap in a recording: ") + m_status.Description,
-                           QStringLiteral("The computer was asleep for %1 during the recording "
-                                          "(from %2 to %3); the file goes on after the gap.")
+            m_log.LogEvent(EventWarning, tr("Gap in a recording: ") + m_status.Description,
+                           tr("The computer was asleep for %1 during the recording "
+                              "(from %2 to %3); the file goes on after the gap.")
                                .arg(LengthText(AutomationDate::SecondsBetween(sleptFrom, now)),
                                     Options::DateText(sleptFrom), Options::DateText(now)));
-        Report(sleptFrom, now, kAsleep);
+        Report(sleptFrom, now, tr("the computer was asleep"));
         WriteAlive(now);
     });
 }
@@ -128,17 +127,16 @@ void MissedRecordings::Report(double from, double to, const QString& why)
     QList<Entry> entries;
     qsizetype missed = 0;
     for (const ProgramOccurrence& o : OccurrencesDue(m_scheduler, m_database, from, to)) {
-        const QString due =
-            o.description + QStringLiteral(", due ") + DateTimeText(o.startDateTime);
-        const QString id = QStringLiteral("Program ID: ") + QString::number(o.programId);
+        const QString due = o.description + tr(", due ") + DateTimeText(o.startDateTime);
+        const QString id = tr("Program ID: ") + QString::number(o.programId);
         // One still running is started late by the heartbeat for what is left of it.
         if (o.endDateTime > to) {
             const qint64 gone = AutomationDate::SecondsBetween(o.startDateTime, to);
-            entries.append({QStringLiteral("Recording started late: %1, the first %2 missed (%3)")
+            entries.append({tr("Recording started late: %1, the first %2 missed (%3)")
                                 .arg(due, LengthText(gone), why),
                             id, true});
         } else {
-            entries.append({QStringLiteral("Missed recording: %1 (%2)").arg(due, why), id, false});
+            entries.append({tr("Missed recording: %1 (%2)").arg(due, why), id, false});
             ++missed;
         }
     }
@@ -153,8 +151,8 @@ void MissedRecordings::Report(double from, double to, const QString& why)
     }
     if (!summed.isEmpty())
         m_log.LogEvent(EventWarning,
-                       QStringLiteral("Missed recordings: %1 recordings due from %2 to %3 were "
-                                      "not made (%4)")
+                       tr("Missed recordings: %1 recordings due from %2 to %3 were "
+                          "not made (%4)")
                            .arg(QString::number(missed), DateTimeText(from), DateTimeText(to), why),
                        summed.join(QStringLiteral("\r\n")));
     if (!lines.isEmpty())

@@ -3,12 +3,7 @@
 #include "common/clsAppStatus.h"
 #include "diagnostics/clsError.h"
 
-namespace {
-
-const QString kTitle = QStringLiteral("Nightreel 2000");
-const QString kStopRecording = QStringLiteral("Stop Current Recording");
-
-} // namespace
+#include <QCoreApplication>
 
 ModeDisplay ModeDisplay::Compute(const clsAppStatus& status, const clsError& error,
                                  const Extra& extra)
@@ -21,47 +16,47 @@ ModeDisplay ModeDisplay::Compute(const clsAppStatus& status, const clsError& err
     d.pauseEnabled = recording;
     d.pausePressed = recording && status.Paused();
     if (d.pausePressed) {
-        d.pauseToolTip = QStringLiteral("Continue Recording");
+        d.pauseToolTip = tr("Continue Recording");
         d.pauseImage = QStringLiteral("pause2");
-        d.pauseMenuCaption = QStringLiteral("&Continue Recording");
+        d.pauseMenuCaption = tr("&Continue Recording");
         d.trayPauseCaption = d.pauseMenuCaption;
     } else {
-        d.pauseToolTip = recording ? QStringLiteral("Pause Recording") : QString();
+        d.pauseToolTip = recording ? tr("Pause Recording") : QString();
         d.pauseImage = QStringLiteral("pause1");
-        d.pauseMenuCaption = QStringLiteral("Pa&use Recording");
-        d.trayPauseCaption = QStringLiteral("&Pause Recording");
+        d.pauseMenuCaption = tr("Pa&use Recording");
+        d.trayPauseCaption = tr("&Pause Recording");
     }
     d.diskStatusEnabled = !error.InvalidRecordingDirectory();
     d.stopEnabled = recording || status.Converting();
-    d.stopCaption =
-        !recording && status.Converting() ? QStringLiteral("Stop MP3 Conversion") : kStopRecording;
+    d.stopCaption = !recording && status.Converting() ? tr("Stop MP3 Conversion")
+                                                      : tr("Stop Current Recording");
 
     // The first condition that holds decides the mode.
     if (status.Suspended()) {
-        d.title = kTitle + QStringLiteral(" - Suspended");
+        d.title = tr("Nightreel 2000") + tr(" - Suspended");
         d.panelText = QStringLiteral("SUSPENDED");
-        d.panelToolTip = QStringLiteral("Nightreel 2000 is in suspended mode");
+        d.panelToolTip = tr("Nightreel 2000 is in suspended mode");
     } else if (recording && status.Paused()) {
-        d.title = kTitle + QStringLiteral(" - Recording (PAUSED)");
-        d.panelText = extra.blinkOn ? QStringLiteral("RECORDING PAUSED") : QString();
-        d.panelToolTip = QStringLiteral("RECORDING PAUSED");
+        d.title = tr("Nightreel 2000") + tr(" - Recording (PAUSED)");
+        d.panelText = extra.blinkOn ? tr("RECORDING PAUSED") : QString();
+        d.panelToolTip = tr("RECORDING PAUSED");
     } else if (recording) {
-        d.title = kTitle + QStringLiteral(" - Recording");
+        d.title = tr("Nightreel 2000") + tr(" - Recording");
         d.panelText = QStringLiteral("RECORDING");
         d.panelToolTip = extra.elapsedRemainingText;
     } else if (status.Converting()) {
-        d.title = kTitle + QStringLiteral(" - Converting to MP3");
+        d.title = tr("Nightreel 2000") + tr(" - Converting to MP3");
         d.panelText = extra.convertingText;
         // The panel shows the percent already; the tip says which recording it is.
-        d.panelToolTip = QStringLiteral("Converting: ") + extra.convertingDescription;
+        d.panelToolTip = tr("Converting: ") + extra.convertingDescription;
     } else if (status.Playing()) {
-        d.title = kTitle + QStringLiteral(" - Playing");
+        d.title = tr("Nightreel 2000") + tr(" - Playing");
         d.panelText = QStringLiteral("PLAYING");
-        d.panelToolTip = QStringLiteral("Nightreel 2000 is playing a recording");
+        d.panelToolTip = tr("Nightreel 2000 is playing a recording");
     } else {
-        d.title = kTitle;
+        d.title = tr("Nightreel 2000");
         d.panelText = QStringLiteral("STOPPED");
-        d.panelToolTip = QStringLiteral("Nightreel 2000 is currently stopped");
+        d.panelToolTip = tr("Nightreel 2000 is currently stopped");
     }
     return d;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 class clsAppStatus;
@@ -36,4 +37,6 @@ struct ModeDisplay {
     };
     static ModeDisplay Compute(const clsAppStatus& status, const clsError& error,
                                const Extra& extra);
+
+    Q_DECLARE_TR_FUNCTIONS(ModeDisplay)
 };

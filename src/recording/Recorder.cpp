@@ -21,6 +21,8 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
                   services.scheduler, m_status, m_conversion, services.sleepInhibitor)
     , m_missed(services.clock, services.log, services.registry, services.scheduler,
                services.database, services.appStatus, m_status, services.sleepInhibitor)
+    , m_primed(services.clock, services.log, services.database, services.scheduler,
+               services.appStatus, m_link)
 {
     connect(&m_heartbeat, &Heartbeat::StartRecordingDue, &m_control,
             &RecordingControl::StartRecording);
@@ -61,6 +63,15 @@ void Recorder::ConnectUnattended()
     connect(&m_conversion, &ConversionQueue::UpdateModeDisplay, &m_keepAwake, &KeepAwake::Update);
     connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, &m_missed, &MissedRecordings::NoteAlive);
     connect(&m_missed, &MissedRecordings::RecordingsMissed, this, &Recorder::RecordingsMissed);
+    connect(&m_heartbeat, &Heartbeat::UpdateStatusBarPlus, &m_primed, &PrimedTask::Update);
+    // A heartbeat that is between ticks takes an extra one; a stopped one leaves the
+    // primed task to be ended.
+    connect(&m_primed, &PrimedTask::DueSecond, this, [this] {
+        if (m_heartbeat.Timer1.Interval() != 0)
+            m_heartbeat.Timer1_Timer();
+        else
+            m_primed.Update();
+    });
 }
 
 void Recorder::Start()
@@ -73,6 +84,7 @@ void Recorder::Start()
 void Recorder::Stop()
 {
     m_heartbeat.Timer1.SetInterval(0);
+    m_link.EndPrimedTask();
     m_conversion.Stop();
     m_missed.NoteStopping();
 }
@@ -106,8 +118,8 @@ ModeDisplay Recorder::Mode(ModeDisplay::Extra extra) const
 void Recorder::OpenInternetLink(const QString& link)
 {
     if (!m_s.hasDisplay) {
-        m_s.log.LogEvent(EventInformation, QStringLiteral("Web link not opened"),
-                         QStringLiteral("There is no display to open it on: ") + link);
+        m_s.log.LogEvent(EventInformation, tr("Web link not opened"),
+                         tr("There is no display to open it on: ") + link);
         return;
     }
     ViewHtmlFile(m_s.log, m_s.messageBox, m_s.launcher, m_s.runtimeFolder, link);

@@ -5,6 +5,7 @@
 #include "recording/KeepAwake.h"
 #include "recording/MissedRecordings.h"
 #include "recording/ModeDisplay.h"
+#include "recording/PrimedTask.h"
 #include "recording/RecorderServices.h"
 #include "recording/RecordingControl.h"
 #include "recording/RecordingTaskLink.h"
@@ -83,4 +84,5 @@ private:
     StreamGapLog m_streamGaps;
     KeepAwake m_keepAwake;
     MissedRecordings m_missed;
+    PrimedTask m_primed;
 };

@@ -8,35 +8,50 @@
 #include "recording/RecordingTaskErrors.h"
 #include "store/Options.h"
 
+#include <QCoreApplication>
+
 namespace {
 
-const QString kFailed = QStringLiteral("Recording failed");
-
+// The events are known by the headings they are logged under, in the words (and so the
+// translation) of the part that logs them.
 QHash<QString, RecorderNotifications::Event> Events()
 {
-    const QString diskFull = QStringLiteral("Free disk space fell below the limit set in Options.");
+    const QString failed = QCoreApplication::translate("RecorderNotifications", "Recording failed");
+    const QString diskFull = QCoreApplication::translate(
+        "RecorderNotifications", "Free disk space fell below the limit set in Options.");
     QHash<QString, RecorderNotifications::Event> events{
-        {QStringLiteral("Recording failed"), {kFailed, QStringLiteral("No sound was written.")}},
-        {QStringLiteral("Error activating recording task."),
-         {kFailed, QStringLiteral("The recording task did not start.")}},
-        {QStringLiteral("Error removing Recording Process."),
-         {kFailed, QStringLiteral("An earlier recording task could not be ended.")}},
-        {QStringLiteral("No response from recording task."),
-         {QStringLiteral("Recording task not responding"),
-          QStringLiteral("The recording was stopped.")}},
-        {QStringLiteral("Recording stopped due to insufficient disk space."),
-         {QStringLiteral("Recording stopped: disk nearly full"), diskFull}},
-        {QStringLiteral("Recording is silent"),
-         {QStringLiteral("Recording is silent"), QStringLiteral("No sound is coming in."), false,
+        {QCoreApplication::translate("RecordingControl", "Recording failed"),
+         {failed, QCoreApplication::translate("RecorderNotifications", "No sound was written.")}},
+        {QCoreApplication::translate("RecordingTaskLink", "Error activating recording task."),
+         {failed, QCoreApplication::translate("RecorderNotifications",
+                                              "The recording task did not start.")}},
+        {QCoreApplication::translate("RecordingTaskLink", "Error removing Recording Process."),
+         {failed, QCoreApplication::translate("RecorderNotifications",
+                                              "An earlier recording task could not be ended.")}},
+        {QCoreApplication::translate("RecordingControl", "No response from recording task."),
+         {QCoreApplication::translate("RecorderNotifications", "Recording task not responding"),
+          QCoreApplication::translate("RecorderNotifications", "The recording was stopped.")}},
+        {QCoreApplication::translate("StatusBarPlus",
+                                     "Recording stopped due to insufficient disk space."),
+         {QCoreApplication::translate("RecorderNotifications",
+                                      "Recording stopped: disk nearly full"),
+          diskFull}},
+        {QCoreApplication::translate("SilenceAlarm", "Recording is silent"),
+         {QCoreApplication::translate("RecorderNotifications", "Recording is silent"),
+          QCoreApplication::translate("RecorderNotifications", "No sound is coming in."), false,
           false}},
-        {QStringLiteral("Error Converting to MP3"),
-         {QStringLiteral("MP3 conversion failed"), QString(), true}},
-        {QStringLiteral("MP3 conversion stopped due to insufficient disk space."),
-         {QStringLiteral("MP3 conversion stopped: disk nearly full"), diskFull, true}},
+        {QCoreApplication::translate("ConversionQueue", "Error Converting to MP3"),
+         {QCoreApplication::translate("RecorderNotifications", "MP3 conversion failed"), QString(),
+          true}},
+        {QCoreApplication::translate("StatusBarPlus",
+                                     "MP3 conversion stopped due to insufficient disk space."),
+         {QCoreApplication::translate("RecorderNotifications",
+                                      "MP3 conversion stopped: disk nearly full"),
+          diskFull, true}},
     };
     // Each of the task's error codes fails the recording, with its own heading as the reason.
     for (qint32 code = 1000; code <= 1053; ++code)
-        events.insert(RecordingTaskErrorTexts(code).message, {kFailed, QString()});
+        events.insert(RecordingTaskErrorTexts(code).message, {failed, QString()});
     return events;
 }
 
@@ -63,12 +78,12 @@ RecorderNotifications::RecorderNotifications(EventLog& log, const Options& optio
     // The recordings missed while the recorder was not running or the machine slept: one
     // notification lists them all.
     connect(&recorder, &Recorder::RecordingsMissed, this, [this](const QStringList& lines) {
-        Send(QStringLiteral("Recordings missed"), QString(), lines.join(u'\n'), true);
+        Send(tr("Recordings missed"), QString(), lines.join(u'\n'), true);
     });
     // Said once in the log: nothing further happens without a notification service.
     connect(&desktop, &DesktopNotifications::Unavailable, this, [this](const QString& why) {
-        m_log.LogEvent(EventInformation, QStringLiteral("No desktop notifications"),
-                       QStringLiteral("The desktop shows no notifications: ") + why);
+        m_log.LogEvent(EventInformation, tr("No desktop notifications"),
+                       tr("The desktop shows no notifications: ") + why);
     });
 }
 
@@ -108,9 +123,9 @@ void RecorderNotifications::DiskLowChanged()
 {
     const bool low = m_error.DiskLowWarn();
     if (low && !m_diskLow)
-        Send(QStringLiteral("Disk space low"),
+        Send(tr("Disk space low"),
              m_appStatus.Recording() ? m_recorder.Status().Description : QString(),
-             QStringLiteral("Less than %1 Megabytes are free in the recording folder.")
+             tr("Less than %1 Megabytes are free in the recording folder.")
                  .arg(m_options.WarnRecMegsLeft),
              false);
     m_diskLow = low;

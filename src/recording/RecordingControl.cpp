@@ -56,7 +56,7 @@ bool BoolColumn(const Recordset& rs, const QString& column)
 
 QString SoftwareName()
 {
-    return QStringLiteral("Nightreel 2000 %1.%2")
+    return QCoreApplication::translate("RecordingControl", "Nightreel 2000 %1.%2")
         .arg(NIGHTREEL_VERSION_MAJOR)
         .arg(NIGHTREEL_VERSION_MINOR);
 }
@@ -116,9 +116,9 @@ QString RecordingControl::UnusedFileName(const QString& folder, QString& baseNam
     const QString wanted = baseName;
     baseName = FreeBaseName(folder, wanted, endings);
     if (baseName != wanted)
-        m_s.log.LogEvent(EventInformation, QStringLiteral("Recording saved under a new name"),
-                         QStringLiteral("A file named \"%1\" is already in the recording folder "
-                                        "and is kept. The recording \"%2\" is saved as \"%3\".")
+        m_s.log.LogEvent(EventInformation, tr("Recording saved under a new name"),
+                         tr("A file named \"%1\" is already in the recording folder "
+                            "and is kept. The recording \"%2\" is saved as \"%3\".")
                              .arg(wanted + extension, description, baseName + extension));
     return folder + baseName + extension;
 }
@@ -147,7 +147,7 @@ void RecordingControl::OnStreamFormatKept(const QByteArray& record)
             return;
         m_format.SetWaveFormatEx(m_s.log, *format);
         m_status.CompressionText =
-            m_format.TextCompressionMethodShort + QStringLiteral("   (Kept as broadcast)");
+            m_format.TextCompressionMethodShort + tr("   (Kept as broadcast)");
     });
 }
 
@@ -157,12 +157,11 @@ void RecordingControl::OnTaskNotResponding()
         if (m_status.Failed)
             return;
         m_s.log.LogEvent(
-            EventError, QStringLiteral("No response from recording task."),
-            QStringLiteral(
-                "Perform a test recording with a PCM recording format. If the error "
-                "does not reoccur, there may have been a problem with the recording "
-                "format.  Otherwise, the recording task may be locked and require a "
-                "system restart. \rThe error occurred during the following recording: ") +
+            EventError, tr("No response from recording task."),
+            tr("Perform a test recording with a PCM recording format. If the error "
+               "does not reoccur, there may have been a problem with the recording "
+               "format.  Otherwise, the recording task may be locked and require a "
+               "system restart. \rThe error occurred during the following recording: ") +
                 m_status.Description);
         m_status.Failed = true;
         StopRecording();
@@ -253,8 +252,8 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         status.HangupInternetConnection = false;
     } else {
         m_s.messageBox.Show(
-            QStringLiteral("Error"),
-            QStringLiteral("Invalid Recording Directory. Select a recording directory in Options."),
+            tr("Error"),
+            tr("Invalid Recording Directory. Select a recording directory in Options."),
             MsgIcon::Exclamation, MsgButtons::Ok);
         ExitAndClear();
         return;
@@ -293,8 +292,8 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         // The MP3 and its PCM source exist side by side until the conversion ends.
         spaceNeeded = double(chosen.CalcStorageMbytesSng(status.DurationSeconds) +
                              pcmCapture->CalcStorageMbytesSng(status.DurationSeconds));
-        spaceNote = QStringLiteral("Note: Converted MP3 recordings require additional storage "
-                                   "for the initial PCM wave file recording.\r\n");
+        spaceNote = tr("Note: Converted MP3 recordings require additional storage "
+                       "for the initial PCM wave file recording.\r\n");
         NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat, userName,
                              prefix, suffix, folder, chosen.SaveMP3FileExtension, baseName,
                              extension);
@@ -316,8 +315,8 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
         request.LaunchAfterOnlyIfOk = status.LaunchAfterOnlyIfOk;
     }
     if (m_s.appStatus.Converting())
-        spaceNote += QStringLiteral(" Additional space is also needed for any temporary PCM files "
-                                    "that are currently being converted to MP3.");
+        spaceNote += tr(" Additional space is also needed for any temporary PCM files "
+                        "that are currently being converted to MP3.");
 
     // Only a manual recording is refused for space; a scheduled one is left to the disk
     // guard, and a direct one needs just half a megabyte above the limit whatever its length.
@@ -325,10 +324,10 @@ void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, d
     const double required = double(m_s.options.StopRecMegsLeft) + spaceNeeded;
     if (ProgramId == -1 && required > freeMbytes) {
         m_s.messageBox.Show(
-            QStringLiteral("Recording not started due to insufficient disk space."),
-            QStringLiteral("The recording was not started since there is not enough disk space.  "
-                           "Remove recordings from disk, change the recording directory to a "
-                           "different disk drive, or shorten the recording time. ") +
+            tr("Recording not started due to insufficient disk space."),
+            tr("The recording was not started since there is not enough disk space.  "
+               "Remove recordings from disk, change the recording directory to a "
+               "different disk drive, or shorten the recording time. ") +
                 spaceNote,
             MsgIcon::Exclamation, MsgButtons::Ok);
         m_s.scheduler.CancelRecording(ProgramId, m_status.EndTime);
@@ -408,12 +407,11 @@ void RecordingControl::HandleStopRecordingRequest(bool Confirm)
             // A scheduled recording is never stopped without a question.
             if (Confirm || status.ProgramId != -1) {
                 const QString text =
-                    status.ConvertToMP3
-                        ? QStringLiteral("This will stop and convert the recording in progress "
-                                         "to MP3.  Are you sure you want to stop recording?")
-                        : QStringLiteral("This will stop and save the recording in progress.  "
-                                         "Are you sure you want to stop recording?");
-                if (m_s.messageBox.Show(QStringLiteral("Nightreel 2000"), text, MsgIcon::None,
+                    status.ConvertToMP3 ? tr("This will stop and convert the recording in progress "
+                                             "to MP3.  Are you sure you want to stop recording?")
+                                        : tr("This will stop and save the recording in progress.  "
+                                             "Are you sure you want to stop recording?");
+                if (m_s.messageBox.Show(tr("Nightreel 2000"), text, MsgIcon::None,
                                         MsgButtons::YesNo) != MsgResult::Yes)
                     return;
             }
@@ -426,12 +424,12 @@ void RecordingControl::HandleStopRecordingRequest(bool Confirm)
                 // The three blanks in the second text are intended.
                 const QString text =
                     m_conversion.Mp3ConvertQueue.isEmpty()
-                        ? QStringLiteral("This will stop and save the MP3 conversion in progress. "
-                                         " Are you sure you want to stop the MP3 conversion?")
-                        : QStringLiteral("This will stop and save the MP3 conversion in progress "
-                                         "and abort the remaining MP3 conversions in the queue.   "
-                                         "Are you sure you want to stop the MP3 conversion?");
-                if (m_s.messageBox.Show(QStringLiteral("Nightreel 2000"), text, MsgIcon::Question,
+                        ? tr("This will stop and save the MP3 conversion in progress. "
+                             " Are you sure you want to stop the MP3 conversion?")
+                        : tr("This will stop and save the MP3 conversion in progress "
+                             "and abort the remaining MP3 conversions in the queue.   "
+                             "Are you sure you want to stop the MP3 conversion?");
+                if (m_s.messageBox.Show(tr("Nightreel 2000"), text, MsgIcon::Question,
                                         MsgButtons::YesNo) != MsgResult::Yes)
                     return;
             }
@@ -496,14 +494,13 @@ void RecordingControl::StopRecordingSteps()
         LaunchAfterRecording(m_s.log, m_s.launcher, true, status.LaunchAppAfter,
                              status.LaunchAfterOnlyIfOk, status.FinalFile);
     } else {
-        m_s.log.LogEvent(
-            EventError, QStringLiteral("Recording failed"),
-            QStringLiteral("The following recording failed since no recording data was "
-                           "written:\r\n") +
-                status.Description +
-                QStringLiteral("\r\n\r\nTry a different recording format or bit rate.  If you "
-                               "are performing a short (under 30 seconds) recording, try "
-                               "extending the time by a few seconds."));
+        m_s.log.LogEvent(EventError, tr("Recording failed"),
+                         tr("The following recording failed since no recording data was "
+                            "written:\r\n") +
+                             status.Description +
+                             tr("\r\n\r\nTry a different recording format or bit rate.  If you "
+                                "are performing a short (under 30 seconds) recording, try "
+                                "extending the time by a few seconds."));
         status.Failed = true;
         QFile::remove(status.RecordingFile);
         LaunchAfterRecording(m_s.log, m_s.launcher, false, status.LaunchAppAfter,
@@ -516,8 +513,8 @@ void RecordingControl::StopRecordingSteps()
         if (!status.InternetLink.trimmed().isEmpty()) {
             const QString playerClose = status.StreamingPlayerClose.trimmed();
             if (!m_s.hasDisplay && playerClose != StreamingPlayerClose::DoNotClose)
-                m_s.log.LogEvent(EventInformation, QStringLiteral("Streaming player not closed"),
-                                 QStringLiteral("There is no display to close it on."));
+                m_s.log.LogEvent(EventInformation, tr("Streaming player not closed"),
+                                 tr("There is no display to close it on."));
             else if (playerClose.isEmpty())
                 m_player.CloseNewWindows();
             else if (playerClose != StreamingPlayerClose::DoNotClose)
@@ -575,7 +572,7 @@ void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString
 
         if (File.endsWith(QStringLiteral(".mp3"), Qt::CaseInsensitive))
             Mp3File::WriteId3Tag(File, Title, QString(), QString(), QString(),
-                                 QStringLiteral("Nightreel 2000 Recording"), 12);
+                                 tr("Nightreel 2000 Recording"), 12);
 
         m_s.options.SaveRecentRecording(m_s.registry, File, Title, StartTime);
     });

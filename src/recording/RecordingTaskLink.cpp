@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
 #include <QThread>
@@ -26,6 +27,18 @@ int serverCount = 0;
 void Sleep(int milliseconds)
 {
     QThread::msleep(milliseconds);
+}
+
+// A process that has neither ended nor become a zombie; the task is started detached, so
+// its exit is seen only here.
+bool ProcessAlive(qint64 pid)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray line = stat.readAll();
+    const qsizetype state = line.lastIndexOf(')') + 2;
+    return state > 1 && state < line.size() && line[state] != 'Z' && line[state] != 'X';
 }
 
 } // namespace
@@ -128,6 +141,13 @@ void RecordingTaskLink::OnReadyRead(QLocalSocket* socket)
             c->helloSeen = true;
             c->identified = frame.payload == QByteArray(TaskClass) + '\n' + TaskTitle;
             c->pid = frame.argument;
+            c->primed = m_primedPid != 0 && c->pid == m_primedPid;
+            if (m_endedPrimed.removeOne(c->pid)) {
+                c->identified = false;
+                Post(socket, WM_CLOSE);
+                socket->disconnectFromServer();
+                return;
+            }
             break;
         case Kind::Reply:
             for (PendingCall* call : m_pendingCalls) {
@@ -139,6 +159,10 @@ void RecordingTaskLink::OnReadyRead(QLocalSocket* socket)
             }
             break;
         case Kind::Post:
+            if (c->primed) {
+                OnPrimedPost(*c, frame.number, frame.argument);
+                break;
+            }
             if (c->helloSeen) {
                 qint32 result = 0;
                 m_postPayload = frame.payload;
@@ -166,7 +190,7 @@ QLocalSocket* RecordingTaskLink::FindWindowA()
     }
     m_window = nullptr;
     for (const Connection& c : m_connections) {
-        if (c.identified && c.socket->state() == QLocalSocket::ConnectedState) {
+        if (c.identified && !c.primed && c.socket->state() == QLocalSocket::ConnectedState) {
             m_window = c.socket;
             break;
         }
@@ -215,19 +239,95 @@ qint32 RecordingTaskLink::Call(quint32 msg)
     return call.answered ? call.result : 0;
 }
 
-void RecordingTaskLink::StartTask()
+void RecordingTaskLink::StartTask(const QStringList& options)
 {
     qint64 pid = 0;
     // Whether the start worked is not asked: a task that never comes is met by the time-out.
-    QProcess::startDetached(m_taskProgram, {ServerName()}, QString(), &pid);
-    if (pid > 0)
+    QProcess::startDetached(m_taskProgram, options + QStringList{ServerName()}, QString(), &pid);
+    if (pid <= 0)
+        return;
+    if (options.isEmpty())
         m_startedTasks << pid;
+    else
+        m_primedPid = pid;
+}
+
+void RecordingTaskLink::StartPrimedTask(const WaveFormatRecord& format)
+{
+    EndPrimedTask();
+    m_primedFormat = format;
+    StartTask({QStringLiteral("--primed")});
+}
+
+RecordingTaskLink::Connection* RecordingTaskLink::PrimedConnection()
+{
+    for (Connection& c : m_connections) {
+        if (c.primed && c.socket->state() == QLocalSocket::ConnectedState)
+            return &c;
+    }
+    return nullptr;
+}
+
+void RecordingTaskLink::OnPrimedPost(Connection& c, quint32 msg, qint32 argument)
+{
+    // Nothing a primed task says reaches the recording: only whether it came up. A failure
+    // after that (its input gone) makes it unfit as well.
+    if (msg == REC_MSG_READY && c.primedCode < 0)
+        c.primedCode = argument;
+    else if (msg == REC_MSG_ERROR)
+        c.primedCode = argument;
+}
+
+void RecordingTaskLink::EndPrimedTask()
+{
+    if (!m_primedPid)
+        return;
+    if (Connection* c = PrimedConnection()) {
+        Post(c->socket, WM_CLOSE);
+        c->socket->disconnectFromServer();
+    } else {
+        m_endedPrimed << m_primedPid;
+    }
+    m_primedPid = 0;
+}
+
+bool RecordingTaskLink::TakeOverPrimedTask()
+{
+    if (!m_primedPid)
+        return false;
+    const std::optional<RecParms> parms = RecParms::Read(ParameterFile());
+    if (!parms || parms->format != m_primedFormat || !parms->streamUrl.isEmpty()) {
+        EndPrimedTask();
+        return false;
+    }
+    // A task on its way is waited for as a new one would be, from where it is.
+    m_timedOut = false;
+    TimerTimeout.SetInterval(m_activationTimeout);
+    for (;;) {
+        const Connection* c = PrimedConnection();
+        if (m_timedOut || (c ? c->primedCode >= 0 : !ProcessAlive(m_primedPid)))
+            break;
+        UnattendedPath::LetEventsRun();
+        Sleep(5);
+    }
+    Connection* c = PrimedConnection();
+    if (!c || c->primedCode != 0) {
+        EndPrimedTask();
+        return false;
+    }
+    c->primed = false;
+    m_startedTasks << c->pid;
+    m_primedPid = 0;
+    m_window = c->socket;
+    return true;
 }
 
 bool RecordingTaskLink::ActivateNightreeltask()
 {
     bool activated = false;
     m_capturing = false;
+    if (TakeOverPrimedTask())
+        return true;
     Trap(m_log, "ActivateNightreeltask", [&] {
         for (int attempt = 0; attempt <= 2; ++attempt) {
             // Only the last attempt reports; the first two failures are silent.
@@ -241,9 +341,8 @@ bool RecordingTaskLink::ActivateNightreeltask()
                     Sleep(1000);
                     if (FindWindowA()) {
                         if (reporting)
-                            m_log.LogEvent(
-                                EventError, QStringLiteral("Error removing Recording Process."),
-                                QStringLiteral("This may require the system to be restarted."));
+                            m_log.LogEvent(EventError, tr("Error removing Recording Process."),
+                                           tr("This may require the system to be restarted."));
                         failed = true;
                     }
                 }
@@ -259,11 +358,10 @@ bool RecordingTaskLink::ActivateNightreeltask()
                                                  QEventLoop::WaitForMoreEvents);
                     if (m_timedOut) {
                         if (reporting)
-                            m_log.LogEvent(
-                                EventError, QStringLiteral("Error activating recording task."),
-                                QStringLiteral("Timeout occurred.  Try restarting software or "
-                                               "rebooting system. If problem persists try a "
-                                               "different recording format."));
+                            m_log.LogEvent(EventError, tr("Error activating recording task."),
+                                           tr("Timeout occurred.  Try restarting software or "
+                                              "rebooting system. If problem persists try a "
+                                              "different recording format."));
                         failed = true;
                         break;
                     }
@@ -278,11 +376,10 @@ bool RecordingTaskLink::ActivateNightreeltask()
                         if (!FindWindowA()) {
                             // This text differs from the one above by " -"; intended.
                             if (reporting)
-                                m_log.LogEvent(
-                                    EventError, QStringLiteral("Error activating recording task."),
-                                    QStringLiteral("Timeout occurred.  - Try restarting software "
-                                                   "or rebooting system. If problem persists try "
-                                                   "a different recording format."));
+                                m_log.LogEvent(EventError, tr("Error activating recording task."),
+                                               tr("Timeout occurred.  - Try restarting software "
+                                                  "or rebooting system. If problem persists try "
+                                                  "a different recording format."));
                             failed = true;
                         }
                         break;
@@ -363,11 +460,10 @@ void RecordingTaskLink::Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint
 
 void RecordingTaskLink::UnexpectedCode(qint64 number)
 {
-    m_log.LogEvent(EventError, QStringLiteral("Run Time Error"),
-                   QStringLiteral("Unexpected code from recording process.  Code=") +
-                       Text::Str(number) +
-                       QStringLiteral(" If problem persists, try a different recording "
-                                      "format or restarting the system"));
+    m_log.LogEvent(EventError, tr("Run Time Error"),
+                   tr("Unexpected code from recording process.  Code=") + Text::Str(number) +
+                       tr(" If problem persists, try a different recording "
+                          "format or restarting the system"));
     emit StopRecording();
 }
 

@@ -2,6 +2,7 @@
 
 #include "common/IntervalTimer.h"
 #include "taskcontract/TaskProtocol.h"
+#include "taskcontract/WaveFormatRecord.h"
 
 #include <QList>
 #include <QLocalServer>
@@ -41,8 +42,16 @@ public:
     QString ServerName() const;
     QString ParameterFile() const;
 
-    // Removes any old task, starts a new one and waits for it to say it is ready.
+    // Removes any old task, starts a new one and waits for it to say it is ready. A primed
+    // task whose capture format fits the parameter file is taken over instead.
     bool ActivateNightreeltask();
+    // Starts a task ahead of a scheduled start, with its capture open in the format of the
+    // parameter file just written, and does not wait. It stays apart from "the task's
+    // window" until an activation takes it over; until then it counts as no started task.
+    void StartPrimedTask(const WaveFormatRecord& format);
+    // Ends the primed task, which leaves no file; harmless when there is none.
+    void EndPrimedTask();
+    bool HasPrimedTask() const { return m_primedPid != 0; }
     // The dispatch of what reaches the main window's hook. False hands the message on to the
     // default handler (a system command other than minimise); result is then not set.
     bool sbcls1_WndProc(quint32 msg, qint32 wParam, qint32 lParam, qint32& result);
@@ -102,6 +111,9 @@ private:
         bool helloSeen = false;
         bool identified = false;
         qint64 pid = 0;
+        bool primed = false;
+        // What a primed task said when it came up: -1 before its ready message, else its code.
+        qint32 primedCode = -1;
     };
     struct PendingCall {
         QLocalSocket* socket;
@@ -118,7 +130,10 @@ private:
     QLocalSocket* FindWindowA();
     void Post(QLocalSocket* socket, quint32 msg);
     qint32 Call(quint32 msg);
-    void StartTask();
+    void StartTask(const QStringList& options = {});
+    Connection* PrimedConnection();
+    void OnPrimedPost(Connection& c, quint32 msg, qint32 argument);
+    bool TakeOverPrimedTask();
     void UnexpectedCode(qint64 number);
     void Dispatch(quint32 msg, qint32 wParam, qint32 lParam, qint32& result);
 
@@ -131,6 +146,10 @@ private:
     QPointer<QLocalSocket> m_window;
     QList<PendingCall*> m_pendingCalls;
     QList<qint64> m_startedTasks;
+    qint64 m_primedPid = 0;
+    WaveFormatRecord m_primedFormat;
+    // Primed tasks ended before they were heard from: they are sent away when they are.
+    QList<qint64> m_endedPrimed;
     bool m_taskResponded = false;
     qint32 m_taskStatusCode = 0;
     bool m_timedOut = false;

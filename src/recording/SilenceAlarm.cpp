@@ -18,10 +18,10 @@ SilenceAlarm::SilenceAlarm(EventLog& log, clsError& error, const clsRecordingSta
 QString SilenceAlarm::Details(qint32 level, const QString& source) const
 {
     const QString levelText = level == TaskProtocol::NoSignalLevel
-                                  ? QStringLiteral("no signal at all")
-                                  : QString::number(level / 10.0, 'f', 1) + QStringLiteral(" dBFS");
-    return QStringLiteral("Recording: ") + m_status.Description + QStringLiteral("\r\nSource: ") +
-           source + QStringLiteral("\r\nPeak level: ") + levelText;
+                                  ? tr("no signal at all")
+                                  : QString::number(level / 10.0, 'f', 1) + tr(" dBFS");
+    return tr("Recording: ") + m_status.Description + tr("\r\nSource: ") + source +
+           tr("\r\nPeak level: ") + levelText;
 }
 
 void SilenceAlarm::InputSilent(qint32 level, const QString& source)
@@ -30,7 +30,7 @@ void SilenceAlarm::InputSilent(qint32 level, const QString& source)
         if (m_silent)
             return;
         m_silent = true;
-        m_log.LogEvent(EventWarning, QStringLiteral("Recording is silent"), Details(level, source));
+        m_log.LogEvent(EventWarning, tr("Recording is silent"), Details(level, source));
         m_error.SetRecordingSilent(true);
     });
 }
@@ -41,8 +41,7 @@ void SilenceAlarm::SoundReturned(qint32 level, const QString& source)
         if (!m_silent)
             return;
         m_silent = false;
-        m_log.LogEvent(EventInformation, QStringLiteral("Recording has sound again"),
-                       Details(level, source));
+        m_log.LogEvent(EventInformation, tr("Recording has sound again"), Details(level, source));
         m_error.SetRecordingSilent(false);
     });
 }

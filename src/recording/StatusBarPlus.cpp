@@ -10,10 +10,9 @@
 #include "recording/clsRecordingStatus.h"
 #include "store/Options.h"
 
-namespace {
+#include <QCoreApplication>
 
-const QString kDiskStopMessage =
-    QStringLiteral("Recording stopped due to insufficient disk space.");
+namespace {
 
 // The folder part of a path, with its closing separator.
 QString FolderOf(const QString& path)
@@ -31,8 +30,9 @@ QString SecondsOrMinutes(double from, double to, const QString& what)
     const qint64 seconds = std::max<qint64>(0, AutomationDate::SecondsBetween(from, to));
     if (seconds >= 120)
         return QString::number(AutomationDate::MinutesBetween(from, to)) +
-               QStringLiteral(" minutes ") + what;
-    return QString::number(seconds) + QStringLiteral(" seconds ") + what;
+               QCoreApplication::translate("StatusBarPlus", " minutes ") + what;
+    return QString::number(seconds) + QCoreApplication::translate("StatusBarPlus", " seconds ") +
+           what;
 }
 
 } // namespace
@@ -106,9 +106,9 @@ StatusBarPlus::Update StatusBarPlus::Run(const QString& convertingText,
     if (disk.usedPercent != m_shownDisk.usedPercent || disk.free != m_shownDisk.free ||
         m_diskText.isEmpty()) {
         m_shownDisk = disk;
-        m_diskText = QStringLiteral("Disk Space Used: ") + OneDecimal(disk.usedPercent) + u'%';
-        m_diskToolTip = OneDecimal(disk.usedPercent) + QStringLiteral("% used, ") +
-                        OneDecimal(disk.free) + QStringLiteral(" Megabytes remaining");
+        m_diskText = tr("Disk Space Used: ") + OneDecimal(disk.usedPercent) + u'%';
+        m_diskToolTip = OneDecimal(disk.usedPercent) + tr("% used, ") + OneDecimal(disk.free) +
+                        tr(" Megabytes remaining");
     }
     u.diskText = m_diskText;
     u.diskToolTip = m_diskToolTip;
@@ -130,7 +130,7 @@ bool StatusBarPlus::GuardRecording(const DiskSpaceMb& disk,
         const float size = pendingConversion->DestinationFormat.CalcStorageMbytesSng(qint32(total));
         const double written = double(size) * fraction + 0.5;
         if (disk.free - written < stopLimit)
-            details = QStringLiteral(
+            details = tr(
                 "\r\nRemove recordings from disk or change the recording directory to a "
                 "different disk drive.  Note: MP3 conversion also requires temporary storage for "
                 "the PCM recording in the default recording folder.  Since the PCM file is "
@@ -138,17 +138,16 @@ bool StatusBarPlus::GuardRecording(const DiskSpaceMb& disk,
                 "needed for any temporary PCM files which have not finished converting.");
     }
     if (details.isEmpty() && disk.free + 0.5 < stopLimit)
-        details = QStringLiteral("\r\nRemove recordings from disk or change the recording "
-                                 "directory to a different disk drive.");
+        details = tr("\r\nRemove recordings from disk or change the recording "
+                     "directory to a different disk drive.");
     if (details.isEmpty())
         return false;
     const QString recording =
         m_recordingStatus.RecordingFile + u'@' + QString::number(m_recordingStatus.StartTime);
     if (m_recordingLogged != recording) {
         m_recordingLogged = recording;
-        m_log.LogEvent(EventError, kDiskStopMessage,
-                       QStringLiteral("Recording Description: ") + m_recordingStatus.Description +
-                           details);
+        m_log.LogEvent(EventError, tr("Recording stopped due to insufficient disk space."),
+                       tr("Recording Description: ") + m_recordingStatus.Description + details);
     }
     return true;
 }
@@ -162,8 +161,7 @@ void StatusBarPlus::GuardConversion(const DiskSpaceMb& disk)
     if (m_conversionLogged == conversion)
         return;
     m_conversionLogged = conversion;
-    m_log.LogEvent(EventError,
-                   QStringLiteral("MP3 conversion stopped due to insufficient disk space."),
-                   QStringLiteral("Remove recordings from disk or change the default recording "
-                                  "directory to a different disk drive."));
+    m_log.LogEvent(EventError, tr("MP3 conversion stopped due to insufficient disk space."),
+                   tr("Remove recordings from disk or change the default recording "
+                      "directory to a different disk drive."));
 }

@@ -2,6 +2,7 @@
 
 #include "platform/DiskSpace.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 class Clock;
@@ -66,4 +67,6 @@ private:
     DiskSpaceMb m_shownDisk;
     QString m_diskText;
     QString m_diskToolTip;
+
+    Q_DECLARE_TR_FUNCTIONS(StatusBarPlus)
 };

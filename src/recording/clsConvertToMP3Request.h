@@ -2,6 +2,7 @@
 
 #include "formats/clsRecordingFormat.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <memory>
 

@@ -13,6 +13,7 @@
 #include "scheduling/StreamAddress.h"
 #include "store/Options.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QTimer>
@@ -41,11 +42,11 @@ QString DefaultFilenameCaption(qint16 fileNameFormat)
 {
     switch (fileNameFormat) {
     case 1:
-        return QStringLiteral("YY&MMDD_hhmmss");
+        return QCoreApplication::translate("frmManualRecord", "YY&MMDD_hhmmss");
     case 2:
-        return QStringLiteral("DD&MMYY_hhmmss");
+        return QCoreApplication::translate("frmManualRecord", "DD&MMYY_hhmmss");
     default:
-        return QStringLiteral("&MMDDYY_hhmmss");
+        return QCoreApplication::translate("frmManualRecord", "&MMDDYY_hhmmss");
     }
 }
 
@@ -161,9 +162,8 @@ void frmManualRecord::CalcStorage()
         const float mbytes = m_workingFormat.CalcStorageMbytesSng(DurationSecondsOfFields());
         // Below ten Mbytes the Kbytes figure with the digits a single-precision number has.
         LabelDiskSpaceData->setText(
-            mbytes >= 10.0f
-                ? QString::number(double(mbytes), 'f', 1) + QStringLiteral(" Mbytes")
-                : QString::number(double(mbytes * 1024.0f), 'g', 7) + QStringLiteral(" Kbytes"));
+            mbytes >= 10.0f ? QString::number(double(mbytes), 'f', 1) + tr(" Mbytes")
+                            : QString::number(double(mbytes * 1024.0f), 'g', 7) + tr(" Kbytes"));
     });
 }
 
@@ -195,14 +195,13 @@ void frmManualRecord::CommandOk_Click()
         bool failed = false;
         if (optUserFilename->isChecked()) {
             if (InvalidFilenameCharacters(txtFilename->text())) {
-                warn(QStringLiteral("Invalid Filename"),
-                     QStringLiteral("The filename cannot contain any of the following "
-                                    "characters:\n\\ / : * ? \" < > | "));
+                warn(tr("Invalid Filename"), tr("The filename cannot contain any of the following "
+                                                "characters:\n\\ / : * ? \" < > | "));
                 failed = true;
             } else {
                 const QString name = UserFilenameBase(txtFilename->text());
                 if (name.isEmpty()) {
-                    warn(QStringLiteral("Invalid Filename"), QStringLiteral("Invalid Filename"));
+                    warn(tr("Invalid Filename"), tr("Invalid Filename"));
                     failed = true;
                 } else {
                     request.Filename = name;
@@ -214,16 +213,15 @@ void frmManualRecord::CommandOk_Click()
 
         if (m_s.appStatus.Recording()) {
             if (!QuickStart)
-                warn(QStringLiteral("Recording already in progress"),
-                     QStringLiteral("The manual recording request will not be processed since "
-                                    "recording is already in progress."));
+                warn(tr("Recording already in progress"),
+                     tr("The manual recording request will not be processed since "
+                        "recording is already in progress."));
             failed = true;
             reject();
         }
 
         if (Text::Trim(TextProgramDescription->text()).isEmpty()) {
-            warn(QStringLiteral("Program description required"),
-                 QStringLiteral("Please enter a program description."));
+            warn(tr("Program description required"), tr("Please enter a program description."));
             TextProgramDescription->setFocus();
             failed = true;
         }
@@ -231,7 +229,7 @@ void frmManualRecord::CommandOk_Click()
         if (!failed && frameSource->StreamChosen()) {
             const QString problem = StreamAddress::Problem(frameSource->txtStreamUrl->text());
             if (!problem.isEmpty()) {
-                warn(QStringLiteral("Invalid stream address"), problem);
+                warn(tr("Invalid stream address"), problem);
                 frameSource->txtStreamUrl->setFocus();
                 failed = true;
             }
@@ -245,10 +243,10 @@ void frmManualRecord::CommandOk_Click()
         const qint64 minutes = FieldValue(TextDurationHours) * 60 + FieldValue(TextDurationMinutes);
         if (!QuickStart && !failed && m_s.options.ConfirmLongRecordings &&
             minutes > qint64(m_s.options.LongRecordingHours) * 60 &&
-            box.Show(QStringLiteral("Long Recording Confirmation"),
-                     QStringLiteral("A recording longer than ") +
+            box.Show(tr("Long Recording Confirmation"),
+                     tr("A recording longer than ") +
                          QString::number(m_s.options.LongRecordingHours) +
-                         QStringLiteral(" hours is programmed.  Record? "),
+                         tr(" hours is programmed.  Record? "),
                      MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
             failed = true;
 

@@ -37,7 +37,7 @@ QList<DiskForecastRow> DiskForecast::Rows(double freeMbytes, qint16 stopMbytes,
             bool last = false;
             if (remaining < stopMbytes) {
                 remaining = stopMbytes;
-                row.description = Text::Left(row.description, 25) + TruncatedMark;
+                row.description = Text::Left(row.description, 25) + TruncatedMark();
                 last = true;
             }
             row.remainingMbytes = qint32(Text::RoundHalfEven(remaining));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 #include <QtGlobal>
@@ -22,7 +23,10 @@ struct DiskForecastRow {
 class DiskForecast {
 public:
     static constexpr int MaxRows = 101;
-    static inline const QString TruncatedMark = QStringLiteral("  **TRUNCATED**");
+    static QString TruncatedMark()
+    {
+        return QCoreApplication::translate("DiskForecast", "  **TRUNCATED**");
+    }
 
     DiskForecast(const Clock& clock, Scheduler& scheduler, EventLog& log);
 

@@ -10,6 +10,7 @@
 #include "scheduling/clsWeekdays.h"
 #include "store/AppDatabase.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
 #include <algorithm>
@@ -65,21 +66,25 @@ qint32 DurationSeconds(double startTime, double endTime)
 
 QString DurationText(qint32 seconds)
 {
-    return QString::number(seconds / 3600) + QStringLiteral(" hours ") +
-           QString::number(seconds % 3600 / 60) + QStringLiteral(" min ") +
-           QString::number(seconds % 60) + QStringLiteral(" sec");
+    return QString::number(seconds / 3600) +
+           QCoreApplication::translate("ProgramEditor", " hours ") +
+           QString::number(seconds % 3600 / 60) +
+           QCoreApplication::translate("ProgramEditor", " min ") + QString::number(seconds % 60) +
+           QCoreApplication::translate("ProgramEditor", " sec");
 }
 
 QString DiskSpaceText(float mbytes)
 {
     if (mbytes >= 10.0f)
-        return QString::number(double(mbytes), 'f', 1) + QStringLiteral(" Mbytes");
-    return QString::number(double(mbytes * 1024.0f), 'f', 1) + QStringLiteral(" Kbytes");
+        return QString::number(double(mbytes), 'f', 1) +
+               QCoreApplication::translate("ProgramEditor", " Mbytes");
+    return QString::number(double(mbytes * 1024.0f), 'f', 1) +
+           QCoreApplication::translate("ProgramEditor", " Kbytes");
 }
 
 QString DescriptionText(const QString& description, bool enabled)
 {
-    return enabled ? description : Text::Left(description, 25) + DisabledMark;
+    return enabled ? description : Text::Left(description, 25) + DisabledMark();
 }
 
 ProgramFormValues NewProgramValues(double now)

@@ -3,6 +3,7 @@
 #include "formats/clsRecordingFormat.h"
 #include "scheduling/StreamingPlayerClose.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QtGlobal>
 #include <array>
@@ -50,9 +51,19 @@ struct ProgramFormValues {
 namespace ProgramEditor {
 
 using StreamingPlayerClose::DoNotClose;
-inline const QString NoneSelected = QStringLiteral("(none selected)");
-inline const QString NoneAvailable = QStringLiteral("(none available)");
-inline const QString DisabledMark = QStringLiteral("   **DISABLED** ");
+// The mixer profile lists' entries that name no profile.
+inline QString NoneSelected()
+{
+    return QCoreApplication::translate("ProgramEditor", "(none selected)");
+}
+inline QString NoneAvailable()
+{
+    return QCoreApplication::translate("ProgramEditor", "(none available)");
+}
+inline QString DisabledMark()
+{
+    return QCoreApplication::translate("ProgramEditor", "   **DISABLED** ");
+}
 
 // A delay typed as text: its numeric value ("abc" is 0), rounded half to even to 16 bits
 // and clamped to 0..120. A value beyond 16 bits fails with an overflow.

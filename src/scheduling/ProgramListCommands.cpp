@@ -6,6 +6,8 @@
 #include "scheduling/Scheduler.h"
 #include "store/AppDatabase.h"
 
+#include <QCoreApplication>
+
 ProgramListCommands::ProgramListCommands(const ProgramListServices& services, ProgramListView& view)
     : m_services(services)
     , m_view(view)
@@ -112,10 +114,9 @@ void ProgramListCommands::RemovePrograms()
         const QList<qint64> selected = m_view.SelBookmarks();
         if (selected.isEmpty())
             return;
-        if (m_services.messageBox.Show(
-                QStringLiteral("Remove Programs"),
-                QStringLiteral("Are you sure you want to remove the selected programs."),
-                MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
+        if (m_services.messageBox.Show(tr("Remove Programs"),
+                                       tr("Are you sure you want to remove the selected programs."),
+                                       MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
             return;
         for (const qint64 bookmark : selected) {
             rs.SetBookmark(bookmark);
@@ -149,11 +150,11 @@ void ProgramListCommands::ToggleProgramEnables()
             rs.SetBookmark(current);
             const bool enabled = Field::ToBool(rs.Value(QStringLiteral("Enabled")));
             const QString question =
-                enabled ? QStringLiteral("Are you sure you want to disable the selected program?")
-                        : QStringLiteral("Are you sure you want to enable the selected program?");
+                enabled ? tr("Are you sure you want to disable the selected program?")
+                        : tr("Are you sure you want to enable the selected program?");
             // The question has no title of its own: the box carries the program's name.
-            if (m_services.messageBox.Show(QStringLiteral("Nightreel 2000"), question,
-                                           MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
+            if (m_services.messageBox.Show(tr("Nightreel 2000"), question, MsgIcon::None,
+                                           MsgButtons::YesNo) != MsgResult::Yes)
                 return;
             enable = !enabled;
         } else {

@@ -2,6 +2,7 @@
 
 #include "scheduling/ProgramEditor.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QtGlobal>
 
@@ -71,4 +72,6 @@ private:
 
     ProgramListServices m_services;
     ProgramListView& m_view;
+
+    Q_DECLARE_TR_FUNCTIONS(ProgramListCommands)
 };

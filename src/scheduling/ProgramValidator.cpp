@@ -6,6 +6,7 @@
 #include "scheduling/StreamAddress.h"
 #include "store/Options.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 namespace {
@@ -33,52 +34,50 @@ ProgramValidator::FirstFailedCheck(const ProgramCheckValues& v) const
 {
     const ProgramEditor::ConflictQuery& when = v.schedule;
     if (!when.oneTime && std::none_of(when.days.begin(), when.days.end(), [](bool d) { return d; }))
-        return Refused(QStringLiteral("No days selected"),
-                       QStringLiteral("At least one day needs to be selected."));
+        return Refused(tr("No days selected"), tr("At least one day needs to be selected."));
     if (v.userFilename) {
         if (InvalidFilenameCharacters(v.filenameUser))
-            return Refused(QStringLiteral("Invalid Filename"),
-                           QStringLiteral("The filename cannot contain any of the following "
-                                          "characters:\n") +
+            return Refused(tr("Invalid Filename"),
+                           tr("The filename cannot contain any of the following "
+                              "characters:\n") +
                                kForbiddenList);
         if (UserFilenameBase(v.filenameUser).isEmpty())
-            return Refused(QStringLiteral("Invalid Filename"), QStringLiteral("Invalid Filename"));
+            return Refused(tr("Invalid Filename"), tr("Invalid Filename"));
     } else {
         if (v.prefixChecked && InvalidFilenameCharacters(v.prefix))
-            return Refused(QStringLiteral("Invalid Filename Prefix"),
-                           QStringLiteral("The filename prefix cannot contain any of the "
-                                          "following characters:\n") +
+            return Refused(tr("Invalid Filename Prefix"),
+                           tr("The filename prefix cannot contain any of the "
+                              "following characters:\n") +
                                kForbiddenList);
         if (v.suffixChecked && InvalidFilenameCharacters(v.suffix))
-            return Refused(QStringLiteral("Invalid Filename Suffix"),
-                           QStringLiteral("The filename suffix cannot contain any of the "
-                                          "following characters:\n") +
+            return Refused(tr("Invalid Filename Suffix"),
+                           tr("The filename suffix cannot contain any of the "
+                              "following characters:\n") +
                                kForbiddenList);
     }
     if (Text::Trim(v.description).isEmpty())
-        return Refused(QStringLiteral("Program description required"),
-                       QStringLiteral("Please enter a program description."),
+        return Refused(tr("Program description required"),
+                       tr("Please enter a program description."),
                        QStringLiteral("TextProgramDescription"));
     // Edits too: a one-time program whose time has passed can't be saved until moved.
     if (when.oneTime && when.oneTimeDay + when.startTime < m_clock.Now())
-        return Refused(QStringLiteral("Invalid date and time"),
-                       QStringLiteral("The scheduled date and time must be later than the "
-                                      "current time."));
+        return Refused(tr("Invalid date and time"),
+                       tr("The scheduled date and time must be later than the "
+                          "current time."));
     if (v.streamSource) {
         const QString problem = StreamAddress::Problem(v.streamUrl);
         if (!problem.isEmpty())
-            return Refused(QStringLiteral("Invalid stream address"), problem,
-                           QStringLiteral("txtStreamUrl"));
+            return Refused(tr("Invalid stream address"), problem, QStringLiteral("txtStreamUrl"));
     }
     // Only an enabled program is refused for a conflict; a disabled one may be saved in
     // conflict and enabled later without a test.
     QString other;
     if (ProgramEditor::ProgramingConflict(m_database, when, other) && v.enabled)
-        return Refused(QStringLiteral("Schedule Conflict"),
-                       QStringLiteral("There is a scheduling conflict with another program. "
-                                      "Please modify the recording time or remove/disable the "
-                                      "conflicting program.\n\nConflicting Program "
-                                      "Description: ") +
+        return Refused(tr("Schedule Conflict"),
+                       tr("There is a scheduling conflict with another program. "
+                          "Please modify the recording time or remove/disable the "
+                          "conflicting program.\n\nConflicting Program "
+                          "Description: ") +
                            other);
     return std::nullopt;
 }
@@ -87,9 +86,9 @@ std::optional<ProgramCheckMessage> ProgramValidator::LongRecordingQuestion(qint3
 {
     if (!m_options.ConfirmLongRecordings || seconds <= qint32(m_options.LongRecordingHours) * 3600)
         return std::nullopt;
-    return ProgramCheckMessage{QStringLiteral("Long Recording Confirmation"),
-                               QStringLiteral("A recording longer than ") +
+    return ProgramCheckMessage{tr("Long Recording Confirmation"),
+                               tr("A recording longer than ") +
                                    QString::number(m_options.LongRecordingHours) +
-                                   QStringLiteral(" hours is programmed.  Save this programming? "),
+                                   tr(" hours is programmed.  Save this programming? "),
                                QString()};
 }

@@ -2,6 +2,7 @@
 
 #include "scheduling/ProgramEditor.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <optional>
 
@@ -55,4 +56,6 @@ private:
     AppDatabase& m_database;
     const Clock& m_clock;
     const Options& m_options;
+
+    Q_DECLARE_TR_FUNCTIONS(ProgramValidator)
 };

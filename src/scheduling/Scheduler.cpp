@@ -11,6 +11,7 @@
 #include "store/AppDatabase.h"
 #include "store/Options.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 
@@ -284,10 +285,10 @@ void Scheduler::OfferRemovalOfExpiredPrograms()
         if (!any)
             return;
         const MsgResult answer = m_messageBox.Show(
-            QStringLiteral("Missed recordings"),
-            QStringLiteral("Nightreel 2000 has determined that some of the one-time recordings "
-                           "were not performed since the scheduled recording time is prior to "
-                           "the current date/time. Removed all expired scheduled programs?"),
+            tr("Missed recordings"),
+            tr("Nightreel 2000 has determined that some of the one-time recordings "
+               "were not performed since the scheduled recording time is prior to "
+               "the current date/time. Removed all expired scheduled programs?"),
             MsgIcon::Exclamation, MsgButtons::YesNo);
         if (answer != MsgResult::Yes)
             return;

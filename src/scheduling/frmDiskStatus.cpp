@@ -57,7 +57,7 @@ frmDiskStatus::frmDiskStatus(EventLog& log, RegKeys& registry, const Options& op
     , m_registry(registry)
 {
     setObjectName(QStringLiteral("frmDiskStatus"));
-    setWindowTitle(QStringLiteral("Disk Status"));
+    setWindowTitle(tr("Disk Status"));
     setSizeGripEnabled(true);
     const auto label = [this](const char* name) {
         auto* l = new QLabel(this);
@@ -77,9 +77,8 @@ frmDiskStatus::frmDiskStatus(EventLog& log, RegKeys& registry, const Options& op
     m_gridCaption->setBackgroundRole(QPalette::Button);
 
     m_rows = new QStandardItemModel(0, 4, this);
-    m_rows->setHorizontalHeaderLabels({QStringLiteral("Description"),
-                                       QStringLiteral("Start Date/Time"),
-                                       QStringLiteral("End Date/Time"), QStringLiteral("Mbytes")});
+    m_rows->setHorizontalHeaderLabels(
+        {tr("Description"), tr("Start Date/Time"), tr("End Date/Time"), tr("Mbytes")});
     TDBGrid1 = new QTableView(this);
     TDBGrid1->setObjectName(QStringLiteral("TDBGrid1"));
     TDBGrid1->setModel(m_rows);
@@ -91,7 +90,7 @@ frmDiskStatus::frmDiskStatus(EventLog& log, RegKeys& registry, const Options& op
     TDBGrid1->horizontalHeader()->setStretchLastSection(true);
     TDBGrid1->horizontalHeader()->setHighlightSections(false);
 
-    btnExit = new QPushButton(QStringLiteral("E&xit"), this);
+    btnExit = new QPushButton(tr("E&xit"), this);
     btnExit->setObjectName(QStringLiteral("btnExit"));
     connect(btnExit, &QPushButton::clicked, this, &QDialog::reject);
 
@@ -125,16 +124,13 @@ void frmDiskStatus::FormLoad(const Options& options, const clsError& error, Disk
         const QString folder = options.DefaultRecordingDirectory;
         const DiskSpaceMb disk = diskSpace.GetRecDirDiskSpaceMb(folder);
         // The drive of a recording folder is the file system it lies on: its mount point.
-        lblCurrentDrive->setText(QStringLiteral("Default Recording Drive: ") +
-                                 QStorageInfo(folder).rootPath());
-        lblDiskSpaceUsed->setText(QStringLiteral("Disk Space Used: ") + Megabytes(disk.used) +
-                                  QStringLiteral(" Megabytes"));
-        lblPercentUsed->setText(QStringLiteral("Percent Used: ") + Percent(disk.usedPercent) +
-                                u'%');
-        lblDiskCapacity->setText(QStringLiteral("Disk Capacity: ") + Megabytes(disk.total) +
-                                 QStringLiteral(" Megabytes"));
-        lblDiskRemaining->setText(QStringLiteral("Disk Space Remaining: ") + Megabytes(disk.free) +
-                                  QStringLiteral(" Megabytes"));
+        lblCurrentDrive->setText(tr("Default Recording Drive: ") + QStorageInfo(folder).rootPath());
+        lblDiskSpaceUsed->setText(tr("Disk Space Used: ") + Megabytes(disk.used) +
+                                  tr(" Megabytes"));
+        lblPercentUsed->setText(tr("Percent Used: ") + Percent(disk.usedPercent) + u'%');
+        lblDiskCapacity->setText(tr("Disk Capacity: ") + Megabytes(disk.total) + tr(" Megabytes"));
+        lblDiskRemaining->setText(tr("Disk Space Remaining: ") + Megabytes(disk.free) +
+                                  tr(" Megabytes"));
         FillGrid(options, forecast, disk.free);
         SetColumnWidths();
     });
@@ -143,7 +139,7 @@ void frmDiskStatus::FormLoad(const Options& options, const clsError& error, Disk
 void frmDiskStatus::FillGrid(const Options& options, const DiskForecast& forecast,
                              double freeMbytes)
 {
-    m_gridCaption->setText(QStringLiteral("Calculating Scheduled Recordings. Please Wait."));
+    m_gridCaption->setText(tr("Calculating Scheduled Recordings. Please Wait."));
     const QList<DiskForecastRow> rows =
         forecast.Rows(freeMbytes, options.StopRecMegsLeft, options.PaddingSeconds);
     QApplication::processEvents();
@@ -152,8 +148,7 @@ void frmDiskStatus::FillGrid(const Options& options, const DiskForecast& forecas
                            Cell(Options::DateText(row.endTime)),
                            Cell(QString::number(row.remainingMbytes), Qt::AlignRight)});
     }
-    m_gridCaption->setText(
-        QStringLiteral("Scheduled Recordings and Remaining Disk Space After Recording"));
+    m_gridCaption->setText(tr("Scheduled Recordings and Remaining Disk Space After Recording"));
 }
 
 void frmDiskStatus::SetColumnWidths()

@@ -11,9 +11,9 @@ frmEnableDisablePrograms::frmEnableDisablePrograms(QWidget* owner)
     : QDialog(owner)
 {
     setObjectName(QStringLiteral("frmEnableDisablePrograms"));
-    setWindowTitle(QStringLiteral("Enable/Disable Programs"));
-    auto* label = new QLabel(
-        QStringLiteral("All selected programs will be enabled or disabled based on selection."));
+    setWindowTitle(tr("Enable/Disable Programs"));
+    auto* label =
+        new QLabel(tr("All selected programs will be enabled or disabled based on selection."));
     label->setObjectName(QStringLiteral("lblPrompt"));
     label->setWordWrap(true);
     auto* buttons = new QHBoxLayout;
@@ -24,9 +24,9 @@ frmEnableDisablePrograms::frmEnableDisablePrograms(QWidget* owner)
         buttons->addWidget(b);
         return b;
     };
-    button("btnEnable", QStringLiteral("&Enable Programs"), 0)->setDefault(true);
-    button("btnDisable", QStringLiteral("&Disable Programs"), 1);
-    button("btnCancel", QStringLiteral("&Cancel"), 2);
+    button("btnEnable", tr("&Enable Programs"), 0)->setDefault(true);
+    button("btnDisable", tr("&Disable Programs"), 1);
+    button("btnCancel", tr("&Cancel"), 2);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addLayout(buttons);

@@ -11,7 +11,7 @@ frmLaunchProgramInfo::frmLaunchProgramInfo(QWidget* owner)
     : QDialog(owner)
 {
     setObjectName(QStringLiteral("frmLaunchProgramInfo"));
-    setWindowTitle(QStringLiteral("Launch Program Info"));
+    setWindowTitle(tr("Launch Program Info"));
     auto* layout = new QVBoxLayout(this);
     const QStringList lines = Lines();
     for (int i = 0; i < lines.size(); ++i) {
@@ -23,7 +23,7 @@ frmLaunchProgramInfo::frmLaunchProgramInfo(QWidget* owner)
         if (i == 0)
             layout->addSpacing(6);
     }
-    auto* CommandOk = new QPushButton(QStringLiteral("&OK"));
+    auto* CommandOk = new QPushButton(tr("&OK"));
     CommandOk->setObjectName(QStringLiteral("CommandOk"));
     CommandOk->setDefault(true);
     auto* buttons = new QHBoxLayout;
@@ -38,13 +38,13 @@ frmLaunchProgramInfo::frmLaunchProgramInfo(QWidget* owner)
 QStringList frmLaunchProgramInfo::Lines()
 {
     return {
-        QStringLiteral("The application launch command after recording can contain any of the "
-                       "following symbols which will be substituted with the appropriate string:"),
-        QStringLiteral("%d - recording file directory"),
-        QStringLiteral("%p - full recording file name including path"),
-        QStringLiteral("%e - recording file name extension, not including the dot"),
-        QStringLiteral("%% - the % character"),
-        QStringLiteral("%b - recording file name without the path and extension"),
-        QStringLiteral("%f - recording file name without the path"),
+        tr("The application launch command after recording can contain any of the "
+           "following symbols which will be substituted with the appropriate string:"),
+        tr("%d - recording file directory"),
+        tr("%p - full recording file name including path"),
+        tr("%e - recording file name extension, not including the dot"),
+        tr("%% - the % character"),
+        tr("%b - recording file name without the path and extension"),
+        tr("%f - recording file name without the path"),
     };
 }

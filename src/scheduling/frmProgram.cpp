@@ -134,13 +134,13 @@ void frmProgram::Form_Load()
         FormPlacement::PlaceAtMainForm(this, parentWidget(), 100);
         switch (m_services.options.DefaultRecordFileNameFormat) {
         case 1:
-            optDefaultFilename->setText(QStringLiteral("YYMM&DD_hhmmss"));
+            optDefaultFilename->setText(tr("YYMM&DD_hhmmss"));
             break;
         case 2:
-            optDefaultFilename->setText(QStringLiteral("&DDMMYY_hhmmss"));
+            optDefaultFilename->setText(tr("&DDMMYY_hhmmss"));
             break;
         default:
-            optDefaultFilename->setText(QStringLiteral("MM&DDYY_hhmmss"));
+            optDefaultFilename->setText(tr("MM&DDYY_hhmmss"));
             break;
         }
         MixerListsFilled = false;
@@ -251,7 +251,7 @@ QString frmProgram::ProfileOf(const QListWidget* list)
 {
     const QListWidgetItem* item = list->currentItem();
     const QString text = item ? Text::Trim(item->text()) : QString();
-    if (text == ProgramEditor::NoneSelected || text == ProgramEditor::NoneAvailable)
+    if (text == ProgramEditor::NoneSelected() || text == ProgramEditor::NoneAvailable())
         return QString();
     return text;
 }
@@ -341,9 +341,9 @@ void frmProgram::FillMixerListBoxes()
                         : QStringList();
     for (QListWidget* list : {lstMixerProfilePrior, lstMixerProfileAfter}) {
         if (files.isEmpty()) {
-            list->addItem(ProgramEditor::NoneAvailable);
+            list->addItem(ProgramEditor::NoneAvailable());
         } else {
-            list->addItem(ProgramEditor::NoneSelected);
+            list->addItem(ProgramEditor::NoneSelected());
             for (const QString& file : files)
                 list->addItem(QFileInfo(file).completeBaseName());
         }

@@ -1,6 +1,7 @@
 #include "shell/CommandLine.h"
 
 #include "common/TextHelpers.h"
+#include "common/Translations.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
@@ -10,41 +11,39 @@ CommandLine CommandLine::Parse(const QStringList& arguments, QTextStream& out, Q
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Nightreel 2000 records sound at the times of the programs you list."));
+        tr("Nightreel 2000 records sound at the times of the programs you list."));
     // Qt's own help option would offer --help-all for Qt's options, which this early reading
     // cannot serve.
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Displays help on commandline options."));
+                                  QCommandLineParser::tr("Displays help on commandline options."));
     parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption inspect(
         QStringLiteral("inspect"),
-        QStringLiteral("Print the row the recordings list would show for <file>, then end."),
-        QStringLiteral("file"));
+        tr("Print the row the recordings list would show for <file>, then end."), tr("file"));
     parser.addOption(inspect);
     const QCommandLineOption headless(
         QStringLiteral("headless"),
-        QStringLiteral("Record without a window or display, controlled by nightreel-ctl."));
+        tr("Record without a window or display, controlled by nightreel-ctl."));
     parser.addOption(headless);
     parser.addPositionalArgument(
         QStringLiteral("word"),
-        QStringLiteral("1: start hidden in the tray. 2: start even if Nightreel 2000 is "
-                       "already running."),
+        tr("1: start hidden in the tray. 2: start even if Nightreel 2000 is "
+           "already running."),
         QStringLiteral("[1|2]"));
 
     CommandLine line;
     if (!parser.parse(arguments)) {
-        err << parser.errorText() << Qt::endl
-            << QStringLiteral("Try \"nightreel --help\".") << Qt::endl;
+        err << parser.errorText() << Qt::endl << tr("Try \"nightreel --help\".") << Qt::endl;
         line.exitCode = 1;
         return line;
     }
     if (parser.isSet(help)) {
-        // Read before the application object exists, the parser doesn't know the program's
-        // name; the usage line gets the name a user types.
+        // The usage line names the program by the path it was started from; it gets the name
+        // a user types, in whatever language the line is.
         QString text = parser.helpText();
-        text.replace(QRegularExpression(QStringLiteral("^Usage: \\S+")),
-                     QStringLiteral("Usage: nightreel"));
+        text.replace(QRegularExpression(QStringLiteral("^([^\\n]*: )\\S+")),
+                     QStringLiteral("\\1nightreel"));
         out << text;
         line.exitCode = 0;
         return line;
@@ -69,6 +68,9 @@ CommandLine CommandLine::Parse(const QStringList& arguments, QTextStream& out, Q
 
 CommandLine CommandLine::Parse(int argc, char* argv[])
 {
+    // An application object of its own, only for the translations of the help.
+    QCoreApplication reading(argc, argv);
+    Translations::Install();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);

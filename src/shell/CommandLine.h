@@ -1,14 +1,18 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <optional>
 
 class QTextStream;
 
-// What the command line asks of this start. It is read before the application object
-// exists, so that --help and --version answer without a display.
+// What the command line asks of this start. It is read before the start's own application
+// object exists, so that --help and --version answer without a display.
 struct CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
     // The start-up words of earlier versions: "1" starts hidden in the tray, "2" allows a
     // second instance. Any other word is ignored, as it always was.
     bool startHidden = false;
@@ -23,5 +27,6 @@ struct CommandLine {
     // arguments starts with the program's name, as argv does. Help and version go to out,
     // errors to err.
     static CommandLine Parse(const QStringList& arguments, QTextStream& out, QTextStream& err);
+    // The program's own command line, with the help in the user's language.
     static CommandLine Parse(int argc, char* argv[]);
 };

@@ -1,5 +1,6 @@
 #include "shell/HeadlessStart.h"
 
+#include "common/Translations.h"
 #include "control/CallMessageBox.h"
 #include "diagnostics/JournalLog.h"
 #include "diagnostics/LoggedMessageBox.h"
@@ -22,8 +23,9 @@ namespace {
 void QuitWhenIdle(AppContext& ctx)
 {
     // On standard error only: a service restarted daily would fill the event log.
-    qInfo().noquote() << "Asked to end: the recording in progress is saved first; conversions "
-                         "to MP3 go on at the next start.";
+    qInfo().noquote() << QCoreApplication::translate(
+        "HeadlessStart", "Asked to end: the recording in progress is saved first; conversions "
+                         "to MP3 go on at the next start.");
     if (ctx.appStatus.Recording())
         ctx.recorder.Control().RequestStop();
     auto* poll = new QTimer(QCoreApplication::instance());
@@ -40,6 +42,7 @@ int Main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
     SetApplicationNames();
+    Translations::Install();
     JournalLog::Install();
     const AppFolders folders = AppFolders::ForCurrentUser();
     InstanceLock instanceLock(folders.runtimeFolder);
@@ -65,7 +68,8 @@ int Main(int argc, char* argv[])
     controller.FinishFirstActivation([&ctx] { ctx.recorder.UpdateStatusBarPlus(); });
     ControlService control(ctx.ForControl(messageBox));
     control.Register(QDBusConnection::sessionBus());
-    qInfo().noquote() << "Nightreel 2000 is running without a window.";
+    qInfo().noquote() << QCoreApplication::translate("HeadlessStart",
+                                                     "Nightreel 2000 is running without a window.");
 
     TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::TerminationRequested, &app,

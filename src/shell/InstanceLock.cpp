@@ -2,6 +2,7 @@
 
 #include "common/MessageBox.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 namespace {
@@ -42,17 +43,17 @@ std::optional<int> InstanceLock::RefuseWindowStart(bool allowSecondWindow,
 {
     switch (TryLock()) {
     case Holder::Headless:
-        messageBox.Show(QStringLiteral("Nightreel 2000"), AlreadyRunningText(),
-                        MsgIcon::Exclamation, MsgButtons::Ok);
+        messageBox.Show(tr("Nightreel 2000"), AlreadyRunningText(), MsgIcon::Exclamation,
+                        MsgButtons::Ok);
         return 1;
     case Holder::Window:
         if (allowSecondWindow)
             return std::nullopt;
-        messageBox.Show(QStringLiteral("Nightreel 2000 already running"),
-                        QStringLiteral("Nightreel 2000 is already loaded. To restore window, "
-                                       "double-click on system tray Nightreel 2000 icon. "
-                                       "If the icon is not present, end the application with "
-                                       "the system monitor or by logging out and in again."),
+        messageBox.Show(tr("Nightreel 2000 already running"),
+                        tr("Nightreel 2000 is already loaded. To restore window, "
+                           "double-click on system tray Nightreel 2000 icon. "
+                           "If the icon is not present, end the application with "
+                           "the system monitor or by logging out and in again."),
                         MsgIcon::Exclamation, MsgButtons::Ok);
         return 0;
     case Holder::None:

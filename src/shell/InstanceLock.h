@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QLockFile>
 #include <QString>
 #include <optional>
@@ -25,9 +26,11 @@ public:
     // What a start says when a recorder without a window runs, and what a second one says.
     static QString AlreadyRunningText()
     {
-        return QStringLiteral("Nightreel 2000 is already running.");
+        return QCoreApplication::translate("InstanceLock", "Nightreel 2000 is already running.");
     }
 
 private:
     QLockFile m_lock;
+
+    Q_DECLARE_TR_FUNCTIONS(InstanceLock)
 };

@@ -64,9 +64,9 @@ void MainFormController::CheckDefaultRecordingDirectory(const FolderChooser& cho
         QStringLiteral("Settings"), QStringLiteral("DefaultRecordingDirectory"), QString()));
     if (folder.isEmpty() || !QDir(folder).exists()) {
         const MsgResult answer = m_ctx.messageBox.Show(
-            QStringLiteral("Recording Folder Needed"),
-            QStringLiteral("Nightreel 2000 requires a valid recording folder for recording to "
-                           "occur.  Select Recording folder?"),
+            tr("Recording Folder Needed"),
+            tr("Nightreel 2000 requires a valid recording folder for recording to "
+               "occur.  Select Recording folder?"),
             MsgIcon::None, MsgButtons::YesNo);
         folder.clear();
         if (answer == MsgResult::Yes) {
@@ -109,16 +109,16 @@ void MainFormController::RemoveTemporaryRecordings(const QString& folder)
 bool MainFormController::QueryUnload(bool closedBySystem)
 {
     if (m_ctx.appStatus.Recording()) {
-        m_ctx.messageBox.Show(QStringLiteral("Recording in progress"),
-                              QStringLiteral("Can not exit while recording. Please stop the "
-                                             "recording or wait for it complete."),
+        m_ctx.messageBox.Show(tr("Recording in progress"),
+                              tr("Can not exit while recording. Please stop the "
+                                 "recording or wait for it complete."),
                               MsgIcon::Exclamation, MsgButtons::Ok);
         return false;
     }
     if (m_ctx.appStatus.Converting()) {
-        m_ctx.messageBox.Show(QStringLiteral("Converting to MP3"),
-                              QStringLiteral("Can not exit while converting to MP3. Please stop "
-                                             "the conversion or wait for it complete."),
+        m_ctx.messageBox.Show(tr("Converting to MP3"),
+                              tr("Can not exit while converting to MP3. Please stop "
+                                 "the conversion or wait for it complete."),
                               MsgIcon::Exclamation, MsgButtons::Ok);
         return false;
     }
@@ -127,12 +127,12 @@ bool MainFormController::QueryUnload(bool closedBySystem)
     int programs = 0;
     Trap(m_ctx.log, "QueryUnload",
          [&] { programs = RecordsetCount(m_ctx.database.DataPrograms.recordset()); });
-    const QString text =
-        programs >= 1 ? QStringLiteral("You have scheduled recordings. No recording will occur "
-                                       "if you exit. Are you sure you want to exit?")
-                      : QStringLiteral("Are you sure you want to exit?");
-    return m_ctx.messageBox.Show(QStringLiteral("Exit"), text, MsgIcon::Question,
-                                 MsgButtons::YesNo) == MsgResult::Yes;
+    const QString text = programs >= 1
+                             ? tr("You have scheduled recordings. No recording will occur "
+                                  "if you exit. Are you sure you want to exit?")
+                             : tr("Are you sure you want to exit?");
+    return m_ctx.messageBox.Show(tr("Exit"), text, MsgIcon::Question, MsgButtons::YesNo) ==
+           MsgResult::Yes;
 }
 
 void MainFormController::Form_Unload()
@@ -156,9 +156,9 @@ void MainFormController::mnuRestoreOriginalDb_Click()
 {
     const bool proceed =
         !FileExistsOrClear(m_ctx.database.DatabaseFile()) ||
-        m_ctx.messageBox.Show(QStringLiteral("Restore Original Database"),
-                              QStringLiteral("All scheduled programs, recording list, and error "
-                                             "log will be cleared. Proceed?"),
+        m_ctx.messageBox.Show(tr("Restore Original Database"),
+                              tr("All scheduled programs, recording list, and error "
+                                 "log will be cleared. Proceed?"),
                               MsgIcon::None, MsgButtons::YesNo) == MsgResult::Yes;
     if (proceed) {
         m_ctx.appStatus.SetMaintenance(true);

@@ -1,5 +1,6 @@
 #include "shell/ModuleStart.h"
 
+#include "common/Translations.h"
 #include "control/CallMessageBox.h"
 #include "formats/FileRowPreview.h"
 #include "shell/CommandLine.h"
@@ -20,6 +21,7 @@ int Inspect(int argc, char* argv[], const QString& file)
 {
     QCoreApplication app(argc, argv);
     SetApplicationNames();
+    Translations::Install();
     WidgetMessageBox messageBox;
     // Inspecting a file records nothing: no bus, no alarm.
     SystemSeams seams{QDBusConnection(QString()), QDBusConnection(QString())};
@@ -36,6 +38,7 @@ int Main(int argc, char* argv[], const CommandLine& line)
         return Inspect(argc, argv, line.inspectFile);
     QApplication app(argc, argv);
     SetApplicationNames();
+    Translations::Install();
     QApplication::setQuitOnLastWindowClosed(false);
 
     WidgetMessageBox messageBox;

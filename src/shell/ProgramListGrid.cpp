@@ -66,8 +66,8 @@ bool ProgramListGrid::eventFilter(QObject* watched, QEvent* event)
             AutomationDate::TimePart(AutomationDate::AddSeconds(time, sign * pad)));
     };
     QToolTip::showText(help->globalPos(),
-                       QStringLiteral("Recorded from %1 to %2 (%3 seconds early and late; the "
-                                      "late end gives way to a program that follows)")
+                       tr("Recorded from %1 to %2 (%3 seconds early and late; the "
+                          "late end gives way to a program that follows)")
                            .arg(at("StartTime", -1), at("EndTime", 1), QString::number(pad)),
                        m_grid->viewport());
     return true;

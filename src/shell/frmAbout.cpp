@@ -13,7 +13,7 @@
 
 QString frmAbout::ProductName()
 {
-    return QStringLiteral("Nightreel 2000");
+    return tr("Nightreel 2000");
 }
 
 QString frmAbout::VersionText()
@@ -24,25 +24,25 @@ QString frmAbout::VersionText()
                       .arg(NIGHTREEL_VERSION_MAJOR)
                       .arg(NIGHTREEL_VERSION_MINOR)
                       .arg(NIGHTREEL_VERSION_REV);
-    return QStringLiteral("Version ") + version;
+    return tr("Version ") + version;
 }
 
 QString frmAbout::NoticeText()
 {
-    return QStringLiteral("Copyright \u00A9 Larkmoor Systems. All rights reserved.\n"
-                          "Recording broadcasts may be subject to copyright; make sure you "
-                          "have the right to record what you schedule.");
+    return tr("Copyright \u00A9 Larkmoor Systems. All rights reserved.\n"
+              "Recording broadcasts may be subject to copyright; make sure you "
+              "have the right to record what you schedule.");
 }
 
 QString frmAbout::SystemFacts()
 {
     QStringList facts;
-    facts << QStringLiteral("Operating system: ") + QSysInfo::prettyProductName()
-          << QStringLiteral("Kernel: ") + QSysInfo::kernelType() + u' ' + QSysInfo::kernelVersion()
-          << QStringLiteral("Processor architecture: ") + QSysInfo::currentCpuArchitecture()
-          << QStringLiteral("Program built for: ") + QSysInfo::buildAbi()
-          << QStringLiteral("Computer name: ") + QSysInfo::machineHostName()
-          << QStringLiteral("Qt version: ") + QString::fromLatin1(qVersion());
+    facts << tr("Operating system: ") + QSysInfo::prettyProductName()
+          << tr("Kernel: ") + QSysInfo::kernelType() + u' ' + QSysInfo::kernelVersion()
+          << tr("Processor architecture: ") + QSysInfo::currentCpuArchitecture()
+          << tr("Program built for: ") + QSysInfo::buildAbi()
+          << tr("Computer name: ") + QSysInfo::machineHostName()
+          << tr("Qt version: ") + QString::fromLatin1(qVersion());
     return facts.join(u'\n');
 }
 
@@ -51,7 +51,7 @@ frmAbout::frmAbout(AppContext& ctx, QWidget* owner)
     , m_ctx(ctx)
 {
     setObjectName(QStringLiteral("frmAbout"));
-    setWindowTitle(QStringLiteral("About ") + ProductName());
+    setWindowTitle(tr("About ") + ProductName());
 
     auto* picture = new QLabel;
     picture->setPixmap(style()->standardIcon(QStyle::SP_MediaVolume).pixmap(48, 48));
@@ -71,7 +71,7 @@ frmAbout::frmAbout(AppContext& ctx, QWidget* owner)
     auto* btnOK = new QPushButton(QStringLiteral("OK"));
     btnOK->setObjectName(QStringLiteral("btnOK"));
     btnOK->setDefault(true);
-    auto* btnSysInfo = new QPushButton(QStringLiteral("&System Info..."));
+    auto* btnSysInfo = new QPushButton(tr("&System Info..."));
     btnSysInfo->setObjectName(QStringLiteral("btnSysInfo"));
     connect(btnOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(btnSysInfo, &QPushButton::clicked, this, &frmAbout::btnSysInfo_Click);
@@ -97,6 +97,6 @@ frmAbout::frmAbout(AppContext& ctx, QWidget* owner)
 
 void frmAbout::btnSysInfo_Click()
 {
-    m_ctx.messageBox.Show(QStringLiteral("System Information"), SystemFacts(), MsgIcon::Information,
+    m_ctx.messageBox.Show(tr("System Information"), SystemFacts(), MsgIcon::Information,
                           MsgButtons::Ok);
 }

@@ -177,7 +177,7 @@ void frmMain::ApplyTrayMenu(const ModeDisplay& d)
 // The mode panel of a paused recording blinks with the tray icon.
 void frmMain::ShowPausedBlink(bool on)
 {
-    SetIfChanged(ui.ModeStatus, on ? QStringLiteral("RECORDING PAUSED") : QString());
+    SetIfChanged(ui.ModeStatus, on ? tr("RECORDING PAUSED") : QString());
     ui.ModeStatusPicture->setPixmap(QPixmap());
     statusBar()->update();
 }
@@ -360,7 +360,7 @@ void frmMain::FirstActivate()
     UpdateProgramsButtonsAndMenus();
     UpdateRecordingsButtonsAndMenus();
     if (!SysTrayIcon::Available())
-        m_ctx.log.LogEvent(EventInformation, QStringLiteral("No notification area"),
+        m_ctx.log.LogEvent(EventInformation, tr("No notification area"),
                            SysTrayIcon::MissingNote());
     if (m_startHidden || m_ctx.options.HiddenWindowStatupMode)
         HideToTray();

@@ -3,6 +3,7 @@
 #include "shell/Icons.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
@@ -16,7 +17,7 @@
 void frmMainUi::Setup(QMainWindow* window)
 {
     window->setObjectName(QStringLiteral("frmMain"));
-    window->setWindowTitle(QStringLiteral("Nightreel 2000"));
+    window->setWindowTitle(tr("Nightreel 2000"));
     window->setWindowIcon(Icons::Application());
     SetupMenus(window);
     SetupToolbars(window);
@@ -25,10 +26,9 @@ void frmMainUi::Setup(QMainWindow* window)
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
     DBGridPrograms = new QTableView;
     DBGridRecordings = new QTableView;
-    SSTab1->addTab(Page(ToolbarPrograms, DBGridPrograms, "DBGridPrograms"),
-                   QStringLiteral("&Programming"));
+    SSTab1->addTab(Page(ToolbarPrograms, DBGridPrograms, "DBGridPrograms"), tr("&Programming"));
     SSTab1->addTab(Page(ToolbarRecordings, DBGridRecordings, "DBGridRecordings"),
-                   QStringLiteral("&Recordings"));
+                   tr("&Recordings"));
     window->setCentralWidget(SSTab1);
     // Delete acts on the list that has the focus.
     for (auto [grid, name] : {std::pair{DBGridPrograms, "mnuRemovePrograms"},
@@ -71,131 +71,119 @@ void frmMainUi::SetupMenus(QMainWindow* window)
         m->setObjectName(QString::fromLatin1(name));
         return m;
     };
-    mnuFile = menu("mnuFile", QStringLiteral("&File"));
-    AddAction(mnuFile, "mnuFileHide", QStringLiteral("&Hide Window"));
-    AddAction(mnuFile, "mnuFileSuspend", QStringLiteral("&Suspend Nightreel 2000"))
-        ->setCheckable(true);
-    AddAction(mnuFile, "mnuFileExit", QStringLiteral("E&xit Nightreel 2000"))
+    mnuFile = menu("mnuFile", tr("&File"));
+    AddAction(mnuFile, "mnuFileHide", tr("&Hide Window"));
+    AddAction(mnuFile, "mnuFileSuspend", tr("&Suspend Nightreel 2000"))->setCheckable(true);
+    AddAction(mnuFile, "mnuFileExit", tr("E&xit Nightreel 2000"))
         ->setShortcut(Qt::CTRL | Qt::Key_Q);
 
-    mnuView = menu("mnuView", QStringLiteral("&View"));
-    AddAction(mnuView, "mnuViewPrograms", QStringLiteral("&Programs"))->setCheckable(true);
-    AddAction(mnuView, "mnuViewRecordings", QStringLiteral("&Recordings"))->setCheckable(true);
-    AddAction(mnuView, "mnuViewDiskStatus", QStringLiteral("&Disk Status"));
-    AddAction(mnuView, "mnuErrors", QStringLiteral("&Errors/Warnings"));
-    AddAction(mnuView, "mnuViewErrorLog", QStringLiteral("Error &Log"));
-    AddAction(mnuView, "mnuViewOptions", QStringLiteral("&Options"));
+    mnuView = menu("mnuView", tr("&View"));
+    AddAction(mnuView, "mnuViewPrograms", tr("&Programs"))->setCheckable(true);
+    AddAction(mnuView, "mnuViewRecordings", tr("&Recordings"))->setCheckable(true);
+    AddAction(mnuView, "mnuViewDiskStatus", tr("&Disk Status"));
+    AddAction(mnuView, "mnuErrors", tr("&Errors/Warnings"));
+    AddAction(mnuView, "mnuViewErrorLog", tr("Error &Log"));
+    AddAction(mnuView, "mnuViewOptions", tr("&Options"));
 
-    mnuPrograms = menu("mnuPrograms", QStringLiteral("Pro&gramming"));
-    AddAction(mnuPrograms, "mnuAddNew", QStringLiteral("&Add New"));
-    AddAction(mnuPrograms, "mnuEdit", QStringLiteral("&Edit"));
-    AddAction(mnuPrograms, "mnuRemovePrograms", QStringLiteral("&Remove"))
-        ->setShortcut(QKeySequence::Delete);
-    AddAction(mnuPrograms, "mnuCloneProgram", QStringLiteral("&Clone"));
-    AddAction(mnuPrograms, "mnuProgramEnable", QStringLiteral("E&nable/Disable"));
-    AddAction(mnuPrograms, "mnuProgramsSelectAll", QStringLiteral("Se&lect All"));
+    mnuPrograms = menu("mnuPrograms", tr("Pro&gramming"));
+    AddAction(mnuPrograms, "mnuAddNew", tr("&Add New"));
+    AddAction(mnuPrograms, "mnuEdit", tr("&Edit"));
+    AddAction(mnuPrograms, "mnuRemovePrograms", tr("&Remove"))->setShortcut(QKeySequence::Delete);
+    AddAction(mnuPrograms, "mnuCloneProgram", tr("&Clone"));
+    AddAction(mnuPrograms, "mnuProgramEnable", tr("E&nable/Disable"));
+    AddAction(mnuPrograms, "mnuProgramsSelectAll", tr("Se&lect All"));
 
-    mnuRecordings = menu("mnuRecordings", QStringLiteral("Re&cordings"));
-    AddAction(mnuRecordings, "mnuRecordingsPlay", QStringLiteral("&Play "));
-    AddAction(mnuRecordings, "mnuRecordingsRemove", QStringLiteral("&Delete from Disk"))
+    mnuRecordings = menu("mnuRecordings", tr("Re&cordings"));
+    AddAction(mnuRecordings, "mnuRecordingsPlay", tr("&Play "));
+    AddAction(mnuRecordings, "mnuRecordingsRemove", tr("&Delete from Disk"))
         ->setShortcut(QKeySequence::Delete);
-    AddAction(mnuRecordings, "mnuDetails", QStringLiteral("De&tails"));
-    AddAction(mnuRecordings, "mnuRecordingsExplore", QStringLiteral("&Explore"));
-    AddAction(mnuRecordings, "mnuRecordingsCopyFilename",
-              QStringLiteral("&Copy Filename to Clipboard"));
-    mnuManageRecordingList = mnuRecordings->addMenu(QStringLiteral("&Add Recordings to List"));
+    AddAction(mnuRecordings, "mnuDetails", tr("De&tails"));
+    AddAction(mnuRecordings, "mnuRecordingsExplore", tr("&Explore"));
+    AddAction(mnuRecordings, "mnuRecordingsCopyFilename", tr("&Copy Filename to Clipboard"));
+    mnuManageRecordingList = mnuRecordings->addMenu(tr("&Add Recordings to List"));
     mnuManageRecordingList->setObjectName(QStringLiteral("mnuManageRecordingList"));
-    AddAction(mnuManageRecordingList, "mnuAddFileToList", QStringLiteral("Add &File to List"));
-    AddAction(mnuManageRecordingList, "mnuAddFolderToList", QStringLiteral("Add F&older to List"));
-    AddAction(mnuRecordings, "mnuRecordingsRemoveFromList", QStringLiteral("Re&move from List"));
-    AddAction(mnuRecordings, "mnuClearList", QStringLiteral("Clea&r List"));
-    AddAction(mnuRecordings, "mnuLoadList", QStringLiteral("&Load List"));
-    AddAction(mnuRecordings, "mnuSaveList", QStringLiteral("Sa&ve List"));
-    AddAction(mnuRecordings, "mnuRecordingsSelectAll", QStringLiteral("&Select All"));
+    AddAction(mnuManageRecordingList, "mnuAddFileToList", tr("Add &File to List"));
+    AddAction(mnuManageRecordingList, "mnuAddFolderToList", tr("Add F&older to List"));
+    AddAction(mnuRecordings, "mnuRecordingsRemoveFromList", tr("Re&move from List"));
+    AddAction(mnuRecordings, "mnuClearList", tr("Clea&r List"));
+    AddAction(mnuRecordings, "mnuLoadList", tr("&Load List"));
+    AddAction(mnuRecordings, "mnuSaveList", tr("Sa&ve List"));
+    AddAction(mnuRecordings, "mnuRecordingsSelectAll", tr("&Select All"));
 
     // The recording keys work in the window's lists and tabs (and can be turned off in the
     // options); the menu shows them, and they act here only while the menu is open.
-    mnuRecording = menu("mnuRecording", QStringLiteral("Rec&ording"));
-    AddAction(mnuRecording, "mnuManualRecording", QStringLiteral("&Start Manual Recording"));
+    mnuRecording = menu("mnuRecording", tr("Rec&ording"));
+    AddAction(mnuRecording, "mnuManualRecording", tr("&Start Manual Recording"));
     const auto keyed = [this](const char* name, const QString& caption, QKeyCombination key) {
         QAction* action = AddAction(mnuRecording, name, caption);
         action->setShortcut(key);
         action->setShortcutContext(Qt::WidgetShortcut);
     };
-    keyed("mnuQuickStart", QStringLiteral("&Quick Start"), Qt::CTRL | Qt::Key_R);
-    keyed("mnuStopCurrentRecording", QStringLiteral("S&top Current Recording"),
-          Qt::CTRL | Qt::Key_S);
-    keyed("mnuPauseRecording", QStringLiteral("Pa&use Recording"), Qt::CTRL | Qt::Key_T);
-    keyed("mnuPauseOnly", QStringLiteral("&Pause"), Qt::CTRL | Qt::Key_P);
-    keyed("mnuResume", QStringLiteral("&Resume"), Qt::CTRL | Qt::Key_U);
+    keyed("mnuQuickStart", tr("&Quick Start"), Qt::CTRL | Qt::Key_R);
+    keyed("mnuStopCurrentRecording", tr("S&top Current Recording"), Qt::CTRL | Qt::Key_S);
+    keyed("mnuPauseRecording", tr("Pa&use Recording"), Qt::CTRL | Qt::Key_T);
+    keyed("mnuPauseOnly", tr("&Pause"), Qt::CTRL | Qt::Key_P);
+    keyed("mnuResume", tr("&Resume"), Qt::CTRL | Qt::Key_U);
 
-    mnuTools = menu("mnuTools", QStringLiteral("&Tools"));
-    AddAction(mnuTools, "mnuToolsMixer", QStringLiteral("&Mixer"));
-    AddAction(mnuTools, "mnuMixerProfiles", QStringLiteral("Mixer Pro&files"));
-    AddAction(mnuTools, "mnuPlayRecent", QStringLiteral("&Play Most Recent Recording"));
-    mnuToolsAdvanced = mnuTools->addMenu(QStringLiteral("&Advanced"));
+    mnuTools = menu("mnuTools", tr("&Tools"));
+    AddAction(mnuTools, "mnuToolsMixer", tr("&Mixer"));
+    AddAction(mnuTools, "mnuMixerProfiles", tr("Mixer Pro&files"));
+    AddAction(mnuTools, "mnuPlayRecent", tr("&Play Most Recent Recording"));
+    mnuToolsAdvanced = mnuTools->addMenu(tr("&Advanced"));
     mnuToolsAdvanced->setObjectName(QStringLiteral("mnuToolsAdvanced"));
-    AddAction(mnuToolsAdvanced, "mnuCompactDb", QStringLiteral("&Compact Database"));
-    AddAction(mnuToolsAdvanced, "mnuRestoreOriginalDb",
-              QStringLiteral("&Restore Original Database"));
+    AddAction(mnuToolsAdvanced, "mnuCompactDb", tr("&Compact Database"));
+    AddAction(mnuToolsAdvanced, "mnuRestoreOriginalDb", tr("&Restore Original Database"));
 
-    mnuHelp = menu("mnuHelp", QStringLiteral("&Help"));
-    AddAction(mnuHelp, "mnuHelpContents", QStringLiteral("&Contents"))
-        ->setShortcut(QKeySequence::HelpContents);
-    AddAction(mnuHelp, "mnuHelpSearch", QStringLiteral("&Search For Help On..."));
-    AddAction(mnuHelp, "mnuHelpHomePage", QStringLiteral("Larkmoor Systems &Home Page"));
-    AddAction(mnuHelp, "mnuHelpAbout", QStringLiteral("&About Nightreel 2000"));
+    mnuHelp = menu("mnuHelp", tr("&Help"));
+    AddAction(mnuHelp, "mnuHelpContents", tr("&Contents"))->setShortcut(QKeySequence::HelpContents);
+    AddAction(mnuHelp, "mnuHelpSearch", tr("&Search For Help On..."));
+    AddAction(mnuHelp, "mnuHelpHomePage", tr("Larkmoor Systems &Home Page"));
+    AddAction(mnuHelp, "mnuHelpAbout", tr("&About Nightreel 2000"));
 }
 
 void frmMainUi::SetupToolbars(QMainWindow* window)
 {
-    ToolbarMain = window->addToolBar(QStringLiteral("Main"));
+    ToolbarMain = window->addToolBar(tr("Main"));
     ToolbarMain->setObjectName(QStringLiteral("ToolbarMain"));
     ToolbarMain->setMovable(false);
-    AddButton(ToolbarMain, QStringLiteral("Stop"), QStringLiteral("Stop"), Icons::Named("stop"));
-    AddButton(ToolbarMain, QStringLiteral("Record"), QStringLiteral("Start Manual Record"),
+    AddButton(ToolbarMain, QStringLiteral("Stop"), tr("Stop"), Icons::Named("stop"));
+    AddButton(ToolbarMain, QStringLiteral("Record"), tr("Start Manual Record"),
               Icons::Named("record"));
-    AddButton(ToolbarMain, QStringLiteral("Play"), QStringLiteral("Play Most Recent Recording"),
+    AddButton(ToolbarMain, QStringLiteral("Play"), tr("Play Most Recent Recording"),
               Icons::Named("play"));
-    AddButton(ToolbarMain, QStringLiteral("Pause"), QStringLiteral("Pause"), Icons::Named("pause1"))
+    AddButton(ToolbarMain, QStringLiteral("Pause"), tr("Pause"), Icons::Named("pause1"))
         ->setCheckable(true);
-    AddButton(ToolbarMain, QStringLiteral("Mixer"), QStringLiteral("Mixer"), Icons::Named("mixer"));
-    AddButton(ToolbarMain, QStringLiteral("DiskStatus"), QStringLiteral("Disk Status"),
-              Icons::Named("disk"));
-    AddButton(ToolbarMain, QStringLiteral("Help"), QStringLiteral("Help"), Icons::Named("help"));
-    AddButton(ToolbarMain, QStringLiteral("Error"),
-              QStringLiteral("Error Has Occurred! Please check the log."), Icons::Named("error"));
+    AddButton(ToolbarMain, QStringLiteral("Mixer"), tr("Mixer"), Icons::Named("mixer"));
+    AddButton(ToolbarMain, QStringLiteral("DiskStatus"), tr("Disk Status"), Icons::Named("disk"));
+    AddButton(ToolbarMain, QStringLiteral("Help"), tr("Help"), Icons::Named("help"));
+    AddButton(ToolbarMain, QStringLiteral("Error"), tr("Error Has Occurred! Please check the log."),
+              Icons::Named("error"));
 
     ToolbarPrograms = new QToolBar;
     ToolbarPrograms->setObjectName(QStringLiteral("ToolbarPrograms"));
-    AddButton(ToolbarPrograms, QStringLiteral("Add"), QStringLiteral("Add New Program"),
-              Icons::Named("add"));
-    AddButton(ToolbarPrograms, QStringLiteral("Edit"), QStringLiteral("Edit Program"),
-              Icons::Named("edit"));
-    AddButton(ToolbarPrograms, QStringLiteral("Remove"), QStringLiteral("Remove Programs"),
+    AddButton(ToolbarPrograms, QStringLiteral("Add"), tr("Add New Program"), Icons::Named("add"));
+    AddButton(ToolbarPrograms, QStringLiteral("Edit"), tr("Edit Program"), Icons::Named("edit"));
+    AddButton(ToolbarPrograms, QStringLiteral("Remove"), tr("Remove Programs"),
               Icons::Named("remove"));
-    AddButton(ToolbarPrograms, QStringLiteral("Clone"), QStringLiteral("Clone Program"),
-              Icons::Named("clone"));
-    AddButton(ToolbarPrograms, QStringLiteral("Enable"), QStringLiteral("Enable/Disable Programs"),
+    AddButton(ToolbarPrograms, QStringLiteral("Clone"), tr("Clone Program"), Icons::Named("clone"));
+    AddButton(ToolbarPrograms, QStringLiteral("Enable"), tr("Enable/Disable Programs"),
               Icons::Named("enable"));
 
     ToolbarRecordings = new QToolBar;
     ToolbarRecordings->setObjectName(QStringLiteral("ToolbarRecordings"));
-    AddButton(ToolbarRecordings, QStringLiteral("Play"), QStringLiteral("Play"),
-              Icons::Named("play"));
-    AddButton(ToolbarRecordings, QStringLiteral("Delete"), QStringLiteral("Delete from Disk"),
+    AddButton(ToolbarRecordings, QStringLiteral("Play"), tr("Play"), Icons::Named("play"));
+    AddButton(ToolbarRecordings, QStringLiteral("Delete"), tr("Delete from Disk"),
               Icons::Named("remove"));
-    AddButton(ToolbarRecordings, QStringLiteral("Details"), QStringLiteral("Details"),
-              Icons::Named("details"));
-    AddButton(ToolbarRecordings, QStringLiteral("add_to_list"),
-              QStringLiteral("Add Recordings to List"), Icons::Named("add"));
-    AddButton(ToolbarRecordings, QStringLiteral("remove_from_list"),
-              QStringLiteral("Remove from List"), Icons::Named("clear"));
-    AddButton(ToolbarRecordings, QStringLiteral("clear_list"), QStringLiteral("Clear List"),
+    AddButton(ToolbarRecordings, QStringLiteral("Details"), tr("Details"), Icons::Named("details"));
+    AddButton(ToolbarRecordings, QStringLiteral("add_to_list"), tr("Add Recordings to List"),
+              Icons::Named("add"));
+    AddButton(ToolbarRecordings, QStringLiteral("remove_from_list"), tr("Remove from List"),
               Icons::Named("clear"));
-    AddButton(ToolbarRecordings, QStringLiteral("load_list"), QStringLiteral("Load List"),
+    AddButton(ToolbarRecordings, QStringLiteral("clear_list"), tr("Clear List"),
+              Icons::Named("clear"));
+    AddButton(ToolbarRecordings, QStringLiteral("load_list"), tr("Load List"),
               Icons::Named("open"));
-    AddButton(ToolbarRecordings, QStringLiteral("save_list"), QStringLiteral("Save List"),
+    AddButton(ToolbarRecordings, QStringLiteral("save_list"), tr("Save List"),
               Icons::Named("save"));
 }
 
@@ -231,8 +219,8 @@ void frmMainUi::SetupStatusBar(QMainWindow* window)
     ModeStatusPicture = new QLabel;
     ModeStatusPicture->setObjectName(QStringLiteral("ModeStatusPicture"));
     bar->addWidget(ModeStatusPicture);
-    ModeStatus = panel("ModeStatus", QStringLiteral("Nightreel is Currently Stopped"), 2);
-    DiskStatus = panel("DiskStatus", QStringLiteral("Disk Percent Full"), 2);
-    DateStatus = panel("DateStatus", QStringLiteral("Today's Date"), 1);
-    TimeStatus = panel("TimeStatus", QStringLiteral("Current Time"), 1);
+    ModeStatus = panel("ModeStatus", tr("Nightreel is Currently Stopped"), 2);
+    DiskStatus = panel("DiskStatus", tr("Disk Percent Full"), 2);
+    DateStatus = panel("DateStatus", tr("Today's Date"), 1);
+    TimeStatus = panel("TimeStatus", tr("Current Time"), 1);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QString>
 
@@ -52,4 +53,6 @@ private:
     void SetupToolbars(QMainWindow* window);
     QWidget* Page(QToolBar* bar, QTableView* grid, const char* gridName);
     void SetupStatusBar(QMainWindow* window);
+
+    Q_DECLARE_TR_FUNCTIONS(frmMainUi)
 };

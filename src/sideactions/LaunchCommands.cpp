@@ -5,6 +5,7 @@
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 namespace {
@@ -118,9 +119,12 @@ void LaunchAfterRecording(EventLog& log, ProcessLauncher& launcher, bool recordi
     if (launcher.StartDetached(expanded, WindowStyleMinimizedNoActivate))
         return;
     // One letter differs from the text of the launch ahead of a recording; both stand.
-    log.LogEvent(EventWarning, QStringLiteral("Invalid Launch Application command"),
-                 QStringLiteral("The command to launch an application is invalid.  Check "
-                                "the file paths and that the application exists.\r\n"
-                                "Command= ") +
-                     expanded);
+    log.LogEvent(
+        EventWarning,
+        QCoreApplication::translate("LaunchCommands", "Invalid Launch Application command"),
+        QCoreApplication::translate("LaunchCommands",
+                                    "The command to launch an application is invalid.  Check "
+                                    "the file paths and that the application exists.\r\n"
+                                    "Command= ") +
+            expanded);
 }

@@ -3,6 +3,8 @@
 #include "common/ProcessLauncher.h"
 #include "diagnostics/EventLog.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 // The launcher splits a command line into words; quoted whole, the path stays one word
@@ -19,8 +21,9 @@ void LaunchMixer(EventLog& log, ProcessLauncher& launcher, const QString& mixerP
 {
     if (launcher.StartDetached(AsOneWord(mixerPath)))
         return;
-    log.LogEvent(EventError, QStringLiteral("Mixer Control Not Found"),
-                 QStringLiteral(
+    log.LogEvent(EventError, QCoreApplication::translate("LaunchMixer", "Mixer Control Not Found"),
+                 QCoreApplication::translate(
+                     "LaunchMixer",
                      "Install the sound server's volume control or a 3rd party mixer.  To install "
                      "the volume control, open the desktop's software manager, search for "
                      "PulseAudio Volume Control (package pavucontrol), and install it.\r\n"

@@ -9,6 +9,7 @@
 #include "diagnostics/Trap.h"
 #include "platform/Mixer.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -43,8 +44,8 @@ void MixerProfiles::ActivateMixerProfile(const QString& name)
             return;
         const int result = m_mixer.LoadMixerFile(path);
         if (result != 0)
-            m_log.LogEvent(EventWarning, QStringLiteral("Error activating mixer profile"),
-                           QStringLiteral("Error number = ") + QString::number(result));
+            m_log.LogEvent(EventWarning, tr("Error activating mixer profile"),
+                           tr("Error number = ") + QString::number(result));
     });
 }
 
@@ -53,7 +54,7 @@ void MixerProfiles::RemoveFile(const QString& name)
     QFile file(PathOf(name));
     if (file.exists() && !file.remove())
         throw RuntimeError(ErrorNumber::PathFileAccess,
-                           QStringLiteral("Path/File access error: ") + file.errorString());
+                           tr("Path/File access error: ") + file.errorString());
 }
 
 MixerProfiles::SaveOutcome MixerProfiles::SaveMixerProfile(const QString& typed,
@@ -63,38 +64,38 @@ MixerProfiles::SaveOutcome MixerProfiles::SaveMixerProfile(const QString& typed,
     Trap(m_log, "Save Mixer profile", [&] {
         if (!QDir().mkpath(m_folder))
             throw RuntimeError(ErrorNumber::PathFileAccess,
-                               QStringLiteral("Path/File access error: ") + m_folder);
+                               tr("Path/File access error: ") + m_folder);
         if (InvalidFilenameCharacters(typed)) {
-            messageBox.Show(QStringLiteral("Invalid profile name"),
-                            QStringLiteral("The mixer profile name cannot contain any of the "
-                                           "following characters:\r\n\\ / : * ? \" < > | "),
+            messageBox.Show(tr("Invalid profile name"),
+                            tr("The mixer profile name cannot contain any of the "
+                               "following characters:\r\n\\ / : * ? \" < > | "),
                             MsgIcon::Exclamation, MsgButtons::Ok);
             return;
         }
         if (Text::Trim(typed).isEmpty()) {
-            messageBox.Show(QStringLiteral("Invalid profile name"),
-                            QStringLiteral("The mixer profile name cannot be blank"),
-                            MsgIcon::Exclamation, MsgButtons::Ok);
+            messageBox.Show(tr("Invalid profile name"),
+                            tr("The mixer profile name cannot be blank"), MsgIcon::Exclamation,
+                            MsgButtons::Ok);
             return;
         }
         const QString path = PathOf(typed);
         bool overwrite = false;
         if (FileExistsOrClear(path)) {
-            if (messageBox.Show(QStringLiteral("Overwrite profile"),
-                                QStringLiteral("Are you sure you want to overwrite existing "
-                                               "profile with same name?"),
+            if (messageBox.Show(tr("Overwrite profile"),
+                                tr("Are you sure you want to overwrite existing "
+                                   "profile with same name?"),
                                 MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
                 return;
             if (!QFile::remove(path))
                 throw RuntimeError(ErrorNumber::PathFileAccess,
-                                   QStringLiteral("Path/File access error: ") + path);
+                                   tr("Path/File access error: ") + path);
             overwrite = true;
         }
         const int result = m_mixer.SaveMixerFile(path);
         if (result != 0) {
             // A part of the file may stay behind; the next save of the name replaces it.
-            m_log.LogEvent(EventWarning, QStringLiteral("Error saving mixer profile"),
-                           QStringLiteral("Error number = ") + QString::number(result));
+            m_log.LogEvent(EventWarning, tr("Error saving mixer profile"),
+                           tr("Error number = ") + QString::number(result));
             outcome = SaveOutcome::Failed;
             return;
         }

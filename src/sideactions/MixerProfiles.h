@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -48,4 +49,6 @@ private:
     EventLog& m_log;
     Mixer& m_mixer;
     QString m_folder;
+
+    Q_DECLARE_TR_FUNCTIONS(MixerProfiles)
 };

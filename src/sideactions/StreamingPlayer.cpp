@@ -5,6 +5,7 @@
 #include "diagnostics/EventLog.h"
 #include "platform/WaylandSession.h"
 
+#include <QCoreApplication>
 #include <cstdlib>
 
 StreamingPlayer::StreamingPlayer(Clock& clock, WindowList& windows, EventLog& log)
@@ -57,7 +58,7 @@ void StreamingPlayer::NoteWaylandOnce()
     if (m_waylandNoted || !IsWaylandSession())
         return;
     m_waylandNoted = true;
-    m_log.LogEvent(EventInformation, QStringLiteral("Streaming player on Wayland"), WaylandNote());
+    m_log.LogEvent(EventInformation, tr("Streaming player on Wayland"), WaylandNote());
 }
 
 void StreamingPlayer::CloseNewWindows()

@@ -2,6 +2,7 @@
 
 #include "platform/WindowList.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QSet>
 #include <QString>
@@ -35,8 +36,9 @@ public:
     // and the program editor in its tip.
     static QString WaylandNote()
     {
-        return QStringLiteral("On a Wayland session only players that run as X11 programs "
-                              "(XWayland) can be closed: native Wayland windows can't be.");
+        return QCoreApplication::translate(
+            "StreamingPlayer", "On a Wayland session only players that run as X11 programs "
+                               "(XWayland) can be closed: native Wayland windows can't be.");
     }
 
 private:
@@ -52,4 +54,6 @@ private:
     QList<WindowHandle> m_secondCollection;
     bool m_secondPass = false;
     double m_snapshotTime;
+
+    Q_DECLARE_TR_FUNCTIONS(StreamingPlayer)
 };

@@ -5,6 +5,7 @@
 #include "common/RuntimeError.h"
 #include "diagnostics/Trap.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QScopeGuard>
@@ -19,19 +20,22 @@ void ViewHtmlFile(EventLog& log, MessageBoxPresenter& messageBox, ProcessLaunche
         QFile page(path);
         if (!page.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
             page.write("<HTML> <\\HTML>") < 0)
-            throw RuntimeError(ErrorNumber::PathFileAccess,
-                               QStringLiteral("Path/File access error: ") + path);
+            throw RuntimeError(
+                ErrorNumber::PathFileAccess,
+                QCoreApplication::translate("ViewHtmlFile", "Path/File access error: ") + path);
         page.close();
 
         const QString browser = launcher.FindExecutable(path);
         if (browser.isEmpty()) {
-            messageBox.Show(QStringLiteral("Browser Not Found"),
-                            QStringLiteral("Could not find associated Browser"),
-                            MsgIcon::Exclamation, MsgButtons::Ok);
+            messageBox.Show(
+                QCoreApplication::translate("ViewHtmlFile", "Browser Not Found"),
+                QCoreApplication::translate("ViewHtmlFile", "Could not find associated Browser"),
+                MsgIcon::Exclamation, MsgButtons::Ok);
             return;
         }
         if (!launcher.ShellExecute(browser, url, WindowStyleNormal))
-            messageBox.Show(QStringLiteral("URL Failed"), QStringLiteral("Web Page not Opened"),
+            messageBox.Show(QCoreApplication::translate("ViewHtmlFile", "URL Failed"),
+                            QCoreApplication::translate("ViewHtmlFile", "Web Page not Opened"),
                             MsgIcon::Exclamation, MsgButtons::Ok);
     });
 }

@@ -23,22 +23,22 @@ frmAddMixerProfile::frmAddMixerProfile(MixerProfiles& profiles, EventLog& log,
     , Combo1(new QComboBox)
 {
     setObjectName(QStringLiteral("frmAddMixerProfile"));
-    setWindowTitle(QStringLiteral("Add Mixer Profile"));
+    setWindowTitle(tr("Add Mixer Profile"));
     Combo1->setObjectName(QStringLiteral("Combo1"));
     Combo1->setEditable(true);
     // The list offers names to write over; it must not add what is typed by itself.
     Combo1->setInsertPolicy(QComboBox::NoInsert);
-    auto* label = new QLabel(QStringLiteral("Enter mixer profile name"));
+    auto* label = new QLabel(tr("Enter mixer profile name"));
     label->setBuddy(Combo1);
-    auto* note = new QLabel(QStringLiteral("The current mixer settings will be saved to the shown "
-                                           "profile when the Save button is pressed."));
+    auto* note = new QLabel(tr("The current mixer settings will be saved to the shown "
+                               "profile when the Save button is pressed."));
     note->setWordWrap(true);
     // Save closes the form only when its checks pass, so it is not the box's accept.
     auto* buttons = new QDialogButtonBox;
-    QPushButton* save = buttons->addButton(QStringLiteral("&Save"), QDialogButtonBox::ActionRole);
+    QPushButton* save = buttons->addButton(tr("&Save"), QDialogButtonBox::ActionRole);
     save->setObjectName(QStringLiteral("frmSave"));
     save->setDefault(true);
-    buttons->addButton(QStringLiteral("&Exit"), QDialogButtonBox::RejectRole)
+    buttons->addButton(tr("&Exit"), QDialogButtonBox::RejectRole)
         ->setObjectName(QStringLiteral("btnExit"));
     connect(save, &QPushButton::clicked, this, &frmAddMixerProfile::frmSave_Click);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -29,14 +29,14 @@ frmMixerProfiles::frmMixerProfiles(MixerProfiles& profiles, EventLog& log,
     , m_log(log)
     , m_messageBox(messageBox)
     , lstMixerProfiles(new QListWidget)
-    , btnActivate(Button("btnActivate", QStringLiteral("A&ctivate")))
-    , btnRemove(Button("btnRemove", QStringLiteral("&Remove")))
+    , btnActivate(Button("btnActivate", tr("A&ctivate")))
+    , btnRemove(Button("btnRemove", tr("&Remove")))
 {
     setObjectName(QStringLiteral("frmMixerProfiles"));
-    setWindowTitle(QStringLiteral("Mixer Profiles"));
+    setWindowTitle(tr("Mixer Profiles"));
     lstMixerProfiles->setObjectName(QStringLiteral("lstMixerProfiles"));
-    auto* btnAdd = Button("btnAdd", QStringLiteral("&Add"));
-    auto* btnExit = Button("btnExit", QStringLiteral("&Exit"));
+    auto* btnAdd = Button("btnAdd", tr("&Add"));
+    auto* btnExit = Button("btnExit", tr("&Exit"));
     connect(btnActivate, &QPushButton::clicked, this, &frmMixerProfiles::btnActivate_Click);
     connect(btnAdd, &QPushButton::clicked, this, &frmMixerProfiles::btnAdd_Click);
     connect(btnRemove, &QPushButton::clicked, this, &frmMixerProfiles::btnRemove_Click);
@@ -78,11 +78,10 @@ void frmMixerProfiles::btnActivate_Click()
         EnableProfileButtons(false);
         return;
     }
-    if (m_messageBox.Show(
-            QStringLiteral("Activate mixer profile"),
-            QStringLiteral("The sound server's mixer settings will be set according to the "
-                           "selected mixer profile. Proceed?"),
-            MsgIcon::Question, MsgButtons::YesNo) == MsgResult::Yes)
+    if (m_messageBox.Show(tr("Activate mixer profile"),
+                          tr("The sound server's mixer settings will be set according to the "
+                             "selected mixer profile. Proceed?"),
+                          MsgIcon::Question, MsgButtons::YesNo) == MsgResult::Yes)
         m_profiles.ActivateMixerProfile(lstMixerProfiles->currentItem()->text());
 }
 
@@ -105,9 +104,9 @@ void frmMixerProfiles::btnRemove_Click()
             EnableProfileButtons(false);
             return;
         }
-        if (m_messageBox.Show(QStringLiteral("Remove mixer profile"),
-                              QStringLiteral("The selected mixer profile will be permanently "
-                                             "removed. Proceed?"),
+        if (m_messageBox.Show(tr("Remove mixer profile"),
+                              tr("The selected mixer profile will be permanently "
+                                 "removed. Proceed?"),
                               MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
             return;
         const int row = lstMixerProfiles->currentRow();

@@ -7,6 +7,7 @@
 #include "diagnostics/clsError.h"
 #include "store/GridColumns.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 namespace {
@@ -163,27 +164,24 @@ void AppDatabase::CompactDatabase()
         UnloadElog();
         const QString target = m_folders.TempDatabaseFile();
         if (QFile::exists(target) && !QFile::remove(target))
-            throw RuntimeError(ErrorNumber::PathFileAccess,
-                               QStringLiteral("Path/File access error"));
+            throw RuntimeError(ErrorNumber::PathFileAccess, tr("Path/File access error"));
         {
             Database source;
             source.Open(DatabaseFile());
             source.CompactInto(target);
         }
         if (!QFile::remove(DatabaseFile()) || !QFile::rename(target, DatabaseFile()))
-            throw RuntimeError(ErrorNumber::PathFileAccess,
-                               QStringLiteral("Path/File access error"));
+            throw RuntimeError(ErrorNumber::PathFileAccess, tr("Path/File access error"));
         db.Open(DatabaseFile());
         OpenRecordsets();
         DataPrograms.SetRecordset(rsPrograms);
         DataInfo.SetRecordset(rsInfo);
         DataRecordings.SetRecordset(rsRecordings);
     } catch (const RuntimeError& error) {
-        m_messageBox.Show(
-            QStringLiteral("Nightreel 2000 Error"),
-            QStringLiteral("Compact Database failed.  The following error occurred: ") +
-                error.Text(),
-            MsgIcon::Exclamation, MsgButtons::Ok);
+        m_messageBox.Show(tr("Nightreel 2000 Error"),
+                          tr("Compact Database failed.  The following error occurred: ") +
+                              error.Text(),
+                          MsgIcon::Exclamation, MsgButtons::Ok);
     }
 }
 

@@ -5,6 +5,8 @@
 #include "store/Database.h"
 #include "store/Recordset.h"
 
+#include <QCoreApplication>
+
 class EventLog;
 class MessageBoxPresenter;
 class clsError;
@@ -60,4 +62,6 @@ private:
     clsError& m_error;
     MessageBoxPresenter& m_messageBox;
     bool m_elogBound = false;
+
+    Q_DECLARE_TR_FUNCTIONS(AppDatabase)
 };

@@ -1,16 +1,23 @@
 #include "store/GridColumns.h"
 
+#include <QCoreApplication>
+
 namespace GridColumns {
 
 const QList<GridColumn>& Programs()
 {
     static const QList<GridColumn> columns{
-        {QStringLiteral("Description"), QStringLiteral("DescriptionText")},
-        {QStringLiteral("Start Time"), QStringLiteral("StartTime"), GridColumn::Display::LongTime},
-        {QStringLiteral("End Time"), QStringLiteral("EndTime"), GridColumn::Display::LongTime},
-        {QStringLiteral("Frequency"), QStringLiteral("FrequencyText")},
-        {QStringLiteral("Enabled"), QStringLiteral("Enabled"), GridColumn::Display::Boolean},
-        {QStringLiteral("Source"), QStringLiteral("StreamUrl"), GridColumn::Display::Source},
+        {QCoreApplication::translate("GridColumns", "Description"),
+         QStringLiteral("DescriptionText")},
+        {QCoreApplication::translate("GridColumns", "Start Time"), QStringLiteral("StartTime"),
+         GridColumn::Display::LongTime},
+        {QCoreApplication::translate("GridColumns", "End Time"), QStringLiteral("EndTime"),
+         GridColumn::Display::LongTime},
+        {QCoreApplication::translate("GridColumns", "Frequency"), QStringLiteral("FrequencyText")},
+        {QCoreApplication::translate("GridColumns", "Enabled"), QStringLiteral("Enabled"),
+         GridColumn::Display::Boolean},
+        {QCoreApplication::translate("GridColumns", "Source"), QStringLiteral("StreamUrl"),
+         GridColumn::Display::Source},
     };
     return columns;
 }
@@ -18,13 +25,14 @@ const QList<GridColumn>& Programs()
 const QList<GridColumn>& Recordings()
 {
     static const QList<GridColumn> columns{
-        {QStringLiteral("Description"), QStringLiteral("Title")},
+        {QCoreApplication::translate("GridColumns", "Description"), QStringLiteral("Title")},
         {QStringLiteral("Date/Time"), QStringLiteral("StartTime"),
          GridColumn::Display::GeneralDate},
         {QStringLiteral("EndTime"), QStringLiteral("EndTime"), GridColumn::Display::GeneralDate},
         {QStringLiteral("CompressionMethod"), QStringLiteral("CompressionMethod")},
-        {QStringLiteral("Size (Mbytes)"), QStringLiteral("Size"), GridColumn::Display::Number},
-        {QStringLiteral("File"), QStringLiteral("File")},
+        {QCoreApplication::translate("GridColumns", "Size (Mbytes)"), QStringLiteral("Size"),
+         GridColumn::Display::Number},
+        {QCoreApplication::translate("GridColumns", "File"), QStringLiteral("File")},
     };
     return columns;
 }
@@ -35,8 +43,8 @@ const QList<GridColumn>& EventLog()
         {QString(), QStringLiteral("Type")},
         {QStringLiteral("Date/Time"), QStringLiteral("DateAndTime"),
          GridColumn::Display::GeneralDate},
-        {QStringLiteral("Message"), QStringLiteral("Message")},
-        {QStringLiteral("Details"), QStringLiteral("Details")},
+        {QCoreApplication::translate("GridColumns", "Message"), QStringLiteral("Message")},
+        {QCoreApplication::translate("GridColumns", "Details"), QStringLiteral("Details")},
     };
     return columns;
 }

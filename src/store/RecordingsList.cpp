@@ -9,6 +9,7 @@
 #include "store/AppDatabase.h"
 #include "store/Options.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -30,9 +31,10 @@ QStringList FilesMatching(const QDir& dir, const QString& pattern)
     return dir.entryList({pattern}, QDir::Files | QDir::Hidden, QDir::Name);
 }
 
-QString Plural(qint64 n, const QString& one)
+// German, like English, has one form for 1 and one for the other counts.
+QString Plural(qint64 n, const QString& one, const QString& many)
 {
-    return QString::number(n) + u' ' + one + (n == 1 ? QString() : QStringLiteral("s"));
+    return n == 1 ? one : many.arg(n);
 }
 
 } // namespace
@@ -110,9 +112,9 @@ void RecordingsList::DeleteFromDisk(const QList<qint64>& bookmarks)
         const QString file = rs.Value(QStringLiteral("File")).toString();
         QFile::remove(file);
         if (QFileInfo::exists(file)) {
-            m_log.LogEvent(EventError, QStringLiteral("Recording was not deleted from disk."),
-                           QStringLiteral("File may be read only, or locked by another "
-                                          "process.\r\nFilename: ") +
+            m_log.LogEvent(EventError, tr("Recording was not deleted from disk."),
+                           tr("File may be read only, or locked by another "
+                              "process.\r\nFilename: ") +
                                file);
             continue;
         }
@@ -175,7 +177,7 @@ void RecordingsList::Purge()
 QString RecordingsList::DurationText(double startTime, double endTime)
 {
     const qint64 seconds = AutomationDate::SecondsBetween(startTime, endTime);
-    return Plural(seconds / 3600, QStringLiteral("Hour")) + u' ' +
-           Plural(seconds / 60 % 60, QStringLiteral("Minute")) + u' ' +
-           Plural(seconds % 60, QStringLiteral("Second"));
+    return Plural(seconds / 3600, tr("1 Hour"), tr("%1 Hours")) + u' ' +
+           Plural(seconds / 60 % 60, tr("1 Minute"), tr("%1 Minutes")) + u' ' +
+           Plural(seconds % 60, tr("1 Second"), tr("%1 Seconds"));
 }

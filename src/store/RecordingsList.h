@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -54,4 +55,6 @@ private:
     const Options& m_options;
     const Clock& m_clock;
     BusyFiles m_busyFiles;
+
+    Q_DECLARE_TR_FUNCTIONS(RecordingsList)
 };

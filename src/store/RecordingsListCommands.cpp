@@ -7,6 +7,7 @@
 #include "store/Options.h"
 #include "store/RecordingsList.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 RecordingsListCommands::RecordingsListCommands(AppDatabase& database, RecordingsList& list,
@@ -48,14 +49,13 @@ void RecordingsListCommands::RecordingsPlay()
             m_view.PlayRecording(file, rs.Value(QStringLiteral("Title")).toString(),
                                  rs.Value(QStringLiteral("StartTime")).toDouble());
         else
-            m_messageBox.Show(
-                QStringLiteral("Recording file not found"),
-                QStringLiteral("This recording was not found on disk.  The disk file may have "
-                               "deleted or moved.  If this file was on removable media verify "
-                               "that the recording is on the media. It is also possible that "
-                               "the disk drive letters may have been changed by the operating "
-                               "system after system reboot."),
-                MsgIcon::Exclamation, MsgButtons::Ok);
+            m_messageBox.Show(tr("Recording file not found"),
+                              tr("This recording was not found on disk.  The disk file may have "
+                                 "deleted or moved.  If this file was on removable media verify "
+                                 "that the recording is on the media. It is also possible that "
+                                 "the disk drive letters may have been changed by the operating "
+                                 "system after system reboot."),
+                              MsgIcon::Exclamation, MsgButtons::Ok);
     });
 }
 
@@ -89,9 +89,9 @@ void RecordingsListCommands::CopyRecordingFilename()
 void RecordingsListCommands::AddFileToList()
 {
     Trap(m_log, "mnuAddFileToList_Click", [&] {
-        const QString file = m_view.AskForFile(
-            QStringLiteral("WAV and MP3 files (*.wav *.mp3 *.WAV *.MP3);;WAV files (*.wav "
-                           "*.WAV);;MP3 files (*.mp3 *.MP3)"));
+        const QString file =
+            m_view.AskForFile(tr("WAV and MP3 files (*.wav *.mp3 *.WAV *.MP3);;WAV files (*.wav "
+                                 "*.WAV);;MP3 files (*.mp3 *.MP3)"));
         if (!file.isEmpty())
             m_list.AddFileToRecordingsList(file);
     });
@@ -120,11 +120,11 @@ QList<qint64> RecordingsListCommands::AgreedSelection(const QString& title, cons
 void RecordingsListCommands::RemoveSelectedRecordingsFromList()
 {
     Trap(m_log, "RemoveSelectedRecordingsFromList", [&] {
-        const QList<qint64> rows = AgreedSelection(
-            QStringLiteral("Remove Selected Recordings From List"),
-            QStringLiteral("The selected recordings will be removed from the recording "
-                           "list.  The recordings will not be deleted from disk. Proceed?"),
-            MsgIcon::None);
+        const QList<qint64> rows =
+            AgreedSelection(tr("Remove Selected Recordings From List"),
+                            tr("The selected recordings will be removed from the recording "
+                               "list.  The recordings will not be deleted from disk. Proceed?"),
+                            MsgIcon::None);
         if (rows.isEmpty())
             return;
         m_list.RemoveFromList(rows);
@@ -137,10 +137,10 @@ void RecordingsListCommands::DeleteSelectedRecordingsFromDisk()
 {
     Trap(m_log, "DeleteSelectedRecordingsFromDisk", [&] {
         const QList<qint64> rows =
-            AgreedSelection(QStringLiteral("Remove Recordings From Disk"),
-                            QStringLiteral("This will remove recordings PERMANENTLY from disk. "
-                                           "Are you sure you want to delete the selected "
-                                           "recordings?"),
+            AgreedSelection(tr("Remove Recordings From Disk"),
+                            tr("This will remove recordings PERMANENTLY from disk. "
+                               "Are you sure you want to delete the selected "
+                               "recordings?"),
                             MsgIcon::Question);
         if (rows.isEmpty())
             return;
@@ -155,11 +155,10 @@ void RecordingsListCommands::DeleteSelectedRecordingsFromDisk()
 void RecordingsListCommands::ClearRecordingsList()
 {
     Trap(m_log, "ClearRecordingsList", [&] {
-        if (m_messageBox.Show(
-                QStringLiteral("Clear Recordings List"),
-                QStringLiteral("All recordings will be removed from the recording list.  The "
-                               "recordings will not be deleted from disk. Proceed?"),
-                MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
+        if (m_messageBox.Show(tr("Clear Recordings List"),
+                              tr("All recordings will be removed from the recording list.  The "
+                                 "recordings will not be deleted from disk. Proceed?"),
+                              MsgIcon::None, MsgButtons::YesNo) != MsgResult::Yes)
             return;
         m_list.ClearRecordingsList();
     });

@@ -3,6 +3,8 @@
 #include "common/MessageBox.h"
 #include "store/RecordingsListView.h"
 
+#include <QCoreApplication>
+
 class AppDatabase;
 class EventLog;
 class Options;
@@ -46,4 +48,6 @@ private:
     MessageBoxPresenter& m_messageBox;
     const Options& m_options;
     RecordingsListView& m_view;
+
+    Q_DECLARE_TR_FUNCTIONS(RecordingsListCommands)
 };

@@ -97,7 +97,7 @@ QString RecordsetModel::DisplayText(const QVariant& value, GridColumn::Display d
 {
     if (display == GridColumn::Display::Source) {
         const QString stream = value.toString().trimmed();
-        return stream.isEmpty() ? QStringLiteral("Sound server input") : stream;
+        return stream.isEmpty() ? tr("Sound server input") : stream;
     }
     if (value.isNull())
         return QString();
@@ -107,7 +107,7 @@ QString RecordsetModel::DisplayText(const QVariant& value, GridColumn::Display d
     case GridColumn::Display::LongTime:
         return Options::TimeText(value.toDouble());
     case GridColumn::Display::Boolean:
-        return Field::ToBool(value) ? QStringLiteral("True") : QStringLiteral("False");
+        return Field::ToBool(value) ? tr("True") : tr("False");
     case GridColumn::Display::Number:
         return QString::number(value.toDouble(), 'g', 7);
     case GridColumn::Display::Text:

@@ -2,6 +2,7 @@
 
 #include "diagnostics/EventLog.h"
 
+#include <QCoreApplication>
 #include <QSettings>
 #include <QStringList>
 
@@ -41,7 +42,8 @@ void RegKeys::SaveSetting(const QString& section, const QString& name, const QSt
     settings.endGroup();
     settings.sync();
     if (settings.status() != QSettings::NoError)
-        m_log.LogEvent(EventError, QStringLiteral("Error saving setting in registry."),
+        m_log.LogEvent(EventError,
+                       QCoreApplication::translate("RegKeys", "Error saving setting in registry."),
                        section + u' ' + name + u' ' + value);
 }
 

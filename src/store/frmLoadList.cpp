@@ -20,17 +20,17 @@ frmLoadList::frmLoadList(SavedLists& lists, EventLog& log, MessageBoxPresenter& 
     , m_log(log)
     , m_messageBox(messageBox)
     , m_list1(new QListWidget)
-    , m_chkMerge(new QCheckBox(QStringLiteral("&Merge into current recordings list")))
-    , m_btnLoad(new QPushButton(QStringLiteral("&Load")))
-    , m_btnRemove(new QPushButton(QStringLiteral("&Remove")))
+    , m_chkMerge(new QCheckBox(tr("&Merge into current recordings list")))
+    , m_btnLoad(new QPushButton(tr("&Load")))
+    , m_btnRemove(new QPushButton(tr("&Remove")))
 {
     setObjectName(QStringLiteral("frmLoadList"));
-    setWindowTitle(QStringLiteral("Load Recordings List"));
+    setWindowTitle(tr("Load Recordings List"));
     m_list1->setObjectName(QStringLiteral("List1"));
     m_chkMerge->setObjectName(QStringLiteral("chkMerge"));
     m_btnLoad->setObjectName(QStringLiteral("btnLoad"));
     m_btnRemove->setObjectName(QStringLiteral("btnRemove"));
-    auto* exit = new QPushButton(QStringLiteral("&Exit"));
+    auto* exit = new QPushButton(tr("&Exit"));
     exit->setObjectName(QStringLiteral("btnExit"));
     connect(m_btnLoad, &QPushButton::clicked, this, &frmLoadList::btnLoad_Click);
     connect(m_btnRemove, &QPushButton::clicked, this, &frmLoadList::btnRemove_Click);
@@ -60,9 +60,9 @@ void frmLoadList::Open(SavedLists& lists, EventLog& log, MessageBoxPresenter& me
                        QWidget* owner)
 {
     if (lists.Names().isEmpty()) {
-        messageBox.Show(QStringLiteral("No list exists"),
-                        QStringLiteral("No recordings list files exist.  Please save a "
-                                       "recordings list first."),
+        messageBox.Show(tr("No list exists"),
+                        tr("No recordings list files exist.  Please save a "
+                           "recordings list first."),
                         MsgIcon::None, MsgButtons::Ok);
         return;
     }
@@ -75,13 +75,13 @@ void frmLoadList::btnLoad_Click()
     if (!item)
         return;
     const bool merge = m_chkMerge->isChecked();
-    const QString text =
-        merge ? QStringLiteral("Recordings from the selected saved list will be merged into the "
-                               "current recordings list. Proceed?")
-              : QStringLiteral("The current recordings list will be replaced with the selected "
-                               "saved list. Proceed?");
-    if (m_messageBox.Show(QStringLiteral("Load Recordings List"), text, MsgIcon::Question,
-                          MsgButtons::YesNo) != MsgResult::Yes)
+    const QString text = merge
+                             ? tr("Recordings from the selected saved list will be merged into the "
+                                  "current recordings list. Proceed?")
+                             : tr("The current recordings list will be replaced with the selected "
+                                  "saved list. Proceed?");
+    if (m_messageBox.Show(tr("Load Recordings List"), text, MsgIcon::Question, MsgButtons::YesNo) !=
+        MsgResult::Yes)
         return;
     Trap(m_log, "LoadList", [&] { m_lists.LoadList(item->text(), merge); });
     accept();
@@ -92,9 +92,9 @@ void frmLoadList::btnRemove_Click()
     const int row = m_list1->currentRow();
     if (row < 0)
         return;
-    if (m_messageBox.Show(QStringLiteral("Remove Recordings List"),
-                          QStringLiteral("The selected recordings list will be permanently "
-                                         "removed. Proceed?"),
+    if (m_messageBox.Show(tr("Remove Recordings List"),
+                          tr("The selected recordings list will be permanently "
+                             "removed. Proceed?"),
                           MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
         return;
     QFile::remove(m_lists.PathOf(m_list1->item(row)->text()));

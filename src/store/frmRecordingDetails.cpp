@@ -14,7 +14,7 @@ frmRecordingDetails::frmRecordingDetails(const Recordset& row, QWidget* owner)
     : QDialog(owner)
 {
     setObjectName(QStringLiteral("frmRecordingDetails"));
-    setWindowTitle(QStringLiteral("Recording Details"));
+    setWindowTitle(tr("Recording Details"));
     const double start = row.Value(QStringLiteral("StartTime")).toDouble();
     const double end = row.Value(QStringLiteral("EndTime")).toDouble();
     auto* form = new QFormLayout;
@@ -26,16 +26,15 @@ frmRecordingDetails::frmRecordingDetails(const Recordset& row, QWidget* owner)
         form->addRow(caption, label);
     };
     add("lblTitle", QStringLiteral("Title:"), row.Value(QStringLiteral("Title")).toString());
-    add("lblStartTime", QStringLiteral("Start Time:"), Options::DateText(start));
-    add("lblEndTime", QStringLiteral("End Time:"), Options::DateText(end));
-    add("lblDuration", QStringLiteral("Duration:"), RecordingsList::DurationText(start, end));
-    add("lblDataSize", QStringLiteral("Data Size:"),
-        QString::number(row.Value(QStringLiteral("Size")).toDouble(), 'f', 1) +
-            QStringLiteral(" Mbytes"));
-    add("lblCompressionMethod", QStringLiteral("Compression Method:"),
+    add("lblStartTime", tr("Start Time:"), Options::DateText(start));
+    add("lblEndTime", tr("End Time:"), Options::DateText(end));
+    add("lblDuration", tr("Duration:"), RecordingsList::DurationText(start, end));
+    add("lblDataSize", tr("Data Size:"),
+        QString::number(row.Value(QStringLiteral("Size")).toDouble(), 'f', 1) + tr(" Mbytes"));
+    add("lblCompressionMethod", tr("Compression Method:"),
         row.Value(QStringLiteral("CompressionMethod")).toString());
     add("lblFileName", QStringLiteral("File Name:"), row.Value(QStringLiteral("File")).toString());
-    auto* exit = new QPushButton(QStringLiteral("E&xit"));
+    auto* exit = new QPushButton(tr("E&xit"));
     exit->setObjectName(QStringLiteral("Command1"));
     exit->setDefault(true);
     connect(exit, &QPushButton::clicked, this, &QDialog::accept);

@@ -27,13 +27,13 @@ frmSaveList::frmSaveList(SavedLists& lists, AppDatabase& database, EventLog& log
     , m_combo1(new QComboBox)
 {
     setObjectName(QStringLiteral("frmSaveList"));
-    setWindowTitle(QStringLiteral("Save Recordings List"));
+    setWindowTitle(tr("Save Recordings List"));
     m_combo1->setObjectName(QStringLiteral("Combo1"));
     m_combo1->setEditable(true);
-    auto* save = new QPushButton(QStringLiteral("&Save"));
+    auto* save = new QPushButton(tr("&Save"));
     save->setObjectName(QStringLiteral("frmSave"));
     save->setDefault(true);
-    auto* exit = new QPushButton(QStringLiteral("&Exit"));
+    auto* exit = new QPushButton(tr("&Exit"));
     exit->setObjectName(QStringLiteral("btnExit"));
     connect(save, &QPushButton::clicked, this, &frmSaveList::frmSave_Click);
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
@@ -42,7 +42,7 @@ frmSaveList::frmSaveList(SavedLists& lists, AppDatabase& database, EventLog& log
     buttons->addWidget(save);
     buttons->addWidget(exit);
     auto* layout = new QVBoxLayout(this);
-    auto* prompt = new QLabel(QStringLiteral("Enter list name"));
+    auto* prompt = new QLabel(tr("Enter list name"));
     prompt->setBuddy(m_combo1);
     layout->addWidget(prompt);
     layout->addWidget(m_combo1);
@@ -65,27 +65,26 @@ void frmSaveList::frmSave_Click()
             m_messageBox.Show(title, text, MsgIcon::Exclamation, MsgButtons::Ok);
         };
         if (m_database.DataRecordings.recordset().RecordCount() == 0) {
-            warn(QString(), QStringLiteral("No recordings in current list"));
+            warn(QString(), tr("No recordings in current list"));
             return;
         }
         const QString name = m_combo1->currentText();
         if (InvalidFilenameCharacters(name)) {
-            warn(QStringLiteral("Invalid list name"),
-                 QStringLiteral("The recordings list name cannot contain any of the following "
-                                "characters:\r\n\\ / : * ? \" < > | "));
+            warn(tr("Invalid list name"),
+                 tr("The recordings list name cannot contain any of the following "
+                    "characters:\r\n\\ / : * ? \" < > | "));
             return;
         }
         if (Text::Trim(name).isEmpty()) {
-            warn(QStringLiteral("Invalid list name"),
-                 QStringLiteral("The recordings list name cannot be blank"));
+            warn(tr("Invalid list name"), tr("The recordings list name cannot be blank"));
             return;
         }
         SavedLists& lists = m_lists;
         const QString path = lists.PathOf(name);
         if (QFile::exists(path)) {
-            if (m_messageBox.Show(QStringLiteral("Overwrite list"),
-                                  QStringLiteral("Are you sure you want to overwrite existing "
-                                                 "recordings list with same name?"),
+            if (m_messageBox.Show(tr("Overwrite list"),
+                                  tr("Are you sure you want to overwrite existing "
+                                     "recordings list with same name?"),
                                   MsgIcon::Question, MsgButtons::YesNo) != MsgResult::Yes)
                 return;
             QFile::remove(path);

@@ -8,6 +8,10 @@
 class TestClock : public Clock {
 public:
     double Now() const override { return m_system ? m_system->Now() : m_now; }
+    qint64 MsecsUntil(double date) const override
+    {
+        return m_system ? m_system->MsecsUntil(date) : Clock::MsecsUntil(date);
+    }
     void FollowSystemTime() { m_system.emplace(); }
     void Set(double date) { m_now = date; }
     void Set(const QDateTime& local) { m_now = AutomationDate::FromDateTime(local); }
