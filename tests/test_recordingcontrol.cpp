@@ -58,22 +58,24 @@ private slots:
 void TestRecordingControl::startThatEndsAtOnce_data()
 {
     QTest::addColumn<QString>("situation");
-    QTest::addColumn<QString>("boxText");
+    QTest::addColumn<QString>("boxTitle");
 
     QTest::newRow("suspended") << "suspended"
                                << "";
     QTest::newRow("program row gone") << "row gone"
                                       << "";
-    QTest::newRow("manual without folder")
-        << "no folder"
-        << "Invalid Recording Directory. Select a recording directory in Options.";
+    QTest::newRow("manual without folder") << "no folder"
+                                           << "Error";
+    QTest::newRow("manual with too little disk")
+        << "no space"
+        << "Recording not started due to insufficient disk space.";
 }
 
 // Nothing is logged, no task is started, and Recording is clear again.
 void TestRecordingControl::startThatEndsAtOnce()
 {
     QFETCH(QString, situation);
-    QFETCH(QString, boxText);
+    QFETCH(QString, boxTitle);
 
     Fixture f;
     qint32 id = 4711;
@@ -88,6 +90,9 @@ void TestRecordingControl::startThatEndsAtOnce()
     } else if (situation == "no folder") {
         id = -1;
         f.ctx().options.DefaultRecordingDirectory.clear();
+    } else if (situation == "no space") {
+        id = -1;
+        f.tc.diskSpace.freeMb = 1.0;
     }
     const double now = f.ctx().Now();
     QString description = "Test";
@@ -96,12 +101,11 @@ void TestRecordingControl::startThatEndsAtOnce()
     QVERIFY(!f.ctx().appStatus.Recording());
     QVERIFY(f.recorder.Link().StartedTasks().isEmpty());
     QVERIFY(f.LogMessages().isEmpty());
-    if (boxText.isEmpty()) {
+    if (boxTitle.isEmpty()) {
         QVERIFY(f.tc.messageBox.asked.isEmpty());
     } else {
         QCOMPARE(f.tc.messageBox.asked.size(), 1);
-        QCOMPARE(f.tc.messageBox.asked[0].title, QString("Error"));
-        QCOMPARE(f.tc.messageBox.asked[0].text, boxText);
+        QCOMPARE(f.tc.messageBox.asked[0].title, boxTitle);
     }
 }
 

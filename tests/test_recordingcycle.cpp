@@ -67,7 +67,6 @@ private slots:
     void openWindowStartsAtOnceAndEndsByTheClock();
     void dayLongRecordingStopsByTheClock();
     void recordingWithoutDataFails();
-    void manualRecordingNeedsHalfAMegabyteAboveTheLimit();
     void aStopAskedWhileTheTaskStartsReachesIt();
     void aWriteErrorKeepsWhatWasWritten();
     void mixerProfilesAroundTheRecording();
@@ -321,33 +320,6 @@ void TestRecordingCycle::recordingWithoutDataFails()
     QVERIFY(r.Files().isEmpty());
     QVERIFY(r.Recordings().isEmpty());
     QVERIFY(r.tc.launcher.started.isEmpty());
-}
-
-// A manual request is refused with free space a quarter megabyte above the limit and
-// accepted with half a megabyte; a manual recording stops without a question.
-void TestRecordingCycle::manualRecordingNeedsHalfAMegabyteAboveTheLimit()
-{
-    RecordingRig r;
-    r.ctx().options.StopRecMegsLeft = 25;
-    r.ctx().options.ConfirmStopManualRecording = false;
-    r.tc.diskSpace.freeMb = 25.25;
-    r.StartManual(At("12:00:00"), 60);
-    QVERIFY(!r.ctx().appStatus.Recording());
-    QCOMPARE(r.tc.messageBox.asked.size(), 1);
-    QCOMPARE(r.tc.messageBox.asked[0].title,
-             QString("Recording not started due to insufficient disk space."));
-    QVERIFY(r.recorder().Link().StartedTasks().isEmpty());
-
-    r.tc.diskSpace.freeMb = 25.5;
-    r.StartManual(At("12:00:00"), 60);
-    QVERIFY(r.ctx().appStatus.Recording());
-    QTest::qWait(1500);
-    r.recorder().Control().HandleStopRecordingRequest(r.ctx().options.ConfirmStopManualRecording);
-    QVERIFY(r.WaitUntilStopped());
-    QCOMPARE(r.tc.messageBox.asked.size(), 1);
-    QCOMPARE(r.Files(), QStringList{"060126_120000.WAV"});
-    QCOMPARE(r.Recordings().size(), 1);
-    QCOMPARE(r.Recordings()[0].title, QString("Manual"));
 }
 
 // The user stops a manual recording while its task is still starting: the stop waits for the

@@ -63,16 +63,7 @@ void AddRow(AppDatabase& database, const RecordingRow& row)
     try {
         if (IsFileInRecordingsList(database, row.File))
             return;
-        Recordset& rs = database.DataRecordings.recordset();
-        rs.AddNew();
-        rs.SetValue(QStringLiteral("Title"), row.Title);
-        rs.SetValue(QStringLiteral("StartTime"), row.StartTime);
-        rs.SetValue(QStringLiteral("EndTime"), row.EndTime);
-        rs.SetValue(QStringLiteral("CompressionMethod"), row.CompressionMethod);
-        rs.SetValue(QStringLiteral("Size"), double(row.Size));
-        rs.SetValue(QStringLiteral("File"), row.File);
-        rs.Update();
-        rs.SetBookmark(rs.LastModified());
+        database.DataRecordings.recordset().SetBookmark(WriteRecordingRow(database, row));
     } catch (const std::exception&) {
         database.DataRecordings.recordset().CancelUpdate();
     }

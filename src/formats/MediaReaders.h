@@ -1,19 +1,11 @@
 #pragma once
 
+#include "store/RecordingRow.h"
+
 #include <QString>
 
 class AppDatabase;
 class EventLog;
-
-// The row that the recordings list gets for a file found on disk.
-struct RecordingRow {
-    QString Title;
-    double StartTime = 0.0;
-    double EndTime = 0.0;
-    QString CompressionMethod;
-    float Size = 0.0f; // Mbytes
-    QString File;
-};
 
 // The readers of the files that the user adds to the recordings list. Nothing here
 // reports: a file that a reader does not take gives no row, and the caller tries the next

@@ -3,7 +3,6 @@
 #include "common/AutomationDate.h"
 #include "common/Clock.h"
 #include "common/MessageBox.h"
-#include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
 #include "common/UnattendedPath.h"
 #include "common/clsAppStatus.h"
@@ -14,23 +13,24 @@
 #include "formats/Mp3Info.h"
 #include "platform/DiskSpace.h"
 #include "recording/ConversionQueue.h"
-#include "recording/RecordingFileName.h"
 #include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
 #include "recording/clsRecordingStatus.h"
 #include "scheduling/Scheduler.h"
-#include "scheduling/StreamingPlayerClose.h"
 #include "sideactions/HangUpConnections.h"
 #include "sideactions/LaunchCommands.h"
 #include "sideactions/MixerProfiles.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
+#include "store/ProgramRow.h"
+#include "store/RecordingRow.h"
 #include "taskcontract/RecParms.h"
 #include "taskcontract/TaskErrors.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QThread>
 #include <cmath>
 
@@ -38,30 +38,12 @@ using namespace TaskProtocol;
 
 namespace {
 
-constexpr float kLeastRecordingMbytes = 0.001f;
-constexpr double kDirectRecordingMbytes = 0.5;
-
-QString TextColumn(const Recordset& rs, const QString& column, bool trimmed)
-{
-    if (rs.IsNull(column))
-        return QString();
-    const QString value = rs.Value(column).toString();
-    return trimmed ? value.trimmed() : value;
-}
-
-bool BoolColumn(const Recordset& rs, const QString& column)
-{
-    return !rs.IsNull(column) && rs.Value(column).toInt() != 0;
-}
-
 QString SoftwareName()
 {
     return QCoreApplication::translate("RecordingControl", "Nightreel 2000 %1.%2")
         .arg(NIGHTREEL_VERSION_MAJOR)
         .arg(NIGHTREEL_VERSION_MINOR);
 }
-
-const QString kCaptureEnding = QStringLiteral(".WAV.TMP");
 
 // The start on the task's clock, in milliseconds since 1970, for a stream opened ahead that
 // must begin on the due second itself. The program's clock reads whole seconds, the second
@@ -74,11 +56,6 @@ qint64 DueMsecs(const Clock& clock, double start)
     const bool wholeSeconds = std::abs(nowSeconds - std::round(nowSeconds)) < 0.001;
     const qint64 base = wholeSeconds ? real / 1000 * 1000 : real;
     return base + qint64(std::llround((start - now) * 86400000.0));
-}
-
-QString WithClosingSeparator(const QString& folder)
-{
-    return folder.endsWith(u'/') ? folder : folder + u'/';
 }
 
 } // namespace
@@ -107,20 +84,6 @@ RecordingControl::~RecordingControl() = default;
 void RecordingControl::ExitAndClear()
 {
     m_s.appStatus.SetRecording(false);
-}
-
-QString RecordingControl::UnusedFileName(const QString& folder, QString& baseName,
-                                         const QString& extension, const QStringList& endings,
-                                         const QString& description)
-{
-    const QString wanted = baseName;
-    baseName = FreeBaseName(folder, wanted, endings);
-    if (baseName != wanted)
-        m_s.log.LogEvent(EventInformation, tr("Recording saved under a new name"),
-                         tr("A file named \"%1\" is already in the recording folder "
-                            "and is kept. The recording \"%2\" is saved as \"%3\".")
-                             .arg(wanted + extension, description, baseName + extension));
-    return folder + baseName + extension;
 }
 
 void RecordingControl::OnTaskError(qint32 code, const QString& detail)
@@ -190,184 +153,103 @@ void RecordingControl::StartRecording(qint32 ProgramId, double StartTime, double
          [&] { StartRecordingSteps(ProgramId, StartTime, EndTime, Description); });
 }
 
+RecordingRequest RecordingControl::Request(qint32 ProgramId, double StartTime, double EndTime,
+                                           const QString& Description) const
+{
+    RecordingRequest request;
+    request.ProgramId = ProgramId;
+    request.StartTime = StartTime;
+    request.EndTime = EndTime;
+    if (ProgramId == -1) {
+        request.Format.CopyFrom(m_manual.Format);
+        request.Description = Description;
+        request.UserFileName = m_manual.Filename;
+        request.StreamUrl = m_manual.StreamUrl;
+        return request;
+    }
+    Recordset programs = m_s.database.DataPrograms.recordset().Clone();
+    programs.FindFirst(QStringLiteral("Id = ") + QString::number(ProgramId));
+    if (programs.NoMatch())
+        return request;
+    request.Program = ProgramRow::Read(programs);
+    RequireStartValues(*request.Program);
+    ReadFormat(m_s.log, request.Format, programs);
+    return request;
+}
+
+RecordingSettings RecordingControl::Settings(bool manual) const
+{
+    const Options& o = m_s.options;
+    RecordingSettings settings;
+    settings.Folder = o.DefaultRecordingDirectory;
+    settings.RecordingInput = o.RecordingInput;
+    settings.FileNameFormat = o.DefaultRecordFileNameFormat;
+    settings.StopRecMegsLeft = o.StopRecMegsLeft;
+    // Only a manual recording is refused for space.
+    if (manual && !settings.Folder.isEmpty())
+        settings.FreeMbytes =
+            m_s.diskSpace.GetRecDirDiskSpaceMb(RecordingFolder(settings.Folder)).free;
+    settings.Converting = m_s.appStatus.Converting();
+    settings.SilenceThresholdDb = o.SilenceThresholdDb;
+    settings.SilenceSeconds = o.SilenceAlarm ? o.SilenceAlarmSeconds : 0;
+    settings.SoftwareName = SoftwareName();
+    return settings;
+}
+
+void RecordingControl::Refuse(const RecordingRefusal& refusal)
+{
+    if (!refusal.Title.isEmpty())
+        m_s.messageBox.Show(refusal.Title, refusal.Text, MsgIcon::Exclamation, MsgButtons::Ok);
+    if (refusal.Why == RecordingRefusal::Reason::NotEnoughSpace) {
+        m_s.scheduler.CancelRecording(-1, m_status.EndTime);
+        m_s.scheduler.ScheduleNextRecording();
+    }
+    ExitAndClear();
+}
+
 void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, double EndTime,
                                            const QString& Description)
 {
+    // The program is the one under way from here on, also when its row fails the plan.
+    if (ProgramId != -1)
+        m_status.ProgramId = ProgramId;
+    const auto planned = PlanRecording(Request(ProgramId, StartTime, EndTime, Description),
+                                       Settings(ProgramId == -1), m_s.clock.Now(),
+                                       [](const QString& path) { return QFileInfo::exists(path); });
+    if (const auto* refusal = std::get_if<RecordingRefusal>(&planned)) {
+        Refuse(*refusal);
+        return;
+    }
+    const RecordingPlan& plan = std::get<RecordingPlan>(planned);
+    if (!plan.WantedFileName.isEmpty())
+        m_s.log.LogEvent(EventInformation, tr("Recording saved under a new name"),
+                         tr("A file named \"%1\" is already in the recording folder "
+                            "and is kept. The recording \"%2\" is saved as \"%3\".")
+                             .arg(plan.WantedFileName, plan.Status.Description,
+                                  QFileInfo(plan.Status.FinalFile).fileName()));
+    // The flags that a stop or a task report may have set since StartRecording stay.
+    const bool stopRequested = m_status.StopRequested;
+    m_status = plan.Status;
+    m_status.StopRequested = stopRequested;
+    m_format.CopyFrom(plan.Format);
+    m_convertRequest = plan.Conversion;
+    RecParms parms = plan.Parms;
+    if (!parms.streamUrl.isEmpty())
+        parms.dueStartMsecs = DueMsecs(m_s.clock, StartTime);
+    CarryOut(parms);
+}
+
+void RecordingControl::CarryOut(const RecParms& parms)
+{
     clsRecordingStatus& status = m_status;
-    const QString softwareName = SoftwareName();
-    QString folder = m_s.options.DefaultRecordingDirectory;
-    clsRecordingFormat chosen;
-    QString description;
-    QString userName;
-    QString prefix;
-    QString suffix;
-
-    if (ProgramId != -1) {
-        Recordset programs = m_s.database.DataPrograms.recordset().Clone();
-        programs.FindFirst(QStringLiteral("Id = ") + QString::number(ProgramId));
-        if (programs.NoMatch()) {
-            ExitAndClear();
-            return;
-        }
-        status.ProgramId = ProgramId;
-        if (programs.IsNull(QStringLiteral("Description")))
-            ThrowInvalidUseOfNull();
-        description = programs.Value(QStringLiteral("Description")).toString();
-        status.LaunchAppAfter = TextColumn(programs, QStringLiteral("LaunchAppAfter"), true);
-        status.LaunchAfterOnlyIfOk = BoolColumn(programs, QStringLiteral("LaunchAfterOnlyIfOk"));
-        status.InternetLink = TextColumn(programs, QStringLiteral("InternetLink"), true);
-        status.MixerProfileBefore =
-            TextColumn(programs, QStringLiteral("MixerProfileBefore"), true);
-        status.MixerProfileAfter = TextColumn(programs, QStringLiteral("MixerProfileAfter"), true);
-        // Intended: the NULL test looks at MixerProfileAfter, so a NULL StreamingPlayerClose
-        // under an after-profile fails the start through the trap.
-        if (programs.IsNull(QStringLiteral("MixerProfileAfter")))
-            status.StreamingPlayerClose = StreamingPlayerClose::DoNotClose;
-        else if (programs.IsNull(QStringLiteral("StreamingPlayerClose")))
-            ThrowInvalidUseOfNull();
-        else
-            status.StreamingPlayerClose =
-                programs.Value(QStringLiteral("StreamingPlayerClose")).toString().trimmed();
-        status.HangupInternetConnection =
-            BoolColumn(programs, QStringLiteral("HangupInternetConnection"));
-        status.StreamUrl = TextColumn(programs, QStringLiteral("StreamUrl"), true);
-        status.InputName = TextColumn(programs, QStringLiteral("InputName"), true);
-        if (status.InputName.isEmpty())
-            status.InputName = m_s.options.RecordingInput;
-        userName = TextColumn(programs, QStringLiteral("FilenameUser"), false);
-        prefix = TextColumn(programs, QStringLiteral("FilenamePrefix"), false);
-        suffix = TextColumn(programs, QStringLiteral("FilenameSuffix"), false);
-        ReadFormat(m_s.log, chosen, programs);
-    } else if (!folder.isEmpty()) {
-        description = Description;
-        chosen.CopyFrom(m_manual.Format);
-        userName = m_manual.Filename;
-        status.StreamUrl = m_manual.StreamUrl.trimmed();
-        status.InputName = m_s.options.RecordingInput;
-        status.LaunchAppAfter.clear();
-        status.InternetLink.clear();
-        status.MixerProfileBefore.clear();
-        status.MixerProfileAfter.clear();
-        status.StreamingPlayerClose = StreamingPlayerClose::DoNotClose;
-        status.HangupInternetConnection = false;
-    } else {
-        m_s.messageBox.Show(
-            tr("Error"),
-            tr("Invalid Recording Directory. Select a recording directory in Options."),
-            MsgIcon::Exclamation, MsgButtons::Ok);
-        ExitAndClear();
-        return;
-    }
-
-    status.NextProgramScheduled = false;
-    // Whole days of the span are lost on purpose: the length only feeds the parameter file
-    // and the space figures, while the clock decides the end.
-    const double span = EndTime - StartTime;
-    status.DurationSeconds = AutomationDate::Hour(span) * 3600 + AutomationDate::Minute(span) * 60 +
-                             AutomationDate::Second(span);
-    folder = WithClosingSeparator(folder);
-
-    std::unique_ptr<clsRecordingFormat> pcmCapture;
-    const clsRecordingFormat* capture = &chosen;
-    double spaceNeeded = kDirectRecordingMbytes;
-    QString spaceNote;
-    QString baseName;
-    QString extension;
-    QString finalFile;
-    m_convertRequest.reset();
-    if (chosen.wFormatTag() != clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 || !chosen.ConvertToMP3) {
-        status.ConvertToMP3 = false;
-        const bool mp3Extension =
-            chosen.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 &&
-            chosen.SaveMP3FileExtension;
-        NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat, userName,
-                             prefix, suffix, folder, mp3Extension, baseName, extension);
-        finalFile = UnusedFileName(folder, baseName, extension, {extension}, description);
-        status.RecordingFile = finalFile;
-    } else {
-        status.ConvertToMP3 = true;
-        pcmCapture = std::make_unique<clsRecordingFormat>();
-        pcmCapture->SetToPcm(chosen.nChannels(), chosen.nSamplesPerSec(), 16);
-        capture = pcmCapture.get();
-        // The MP3 and its PCM source exist side by side until the conversion ends.
-        spaceNeeded = double(chosen.CalcStorageMbytesSng(status.DurationSeconds) +
-                             pcmCapture->CalcStorageMbytesSng(status.DurationSeconds));
-        spaceNote = tr("Note: Converted MP3 recordings require additional storage "
-                       "for the initial PCM wave file recording.\r\n");
-        NewRecordingFileName(m_s.clock.Now(), m_s.options.DefaultRecordFileNameFormat, userName,
-                             prefix, suffix, folder, chosen.SaveMP3FileExtension, baseName,
-                             extension);
-        // The capture beside the final name is free as well: it may be one still queued.
-        finalFile =
-            UnusedFileName(folder, baseName, extension, {extension, kCaptureEnding}, description);
-        status.RecordingFile = folder + baseName + kCaptureEnding;
-        m_convertRequest = std::make_shared<clsConvertToMP3Request>();
-        clsConvertToMP3Request& request = *m_convertRequest;
-        request.SourceFile = status.RecordingFile;
-        request.DestinationFile = finalFile;
-        request.SourceFormat.CopyFrom(*pcmCapture);
-        request.DestinationFormat.CopyFrom(chosen);
-        request.Description = description;
-        request.SoftwareName = chosen.SaveMP3FileExtension ? QString() : softwareName;
-        request.StartTime = StartTime;
-        request.ManualRecording = status.ProgramId == -1;
-        request.LaunchAppAfter = status.LaunchAppAfter;
-        request.LaunchAfterOnlyIfOk = status.LaunchAfterOnlyIfOk;
-    }
-    if (m_s.appStatus.Converting())
-        spaceNote += tr(" Additional space is also needed for any temporary PCM files "
-                        "that are currently being converted to MP3.");
-
-    // Only a manual recording is refused for space; a scheduled one is left to the disk
-    // guard, and a direct one needs just half a megabyte above the limit whatever its length.
-    const double freeMbytes = m_s.diskSpace.GetRecDirDiskSpaceMb(folder).free;
-    const double required = double(m_s.options.StopRecMegsLeft) + spaceNeeded;
-    if (ProgramId == -1 && required > freeMbytes) {
-        m_s.messageBox.Show(
-            tr("Recording not started due to insufficient disk space."),
-            tr("The recording was not started since there is not enough disk space.  "
-               "Remove recordings from disk, change the recording directory to a "
-               "different disk drive, or shorten the recording time. ") +
-                spaceNote,
-            MsgIcon::Exclamation, MsgButtons::Ok);
-        m_s.scheduler.CancelRecording(ProgramId, m_status.EndTime);
-        m_s.scheduler.ScheduleNextRecording();
-        ExitAndClear();
-        return;
-    }
-
-    RecParms parms;
-    parms.softwareName = softwareName;
-    parms.description = description;
-    parms.startText = Options::DateText(StartTime) + u' ' +
-                      Options::TimeText(AutomationDate::TimePart(StartTime));
-    parms.outputPath = status.RecordingFile;
-    parms.lengthSeconds = status.DurationSeconds;
-    parms.format = capture->WaveFormat();
-    parms.silenceThresholdDb = m_s.options.SilenceThresholdDb;
-    parms.silenceSeconds = m_s.options.SilenceAlarm ? m_s.options.SilenceAlarmSeconds : 0;
-    parms.streamUrl = status.StreamUrl;
-    parms.dueStartMsecs = status.StreamUrl.isEmpty() ? 0 : DueMsecs(m_s.clock, StartTime);
-    parms.finalPath = finalFile;
-    parms.inputName = status.StreamUrl.isEmpty() ? status.InputName : QString();
-
     // The keep-alive runs from before the parameter file is written.
     m_link.StartKeepAlive();
-
-    status.StartTime = StartTime;
-    status.EndTime = EndTime;
-    status.FinalFile = finalFile;
-    status.Description = description;
-    status.CompressionText = chosen.TextCompressionMethod;
-    m_format.CopyFrom(chosen);
-
     const QString parameterFile = m_link.ParameterFile();
     QFile::remove(parameterFile);
     UnattendedPath::LetEventsRun();
     parms.Write(parameterFile);
     UnattendedPath::LetEventsRun();
 
-    status.Failed = false;
     if (!m_link.ActivateNightreeltask()) {
         // The activation has logged why.
         status.Failed = true;
@@ -477,23 +359,35 @@ void RecordingControl::StopRecordingSteps()
     const float size = QFile::exists(status.RecordingFile)
                            ? ModuleFileTime::GetFileSizeMbytes(status.RecordingFile)
                            : 0.0f;
-    if (status.Failed) {
-        QFile::remove(status.RecordingFile);
-        LaunchAfterRecording(m_s.log, m_s.launcher, false, status.LaunchAppAfter,
-                             status.LaunchAfterOnlyIfOk, status.FinalFile);
-    } else if (size >= kLeastRecordingMbytes && status.ConvertToMP3) {
+    const RecordingEndPlan plan = PlanRecordingEnd(status, size, m_s.hasDisplay);
+    EndFile(plan.file);
+    EndSideActions(plan);
+
+    status.FinalFile.clear();
+    m_s.appStatus.SetRecording(false);
+    m_s.scheduler.ScheduleNextRecording();
+    emit UpdateRecordingsButtonsAndMenus();
+    emit UpdateModeDisplay();
+    emit RecordingEnded();
+}
+
+void RecordingControl::EndFile(RecordingEndPlan::File file)
+{
+    clsRecordingStatus& status = m_status;
+    switch (file) {
+    case RecordingEndPlan::File::Convert:
         // The conversion takes over: it writes the row and runs the launch after it.
         if (m_convertRequest) {
             m_convertRequest->EndTime = m_s.clock.Now();
             m_conversion.Add(m_convertRequest);
         }
-    } else if (size >= kLeastRecordingMbytes) {
+        return;
+    case RecordingEndPlan::File::List:
         // A failure here leaves the file on disk without a row; the after-actions go on.
         DoEndOfRecordingStuff(status.Description, status.FinalFile, status.StartTime,
                               m_s.clock.Now(), status.CompressionText, m_format);
-        LaunchAfterRecording(m_s.log, m_s.launcher, true, status.LaunchAppAfter,
-                             status.LaunchAfterOnlyIfOk, status.FinalFile);
-    } else {
+        break;
+    case RecordingEndPlan::File::NoData:
         m_s.log.LogEvent(EventError, tr("Recording failed"),
                          tr("The following recording failed since no recording data was "
                             "written:\r\n") +
@@ -502,39 +396,38 @@ void RecordingControl::StopRecordingSteps()
                                 "are performing a short (under 30 seconds) recording, try "
                                 "extending the time by a few seconds."));
         status.Failed = true;
+        [[fallthrough]];
+    case RecordingEndPlan::File::Discard:
         QFile::remove(status.RecordingFile);
-        LaunchAfterRecording(m_s.log, m_s.launcher, false, status.LaunchAppAfter,
-                             status.LaunchAfterOnlyIfOk, status.FinalFile);
+        break;
     }
+    LaunchAfterRecording(m_s.log, m_s.launcher, file == RecordingEndPlan::File::List,
+                         status.LaunchAppAfter, status.LaunchAfterOnlyIfOk, status.FinalFile);
+}
 
-    // Manual recordings have no after-actions but the launch, which they never set.
-    if (status.ProgramId != -1) {
+void RecordingControl::EndSideActions(const RecordingEndPlan& plan)
+{
+    const clsRecordingStatus& status = m_status;
+    if (plan.cancelProgram)
         m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime);
-        if (!status.InternetLink.trimmed().isEmpty()) {
-            const QString playerClose = status.StreamingPlayerClose.trimmed();
-            if (!m_s.hasDisplay && playerClose != StreamingPlayerClose::DoNotClose)
-                m_s.log.LogEvent(EventInformation, tr("Streaming player not closed"),
-                                 tr("There is no display to close it on."));
-            else if (playerClose.isEmpty())
-                m_player.CloseNewWindows();
-            else if (playerClose != StreamingPlayerClose::DoNotClose)
-                m_player.CloseWindowsByTitle(playerClose);
-            // A line opened for the stream is not left open.
-            if (status.HangupInternetConnection)
-                HangUpConnections(m_s.network);
-        }
-        // Intended: the test is on the before-profile, so an after-profile alone never applies;
-        // an empty after-profile names no file and changes nothing.
-        if (!Text::Trim(status.MixerProfileBefore).isEmpty())
-            m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileAfter);
+    switch (plan.player) {
+    case RecordingEndPlan::Player::Leave:
+        break;
+    case RecordingEndPlan::Player::NoDisplayToCloseOn:
+        m_s.log.LogEvent(EventInformation, tr("Streaming player not closed"),
+                         tr("There is no display to close it on."));
+        break;
+    case RecordingEndPlan::Player::CloseNewWindows:
+        m_player.CloseNewWindows();
+        break;
+    case RecordingEndPlan::Player::CloseByTitle:
+        m_player.CloseWindowsByTitle(status.StreamingPlayerClose.trimmed());
+        break;
     }
-
-    status.FinalFile.clear();
-    m_s.appStatus.SetRecording(false);
-    m_s.scheduler.ScheduleNextRecording();
-    emit UpdateRecordingsButtonsAndMenus();
-    emit UpdateModeDisplay();
-    emit RecordingEnded();
+    if (plan.hangUp)
+        HangUpConnections(m_s.network);
+    if (plan.applyMixerProfileAfter)
+        m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileAfter);
 }
 
 void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString& File,
@@ -546,27 +439,16 @@ void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString
     Q_UNUSED(EndTime);
     Trap(m_s.log, "DoEndOfRecordingStuff", [&] {
         // The row describes what the file holds, so pauses and late starts show in its times.
-        const float size = ModuleFileTime::GetFileSizeMbytes(File);
-        const qint32 seconds = Format.CalcSecondsFromMbytes(m_s.log, size);
-        const double end = ModuleFileTime::FileDateTime(File);
-        const double start = AutomationDate::AddSeconds(end, -seconds);
-
+        RecordingRow row;
+        row.Title = Title;
+        row.File = File;
+        row.CompressionMethod = CompressionMethod;
+        row.Size = ModuleFileTime::GetFileSizeMbytes(File);
+        row.EndTime = ModuleFileTime::FileDateTime(File);
+        row.StartTime = AutomationDate::AddSeconds(
+            row.EndTime, -Format.CalcSecondsFromMbytes(m_s.log, row.Size));
+        const qint64 id = WriteRecordingRow(m_s.database, row);
         Recordset& rs = m_s.database.DataRecordings.recordset();
-        QString quoted = File;
-        quoted.replace(u'\'', QStringLiteral("''"));
-        rs.FindFirst(QStringLiteral("File = '") + quoted + u'\'');
-        // A new recording of the same name replaces the old one in the list.
-        if (!rs.NoMatch())
-            rs.Delete();
-        rs.AddNew();
-        rs.SetValue(QStringLiteral("Title"), Title);
-        rs.SetValue(QStringLiteral("File"), File);
-        rs.SetValue(QStringLiteral("StartTime"), start);
-        rs.SetValue(QStringLiteral("EndTime"), end);
-        rs.SetValue(QStringLiteral("CompressionMethod"), CompressionMethod);
-        rs.SetValue(QStringLiteral("Size"), double(size));
-        rs.Update();
-        const qint64 id = rs.LastModified();
         rs.Requery();
         rs.FindFirst(QStringLiteral("Id = ") + QString::number(id));
 

@@ -2,6 +2,8 @@
 
 #include "formats/clsRecordingFormat.h"
 #include "recording/RecorderServices.h"
+#include "recording/RecordingEndPlan.h"
+#include "recording/RecordingPlan.h"
 #include "recording/clsConvertToMP3Request.h"
 #include "recording/clsManualRecord.h"
 #include "sideactions/StreamingPlayer.h"
@@ -65,11 +67,16 @@ signals:
 private:
     void StartRecordingSteps(qint32 ProgramId, double StartTime, double EndTime,
                              const QString& Description);
+    RecordingRequest Request(qint32 ProgramId, double StartTime, double EndTime,
+                             const QString& Description) const;
+    RecordingSettings Settings(bool manual) const;
+    void Refuse(const RecordingRefusal& refusal);
+    // Writes the parameters, starts the task and its capture.
+    void CarryOut(const RecParms& parms);
     void StopRecordingSteps();
+    void EndFile(RecordingEndPlan::File file);
+    void EndSideActions(const RecordingEndPlan& plan);
     void ExitAndClear();
-    // The path for a new recording that replaces no file; a changed name is logged.
-    QString UnusedFileName(const QString& folder, QString& baseName, const QString& extension,
-                           const QStringList& endings, const QString& description);
     void OnTaskError(qint32 code, const QString& detail);
     // A stream's broadcast is kept as it came: the row shows its real format.
     void OnStreamFormatKept(const QByteArray& record);

@@ -4,7 +4,6 @@
 #include "common/TextHelpers.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <algorithm>
 
 namespace {
@@ -43,14 +42,14 @@ QString NewRecordingFileName(double now, qint16 stampFormat, const QString& user
     return folder + baseName + extension;
 }
 
-QString FreeBaseName(const QString& folder, const QString& baseName, const QStringList& endings)
+QString FreeBaseName(const QString& folder, const QString& baseName, const QStringList& endings,
+                     const FileExists& exists)
 {
     const QDir dir(folder);
     QString candidate = baseName;
-    for (int n = 2; std::any_of(endings.cbegin(), endings.cend(),
-                                [&](const QString& ending) {
-                                    return QFileInfo::exists(dir.filePath(candidate + ending));
-                                });
+    for (int n = 2; std::any_of(
+             endings.cbegin(), endings.cend(),
+             [&](const QString& ending) { return exists(dir.filePath(candidate + ending)); });
          ++n)
         candidate = QStringLiteral("%1 (%2)").arg(baseName).arg(n);
     return candidate;

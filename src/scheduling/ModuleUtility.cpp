@@ -1,7 +1,5 @@
 #include "scheduling/ModuleUtility.h"
 
-#include "common/RuntimeError.h"
-#include "common/TextHelpers.h"
 #include "store/Recordset.h"
 
 namespace {
@@ -56,14 +54,4 @@ qint32 RecordsetCount(const Recordset& rs)
     clone.MoveFirst();
     clone.MoveLast();
     return clone.RecordCount();
-}
-
-qint16 DelayColumnValue(const QVariant& value)
-{
-    if (value.isNull())
-        return 0;
-    const qint64 number = Text::RoundHalfEven(Text::Val(Text::Trim(value.toString())));
-    if (number < -32768 || number > 32767)
-        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));
-    return qint16(number);
 }

@@ -17,9 +17,5 @@ int ConsecDays(int start, const std::array<bool, 7>& days);
 class QVariant;
 class Recordset;
 
-// A delay column read as the system reads it: through its text form, trimmed, held in 16
-// bits; 0 for NULL. A value beyond 16 bits fails as an overflow.
-qint16 DelayColumnValue(const QVariant& value);
-
 // The rows of the recordset, counted on a clone so that the caller's position stays.
 qint32 RecordsetCount(const Recordset& rs);

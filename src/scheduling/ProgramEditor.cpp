@@ -21,12 +21,6 @@ namespace {
 
 const char* const kDayColumns[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
 
-QString TrimmedText(const Recordset& rs, const char* column, const QString& ifNull = QString())
-{
-    const QVariant value = rs.Value(QString::fromLatin1(column));
-    return value.isNull() ? ifNull : Text::Trim(value.toString());
-}
-
 // A profile counts only while its file is there with content.
 QString ExistingProfile(const QString& mixerFolder, const QString& name)
 {
@@ -101,11 +95,12 @@ ProgramFormValues NewProgramValues(double now)
 ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Recordset& rs)
 {
     ProgramFormValues v;
+    const ProgramRow row = ProgramRow::Read(rs);
     ReadFormat(log, v.FormFormat, rs);
     v.FormFormat.CalculateTextCompressionMethodString();
     v.FormCompressionMethod = rs.Value(QStringLiteral("CompressionMethod")).toString();
     v.FormEnabled = Field::ToBool(rs.Value(QStringLiteral("Enabled")));
-    v.FormDescription = rs.Value(QStringLiteral("Description")).toString();
+    v.FormDescription = row.Description;
     v.FormStartTime = rs.Value(QStringLiteral("StartTime")).toDouble();
     v.FormEndTime = rs.Value(QStringLiteral("EndTime")).toDouble();
     const QVariant frequency = rs.Value(QStringLiteral("Frequency"));
@@ -114,29 +109,25 @@ ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Reco
     for (int d = 0; d < 7; ++d)
         v.FormDays[d] = Field::ToBool(rs.Value(QString::fromLatin1(kDayColumns[d])));
 
-    v.FormFilenameUser = TrimmedText(rs, "FilenameUser");
+    v.FormFilenameUser = row.FilenameUser;
     if (v.FormFilenameUser.isEmpty()) {
-        v.FormFilenamePrefix = rs.Value(QStringLiteral("FilenamePrefix")).toString();
-        v.FormFilenameSuffix = rs.Value(QStringLiteral("FilenameSuffix")).toString();
+        v.FormFilenamePrefix = row.FilenamePrefix;
+        v.FormFilenameSuffix = row.FilenameSuffix;
     }
-    v.FormLaunchAppPrior = TrimmedText(rs, "LaunchAppPrior");
-    v.FormLaunchAppDelay = v.FormLaunchAppPrior.isEmpty()
-                               ? 0
-                               : DelayColumnValue(rs.Value(QStringLiteral("LaunchAppDelay")));
-    v.FormLaunchAppAfter = TrimmedText(rs, "LaunchAppAfter");
-    v.FormLaunchAfterOnlyIfOk = Field::ToBool(rs.Value(QStringLiteral("LaunchAfterOnlyIfOk")));
-    v.FormInternetLink = TrimmedText(rs, "InternetLink");
+    v.FormLaunchAppPrior = row.LaunchAppPrior;
+    v.FormLaunchAppDelay = v.FormLaunchAppPrior.isEmpty() ? 0 : row.LaunchAppDelay;
+    v.FormLaunchAppAfter = row.LaunchAppAfter;
+    v.FormLaunchAfterOnlyIfOk = row.LaunchAfterOnlyIfOk;
+    v.FormInternetLink = row.InternetLink;
     if (!v.FormInternetLink.isEmpty()) {
-        v.FormInternetLinkDelay = DelayColumnValue(rs.Value(QStringLiteral("InternetLinkDelay")));
-        v.FormHangupInternetConnection =
-            Field::ToBool(rs.Value(QStringLiteral("HangupInternetConnection")));
+        v.FormInternetLinkDelay = row.InternetLinkDelay;
+        v.FormHangupInternetConnection = row.HangupInternetConnection;
     }
-    // NULL here is a row from before the column existed: the player was never closed then.
-    v.FormStreamingPlayerClose = TrimmedText(rs, "StreamingPlayerClose", DoNotClose);
-    v.FormMixerProfileBefore = ExistingProfile(mixerFolder, TrimmedText(rs, "MixerProfileBefore"));
-    v.FormMixerProfileAfter = ExistingProfile(mixerFolder, TrimmedText(rs, "MixerProfileAfter"));
-    v.FormStreamUrl = TrimmedText(rs, "StreamUrl");
-    v.FormInputName = TrimmedText(rs, "InputName");
+    v.FormStreamingPlayerClose = row.StreamingPlayerClose;
+    v.FormMixerProfileBefore = ExistingProfile(mixerFolder, row.MixerProfileBefore);
+    v.FormMixerProfileAfter = ExistingProfile(mixerFolder, row.MixerProfileAfter);
+    v.FormStreamUrl = row.StreamUrl;
+    v.FormInputName = row.InputName;
     return v;
 }
 

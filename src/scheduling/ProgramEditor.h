@@ -1,7 +1,7 @@
 #pragma once
 
 #include "formats/clsRecordingFormat.h"
-#include "scheduling/StreamingPlayerClose.h"
+#include "store/ProgramRow.h"
 
 #include <QCoreApplication>
 #include <QString>

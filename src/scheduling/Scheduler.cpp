@@ -7,9 +7,9 @@
 #include "diagnostics/EventLog.h"
 #include "diagnostics/Trap.h"
 #include "scheduling/ModuleUtility.h"
-#include "scheduling/StreamingPlayerClose.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
+#include "store/ProgramRow.h"
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -25,11 +25,6 @@ double Date(const QVariant& value)
 bool Bool(const QVariant& value)
 {
     return Field::ToBool(NotNull(value));
-}
-
-QString TrimmedOr(const QVariant& value, const QString& ifNull)
-{
-    return value.isNull() ? ifNull : Text::Trim(value.toString());
 }
 
 // The column positions of Programs, looked up once per scan.
@@ -57,22 +52,11 @@ struct ProgramColumns {
         avgBytesPerSec = at("wfx_nAvgBytesPerSec");
         recordingCancelled = at("RecordingCancelled");
         cancelledEnd = at("RecordingCancelledEndDateAndTime");
-        internetLink = at("InternetLink");
-        internetLinkDelay = at("InternetLinkDelay");
-        launchAppPrior = at("LaunchAppPrior");
-        launchAppDelay = at("LaunchAppDelay");
-        mixerProfileBefore = at("MixerProfileBefore");
-        mixerProfileAfter = at("MixerProfileAfter");
-        streamingPlayerClose = at("StreamingPlayerClose");
-        streamUrl = at("StreamUrl");
-        hangup = at("HangupInternetConnection");
     }
 
     int id, enabled, description, startTime, endTime, frequency, oneTimeDay;
     std::array<int, 7> days;
-    int avgBytesPerSec, recordingCancelled, cancelledEnd, internetLink, internetLinkDelay;
-    int launchAppPrior, launchAppDelay, mixerProfileBefore, mixerProfileAfter;
-    int streamingPlayerClose, hangup, streamUrl;
+    int avgBytesPerSec, recordingCancelled, cancelledEnd;
 };
 
 // Only 0 means one time; every reader takes any other value for weekly.
@@ -186,16 +170,16 @@ Scheduler::DetermineNextProgramToSchedule(bool readOnly, double referenceDate,
                 o.programId = rs.Value(c.id).toInt();
                 o.description = rs.Value(c.description).toString();
                 o.avgBytesPerSec = rs.Value(c.avgBytesPerSec).toInt();
-                o.internetLink = rs.Value(c.internetLink).toString();
-                o.internetLinkDelay = DelayColumnValue(rs.Value(c.internetLinkDelay));
-                o.launchAppPrior = TrimmedOr(rs.Value(c.launchAppPrior), QString());
-                o.launchAppDelay = DelayColumnValue(rs.Value(c.launchAppDelay));
-                o.mixerProfileBefore = TrimmedOr(rs.Value(c.mixerProfileBefore), QString());
-                o.mixerProfileAfter = TrimmedOr(rs.Value(c.mixerProfileAfter), QString());
-                o.streamingPlayerClose =
-                    TrimmedOr(rs.Value(c.streamingPlayerClose), StreamingPlayerClose::DoNotClose);
-                o.hangupInternetConnection = Field::ToBool(rs.Value(c.hangup));
-                o.streamUrl = TrimmedOr(rs.Value(c.streamUrl), QString());
+                const ProgramRow row = ProgramRow::Read(rs);
+                o.internetLink = row.InternetLink;
+                o.internetLinkDelay = row.InternetLinkDelay;
+                o.launchAppPrior = row.LaunchAppPrior;
+                o.launchAppDelay = row.LaunchAppDelay;
+                o.mixerProfileBefore = row.MixerProfileBefore;
+                o.mixerProfileAfter = row.MixerProfileAfter;
+                o.streamingPlayerClose = row.StreamingPlayerClose;
+                o.hangupInternetConnection = row.HangupInternetConnection;
+                o.streamUrl = row.StreamUrl;
             }
         }
     });
