@@ -4,7 +4,7 @@
 // phase, on the program's own clock; each program is due at a whole second.
 // Prints ontime_median_ms= and ontime_worst_ms=, from the due second to the first sample on
 // disk. Goals: 100 and 150.
-#include "LinkedRecording.h"
+#include "RecordingRig.h"
 
 #include <QRandomGenerator>
 #include <algorithm>
@@ -30,11 +30,11 @@ int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
     std::unique_ptr<PulseFixture> pulse;
-    if (const QString why = LinkedRecording::StartSound(pulse); !why.isEmpty()) {
+    if (const QString why = RecordingRig::StartSound(pulse); !why.isEmpty()) {
         std::fprintf(stderr, "ontime-bench: %s\n", qPrintable(why));
         return 1;
     }
-    LinkedRecording r;
+    RecordingRig r;
     r.tc.clock.FollowSystemTime();
     AppContext& ctx = *r.tc.ctx;
     Heartbeat& heartbeat = ctx.recorder.HeartbeatTimer();
@@ -54,12 +54,9 @@ int main(int argc, char* argv[])
         heartbeat.Start();
         const QDateTime due = QDateTime::currentDateTime().addSecs(3);
         const QTime dueTime(due.time().hour(), due.time().minute(), due.time().second());
-        QVariantHash row = Programs::WithPcmFormat(Programs::OneTime(
+        r.AddProgram(Programs::OneTime(
             QStringLiteral("On time %1").arg(i), AutomationDate::FromDate(due.date()),
             dueTime.toString("HH:mm:ss"), dueTime.addSecs(2).toString("HH:mm:ss")));
-        row.insert({{"MixerProfileBefore", ""}, {"MixerProfileAfter", ""}});
-        r.tc.AddProgram(row);
-        ctx.database.DataPrograms.Requery();
         ctx.scheduler.ScheduleNextRecording();
 
         const qint64 dueMs = QDateTime(due.date(), dueTime).toMSecsSinceEpoch();

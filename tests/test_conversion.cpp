@@ -4,14 +4,16 @@
 // the disk guard, failed; and none of them loses the recording. Results are checked with
 // `lame --decode` and `sox stat`. The process runs in user and mount namespaces of its own, so
 // that the disk-full cases fill small real file systems without privilege.
-#include "LinkedRecording.h"
+#include "RecordingRig.h"
 #include "SmallFileSystem.h"
 #include "SoxTone.h"
 #include "TaskWaveSource.h"
 #include "TestContext.h"
 #include "TestFiles.h"
+#include "TestParts.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/ModuleFileTime.h"
+#include "platform/StorageDiskSpace.h"
 #include "recordingslist/RecordingsList.h"
 #include "shell/MainFormController.h"
 
@@ -37,17 +39,8 @@ const QString kRecordingStopped =
 // Before main, while the process has one thread.
 const bool kOwnMountNamespace = SmallFileSystem::EnterOwnMountNamespace();
 
-struct Row {
-    QString title;
-    QString file;
-    double start;
-    double end;
-    float size;
-    QString compression;
-};
-
 // The program's recorder over a fresh context, with the real task and encoder library.
-class Fixture : public LinkedRecording {
+class Fixture : public RecordingRig {
 public:
     Fixture()
     {
@@ -81,7 +74,6 @@ public:
     void Restart()
     {
         recorder().Stop();
-        tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", folder);
         tc.Restart();
         tc.OpenDatabase();
         UseBuiltEncoder();
@@ -90,8 +82,6 @@ public:
         recorder().Start();
     }
 
-    AppContext& ctx() { return *tc.ctx; }
-    Recorder& recorder() { return tc.ctx->recorder; }
     ConversionQueue& queue() { return tc.ctx->recorder.Conversion(); }
 
     void SetMp3(clsRecordingFormat& format, bool mp3Extension)
@@ -138,31 +128,7 @@ public:
 
     bool Idle() { return !ctx().appStatus.Converting() && queue().Mp3ConvertQueue.isEmpty(); }
 
-    QList<Row> Recordings() const
-    {
-        QList<Row> rows;
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        q.exec("SELECT Title, File, StartTime, EndTime, Size, CompressionMethod FROM Recordings "
-               "ORDER BY ID");
-        while (q.next())
-            rows.append({q.value(0).toString(), q.value(1).toString(), q.value(2).toDouble(),
-                         q.value(3).toDouble(), q.value(4).toFloat(), q.value(5).toString()});
-        return rows;
-    }
-
-    QStringList Logged(const QString& message) const
-    {
-        QStringList details;
-        for (const LogEntry& e : tc.LogEntries())
-            if (e.message == message)
-                details << e.details;
-        return details;
-    }
-
-    QStringList Captures() const
-    {
-        return QDir(folder).entryList({"*.WAV.TMP"}, QDir::Files, QDir::Name);
-    }
+    QStringList Captures() const { return Files({"*.WAV.TMP"}); }
 
     // A capture that was not converted: on disk as a wave file, listed as PCM with its
     // recording's title, and logged once.
@@ -171,7 +137,7 @@ public:
         const QString kept = request.SourceFile.chopped(4);
         QVERIFY2(QFileInfo(kept).size() > 44, qPrintable(kept));
         bool listed = false;
-        for (const Row& row : Recordings())
+        for (const RecordingRow& row : Recordings())
             listed = listed || (row.file == kept && row.title == request.Description &&
                                 row.compression.startsWith("PCM"));
         QVERIFY2(listed, qPrintable(kept));
@@ -179,7 +145,7 @@ public:
     }
 
     // The row holds what the file holds: its length is the one the size gives.
-    void VerifyRowLength(const Row& row)
+    void VerifyRowLength(const RecordingRow& row)
     {
         clsRecordingFormat format;
         SetMp3(format, true);
@@ -216,9 +182,8 @@ private slots:
         if (QStandardPaths::findExecutable("sox").isEmpty() ||
             QStandardPaths::findExecutable("lame").isEmpty())
             QSKIP("needs sox and lame");
-        const QString missing = LinkedRecording::StartSound(m_pulse);
-        if (!missing.isEmpty())
-            QSKIP(qPrintable(missing));
+        if (const QString why = RecordingRig::StartSound(m_pulse); !why.isEmpty())
+            QSKIP(qPrintable(why));
     }
 
     void recordingIsConvertedAndListedWhenDone_data()
@@ -266,7 +231,7 @@ private slots:
         QCOMPARE(rowsWhileConverting, 0);
 
         QCOMPARE(f.Captures(), QStringList());
-        const QList<Row> rows = f.Recordings();
+        const QList<RecordingRow> rows = f.Recordings();
         QCOMPARE(rows.size(), 1);
         QCOMPARE(rows[0].file, request->DestinationFile);
         QCOMPARE(rows[0].title, description);
@@ -325,7 +290,7 @@ private slots:
 
         f.recorder().Start();
         QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 60000);
-        const QList<Row> rows = f.Recordings();
+        const QList<RecordingRow> rows = f.Recordings();
         QCOMPARE(rows[0].title, QString("First"));
         QCOMPARE(rows[1].title, QString("Second"));
         QCOMPARE(f.tc.launcher.started, QStringList({"/usr/bin/after " + first->DestinationFile,
@@ -398,9 +363,9 @@ private slots:
         f.queue().TimerConvert_Timer();
 
         QVERIFY(f.Idle());
-        const QList<Row> rows = f.Recordings();
+        const QList<RecordingRow> rows = f.Recordings();
         QCOMPARE(rows.size(), 5);
-        const Row partial = rows[3];
+        const RecordingRow partial = rows[3];
         QCOMPARE(partial.file, requests[0]->DestinationFile);
         f.VerifyRowLength(partial);
         for (const auto& request : requests)
@@ -523,9 +488,9 @@ private slots:
         f.Restart();
         const int interrupted = end == "killed" ? 1 : 0;
         QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2 + interrupted, 30000);
-        QList<Row> rows = f.Recordings();
+        QList<RecordingRow> rows = f.Recordings();
         if (interrupted) {
-            const Row kept = rows.takeFirst();
+            const RecordingRow kept = rows.takeFirst();
             QCOMPARE(kept.file, f.folder + "/Interrupted.WAV");
             QCOMPARE(kept.title, QString("Test source"));
             QCOMPARE(f.Logged(kKept).filter(kept.file).size(), 1);
@@ -586,7 +551,7 @@ private slots:
         if (diskFillsAfterTheStop) {
             f.VerifyKept(recorded);
         } else {
-            const Row row = f.Recordings()[0];
+            const RecordingRow row = f.Recordings()[0];
             QVERIFY(row.file.endsWith(".MP3"));
             f.VerifyTone(ReadFile(row.file).chopped(128));
             QVERIFY(!QFile::exists(recorded.SourceFile));
@@ -650,6 +615,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestConversion)
-#include "platform/StorageDiskSpace.h"
+NIGHTREEL_TEST_PARTS_MAIN(TestConversion, QCoreApplication)
 #include "test_conversion.moc"

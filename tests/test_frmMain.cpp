@@ -44,28 +44,6 @@ struct Started {
     std::unique_ptr<frmMain> form;
 };
 
-// The share of the picture's outline (its opaque pixels beside clear ones) that stands out
-// from the background: a shape whose edge melts into the panel can't be made out.
-double Legible(const QImage& picture, const QColor& background)
-{
-    const auto opaque = [&](int x, int y) {
-        return x >= 0 && y >= 0 && x < picture.width() && y < picture.height() &&
-               picture.pixelColor(x, y).alpha() > 160;
-    };
-    int edge = 0;
-    int standing = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x) {
-            if (!opaque(x, y) ||
-                (opaque(x - 1, y) && opaque(x + 1, y) && opaque(x, y - 1) && opaque(x, y + 1)))
-                continue;
-            ++edge;
-            if (qAbs(qGray(picture.pixel(x, y)) - qGray(background.rgb())) > 60)
-                ++standing;
-        }
-    return edge ? double(standing) / edge : 0.0;
-}
-
 } // namespace
 
 class TestFrmMain : public QObject {
@@ -323,43 +301,6 @@ private slots:
         QVERIFY(!tc.ctx->appStatus.Suspended());
         QCOMPARE(tc.messageBox.asked.at(0).title, QStringLiteral("Invalid request"));
         QCOMPARE(tc.messageBox.asked.at(0).text, text);
-    }
-
-    // Every tool bar picture reads on a light and on a dark palette, and at 200 % it comes
-    // with twice the pixels (a picture drawn for one size only comes smaller); so do the
-    // tray's, on a panel the colour of the palette.
-    void picturesFollowThePalette_data()
-    {
-        QTest::addColumn<QColor>("window");
-        QTest::addColumn<QColor>("text");
-        QTest::newRow("light") << QColor(239, 239, 239) << QColor(20, 20, 20);
-        QTest::newRow("dark") << QColor(40, 40, 44) << QColor(235, 235, 235);
-    }
-    void picturesFollowThePalette()
-    {
-        QFETCH(QColor, window);
-        QFETCH(QColor, text);
-        const QPalette before = QApplication::palette();
-        QPalette palette(text, window);
-        QApplication::setPalette(palette);
-        Started s;
-        s.Activate();
-        QVERIFY(!s.form->windowIcon().isNull());
-        for (QToolBar* bar :
-             {s.form->ui.ToolbarMain, s.form->ui.ToolbarPrograms, s.form->ui.ToolbarRecordings})
-            for (QAction* action : bar->actions()) {
-                const QPixmap sharp = action->icon().pixmap(QSize(24, 24), 2.0);
-                QCOMPARE(sharp.size(), QSize(48, 48));
-                QVERIFY2(Legible(sharp.toImage(), window) > 0.6, qPrintable(action->objectName()));
-            }
-        for (SysTrayList list :
-             {SysTrayList::General, SysTrayList::Record, SysTrayList::Convert, SysTrayList::Pause})
-            for (int index : {1, 2, 4}) {
-                const QImage tray = SysTrayPictures::Icon({list, index}).pixmap(44).toImage();
-                QVERIFY2(Legible(tray, window) > 0.6,
-                         qPrintable(QStringLiteral("tray %1/%2").arg(int(list)).arg(index)));
-            }
-        QApplication::setPalette(before);
     }
 
     void thePageDecidesTheMenu()

@@ -3,15 +3,15 @@
 // dialog of the toolbar, the other recording keys, and a scheduled program that waits for a
 // manual recording to end.
 #include "ModalDialogs.h"
-#include "Programs.h"
-#include "PulseFixture.h"
+#include "RecordingRig.h"
 #include "SoxTone.h"
-#include "TestContext.h"
+#include "TestParts.h"
 #include "formats/CodecCatalogue.h"
 #include "recording/frmManualRecord.h"
 #include "shell/frmMain.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
@@ -32,22 +32,14 @@
 
 namespace {
 
-double At(const QString& time)
-{
-    return Programs::At(2026, 6, 1, time);
-}
-
-// The main window, activated, with the real recording task and a default format of 16-bit
-// mono PCM at 44.1 kHz; the clock runs at real speed from Monday 1 June 2026, 12:00:00.
-struct Window {
+// The main window over the rig, activated, with a default format of 16-bit mono PCM at
+// 44.1 kHz; the clock runs at real speed from Monday 1 June 2026, 12:00:00.
+struct Window : RecordingRig {
     Window()
+        : RecordingRig(false)
     {
-        QDir().mkpath(folder);
-        tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", folder);
         form = std::make_unique<frmMain>(*tc.ctx, false);
         form->FirstActivate();
-        ctx().recorder.Link().SetTaskProgram(QCoreApplication::applicationDirPath() +
-                                             "/../src/nightreel-rec");
         ctx().WfxDefault.SetToPcm(1, 44100, 16);
         ctx().WfxDefault.CalculateTextCompressionMethodString();
         SetDefaultDuration(0, 0, 3);
@@ -59,7 +51,6 @@ struct Window {
         clockTimer.start(20);
     }
 
-    AppContext& ctx() { return *tc.ctx; }
     ManualRecordServices Services()
     {
         return {ctx().log,        ctx().registry,
@@ -73,18 +64,11 @@ struct Window {
         ctx().options.DefaultManualRecordingDurationMinutes = qint16(minutes);
         ctx().options.DefaultManualRecordingDurationSeconds = qint16(seconds);
     }
-    bool WaitUntilStopped(int ms = 20000)
-    {
-        return QTest::qWaitFor([this] { return !ctx().appStatus.Recording(); }, ms);
-    }
-    QStringList Files() const { return QDir(folder).entryList(QDir::Files, QDir::Name); }
     QStringList RecordingTitles() const
     {
         QStringList titles;
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        q.exec("SELECT Title FROM Recordings ORDER BY ID");
-        while (q.next())
-            titles << q.value(0).toString();
+        for (const RecordingRow& row : Recordings())
+            titles << row.title;
         return titles;
     }
     QString ProgramsTable() const
@@ -98,8 +82,6 @@ struct Window {
         return rows;
     }
 
-    TestContext tc;
-    QString folder = tc.Root() + "/recordings";
     std::unique_ptr<frmMain> form;
     QElapsedTimer elapsed;
     QTimer clockTimer;
@@ -153,25 +135,23 @@ private slots:
     void dialogNameAndFormatServeOneRecording();
     void joystickButtonsDriveARecording();
     void scheduledProgramStartsLateAfterAManualOne();
-    void grabTheForm();
 
 private:
     std::unique_ptr<PulseFixture> m_pulse;
+    QString m_noSound;
 };
 
 void TestFrmManualRecord::initTestCase()
 {
-    m_pulse = std::make_unique<PulseFixture>();
-    if (!m_pulse->Running() || !m_pulse->PlayTone())
-        m_pulse.reset();
+    m_noSound = RecordingRig::StartSound(m_pulse);
 }
 
 // Ctrl+R on the programs grid records the default length of the tone into a stamped file
 // and lists it; a second Ctrl+R while it runs neither asks nor starts anything.
 void TestFrmManualRecord::ctrlRRecordsTheDefaultAtOnce()
 {
-    if (!m_pulse)
-        QSKIP("no PulseAudio server");
+    if (!m_noSound.isEmpty())
+        QSKIP(qPrintable(m_noSound));
     Window w;
     w.tc.AddProgram(Programs::Weekly("Evening", "20:00:00", "21:00:00", "1111111"));
     const QString programs = w.ProgramsTable();
@@ -213,7 +193,7 @@ void TestFrmManualRecord::recordingKeys_data()
                                   << int(ctrl | Qt::ShiftModifier) << false << false;
     QTest::newRow("Ctrl+Alt+R") << "SSTab1" << int(Qt::Key_R) << int(ctrl | Qt::AltModifier)
                                 << false << false;
-    for (int key : {Qt::Key_R, Qt::Key_S, Qt::Key_P, Qt::Key_U, Qt::Key_T})
+    for (int key : {Qt::Key_R, Qt::Key_S})
         QTest::addRow("disabled Ctrl+%c", char(key))
             << "DBGridPrograms" << key << ctrl << true << false;
 }
@@ -347,8 +327,8 @@ void TestFrmManualRecord::longRecordingQuestion()
 // its question; the next opening of the dialog shows the default format again.
 void TestFrmManualRecord::dialogNameAndFormatServeOneRecording()
 {
-    if (!m_pulse)
-        QSKIP("no PulseAudio server");
+    if (!m_noSound.isEmpty())
+        QSKIP(qPrintable(m_noSound));
     Window w;
     const QString defaultText = w.ctx().WfxDefault.TextCompressionMethod;
     WhenModalOpens([](QDialog* dialog) {
@@ -398,8 +378,8 @@ void TestFrmManualRecord::dialogNameAndFormatServeOneRecording()
 // a button beyond four is logged, 3 starts, 2 pauses, 1 resumes, 4 stops without asking.
 void TestFrmManualRecord::joystickButtonsDriveARecording()
 {
-    if (!m_pulse)
-        QSKIP("no PulseAudio server");
+    if (!m_noSound.isEmpty())
+        QSKIP(qPrintable(m_noSound));
     Window w;
     AppContext& ctx = w.ctx();
     ctx.options.ConfirmStopManualRecording = true;
@@ -451,8 +431,8 @@ void TestFrmManualRecord::joystickButtonsDriveARecording()
 // 12:00:08; it is recorded after it, late, until its end.
 void TestFrmManualRecord::scheduledProgramStartsLateAfterAManualOne()
 {
-    if (!m_pulse)
-        QSKIP("no PulseAudio server");
+    if (!m_noSound.isEmpty())
+        QSKIP(qPrintable(m_noSound));
     Window w;
     w.tc.AddProgram(
         Programs::WithPcmFormat(Programs::Weekly("Noon news", "12:00:05", "12:00:12", "0100000")));
@@ -473,18 +453,5 @@ void TestFrmManualRecord::scheduledProgramStartsLateAfterAManualOne()
     QVERIFY2(seconds > 0.0 && seconds < 5.0, qPrintable(QString::number(seconds)));
 }
 
-// The dialog renders; its picture goes to NIGHTREEL_PNG_DIR for a reviewer when that is set.
-void TestFrmManualRecord::grabTheForm()
-{
-    const QTemporaryDir scratch;
-    const QString folder = qEnvironmentVariable("NIGHTREEL_PNG_DIR", scratch.path());
-    QDir().mkpath(folder);
-    Window w;
-    w.SetDefaultDuration(1, 30, 0);
-    frmManualRecord form(w.Services(), false, nullptr);
-    form.adjustSize();
-    QVERIFY(form.grab().save(folder + "/frmManualRecord.png"));
-}
-
-QTEST_MAIN(TestFrmManualRecord)
+NIGHTREEL_TEST_PARTS_MAIN(TestFrmManualRecord, QApplication)
 #include "test_frmManualRecord.moc"

@@ -4,8 +4,10 @@
 #include "PulseFixture.h"
 #include "ScriptedMessageBox.h"
 #include "SoxTone.h"
+#include "TestParts.h"
 #include "shell/InstanceLock.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDateTime>
 #include <QJsonArray>
@@ -240,5 +242,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestHeadless)
+NIGHTREEL_TEST_PARTS_MAIN(TestHeadless, QCoreApplication)
 #include "test_headless.moc"

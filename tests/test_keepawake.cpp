@@ -1,11 +1,13 @@
 // Keeping the machine awake for a recording, against logind's stand-in on a system bus of
 // the test's own, with the program's recorder, the real recording task and a sound server of
 // the test's own.
-#include "LinkedRecording.h"
 #include "LogindStandIn.h"
 #include "Programs.h"
+#include "RecordingRig.h"
 #include "TestContext.h"
+#include "TestParts.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTest>
 
@@ -47,23 +49,23 @@ private slots:
         QFETCH(bool, withBus);
         QFETCH(bool, taskFails);
         std::unique_ptr<PulseFixture> pulse;
-        if (const QString why = LinkedRecording::StartSound(pulse); !why.isEmpty())
+        if (const QString why = RecordingRig::StartSound(pulse); !why.isEmpty())
             QSKIP(qPrintable(why));
         // The context finds the bus that is there when it is made.
         std::unique_ptr<LogindStandIn> logind;
         if (withBus)
             logind = std::make_unique<LogindStandIn>();
-        LinkedRecording r;
+        RecordingRig r;
         // Starts at 10:00:10; the application before it is launched 90 seconds ahead.
-        r.AddProgram({{"LaunchAppPrior", "/usr/bin/player"}, {"LaunchAppDelay", 90}});
+        r.AddProgramAt10({{"LaunchAppPrior", "/usr/bin/player"}, {"LaunchAppDelay", 90}});
         auto tick = [&r](const QString& time) {
-            r.tc.clock.Set(LinkedRecording::At(time));
+            r.tc.clock.Set(RecordingRig::At(time));
             r.tc.ctx->recorder.HeartbeatTimer().Timer1_Timer();
         };
-        r.tc.clock.Set(LinkedRecording::At("09:57:30"));
+        r.tc.clock.Set(RecordingRig::At("09:57:30"));
         r.tc.ctx->scheduler.ScheduleNextRecording();
         tick("09:57:30");
-        QCOMPARE(WakeAlarm(r.tc), EpochText(LinkedRecording::At("09:58:40")));
+        QCOMPARE(WakeAlarm(r.tc), EpochText(RecordingRig::At("09:58:40")));
         if (logind) {
             QCOMPARE(logind->Inhibitors(), QStringList{"sleep|Notes a recording that the sleep "
                                                        "will miss|delay"});
@@ -74,7 +76,7 @@ private slots:
                      QStringList{"sleep:idle|Recording Stream|block"});
         }
         int blocksWhileRecording = -1;
-        QVERIFY(r.Run(LinkedRecording::At("10:00:08"), [&] {
+        QVERIFY(r.Run(RecordingRig::At("10:00:08"), [&] {
             if (logind)
                 blocksWhileRecording = logind->BlockInhibitors();
             if (taskFails) {
@@ -82,14 +84,14 @@ private slots:
                 pulse->Stop();
             }
         }));
-        QCOMPARE(r.RecordingRows(), taskFails ? 0 : 1);
+        QCOMPARE(r.Recordings().size(), taskFails ? 0 : 1);
         QCOMPARE(r.LoggedMessages().size(), taskFails ? 1 : 0);
         if (logind) {
             QCOMPARE(blocksWhileRecording, 1);
             QTRY_COMPARE(logind->BlockInhibitors(), 0);
         }
         // The next occurrence is a week later: the alarm follows it.
-        QCOMPARE(WakeAlarm(r.tc), EpochText(LinkedRecording::At("09:58:40") + 7));
+        QCOMPARE(WakeAlarm(r.tc), EpochText(RecordingRig::At("09:58:40") + 7));
     }
 
     void sleepWithAProgramDue_data()
@@ -115,7 +117,7 @@ private slots:
         tc.ctx->database.DataPrograms.Requery();
         if (!wakeAlarm)
             QFile::remove(tc.WakeAlarmFile());
-        tc.clock.Set(LinkedRecording::At("12:00:00"));
+        tc.clock.Set(RecordingRig::At("12:00:00"));
         tc.ctx->scheduler.ScheduleNextRecording();
         tc.ctx->recorder.KeepAwakeControl().Update();
         QCOMPARE(logind.Inhibitors().filter("|delay").size(), 1);
@@ -131,8 +133,8 @@ private slots:
         if (!messages.isEmpty()) {
             QCOMPARE(entries.last().type, 1);
             QVERIFY(entries.last().details.contains("Night news"));
-            QVERIFY(entries.last().details.contains(
-                Options::DateText(LinkedRecording::At("22:00:00"))));
+            QVERIFY(
+                entries.last().details.contains(Options::DateText(RecordingRig::At("22:00:00"))));
         }
         // After waking it is taken anew for the next sleep.
         QVERIFY(logind.EmitPrepareForSleep(false));
@@ -158,7 +160,7 @@ private slots:
         QFETCH(QString, alarm);
         TestContext tc;
         tc.OpenDatabase();
-        tc.clock.Set(LinkedRecording::At("12:00:00"));
+        tc.clock.Set(RecordingRig::At("12:00:00"));
         const auto schedule = [&tc] {
             tc.ctx->database.DataPrograms.Requery();
             tc.ctx->scheduler.ScheduleNextRecording();
@@ -188,9 +190,9 @@ private slots:
             }
         }
         schedule();
-        QCOMPARE(WakeAlarm(tc), alarm == "0" ? alarm : EpochText(LinkedRecording::At(alarm)));
+        QCOMPARE(WakeAlarm(tc), alarm == "0" ? alarm : EpochText(RecordingRig::At(alarm)));
     }
 };
 
-QTEST_GUILESS_MAIN(TestKeepAwake)
+NIGHTREEL_TEST_PARTS_MAIN(TestKeepAwake, QCoreApplication)
 #include "test_keepawake.moc"

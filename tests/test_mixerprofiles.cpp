@@ -202,12 +202,10 @@ private slots:
         QTest::addColumn<int>("read");
         QTest::addColumn<int>("set");   // -1: no SetVolume
         QTest::addColumn<int>("after"); // per cent of every channel after SetVolume
-        QTest::newRow("reads the first channel") << QStringList{"20%", "80%"} << 20 << -1 << -1;
         QTest::newRow("amplified reads the top") << QStringList{"150%"} << 100 << -1 << -1;
         QTest::newRow("150 sets the normal volume")
             << QStringList{"20%", "80%"} << 20 << 150 << 100;
         QTest::newRow("-5 sets silence") << QStringList{"50%"} << 50 << -5 << 0;
-        QTest::newRow("every channel alike") << QStringList{"20%", "80%"} << 20 << 60 << 60;
     }
 
     void masterVolume()

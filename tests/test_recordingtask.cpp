@@ -3,12 +3,14 @@
 #include "PulseFixture.h"
 #include "SoxTone.h"
 #include "TestContext.h"
+#include "TestParts.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/WaveFileChunks.h"
 #include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
 #include "taskcontract/RecParms.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -147,13 +149,11 @@ RecParms Parms(const QString& output, const QByteArray& record)
     return p;
 }
 
-QStringList LoggedMessages(TestContext& tc)
+QStringList LoggedMessages(const TestContext& tc)
 {
     QStringList messages;
-    QSqlQuery q(tc.ctx->database.db.Connection());
-    q.exec("SELECT Message FROM EventLog ORDER BY ID");
-    while (q.next())
-        messages << q.value(0).toString();
+    for (const LogEntry& e : tc.LogEntries())
+        messages << e.message;
     return messages;
 }
 
@@ -408,5 +408,5 @@ private:
     std::unique_ptr<PulseFixture> m_pulse;
 };
 
-QTEST_GUILESS_MAIN(TestRecordingTask)
+NIGHTREEL_TEST_PARTS_MAIN(TestRecordingTask, QCoreApplication)
 #include "test_recordingtask.moc"

@@ -156,23 +156,14 @@ private slots:
         row("first step", "PlayStepSizeValue5", nullptr, {}, "10");
         row("first folder", "DefaultRecordingDirectory", nullptr, "", nullptr);
         row("first recent file", "RecentRecordingFilename", nullptr, {}, nullptr);
-        row("first KeepAwakeForRecordings", "KeepAwakeForRecordings", nullptr, true, "True");
-        row("first SilenceAlarm", "SilenceAlarm", nullptr, true, "True");
-        row("first SilenceAlarmSeconds", "SilenceAlarmSeconds", nullptr, 120, "120");
-        row("first ShowDesktopNotifications", "ShowDesktopNotifications", nullptr, true, "True");
 
         row("folder saved empty", "DefaultRecordingDirectory", " ", "", " ");
 
         row("warn 5", "WarnRecMegsLeft", "5", 50, "50");
         row("warn 20000", "WarnRecMegsLeft", "20000", 20000, "20000");
-        row("stop 4", "StopRecMegsLeft", "4", 25, "25");
-        row("name format 3", "DefaultRecordFileNameFormat", "3", 0, "0");
-        row("manual seconds -1", "DefaultManualRecordingDurationSeconds", "-1", 0, "0");
         row("purge days 2", "PurgeDays", "2", 30, "30");
-        row("purge days 1000", "PurgeDays", "1000", 30, "30");
         row("purge days 3", "PurgeDays", "3", 3, "3");
         row("silence threshold 0", "SilenceThresholdDb", "0", -60, "-60");
-        row("silence threshold -90", "SilenceThresholdDb", "-90", -90, "-90");
         row("blanks around a number", "PurgeDays", "  7 ", 7, "  7 ");
         row("half rounds to even, up", "PurgeDays", "7.5", 8, "7.5");
         row("half rounds to even, down", "PurgeDays", "6.5", 6, "6.5");
@@ -180,23 +171,18 @@ private slots:
         row("no number", "PurgeDays", "many", 30, "30");
         row("huge number", "PurgeDays", "1e400", 30, "30");
 
-        row("True", "ConfirmLongRecordings", "True", true, "True");
         row("lower-case true", "ConfirmLongRecordings", "true", true, "True");
         row("upper-case TRUE", "PurgeRecordings", "TRUE", false, "False");
         row("the system's -1", "PurgeRecordings", "-1", false, "False");
         row("blank before True", "ShowSplashScreen", " True", true, "True");
 
-        row("midnight, 12-hour", "PurgeTime", "12:00:00 AM", 0, "12:00:00 AM");
         row("afternoon, 12-hour", "PurgeTime", "3:30:15 PM", 55815, "3:30:15 PM");
         row("24-hour", "PurgeTime", "15:30:15", 55815, "15:30:15");
-        row("24-hour, no seconds", "PurgeTime", "23:05", 83100, "23:05");
         row("date and time", "PurgeTime", "6/1/2026 6:00:00 AM", 21600, "6/1/2026 6:00:00 AM");
         row("no time", "PurgeTime", "soon", 0, "12:00:00 AM");
-        row("hour 25", "PurgeTime", "25:00:00", 0, "12:00:00 AM");
 
         row("mixer file", "MixerFilePath", " %1/mixer ", "%1/mixer", " %1/mixer ");
         row("mixer on the path", "MixerFilePath", "sh", "sh", "sh");
-        row("mixer file missing", "MixerFilePath", "%1/gone", "pavucontrol", "pavucontrol");
         row("mixer file empty", "MixerFilePath", "%1/empty", "pavucontrol", "pavucontrol");
         row("mixer not on the path", "MixerFilePath", "no-such-mixer", "pavucontrol",
             "pavucontrol");
@@ -276,12 +262,9 @@ private slots:
             QTest::newRow(tag) << QString(name) << QString(text) << reset;
         };
         row("value 60", "PlayStepSizeValue3", "60", true);
-        row("value 0", "PlayStepSizeValue0", "0", true);
         row("value missing", "PlayStepSizeValue5", nullptr, true);
         row("minute 2", "PlayStepSizeMinute5", "2", true);
-        row("minute no number", "PlayStepSizeMinute1", "x", true);
         row("value 59 with blanks", "PlayStepSizeValue2", " 59 ", false);
-        row("value 1", "PlayStepSizeValue1", "1", false);
     }
 
     void oneBadStepValueResetsTheWholeTable()
@@ -326,13 +309,12 @@ private slots:
         QTest::addColumn<QDateTime>("time"); // invalid: none (0)
 
         // Locales whose short dates have two-digit years and whose long times name the zone.
-        for (const char* locale : {"en_US", "de_DE", "C"}) {
+        for (const char* locale : {"en_US", "de_DE"}) {
             const auto row = [&](const char* tag, const QDateTime& time) {
                 QTest::addRow("%s, %s", locale, tag) << QString(locale) << time;
             };
             row("afternoon", QDateTime(QDate(2026, 6, 1), QTime(14, 30, 15)));
             row("last century", QDateTime(QDate(1950, 3, 4), QTime(8, 0, 1)));
-            row("midnight", QDateTime(QDate(2026, 12, 31), QTime(0, 0)));
             row("none", QDateTime());
         }
     }

@@ -4,7 +4,9 @@
 // the rules give, each one missed is logged once, and the cases that the rules decide start
 // as worked out here by hand.
 #include "SoakRun.h"
+#include "TestParts.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 class TestSoak : public QObject {
@@ -87,5 +89,5 @@ private:
     SoakReport m_report;
 };
 
-QTEST_GUILESS_MAIN(TestSoak)
+NIGHTREEL_TEST_PARTS_MAIN(TestSoak, QCoreApplication)
 #include "test_soak.moc"

@@ -3,8 +3,9 @@
 // part of its title, or by the windows that appeared after the link was opened; a window
 // that refuses stays open and the recording ends all the same.
 #include "DesktopData.h"
-#include "LinkedRecording.h"
 #include "PulseFixture.h"
+#include "RecordingRig.h"
+#include "TestParts.h"
 #include "XDisplay.h"
 
 #include <QScopeGuard>
@@ -43,7 +44,7 @@ private slots:
         m_display = std::make_unique<XDisplay>(qEnvironmentVariableIsSet("NIGHTREEL_TEST_WM"));
         if (!m_display->Running())
             QSKIP("no X display (or window manager) could be started");
-        const QString missing = LinkedRecording::StartSound(m_pulse);
+        const QString missing = RecordingRig::StartSound(m_pulse);
         if (!missing.isEmpty())
             QSKIP(qPrintable(missing));
     }
@@ -64,16 +65,14 @@ private slots:
         // that native Wayland windows can't.
         QTest::addColumn<bool>("waylandSession");
         const QStringList titles{"Media PLAYER", "player - radio", "Notes"};
-        QTest::newRow("by part of the title")
-            << "  player " << titles << false << QList<bool>{true, true, false} << false;
         QTest::newRow("never") << "DO_NOT_CLOSE" << titles << false
                                << QList<bool>{false, false, false} << false;
         QTest::newRow("player refuses")
             << "player" << titles << true << QList<bool>{false, true, false} << false;
         QTest::newRow("own windows too") << "nightreel" << QStringList{"Nightreel 2000", "Notes"}
                                          << false << QList<bool>{true, false} << false;
-        QTest::newRow("on a Wayland session")
-            << "player" << titles << false << QList<bool>{true, true, false} << true;
+        QTest::newRow("by part of the title, on a Wayland session")
+            << "  player " << titles << false << QList<bool>{true, true, false} << true;
     }
 
     void closingAtTheEndOfTheRecording()
@@ -97,11 +96,11 @@ private slots:
             windows << m_display->OpenWindow(titles[i], i == 0 && firstRefuses);
             QVERIFY(windows.last());
         }
-        LinkedRecording r;
-        r.AddProgram(
+        RecordingRig r;
+        r.AddProgramAt10(
             {{"InternetLink", "http://radio.example/live"}, {"StreamingPlayerClose", playerClose}});
-        QVERIFY(r.Run(LinkedRecording::At("10:00:03")));
-        QCOMPARE(r.RecordingRows(), 1);
+        QVERIFY(r.Run(RecordingRig::At("10:00:08")));
+        QCOMPARE(r.Recordings().size(), 1);
         for (int i = 0; i < windows.size(); ++i)
             QVERIFY2(XDisplay::Closed(windows[i], closed[i] ? 3000 : 500) == closed[i],
                      qPrintable(titles[i]));
@@ -118,17 +117,18 @@ private slots:
         // was there before.
         QProcess* before = m_display->OpenWindow("Radio");
         QVERIFY(before);
-        LinkedRecording r;
+        RecordingRig r;
         r.tc.launcher.desktopPages = true;
         const QList<WindowHandle> old = WindowsTitled(r.tc.windows, "Radio");
         QCOMPARE(old.size(), 1);
 
-        r.AddProgram({{"InternetLink", "http://radio.example/live"}, {"StreamingPlayerClose", ""}});
+        r.AddProgramAt10(
+            {{"InternetLink", "http://radio.example/live"}, {"StreamingPlayerClose", ""}});
         int radiosAtStart = 0;
-        QVERIFY(r.Run(LinkedRecording::At("10:00:03"),
+        QVERIFY(r.Run(RecordingRig::At("10:00:03"),
                       [&] { radiosAtStart = WindowsTitled(r.tc.windows, "Radio").size(); }));
         QCOMPARE(radiosAtStart, 2);
-        QCOMPARE(r.RecordingRows(), 1);
+        QCOMPARE(r.Recordings().size(), 1);
         QTRY_COMPARE_WITH_TIMEOUT(WindowsTitled(r.tc.windows, "Radio"), old, 3000);
         QVERIFY(!XDisplay::Closed(before, 200));
         before->kill();
@@ -148,7 +148,7 @@ private slots:
         QFETCH(bool, closed);
         TestContext tc;
         StreamingPlayer& player = tc.ctx->recorder.Control().Player();
-        const double t0 = LinkedRecording::At("10:00:00");
+        const double t0 = RecordingRig::At("10:00:00");
         tc.clock.Set(t0);
         player.SnapshotWindowsBeforeLink();
         QProcess* window = m_display->OpenWindow("Stream player");
@@ -170,7 +170,7 @@ int main(int argc, char* argv[])
         return 1;
     QCoreApplication app(argc, argv);
     TestStreamingPlayer test;
-    return QTest::qExec(&test, argc, argv);
+    return RunTestPart(test, argc, argv);
 }
 
 #include "test_streamingplayer.moc"

@@ -1,12 +1,15 @@
 // Programs that record an internet stream: scheduled like any program, recorded by the real
 // task from a station of the test's own on 127.0.0.1, on a machine without a sound server.
-#include "LinkedRecording.h"
+#include "RecordingRig.h"
 #include "SoxTone.h"
 #include "StreamServer.h"
+#include "TestFiles.h"
+#include "TestParts.h"
 #include "formats/FormatStore.h"
 #include "scheduling/StreamTest.h"
 #include "store/Recordset.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
 #include <QSignalSpy>
@@ -21,12 +24,6 @@ namespace {
 // Longer than any recording here with its lead, so that the station never loops.
 constexpr int ToneSeconds = 40;
 
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // A 1 kHz tone, looped by the station, in the given file type; made by sox and lame.
 QByteArray MakeTone(const QString& folder, const QString& type)
 {
@@ -39,7 +36,7 @@ QByteArray MakeTone(const QString& folder, const QString& type)
         QProcess::execute("lame", {"--quiet", "-t", "-b", "128", wav, out});
     else
         QProcess::execute("sox", {wav, "-C", "3", out});
-    return ReadAll(out);
+    return ReadFile(out);
 }
 
 // The Ogg pages before the first sound (granule position 0): the stream's headers.
@@ -115,12 +112,12 @@ private slots:
     // no ICY metadata; the titles sent during the show stand in a CUE sheet beside it.
     void anMp3StreamIsKeptAsBroadcastWithItsTitles()
     {
-        LinkedRecording r;
+        RecordingRig r;
         AddStreamProgram(r, "/tone.mp3", "10:00:15", "10:00:21", true);
-        QVERIFY(r.Run(LinkedRecording::At("10:00:00"), {}, 40000));
+        QVERIFY(r.Run(RecordingRig::At("10:00:04"), {}, 40000));
 
         const QString file = r.folder + "/Kept.MP3";
-        const QByteArray kept = ReadAll(file);
+        const QByteArray kept = ReadFile(file);
         QVERIFY2(kept.size() > 128, qPrintable(r.LoggedMessages().join("; ")));
         const QByteArray frames = kept.left(kept.size() - 128);
         QVERIFY(kept.right(128).startsWith("TAG"));
@@ -136,7 +133,7 @@ private slots:
         QVERIFY2(q.value(0).toString().contains("Kept as broadcast"),
                  qPrintable(q.value(0).toString()));
 
-        const QString cue = QString::fromUtf8(ReadAll(r.folder + "/Kept.cue"));
+        const QString cue = QString::fromUtf8(ReadFile(r.folder + "/Kept.cue"));
         QVERIFY2(cue.contains("FILE \"Kept.MP3\" MP3"), qPrintable(cue));
         // The station changes titles 13 s into its broadcast; this listener connected ten
         // seconds ahead of the start, so the change falls about 3 s into the show.
@@ -155,21 +152,20 @@ private slots:
         QVERIFY2(qAbs(offsets[1] - 3.0) < 1.0, qPrintable(cue));
     }
 
-    // Anything else is decoded and written in the program's format by the usual writers.
+    // Anything else is decoded and written in the program's format by the usual writers; a
+    // list leads to its first stream (an Ogg Vorbis one, an MP3 one).
     void otherStreamsAreDecodedToTheProgramsFormat_data()
     {
         QTest::addColumn<QString>("path");
-        QTest::newRow("Ogg Vorbis") << "/tone.ogg";
-        QTest::newRow("MP3 into PCM") << "/tone.mp3";
         QTest::newRow(".pls list") << "/list.pls";
         QTest::newRow(".m3u list") << "/list.m3u";
     }
     void otherStreamsAreDecodedToTheProgramsFormat()
     {
         QFETCH(QString, path);
-        LinkedRecording r;
+        RecordingRig r;
         AddStreamProgram(r, path, "10:00:12", "10:00:16", false);
-        QVERIFY(r.Run(LinkedRecording::At("10:00:00"), {}, 40000));
+        QVERIFY(r.Run(RecordingRig::At("10:00:01"), {}, 40000));
         const QString file = r.folder + "/Kept.WAV";
         QVERIFY2(QFile::exists(file), qPrintable(r.LoggedMessages().join("; ")));
         double rms = 0;
@@ -185,11 +181,11 @@ private slots:
     // logged gap as long as the station was missed.
     void aDropIsRetriedFilledWithSilenceAndLoggedOnce()
     {
-        LinkedRecording r;
+        RecordingRig r;
         AddStreamProgram(r, "/tone.mp3", "10:00:12", "10:00:40", false);
         bool silenced = false;
         QVERIFY(r.Run(
-            LinkedRecording::At("10:00:00"),
+            RecordingRig::At("10:00:01"),
             [&] {
                 QTimer::singleShot(14000, [&] {
                     m_server.FallSilent(10000);
@@ -201,10 +197,7 @@ private slots:
         const QString file = r.folder + "/Kept.WAV";
         const double seconds = Soxi("-D", file).toDouble();
         QVERIFY2(qAbs(seconds - 28.0) < 1.0, qPrintable(QString::number(seconds)));
-        QStringList gaps;
-        for (const LogEntry& e : r.tc.LogEntries())
-            if (e.message == "Internet stream interrupted")
-                gaps << e.details;
+        const QStringList gaps = r.Logged("Internet stream interrupted");
         QCOMPARE(gaps.size(), 1);
         const QRegularExpressionMatch m =
             QRegularExpression(R"(for ([0-9.]+) seconds)").match(gaps[0]);
@@ -216,10 +209,10 @@ private slots:
     // A stream never reached: one error naming the address and the reason, no row, no file.
     void aStreamNeverReachedLeavesOneErrorAndNothingElse()
     {
-        LinkedRecording r;
+        RecordingRig r;
         AddStreamProgram(r, "/gone.mp3", "10:00:12", "10:00:15", false);
-        QVERIFY(r.Run(LinkedRecording::At("10:00:00"), {}, 40000));
-        QCOMPARE(r.RecordingRows(), 0);
+        QVERIFY(r.Run(RecordingRig::At("10:00:01"), {}, 40000));
+        QCOMPARE(r.Recordings().size(), 0);
         QCOMPARE(QDir(r.folder).entryList(QDir::Files), QStringList());
         QList<LogEntry> errors;
         for (const LogEntry& e : r.tc.LogEntries())
@@ -277,16 +270,12 @@ private slots:
 private:
     // A program "Kept" on Mondays recording the station's path: 16-bit mono PCM, or MP3 at
     // 128 kbit/s written to an .MP3 file.
-    void AddStreamProgram(LinkedRecording& r, const QString& path, const QString& start,
+    void AddStreamProgram(RecordingRig& r, const QString& path, const QString& start,
                           const QString& end, bool mp3)
     {
-        QVariantHash row = Programs::WithPcmFormat(Programs::Weekly("Kept", start, end, "0100000"));
-        row.insert({{"MixerProfileBefore", ""},
-                    {"MixerProfileAfter", ""},
-                    {"FilenameUser", "Kept"},
-                    {"StreamUrl", m_server.Url(path)}});
-        const qint64 id = r.tc.AddProgram(row);
-        r.tc.ctx->database.DataPrograms.Requery();
+        QVariantHash row = Programs::Weekly("Kept", start, end, "0100000");
+        row.insert({{"FilenameUser", "Kept"}, {"StreamUrl", m_server.Url(path)}});
+        const qint64 id = r.AddProgram(row);
         if (mp3) {
             clsRecordingFormat format;
             format.SetWaveFormatEx(r.tc.ctx->log, WaveFormatRecord::MpegLayer3(2, 44100, 128));
@@ -305,5 +294,5 @@ private:
     QByteArray m_mp3;
 };
 
-QTEST_MAIN(TestStreamRecording)
+NIGHTREEL_TEST_PARTS_MAIN(TestStreamRecording, QCoreApplication)
 #include "test_streamrecording.moc"

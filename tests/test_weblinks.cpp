@@ -3,8 +3,8 @@
 // program opens when the clock reaches its time, and a missing browser doesn't hold up the
 // recording.
 #include "DesktopData.h"
-#include "LinkedRecording.h"
 #include "PulseFixture.h"
+#include "RecordingRig.h"
 #include "sideactions/ViewHtmlFile.h"
 
 #include <QFile>
@@ -62,7 +62,7 @@ private:
 private slots:
     void initTestCase()
     {
-        const QString missing = LinkedRecording::StartSound(m_pulse);
+        const QString missing = RecordingRig::StartSound(m_pulse);
         if (!missing.isEmpty())
             QSKIP(qPrintable(missing));
     }
@@ -114,12 +114,12 @@ private slots:
     // logged, and the recording starts on time.
     void withoutBrowserTheRecordingStartsAllTheSame()
     {
-        LinkedRecording r;
+        RecordingRig r;
         r.tc.launcher.desktopPages = true;
-        r.AddProgram({{"InternetLink", kUrl},
-                      {"InternetLinkDelay", 3},
-                      {"StreamingPlayerClose", "DO_NOT_CLOSE"}});
-        QVERIFY(r.Run(LinkedRecording::At("10:00:03")));
+        r.AddProgramAt10({{"InternetLink", kUrl},
+                          {"InternetLinkDelay", 3},
+                          {"StreamingPlayerClose", "DO_NOT_CLOSE"}});
+        QVERIFY(r.Run(RecordingRig::At("10:00:03")));
 
         QCOMPARE(r.tc.messageBox.asked.size(), 1);
         QCOMPARE(r.tc.messageBox.asked[0].title, QString("Browser Not Found"));
@@ -129,18 +129,18 @@ private slots:
         QCOMPARE(entries.size(), 1);
         QCOMPARE(entries[0].type, 1);
         QCOMPARE(entries[0].message, QString("Browser Not Found"));
-        QCOMPARE(r.RecordingRows(), 1);
+        QCOMPARE(r.Recordings().size(), 1);
         QVERIFY(!QFile::exists(r.tc.ctx->folders.runtimeFolder + "/temphtm.HTM"));
     }
 
     void linkReachesTheBrowserAtItsTime()
     {
         const QString opened = Opened();
-        LinkedRecording r;
+        RecordingRig r;
         r.tc.launcher.desktopPages = true;
         // The player is to be found by itself, so the windows are noted before the link opens,
         // and the link keeps a lead of 5 seconds although 3 are asked for.
-        r.AddProgram(
+        r.AddProgramAt10(
             {{"InternetLink", kUrl}, {"InternetLinkDelay", 3}, {"StreamingPlayerClose", ""}});
         double snapshotAt = 0;
         qsizetype launchesAtSnapshot = -1;
@@ -150,12 +150,12 @@ private slots:
                              launchesAtSnapshot = r.tc.launcher.started.size();
                          });
         qsizetype launchesAtStart = 0;
-        QVERIFY(r.Run(LinkedRecording::At("10:00:03"),
+        QVERIFY(r.Run(RecordingRig::At("10:00:03"),
                       [&] { launchesAtStart = r.tc.launcher.started.size(); }));
         QCOMPARE(launchesAtSnapshot, 0);
         QCOMPARE(launchesAtStart, 1);
         const qint64 sinceLinkTime =
-            AutomationDate::SecondsBetween(LinkedRecording::At("10:00:05"), snapshotAt);
+            AutomationDate::SecondsBetween(RecordingRig::At("10:00:05"), snapshotAt);
         QVERIFY2(sinceLinkTime >= 0 && sinceLinkTime <= 1,
                  qPrintable(QString::number(sinceLinkTime)));
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(opened), 5000);
@@ -164,7 +164,7 @@ private slots:
         QCOMPARE(QString::fromUtf8(f.readAll()), kUrl);
         QCOMPARE(r.tc.launcher.styles, QList<int>{WindowStyleNormal});
         QVERIFY(r.tc.messageBox.asked.isEmpty());
-        QCOMPARE(r.RecordingRows(), 1);
+        QCOMPARE(r.Recordings().size(), 1);
     }
 };
 
