@@ -297,9 +297,10 @@ private slots:
                                                      "/usr/bin/after " + second->DestinationFile}));
         QCOMPARE(f.Captures(), QStringList());
 
-        QVERIFY2(ticksWhileConverting >= 3, "the conversion lasts several heartbeat ticks");
-        // The heartbeat's 250 ms, and at most 100 ms late.
-        QVERIFY2(longestGap <= Heartbeat::TickInterval + 100,
+        QVERIFY2(ticksWhileConverting >= 3, qPrintable(QString::number(ticksWhileConverting)));
+        // The heartbeat's 250 ms, late by at most a tick on a busy machine: a conversion that
+        // held the event loop would stop it for seconds.
+        QVERIFY2(longestGap <= 2 * Heartbeat::TickInterval,
                  qPrintable(QString::number(longestGap)));
         QVERIFY(!panelTexts.isEmpty());
         for (const QString& text : panelTexts)
