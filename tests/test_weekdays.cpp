@@ -1,6 +1,6 @@
 #include "common/AutomationDate.h"
-#include "scheduling/ModuleUtility.h"
 #include "formats/clsProgramFlags.h"
+#include "scheduling/ModuleUtility.h"
 #include "scheduling/clsWeekdays.h"
 
 #include <QtTest>

@@ -59,8 +59,8 @@ struct InputLevelMeter::Listener {
         auto* l = static_cast<Listener*>(self);
         if (pa_context_get_state(context) != PA_CONTEXT_READY || l->stream)
             return;
-        const pa_sample_spec spec{PA_SAMPLE_FLOAT32NE, 1, PeaksPerSecond};
-        l->stream = pa_stream_new(context, "Input level", &spec, nullptr);
+        const pa_sample_spec sampleSpec{PA_SAMPLE_FLOAT32NE, 1, PeaksPerSecond};
+        l->stream = pa_stream_new(context, "Input level", &sampleSpec, nullptr);
         if (!l->stream)
             return;
         pa_stream_set_read_callback(l->stream, &Listener::OnRead, l);
