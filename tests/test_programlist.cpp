@@ -280,34 +280,57 @@ private slots:
         QTest::addColumn<QString>("end");
         QTest::addColumn<QString>("days");
         QTest::addColumn<bool>("conflict");
+        QTest::addColumn<int>("padding");
         const double monday = Programs::At(2026, 6, 1, "00:00:00");
         const double nextMonday = Programs::At(2026, 6, 8, "00:00:00");
         QTest::newRow("one time, same date, overlapping")
             << Programs::OneTime("Other", monday, "10:00:00", "11:00:00") << true
             << QDate(2026, 6, 1) << "10:30:00"
             << "11:30:00"
-            << "" << true;
+            << "" << true << 0;
         QTest::newRow("one time, a week apart")
             << Programs::OneTime("Other", nextMonday, "10:00:00", "11:00:00") << true
             << QDate(2026, 6, 1) << "10:30:00"
             << "11:30:00"
-            << "" << false;
+            << "" << false << 0;
         QTest::newRow("one time across midnight into the other's morning")
             << Programs::OneTime("Other", Programs::At(2026, 6, 2, "00:00:00"), "01:00:00",
                                  "03:00:00")
             << true << QDate(2026, 6, 1) << "22:00:00"
             << "02:00:00"
-            << "" << true;
+            << "" << true << 0;
         QTest::newRow("one time against weekly of its weekday")
             << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << true
             << QDate(2030, 1, 7) << "10:30:00"
             << "11:30:00"
-            << "" << true;
+            << "" << true << 0;
         QTest::newRow("disabled other")
             << Disabled(Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000")) << false
             << QDate() << "10:00:00"
             << "11:00:00"
-            << "0100000" << false;
+            << "0100000" << false << 0;
+        // Padded windows: the other program's 11:00 end and this 11:01 start are 60 s
+        // apart, so 30 s of padding at each end only touches, and 31 s overlaps.
+        QTest::newRow("padding that only touches")
+            << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << false << QDate()
+            << "11:01:00"
+            << "12:00:00"
+            << "0100000" << false << 30;
+        QTest::newRow("padding that overlaps, weekly")
+            << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << false << QDate()
+            << "11:01:00"
+            << "12:00:00"
+            << "0100000" << true << 31;
+        QTest::newRow("padding that overlaps, one time back to back")
+            << Programs::OneTime("Other", monday, "10:00:00", "11:00:00") << true
+            << QDate(2026, 6, 1) << "11:00:00"
+            << "12:00:00"
+            << "" << true << 1;
+        QTest::newRow("padding across midnight into the next weekday")
+            << Programs::Weekly("Other", "00:05:00", "01:00:00", "0010000") << false << QDate()
+            << "23:00:00"
+            << "00:00:00"
+            << "0100000" << true << 301;
     }
     void conflictsAreFoundAsTheEditorSeesThem()
     {
@@ -318,9 +341,11 @@ private slots:
         QFETCH(QString, end);
         QFETCH(QString, days);
         QFETCH(bool, conflict);
+        QFETCH(int, padding);
         ListFixture f;
         f.Add(other);
         ProgramEditor::ConflictQuery q;
+        q.paddingSeconds = qint16(padding);
         q.oneTime = oneTime;
         if (day.isValid())
             q.oneTimeDay = AutomationDate::FromDate(day);

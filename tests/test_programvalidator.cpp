@@ -119,6 +119,33 @@ private slots:
         QCOMPARE(failed->text, text);
     }
 
+    // The options' padding reaches the conflict test: a show starting as the rival ends is
+    // refused once recordings run a second late and early.
+    void paddingFromTheOptionsCountsInTheConflictTest_data()
+    {
+        QTest::addColumn<int>("padding");
+        QTest::addColumn<bool>("refused");
+        QTest::newRow("no padding, back to back") << 0 << false;
+        QTest::newRow("a second of padding") << 1 << true;
+    }
+    void paddingFromTheOptionsCountsInTheConflictTest()
+    {
+        QFETCH(int, padding);
+        QFETCH(bool, refused);
+        OpenedContext tc;
+        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
+        tc.ctx->options.PaddingSeconds = qint16(padding);
+        tc.AddProgram(
+            Programs::OneTime("Rival", At(2026, 6, 1, "00:00:00"), "12:30:00", "13:00:00"));
+        tc.ctx->database.DataPrograms.Requery();
+        const ProgramValidator validator(tc.ctx->database, tc.clock, tc.ctx->options);
+
+        const auto failed = validator.FirstFailedCheck(NewProgram());
+        QCOMPARE(failed.has_value(), refused);
+        if (failed)
+            QCOMPARE(failed->title, QString("Schedule Conflict"));
+    }
+
     void longRecordingsAreConfirmed_data()
     {
         QTest::addColumn<bool>("confirm");

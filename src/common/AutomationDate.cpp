@@ -126,6 +126,11 @@ qint64 HoursBetween(double a, double b)
     return FloorDiv(LinearSeconds(b), 3600) - FloorDiv(LinearSeconds(a), 3600);
 }
 
+qint64 WholeSeconds(double date)
+{
+    return LinearSeconds(date);
+}
+
 double AddSeconds(double date, double seconds)
 {
     return FromLinearMilliseconds(LinearMilliseconds(date) + std::llround(seconds * 1000.0));

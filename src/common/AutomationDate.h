@@ -40,4 +40,7 @@ qint64 HoursBetween(double a, double b);
 
 double AddSeconds(double date, double seconds);
 
+// The moment as whole seconds since the epoch, truncated like SecondsBetween.
+qint64 WholeSeconds(double date);
+
 } // namespace AutomationDate

@@ -29,14 +29,18 @@ QString ExistingProfile(const QString& mixerFolder, const QString& name)
     return FileExistsOrClear(mixerFolder + u'/' + name + QStringLiteral(".mxr")) ? name : QString();
 }
 
-// The end of an occurrence on its real date; an end before the start is on the next day.
-void RealRange(double day, double startTime, double endTime, double& begin, double& end)
+// The padded window of an occurrence on its real date, in whole seconds; an end before the
+// start is on the next day.
+void RealRange(double day, double startTime, double endTime, int padSeconds, double& begin,
+               double& end)
 {
     const double date = AutomationDate::DatePart(day);
-    begin = date + AutomationDate::TimePart(startTime);
-    end = date + AutomationDate::TimePart(endTime);
+    double endDate = date + AutomationDate::TimePart(endTime);
     if (AutomationDate::TimePart(startTime) > AutomationDate::TimePart(endTime))
-        end += 1.0;
+        endDate += 1.0;
+    begin = double(AutomationDate::WholeSeconds(date + AutomationDate::TimePart(startTime)) -
+                   padSeconds);
+    end = double(AutomationDate::WholeSeconds(endDate) + padSeconds);
 }
 
 } // namespace
@@ -134,7 +138,8 @@ ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Reco
 bool ProgramingConflict(AppDatabase& database, const ConflictQuery& query, QString& description)
 {
     description.clear();
-    clsWeekdays mine;
+    const int pad = query.paddingSeconds;
+    clsWeekdays mine(pad);
     if (query.oneTime)
         mine.OneTimeDtm(query.oneTimeDay, query.startTime, query.endTime);
     else
@@ -156,13 +161,13 @@ bool ProgramingConflict(AppDatabase& database, const ConflictQuery& query, QStri
         bool conflict = false;
         if (query.oneTime && rowOneTime) {
             double a0, a1, b0, b1;
-            RealRange(query.oneTimeDay, query.startTime, query.endTime, a0, a1);
-            RealRange(rowDay, rowStart, rowEnd, b0, b1);
+            RealRange(query.oneTimeDay, query.startTime, query.endTime, pad, a0, a1);
+            RealRange(rowDay, rowStart, rowEnd, pad, b0, b1);
             conflict = TimeRangesOverlap(a0, a1, b0, b1);
         } else {
             // A weekly program's days hold every week, so a one-time program meets it on
             // its weekday whatever the date.
-            clsWeekdays theirs;
+            clsWeekdays theirs(pad);
             if (rowOneTime) {
                 theirs.OneTimeDtm(rowDay, rowStart, rowEnd);
             } else {

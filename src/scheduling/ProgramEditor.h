@@ -98,6 +98,9 @@ struct ConflictQuery {
     std::array<bool, 7> days{};
     bool editingExisting = false;
     qint32 editProgramId = 0;
+    // Scheduled recordings start this early and end this late, so every program's window
+    // is widened by it at both ends before the overlap test.
+    qint16 paddingSeconds = 0;
 };
 
 // True when an enabled program other than the one being edited overlaps the query; the

@@ -32,7 +32,8 @@ ProgramValidator::ProgramValidator(AppDatabase& database, const Clock& clock,
 std::optional<ProgramCheckMessage>
 ProgramValidator::FirstFailedCheck(const ProgramCheckValues& v) const
 {
-    const ProgramEditor::ConflictQuery& when = v.schedule;
+    ProgramEditor::ConflictQuery when = v.schedule;
+    when.paddingSeconds = m_options.PaddingSeconds;
     if (!when.oneTime && std::none_of(when.days.begin(), when.days.end(), [](bool d) { return d; }))
         return Refused(tr("No days selected"), tr("At least one day needs to be selected."));
     if (v.userFilename) {

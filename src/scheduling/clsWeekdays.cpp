@@ -42,5 +42,6 @@ void clsWeekdays::AddInterval(int dayIndex, double startTime, double endTime)
     // Intended too: a Saturday night ends past the week and is never compared with Sunday.
     const double end = startTime < endTime ? kReferenceSunday + dayIndex + endTime
                                            : kReferenceSunday + dayIndex + endTime + 1;
-    m_intervals.push_back({begin, end});
+    m_intervals.push_back({double(AutomationDate::WholeSeconds(begin) - m_padSeconds),
+                           double(AutomationDate::WholeSeconds(end) + m_padSeconds)});
 }

@@ -8,6 +8,11 @@
 // on that weekday of every week.
 class clsWeekdays {
 public:
+    // padSeconds widens every interval at both ends.
+    explicit clsWeekdays(int padSeconds = 0)
+        : m_padSeconds(padSeconds)
+    {
+    }
     // Adds the weekday of date (only the weekday is kept) from startTime to endTime.
     void OneTimeDtm(double date, double startTime, double endTime);
     // Adds startTime to endTime on each set day, index 0 being Sunday.
@@ -18,6 +23,8 @@ public:
 private:
     void AddInterval(int dayIndex, double startTime, double endTime);
 
-    // Begin and end of each interval in the reference week.
+    // Begin and end of each interval in the reference week, in whole seconds, so that
+    // padded windows that only touch compare exactly.
     std::vector<std::array<double, 2>> m_intervals;
+    int m_padSeconds;
 };
