@@ -71,14 +71,14 @@ private slots:
     // A weekly program due within seconds records into the recording folder; an older file of
     // the same name is kept with its row, and the new recording takes the next free name, noted
     // once in the log; the row's times are the file's; the occurrence is marked and next week's
-    // is scheduled; the command after the recording gets the file's parts.
+    // is scheduled; the command after the recording gets the file it was saved as.
     void scheduledProgramRecordsIntoItsFile()
     {
         RecordingRig r;
         QVariantHash row = Programs::Weekly("Morning news", "10:00:05", "10:00:08", "0100000");
         row.insert({{"FilenamePrefix", "Show_"},
                     {"FilenameSuffix", "_am"},
-                    {"LaunchAppAfter", "  /usr/bin/after %d|%p|%f|%b|%e|%%|%x  "},
+                    {"LaunchAppAfter", "/usr/bin/after %p"},
                     {"LaunchAfterOnlyIfOk", -1}});
         r.AddProgram(row);
         const QString older = r.folder + "/Show_060126_100005_am.WAV";
@@ -117,9 +117,7 @@ private slots:
         QVERIFY(r.ctx().scheduler.next.NextProgramFound);
         QCOMPARE(r.ctx().scheduler.next.NextProgramStart, At("10:00:05", 7));
         QCOMPARE(r.ctx().options.RecentRecordingFilename, path);
-        QCOMPARE(r.tc.launcher.started,
-                 QStringList{"/usr/bin/after " + r.folder + "/|" + path + "|" + name + "|" +
-                             name.chopped(4) + "|WAV|%|%x"});
+        QCOMPARE(r.tc.launcher.started, QStringList{"/usr/bin/after " + path});
         const QList<LogEntry> entries = r.Log();
         QCOMPARE(entries.size(), 1);
         QCOMPARE(entries[0].message, QString("Recording saved under a new name"));
