@@ -207,11 +207,11 @@ QList<QVariantMap> ControlService::NextPrograms(int count)
 
 QList<QVariantMap> ControlService::Programs()
 {
-    QList<QVariantMap> programs = Rows(m_s.database.DataPrograms.recordset(), [this](
-                                                                                  Recordset& rs) {
-        return ProgramRequest::ToMap(rs.Value(QStringLiteral("ID")).toInt(),
-                                     ProgramEditor::ReadProgramRow(m_s.log, m_s.mixerFolder, rs));
-    });
+    QList<QVariantMap> programs =
+        Rows(m_s.database.DataPrograms.recordset(), [this](Recordset& rs) {
+            return ProgramRequest::ToMap(rs.Value(QStringLiteral("ID")).toInt(),
+                                         ProgramEditor::ReadProgramRow(m_s.mixerFolder, rs));
+        });
     std::reverse(programs.begin(), programs.end());
     return programs;
 }

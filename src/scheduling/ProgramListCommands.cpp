@@ -36,7 +36,7 @@ bool ProgramListCommands::FindRowToWorkOn()
 
 ProgramFormValues ProgramListCommands::ReadCurrentRow()
 {
-    return ProgramEditor::ReadProgramRow(m_services.log, m_services.mixerFolder,
+    return ProgramEditor::ReadProgramRow(m_services.mixerFolder,
                                          m_services.database.DataPrograms.recordset());
 }
 
