@@ -196,8 +196,7 @@ void ProgramListCommands::SelectAll()
 
 void ProgramListCommands::DblClick(bool onRow)
 {
-    Trap(m_services.log, "DBGridPrograms_DblClick", [&] {
-        if (onRow)
-            EditProgram();
-    });
+    // The editor's own routine traps what fails: nothing else here can.
+    if (onRow)
+        EditProgram();
 }
