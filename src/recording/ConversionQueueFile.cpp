@@ -29,10 +29,12 @@ QJsonObject ToJson(const clsConvertToMP3Request& r)
             {QStringLiteral("LaunchAfterOnlyIfOk"), r.LaunchAfterOnlyIfOk}};
 }
 
+// A format that no format can hold is passed over with its request, as one that can't be
+// decoded: the requests after it still load.
 bool ReadFormat(const QJsonValue& hex, clsRecordingFormat& format)
 {
     const auto record = WaveFormatRecord::Decode(QByteArray::fromHex(hex.toString().toLatin1()));
-    if (!record)
+    if (!record || record->cbSize > clsRecordingFormat::nMaxExtraBytes)
         return false;
     format.SetWaveFormatEx(*record);
     return true;
