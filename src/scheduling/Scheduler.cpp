@@ -253,7 +253,7 @@ void Scheduler::Pad(const ProgramOccurrence& found, NextProgram& n)
 
 void Scheduler::OfferRemovalOfExpiredPrograms()
 {
-    InRoutine("OfferRemovalOfExpiredPrograms", [&] {
+    Trap(m_log, "OfferRemovalOfExpiredPrograms", [&] {
         if (!m_options.RemoveExpiredPrograms)
             return;
         Recordset rs = m_database.DataPrograms.recordset().Clone();
