@@ -74,6 +74,8 @@ private slots:
         QCOMPARE(s.tc.ctx->recorder.HeartbeatTimer().Timer1.Interval(), 250);
         QCOMPARE(s.form->ui.DBGridPrograms->model()->rowCount(), 1);
         QVERIFY(s.form->ui.Action("mnuEdit")->isEnabled());
+        QVERIFY(!s.form->ui.Action("mnuRecordingsPlay")->isEnabled());
+        QCOMPARE(s.form->windowTitle(), QStringLiteral("Nightreel 2000"));
         QVERIFY(s.form->ui.DiskStatus->text().startsWith("Disk Space Used: "));
         QVERIFY(s.tc.messageBox.asked.isEmpty());
     }
@@ -137,6 +139,8 @@ private slots:
         QCOMPARE(s.tc.ctx->error.NoAudioRecordDevice(), sources == 0);
         QVERIFY(!s.form->ui.Action("ToolbarMain.Record")->isEnabled());
         QVERIFY(s.form->ui.Action("ToolbarMain.Error")->isVisible());
+        QVERIFY(s.form->ui.Action("mnuErrors")->isEnabled());
+        QCOMPARE(s.form->ui.Action("mnuViewDiskStatus")->isEnabled(), folder);
         QCOMPARE(s.form->ui.DiskStatus->text().isEmpty(), !folder);
         QCOMPARE(s.form->SysTrayMgr()->CurrentTip(),
                  QStringLiteral("Nightreel 2000 - Errors or warnings are present."));

@@ -1,9 +1,10 @@
 // The two forms of the mixer profiles over a profile folder of the test's own: what they list,
-// which entry they select after each command, what they ask.
+// which entry they select after each command, what they ask, where they open.
 #include "ModalDialogs.h"
 #include "PulseFixture.h"
 #include "TestContext.h"
 #include "TestFiles.h"
+#include "common/Twips.h"
 #include "sideactions/frmAddMixerProfile.h"
 #include "sideactions/frmMixerProfiles.h"
 
@@ -64,6 +65,7 @@ private slots:
         m_tc = std::make_unique<TestContext>();
         m_tc->OpenDatabase();
         m_main = std::make_unique<QWidget>();
+        m_main->move(100, 80);
     }
 
     void cleanup()
@@ -213,6 +215,14 @@ private slots:
         QVERIFY(QFile(Profiles().PathOf("Late show")).size() > kProfile.size());
         QCOMPARE(Selected(list), QString("Old"));
         QVERIFY(Control<QPushButton>(form.get(), "btnActivate")->isEnabled());
+    }
+
+    // The forms open at an offset from the main form, whatever its place (the other forms
+    // are placed the same way).
+    void placesAtTheMainForm()
+    {
+        const auto form = Open();
+        QCOMPARE(form->pos(), m_main->pos() + QPoint(Twips::ToPixels(250), Twips::ToPixels(250)));
     }
 };
 
