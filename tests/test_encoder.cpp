@@ -378,7 +378,10 @@ private slots:
         const std::string out = TaskWaveSource::Mp3Record(2, 44100, 128);
         const QString src = Path("sf.WAV.TMP");
         const QString dst = Path("sf.MP3");
-        QCOMPARE(Start(Path("missing.WAV.TMP"), dst, in, out, false), NIGHTREELENC_ERR_OPEN_SOURCE);
+        // Nothing is created when the start fails before the destination.
+        QCOMPARE(Start(Path("missing.WAV.TMP"), Path("never.MP3"), in, out, false),
+                 NIGHTREELENC_ERR_OPEN_SOURCE);
+        QVERIFY(!QFileInfo::exists(Path("never.MP3")));
         QCOMPARE(Start(Path("not-a-wave.WAV.TMP"), dst, in, out, false),
                  NIGHTREELENC_ERR_BAD_FORMAT);
         // The record disagrees with the file's fmt.
@@ -395,10 +398,6 @@ private slots:
         const qint64 sourceSize = QFileInfo(src).size();
         QCOMPARE(Start(src, src, in, out, false), NIGHTREELENC_ERR_CREATE_DESTINATION);
         QCOMPARE(QFileInfo(src).size(), sourceSize);
-        // Nothing is created when the start fails before the destination.
-        QCOMPARE(Start(Path("missing.WAV.TMP"), Path("never.MP3"), in, out, false),
-                 NIGHTREELENC_ERR_OPEN_SOURCE);
-        QVERIFY(!QFileInfo::exists(Path("never.MP3")));
         QCOMPARE(m_enc.StartEncodeMp3(nullptr, "x", nullptr, nullptr, 0),
                  NIGHTREELENC_ERR_BAD_FORMAT);
         QCOMPARE(m_enc.StartEncodeMp3(nullptr, "x",
