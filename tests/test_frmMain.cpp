@@ -159,43 +159,36 @@ private slots:
 
     void leavingAsksOrRefuses_data()
     {
-        QTest::addColumn<bool>("recording");
-        QTest::addColumn<bool>("converting");
-        QTest::addColumn<bool>("program");
-        QTest::addColumn<bool>("bySystem");
+        QTest::addColumn<QString>("state"); // "bySystem": at log-out or shutdown
         QTest::addColumn<MsgResult>("answer");
         QTest::addColumn<QString>("asked"); // title: the start of the text; empty: nothing asked
         QTest::addColumn<bool>("closes");
         QTest::newRow("recording")
-            << true << false << false << false << MsgResult::Ok
+            << "recording" << MsgResult::Ok
             << "Recording in progress: Can not exit while recording." << false;
-        QTest::newRow("recording at shutdown") << true << false << false << true << MsgResult::Ok
-                                               << "Recording in progress: " << false;
-        QTest::newRow("converting") << false << true << false << false << MsgResult::Ok
+        QTest::newRow("recording at shutdown")
+            << "recording,bySystem" << MsgResult::Ok << "Recording in progress: " << false;
+        QTest::newRow("converting") << "converting" << MsgResult::Ok
                                     << "Converting to MP3: Can not exit while converting" << false;
-        QTest::newRow("programs, No") << false << false << true << false << MsgResult::No
-                                      << "Exit: You have scheduled recordings." << false;
-        QTest::newRow("nothing, Yes") << false << false << false << false << MsgResult::Yes
-                                      << "Exit: Are you sure you want to exit?" << true;
-        QTest::newRow("programs at log-out")
-            << false << false << true << true << MsgResult::No << "" << true;
+        QTest::newRow("programs, No")
+            << "program" << MsgResult::No << "Exit: You have scheduled recordings." << false;
+        QTest::newRow("nothing, Yes")
+            << "" << MsgResult::Yes << "Exit: Are you sure you want to exit?" << true;
+        QTest::newRow("programs at log-out") << "program,bySystem" << MsgResult::No << "" << true;
     }
     void leavingAsksOrRefuses()
     {
-        QFETCH(bool, program);
-        QFETCH(bool, recording);
-        QFETCH(bool, converting);
+        QFETCH(QString, state);
         QFETCH(MsgResult, answer);
-        QFETCH(bool, bySystem);
         QFETCH(QString, asked);
         Started s;
         s.Activate();
-        if (program)
+        if (state.contains("program"))
             s.tc.AddProgram(Programs::Weekly("Show", "20:00:00", "21:00:00", "0100000"));
-        s.tc.ctx->appStatus.SetRecording(recording);
-        s.tc.ctx->appStatus.SetConverting(converting);
+        s.tc.ctx->appStatus.SetRecording(state.contains("recording"));
+        s.tc.ctx->appStatus.SetConverting(state.contains("converting"));
         s.tc.messageBox.answers << answer;
-        QTEST(s.form->Controller().QueryUnload(bySystem), "closes");
+        QTEST(s.form->Controller().QueryUnload(state.contains("bySystem")), "closes");
         QCOMPARE(s.tc.messageBox.asked.size(), asked.isEmpty() ? 0 : 1);
         for (const auto& box : s.tc.messageBox.asked)
             QVERIFY2((box.title + ": " + box.text).startsWith(asked), qPrintable(box.text));
