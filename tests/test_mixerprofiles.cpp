@@ -71,23 +71,18 @@ private slots:
     {
         QTest::addColumn<QByteArray>("content"); // empty: a file of no length
         QTest::addColumn<bool>("serverGone");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QString>("details");
-        QTest::newRow("empty file") << QByteArray() << false << QString() << QString();
-        QTest::newRow("server gone")
-            << QByteArray("nightreel-mixer-profile 1\n") << true << "Error activating mixer profile"
-            << "Error number = 1";
-        QTest::newRow("not a profile")
-            << QByteArray("garbage\n") << false << "Error activating mixer profile"
-            << "Error number = 3";
+        QTest::addColumn<QString>("logged"); // a warning's message and details
+        QTest::newRow("empty file") << QByteArray() << false << QString();
+        QTest::newRow("server gone") << QByteArray("nightreel-mixer-profile 1\n") << true
+                                     << "Error activating mixer profile: Error number = 1";
+        QTest::newRow("not a profile") << QByteArray("garbage\n") << false
+                                       << "Error activating mixer profile: Error number = 3";
     }
-
     void activationFailures()
     {
         QFETCH(QByteArray, content);
         QFETCH(bool, serverGone);
-        QFETCH(QString, message);
-        QFETCH(QString, details);
+        QFETCH(QString, logged);
         QDir().mkpath(Profiles().Folder());
         QVERIFY(WriteFile(Profiles().PathOf("Broken"), content));
         QCOMPARE(Profiles().Names(), QStringList{"Broken"});
@@ -98,15 +93,14 @@ private slots:
             Profiles().ActivateMixerProfile("Broken");
         }
         const QList<LogEntry> entries = m_tc->LogEntries();
-        if (message.isEmpty()) {
+        if (logged.isEmpty()) {
             QVERIFY(entries.isEmpty());
             QVERIFY(!QFile::exists(Profiles().PathOf("Broken")));
             return;
         }
         QCOMPARE(entries.size(), 1);
         QCOMPARE(entries[0].type, 1);
-        QCOMPARE(entries[0].message, message);
-        QCOMPARE(entries[0].details, details);
+        QCOMPARE(entries[0].message + ": " + entries[0].details, logged);
         QVERIFY(QFile::exists(Profiles().PathOf("Broken")));
     }
 
