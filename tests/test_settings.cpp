@@ -375,45 +375,26 @@ private slots:
         saved.PaddingSeconds = 90;
         saved.SaveOptions(tc.ctx->registry);
 
+        // Written again from what was read, every value is as the first write left it: a name
+        // the reader does not know would come back as its default.
+        const auto written = [&tc] {
+            QSettings file(tc.SettingsFile(), QSettings::IniFormat);
+            QHash<QString, QString> values;
+            for (const QString& key : file.allKeys())
+                values[key] = file.value(key).toString();
+            return values;
+        };
+        const QHash<QString, QString> first = written();
         Options read;
         read.GetOptions(tc.ctx->registry);
-        for (const auto& [name, member] :
-             std::initializer_list<std::pair<const char*, qint16 Options::*>>{
-                 {"WarnRecMegsLeft", &Options::WarnRecMegsLeft},
-                 {"StopRecMegsLeft", &Options::StopRecMegsLeft},
-                 {"LongRecordingHours", &Options::LongRecordingHours},
-                 {"DefaultRecordFileNameFormat", &Options::DefaultRecordFileNameFormat},
-                 {"DefaultManualRecordingDurationHours",
-                  &Options::DefaultManualRecordingDurationHours},
-                 {"DefaultManualRecordingDurationMinutes",
-                  &Options::DefaultManualRecordingDurationMinutes},
-                 {"DefaultManualRecordingDurationSeconds",
-                  &Options::DefaultManualRecordingDurationSeconds},
-                 {"PurgeDays", &Options::PurgeDays},
-                 {"PaddingSeconds", &Options::PaddingSeconds}})
-            QVERIFY2(read.*member == saved.*member, name);
-        for (const auto& [name, member] :
-             std::initializer_list<std::pair<const char*, bool Options::*>>{
-                 {"ConfirmLongRecordings", &Options::ConfirmLongRecordings},
-                 {"ConfirmStopManualRecording", &Options::ConfirmStopManualRecording},
-                 {"AllowJoystickActivation", &Options::AllowJoystickActivation},
-                 {"PurgeRecordings", &Options::PurgeRecordings},
-                 {"RemoveExpiredPrograms", &Options::RemoveExpiredPrograms},
-                 {"ShowActualTimeInPlayer", &Options::ShowActualTimeInPlayer},
-                 {"ShowRecordingTimeInTaskBar", &Options::ShowRecordingTimeInTaskBar},
-                 {"HiddenWindowStatupMode", &Options::HiddenWindowStatupMode},
-                 {"ShowSplashScreen", &Options::ShowSplashScreen},
-                 {"KeepAwakeForRecordings", &Options::KeepAwakeForRecordings},
-                 {"SilenceAlarm", &Options::SilenceAlarm},
-                 {"ShowDesktopNotifications", &Options::ShowDesktopNotifications}})
-            QVERIFY2(read.*member == saved.*member, name);
-        QCOMPARE(read.DefaultRecordingDirectory, saved.DefaultRecordingDirectory);
-        QCOMPARE(read.RecordingInput, saved.RecordingInput);
-        QCOMPARE(read.MixerFilePath, saved.MixerFilePath);
-        QCOMPARE(AutomationDate::ToDateTime(read.PurgeTime).time(), QTime(3, 4, 5));
         // The player choice is read where it is made, not by GetOptions.
-        QCOMPARE(Stored(tc, "WavPlayer"), saved.WavPlayer);
-        QCOMPARE(Stored(tc, "Mp3Player"), saved.Mp3Player);
+        read.WavPlayer = saved.WavPlayer;
+        read.Mp3Player = saved.Mp3Player;
+        QVERIFY(QFile::remove(tc.SettingsFile()));
+        read.SaveOptions(tc.ctx->registry);
+        QCOMPARE(written(), first);
+        QCOMPARE(first.value(kSection + "/WavPlayer"), saved.WavPlayer);
+        QVERIFY(first.size() > 20);
     }
 
     void recentRecordingIsClearedWhenItsFileIsGone()
