@@ -132,6 +132,7 @@ private slots:
             << QStringList{"LongRecordingHours==", "ConfirmLongRecordings==",
                            "DefaultManualRecordingDurationHours=23"}
             << false << false;
+        // The disk has 40 Mbytes free, under the new stop limit.
         QTest::newRow("every other box, and what was not edited")
             << true
             << QStringList{"chkConfirmLongRecordings=1",
@@ -163,7 +164,7 @@ private slots:
                            "PlayStepSizeValue0=20",
                            "PlayStepSizeMinute0=1",
                            "DefaultRecordFileNameFormat=2",
-                           "PurgeTime=3:30:15 AM",
+                           "PurgeTime=" + Options::TimeText(AutomationDate::FromTime(3, 30, 15)),
                            "KeepAwakeForRecordings=False",
                            "SilenceAlarm=False",
                            "ShowDesktopNotifications=False",
@@ -171,7 +172,7 @@ private slots:
                            "RecordingInput=" + kUnplugged,
                            "WavPlayer=Desktop Default",
                            "DefaultRecordingDirectory=<root>/rec"}
-            << false << false;
+            << false << true;
         QTest::newRow("a missing folder keeps the dialog open with the start-up mode stored")
             << false << QStringList{"optHiddenStartupMode=1", "chkShowSplashScreen=0"} << false
             << QStringList{"HiddenWindowStatupMode=True",
