@@ -3,7 +3,6 @@
 #include "common/UnattendedPath.h"
 
 #include <QSignalSpy>
-#include <QSqlQuery>
 #include <QTest>
 #include <QTimer>
 

@@ -5,7 +5,6 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QLabel>
-#include <QSettings>
 #include <QTableView>
 #include <QTest>
 

@@ -6,7 +6,6 @@
 #include "options/frmSelectRecordDirectory.h"
 
 #include <QDir>
-#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>

@@ -106,26 +106,22 @@ private slots:
     void theFirstOfTwoProgramsWins_data()
     {
         QTest::addColumn<QString>("order");
-        QTest::addColumn<QString>("alphaStart");
-        QTest::addColumn<QString>("alphaEnd");
+        QTest::addColumn<QStringList>("alpha"); // start and end; Bravo runs from 20:00 to 21:00
         QTest::addColumn<QString>("winner");
-        const auto row = [](const char* tag, const char* order, const char* alphaStart,
-                            const char* alphaEnd, const char* winner) {
-            QTest::newRow(tag) << QString(order) << QString(alphaStart) << QString(alphaEnd)
-                               << QString(winner);
-        };
-        row("equal starts, ascending", "ASC", "20:00:00", "20:30:00", "Alpha");
-        row("equal starts, descending", "DESC", "20:00:00", "20:30:00", "Bravo");
-        row("running beats a later start", "DESC", "11:00:00", "21:30:00", "Alpha");
+        QTest::newRow("equal starts, ascending")
+            << QString("ASC") << QStringList{"20:00:00", "20:30:00"} << QString("Alpha");
+        QTest::newRow("equal starts, descending")
+            << QString("DESC") << QStringList{"20:00:00", "20:30:00"} << QString("Bravo");
+        QTest::newRow("running beats a later start")
+            << QString("DESC") << QStringList{"11:00:00", "21:30:00"} << QString("Alpha");
     }
     void theFirstOfTwoProgramsWins()
     {
         QFETCH(QString, order);
-        QFETCH(QString, alphaStart);
-        QFETCH(QString, alphaEnd);
+        QFETCH(QStringList, alpha);
         OpenedContext tc;
         tc.AddProgram(Programs::Weekly("Bravo", "20:00:00", "21:00:00", "0100000"));
-        tc.AddProgram(Programs::Weekly("Alpha", alphaStart, alphaEnd, "0100000"));
+        tc.AddProgram(Programs::Weekly("Alpha", alpha[0], alpha[1], "0100000"));
         AppDatabase& db = tc.ctx->database;
         db.DataPrograms.SetRecordSource("SELECT * FROM [Programs] ORDER BY [DescriptionText] " +
                                         order);
