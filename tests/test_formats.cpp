@@ -3,7 +3,6 @@
 #include "formats/clsRecordingFormat.h"
 #include "support/OpenedContext.h"
 #include "support/ScriptedMessageBox.h"
-#include "support/StandaloneLog.h"
 
 #include <QSqlQuery>
 #include <QtTest>
@@ -55,10 +54,9 @@ private slots:
     {
         QFETCH(quint32, rate);
         QFETCH(float, mbytes);
-        StandaloneLog bare;
         clsRecordingFormat format;
         format.SetToPcm(2, rate, 16);
-        QTEST(format.CalcSecondsFromMbytes(bare.log, mbytes), "seconds");
+        QTEST(format.CalcSecondsFromMbytes(mbytes), "seconds");
     }
 
     void blockAlignOfOddSampleSizesIsRounded_data()
@@ -211,7 +209,7 @@ private slots:
         QCOMPARE(q.value(1).toInt(), flags);
 
         clsRecordingFormat read;
-        ReadFormat(tc.ctx->log, read, rs);
+        ReadFormat(read, rs);
         QCOMPARE(read.Record(), record);
         QCOMPARE(read.SaveMP3FileExtension, bool(flags & 1));
         QCOMPARE(read.ConvertToMP3, bool(flags & 2));
@@ -233,7 +231,7 @@ private slots:
         rs.MoveFirst();
         clsRecordingFormat format;
         format.ConvertToMP3 = format.SaveMP3FileExtension = true;
-        ReadFormat(tc.ctx->log, format, rs);
+        ReadFormat(format, rs);
         QVERIFY(!format.ConvertToMP3);
         QVERIFY(!format.SaveMP3FileExtension);
         QCOMPARE(format.nSamplesPerSec(), 8000u);

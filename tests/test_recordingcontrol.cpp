@@ -110,7 +110,7 @@ void TestRecordingControl::startThatEndsAtOnce()
 }
 
 // Intended: a NULL StreamingPlayerClose is only tolerated when MixerProfileAfter is NULL too;
-// otherwise the start fails in its trap and Recording stays set for the clock to end.
+// otherwise the start fails before its plan: nothing runs, and the occurrence is passed over.
 void TestRecordingControl::nullPlayerTitleUnderAfterProfileFailsTheStart()
 {
     Fixture f;
@@ -124,7 +124,7 @@ void TestRecordingControl::nullPlayerTitleUnderAfterProfileFailsTheStart()
     const double now = f.ctx().Now();
     f.control->StartRecording(programId, now, now + 0.01, description);
 
-    QVERIFY(f.ctx().appStatus.Recording());
+    QVERIFY(!f.ctx().appStatus.Recording());
     QVERIFY(f.recorder.Link().StartedTasks().isEmpty());
     const QStringList messages = f.LogMessages();
     QCOMPARE(messages.size(), 1);
