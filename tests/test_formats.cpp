@@ -2,6 +2,7 @@
 #include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
 #include "support/OpenedContext.h"
+#include "support/ScriptedMessageBox.h"
 
 #include <QSqlQuery>
 #include <QtTest>
@@ -53,11 +54,9 @@ private slots:
     {
         QFETCH(quint32, rate);
         QFETCH(float, mbytes);
-        QFETCH(qint32, seconds);
-        TestContext tc;
         clsRecordingFormat format;
         format.SetToPcm(2, rate, 16);
-        QCOMPARE(format.CalcSecondsFromMbytes(mbytes), seconds);
+        QTEST(format.CalcSecondsFromMbytes(mbytes), "seconds");
     }
 
     void blockAlignOfOddSampleSizesIsRounded_data()
@@ -110,18 +109,16 @@ private slots:
         QFETCH(bool, convert);
         QFETCH(qint32, seconds);
         QFETCH(QString, refusal);
-        TestContext tc;
+        ScriptedMessageBox messageBox;
         clsRecordingFormat format;
         SetFromRecord(format, record);
         format.ConvertToMP3 = convert;
-        QCOMPARE(CheckFor2GbLimit(tc.messageBox, format, seconds), !refusal.isEmpty());
-        if (refusal.isEmpty()) {
-            QVERIFY(tc.messageBox.asked.isEmpty());
-        } else {
-            QCOMPARE(tc.messageBox.asked.size(), 1);
-            QCOMPARE(tc.messageBox.asked[0].title, QStringLiteral("Recording Size Exceeded"));
-            QCOMPARE(tc.messageBox.asked[0].text, refusal);
-            QCOMPARE(tc.messageBox.asked[0].icon, MsgIcon::Exclamation);
+        QCOMPARE(CheckFor2GbLimit(messageBox, format, seconds), !refusal.isEmpty());
+        QCOMPARE(messageBox.asked.size(), refusal.isEmpty() ? 0 : 1);
+        if (!refusal.isEmpty()) {
+            QCOMPARE(messageBox.asked[0].title, QStringLiteral("Recording Size Exceeded"));
+            QCOMPARE(messageBox.asked[0].text, refusal);
+            QCOMPARE(messageBox.asked[0].icon, MsgIcon::Exclamation);
         }
     }
 
@@ -155,14 +152,12 @@ private slots:
         QFETCH(QByteArray, record);
         QFETCH(bool, convert);
         QFETCH(bool, mp3Extension);
-        QFETCH(QString, text);
-        QFETCH(QString, shortText);
         clsRecordingFormat format;
         format.ConvertToMP3 = convert;
         format.SaveMP3FileExtension = mp3Extension;
         SetFromRecord(format, record);
-        QCOMPARE(format.TextCompressionMethod, text);
-        QCOMPARE(format.TextCompressionMethodShort, shortText);
+        QTEST(format.TextCompressionMethod, "text");
+        QTEST(format.TextCompressionMethodShort, "shortText");
         // The record itself survives a format without texts.
         QCOMPARE(format.Record(), record);
     }

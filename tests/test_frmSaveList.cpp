@@ -1,12 +1,11 @@
 #include "TestContext.h"
+#include "TestFiles.h"
 #include "recordingslist/SavedLists.h"
 #include "recordingslist/frmLoadList.h"
 #include "recordingslist/frmSaveList.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
@@ -24,8 +23,7 @@ struct Fixture {
     }
     QByteArray Saved(const QString& name) const
     {
-        QFile f(tc.ctx->savedLists.PathOf(name));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+        return ReadFile(tc.ctx->savedLists.PathOf(name));
     }
     void SaveAs(const QString& name)
     {

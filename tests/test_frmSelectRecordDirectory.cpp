@@ -1,147 +1,128 @@
 #include "ModalDialogs.h"
-#include "TestContext.h"
+#include "ScriptedMessageBox.h"
+#include "StandaloneLog.h"
+#include "TestFiles.h"
 #include "options/frmSelectExistingRecordDirectory.h"
 #include "options/frmSelectRecordDirectory.h"
 
 #include <QDir>
-#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-QString Expand(QString text, const QString& root)
-{
-    return text.replace("<root>", root);
-}
-
-} // namespace
 
 class TestFrmSelectRecordDirectory : public QObject {
     Q_OBJECT
 
 private slots:
+    // Paths are under the test's folder, <root>.
     void okTakesTypedPath_data()
     {
         QTest::addColumn<QStringList>("folders");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QList<MsgResult>>("answers");
-        QTest::addColumn<QStringList>("titlesAsked");
+        QTest::addColumn<QString>("titleAsked");
         QTest::addColumn<QString>("chosen");
         QTest::addColumn<bool>("folderExistsAfter");
-        const QStringList none;
-        QTest::newRow("existing folder") << QStringList{"rec"} << "<root>/rec/"
-                                         << QList<MsgResult>{} << none << "<root>/rec/" << true;
+        const QList<MsgResult> yes{MsgResult::Yes};
+        const QString create = "Create Folder";
+        QTest::newRow("existing folder")
+            << QStringList{"rec"} << "<root>/rec/" << QList<MsgResult>() << ""
+            << "<root>/rec/" << true;
         QTest::newRow("relative levels are resolved")
-            << QStringList{"rec"} << "<root>/x/../rec/" << QList<MsgResult>{} << none
+            << QStringList{"rec"} << "<root>/x/../rec/" << QList<MsgResult>() << ""
             << "<root>/rec/" << true;
         // The listing without a closing separator matches the start of names: intended.
         QTest::newRow("start of an existing name")
-            << QStringList{"recordings"} << "<root>/rec" << QList<MsgResult>{} << none
+            << QStringList{"recordings"} << "<root>/rec" << QList<MsgResult>() << ""
             << "<root>/rec" << false;
         QTest::newRow("missing levels created on Yes")
-            << none << "<root>/a/b/c" << QList<MsgResult>{MsgResult::Yes}
-            << QStringList{"Create Folder"} << "<root>/a/b/c/" << true;
+            << QStringList() << "<root>/a/b/c" << yes << create << "<root>/a/b/c/" << true;
         QTest::newRow("missing folder, No keeps the form open")
-            << none << "<root>/a/b" << QList<MsgResult>{MsgResult::No}
-            << QStringList{"Create Folder"} << QString() << false;
+            << QStringList() << "<root>/a/b" << QList<MsgResult>{MsgResult::No} << create << ""
+            << false;
         QTest::newRow("blank text")
-            << none << "   " << QList<MsgResult>{} << QStringList{"Invalid Recording Directory"}
-            << QString() << false;
+            << QStringList() << "   " << QList<MsgResult>() << "Invalid Recording Directory"
+            << "" << false;
         // A level that can't be made still counts as created; later checks catch it.
         QTest::newRow("folder under a file is accepted")
-            << QStringList{"file:plain"} << "<root>/plain/sub" << QList<MsgResult>{MsgResult::Yes}
-            << QStringList{"Create Folder"} << "<root>/plain/sub/" << false;
+            << QStringList{"file:plain"} << "<root>/plain/sub" << yes << create
+            << "<root>/plain/sub/" << false;
     }
     void okTakesTypedPath()
     {
         QFETCH(QStringList, folders);
         QFETCH(QString, typed);
         QFETCH(QList<MsgResult>, answers);
-        TestContext tc;
-        const QString root = tc.Root();
+        QTemporaryDir dir;
+        const auto inRoot = [&dir](QString path) {
+            return path.replace("<root>", dir.path());
+        };
         for (const QString& folder : folders) {
-            if (folder.startsWith("file:")) {
-                QFile file(root + '/' + folder.mid(5));
-                QVERIFY(file.open(QIODevice::WriteOnly));
-                file.write("x");
-            } else {
-                QVERIFY(QDir(root).mkpath(folder));
-            }
+            if (folder.startsWith("file:"))
+                QVERIFY(WriteFile(dir.filePath(folder.mid(5)), "x"));
+            else
+                QVERIFY(QDir(dir.path()).mkpath(folder));
         }
-        frmSelectRecordDirectory form(tc.ctx->log, tc.messageBox, nullptr, root);
+        StandaloneLog bare;
+        ScriptedMessageBox messageBox;
+        frmSelectRecordDirectory form(bare.log, messageBox, nullptr, dir.path());
         form.show();
-        form.findChild<QLineEdit*>("txtPath")->setText(Expand(typed, root));
-        tc.messageBox.answers = answers;
+        form.findChild<QLineEdit*>("txtPath")->setText(inRoot(typed));
+        messageBox.answers = answers;
         form.findChild<QPushButton*>("btnOK")->click();
 
-        QFETCH(QStringList, titlesAsked);
-        QStringList titles;
-        for (const auto& asked : tc.messageBox.asked)
-            titles << asked.title;
-        QCOMPARE(titles, titlesAsked);
-        if (titles == QStringList{"Create Folder"}) {
-            QString full = Expand(typed, root);
-            QCOMPARE(tc.messageBox.asked[0].text,
-                     "Folder " + full + " does not exist.  Create it?");
-        }
+        QFETCH(QString, titleAsked);
+        QCOMPARE(messageBox.asked.size(), titleAsked.isEmpty() ? 0 : 1);
+        if (!titleAsked.isEmpty())
+            QCOMPARE(messageBox.asked[0].title, titleAsked);
+        if (titleAsked == "Create Folder")
+            QCOMPARE(messageBox.asked[0].text,
+                     "Folder " + inRoot(typed) + " does not exist.  Create it?");
         QFETCH(QString, chosen);
-        QCOMPARE(form.SelectedRecordingFolder(), Expand(chosen, root));
+        QCOMPARE(form.SelectedRecordingFolder(), inRoot(chosen));
         QCOMPARE(form.isVisible(), chosen.isEmpty());
         QFETCH(bool, folderExistsAfter);
-        const QString folder = Expand(chosen.isEmpty() ? typed : chosen, root);
-        QCOMPARE(QFileInfo(folder).isDir(), folderExistsAfter);
+        QCOMPARE(QFileInfo(inRoot(chosen.isEmpty() ? typed : chosen)).isDir(), folderExistsAfter);
     }
 
-    void cancelGivesNoFolder()
+    // Both forms, as the options open them: OK gives the folder with a closing separator
+    // (the one typed, or the existing one proposed), Cancel gives nothing.
+    void chooseGivesTheAcceptedFolder_data()
     {
-        TestContext tc;
-        QString chosen = "unchanged";
-        WhenModalOpens([&](QDialog* dialog) {
-            dialog->findChild<QLineEdit*>("txtPath")->setText(tc.Root());
-            dialog->findChild<QPushButton*>("btnCancel")->click();
-        });
-        chosen = frmSelectRecordDirectory::Choose(tc.ctx->log, tc.messageBox, nullptr,
-                                                  tc.Root() + "/recordings");
-        QCOMPARE(chosen, QString());
+        QTest::addColumn<bool>("existing");
+        QTest::addColumn<QString>("button");
+        QTest::newRow("typed, OK") << false << "btnOK";
+        QTest::newRow("typed, Cancel") << false << "btnCancel";
+        QTest::newRow("existing, OK") << true << "btnOK";
+        QTest::newRow("existing, Cancel") << true << "btnCancel";
     }
-
     void chooseGivesTheAcceptedFolder()
     {
-        TestContext tc;
-        WhenModalOpens([](QDialog* dialog) { dialog->findChild<QPushButton*>("btnOK")->click(); });
-        QCOMPARE(
-            frmSelectRecordDirectory::Choose(tc.ctx->log, tc.messageBox, nullptr, tc.Root() + "/"),
-            tc.Root() + "/");
-    }
-
-    void aMissingProposedFolderIsShownAsItStands()
-    {
-        TestContext tc;
-        const QString proposed = tc.Root() + "/not/yet/there";
-        frmSelectRecordDirectory form(tc.ctx->log, tc.messageBox, nullptr, proposed);
-        auto* txtPath = form.findChild<QLineEdit*>("txtPath");
-        QCOMPARE(txtPath->text(), proposed);
-        QCOMPARE(txtPath->selectedText(), proposed);
-        QCOMPARE(form.windowTitle(), QString("Select Recording Folder"));
-    }
-
-    void existingFolderFormGivesTheFolderWithASeparator_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("chosen");
-        QTest::newRow("OK") << "btnOK" << true;
-        QTest::newRow("Cancel") << "btnCancel" << false;
-    }
-    void existingFolderFormGivesTheFolderWithASeparator()
-    {
+        QFETCH(bool, existing);
         QFETCH(QString, button);
-        QFETCH(bool, chosen);
         QTemporaryDir dir;
-        WhenModalOpens([&](QDialog* dialog) { dialog->findChild<QPushButton*>(button)->click(); });
-        const QString folder = frmSelectExistingRecordDirectory::Choose(nullptr, dir.path());
-        QCOMPARE(folder, chosen ? dir.path() + '/' : QString());
+        StandaloneLog bare;
+        ScriptedMessageBox messageBox;
+        WhenModalOpens([&](QDialog* dialog) {
+            if (!existing)
+                dialog->findChild<QLineEdit*>("txtPath")->setText(dir.path() + "/");
+            dialog->findChild<QPushButton*>(button)->click();
+        });
+        const QString folder = existing
+                                   ? frmSelectExistingRecordDirectory::Choose(nullptr, dir.path())
+                                   : frmSelectRecordDirectory::Choose(bare.log, messageBox, nullptr,
+                                                                      dir.path() + "/recordings");
+        QCOMPARE(folder, button == "btnOK" ? dir.path() + '/' : QString());
+    }
+
+    void aMissingProposedFolderIsShownSelected()
+    {
+        StandaloneLog bare;
+        ScriptedMessageBox messageBox;
+        const QString proposed = "/not/yet/there";
+        frmSelectRecordDirectory form(bare.log, messageBox, nullptr, proposed);
+        QCOMPARE(form.findChild<QLineEdit*>("txtPath")->selectedText(), proposed);
     }
 };
 

@@ -2,7 +2,9 @@
 // the choice by extension, the desktop's default program through a private handler
 // registry, and recordings that are gone.
 #include "DesktopData.h"
+#include "FakeRecordingsListView.h"
 #include "RecordingsListFixture.h"
+#include "TestFiles.h"
 #include "platform/OpenWithDefaultProgram.h"
 #include "player/PlayerChoice.h"
 #include "player/PlayerPanels.h"
@@ -50,30 +52,6 @@ struct FakePanels : PlayerPanels {
     QString opened;
 };
 
-// The recordings grid with one row as the command row; plays go to the choice.
-struct GridView : RecordingsListView {
-    QList<qint64> SelectedRows() const override { return {row}; }
-    qint64 CommandRow() const override { return row; }
-    void ClearSelection() override {}
-    void SelectAll() override {}
-    QString AskForFile(const QString&) override { return {}; }
-    QString AskForFolder(const QString&) override { return {}; }
-    void ShowRecordingDetails(const Recordset&) override {}
-    void ShowLoadList() override {}
-    void ShowSaveList() override {}
-    void CopyToClipboard(const QString&) override {}
-    void OpenFolder(const QString&) override {}
-    void UpdateRecordingsButtonsAndMenus() override {}
-    void UpdateStatusBarPlus() override {}
-    void UpdateModeDisplay() override {}
-    void PlayRecording(const QString& file, const QString& title, double startTime) override
-    {
-        choice->PlayExistingFile(file, title, startTime);
-    }
-    PlayerChoice* choice = nullptr;
-    qint64 row = -1;
-};
-
 struct Fixture : RecordingsListFixture {
     explicit Fixture(bool available = true)
         : choice(ctx.log, ctx.registry, ctx.options, tc.messageBox, panels, &OpenWithDefaultProgram,
@@ -87,10 +65,7 @@ struct Fixture : RecordingsListFixture {
     }
     QString Write(const QString& name, const QByteArray& content) const
     {
-        QFile f(File(name));
-        f.open(QIODevice::WriteOnly);
-        f.write(content);
-        return f.fileName();
+        return WriteFile(File(name), content) ? File(name) : QString();
     }
     AppContext& ctx = *tc.ctx;
     FakePanels panels{ctx.appStatus};
@@ -107,13 +82,10 @@ private slots:
     {
         DesktopData::UsePrivateFolders(Desktop().path());
         const QString script = Desktop().path() + "/handler.sh";
-        QFile f(script);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(("#!/bin/sh\nprintf '%s' \"$1\" > " + Opened() + ".part && mv " + Opened() +
-                 ".part " + Opened() + "\n")
-                    .toUtf8());
-        f.close();
-        f.setPermissions(f.permissions() | QFileDevice::ExeOwner);
+        QVERIFY(WriteFile(script, ("#!/bin/sh\nprintf '%s' \"$1\" > " + Opened() + ".part && mv " +
+                                   Opened() + ".part " + Opened() + "\n")
+                                      .toUtf8()));
+        QFile::setPermissions(script, QFile::permissions(script) | QFileDevice::ExeOwner);
         QVERIFY(DesktopData::RegisterHandler(Desktop().path(), "test-wav.desktop", script + " %f",
                                              "audio/x-wav"));
     }
@@ -125,21 +97,19 @@ private slots:
         QTest::addColumn<QString>("mp3");
         QTest::addColumn<QString>("wavAfter");
         QTest::addColumn<QString>("mp3After");
-        QTest::newRow("enhanced gone") << false << kEnhanced << kEnhanced << kClassic << kDefault;
-        QTest::newRow("empty, player there") << true << ""
-                                             << "" << kEnhanced << kEnhanced;
-        QTest::newRow("empty, no player") << false << ""
-                                          << "" << kClassic << kDefault;
-        QTest::newRow("classic for MP3") << true << kClassic << kClassic << kClassic << kEnhanced;
-        QTest::newRow("classic for MP3, no player")
-            << false << kDefault << kClassic << kDefault << kDefault;
-        QTest::newRow("unknown names") << true << "Some Player"
-                                       << "x" << kEnhanced << kEnhanced;
-        QTest::newRow("blanks trimmed")
-            << true << " " + kDefault + " " << kEnhanced + " " << kDefault << kEnhanced;
-        QTest::newRow("earlier versions' name of the default program")
-            << true << "Windows Default"
-            << " Windows Default" << kDefault << kDefault;
+        const auto row = [](const char* tag, bool available, const QString& wav, const QString& mp3,
+                            const QString& wavAfter, const QString& mp3After) {
+            QTest::newRow(tag) << available << wav << mp3 << wavAfter << mp3After;
+        };
+        row("enhanced gone", false, kEnhanced, kEnhanced, kClassic, kDefault);
+        row("empty, player there", true, "", "", kEnhanced, kEnhanced);
+        row("empty, no player", false, "", "", kClassic, kDefault);
+        row("classic for MP3", true, kClassic, kClassic, kClassic, kEnhanced);
+        row("classic for MP3, no player", false, kDefault, kClassic, kDefault, kDefault);
+        row("unknown names", true, "Some Player", "x", kEnhanced, kEnhanced);
+        row("blanks trimmed", true, " " + kDefault + " ", kEnhanced + " ", kDefault, kEnhanced);
+        row("earlier versions' name of the default program", true, "Windows Default",
+            " Windows Default", kDefault, kDefault);
     }
 
     void repairs()
@@ -187,9 +157,7 @@ private slots:
 
         if (opened == "default") {
             QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Opened()), 10000);
-            QFile got(Opened());
-            got.open(QIODevice::ReadOnly);
-            QCOMPARE(QString::fromUtf8(got.readAll()), path);
+            QCOMPARE(QString::fromUtf8(ReadFile(Opened())), path);
         } else if (opened == "message") {
             QCOMPARE(f.tc.messageBox.asked.size(), 1);
             QCOMPARE(f.tc.messageBox.asked[0].text,
@@ -224,15 +192,17 @@ private slots:
         f.ctx.options.WavPlayer = kEnhanced;
         const QString path = f.Write("empty.wav", QByteArray());
         if (fromGrid) {
-            GridView view;
-            view.choice = &f.choice;
+            FakeRecordingsListView view;
+            view.play = [&f](const QString& file, const QString& title, double start) {
+                f.choice.PlayExistingFile(file, title, start);
+            };
             RecordingsListCommands commands(f.ctx.database, f.list, f.ctx.log, f.tc.messageBox,
                                             f.ctx.options, view);
             Recordset& rs = f.ctx.database.DataRecordings.recordset();
             rs.AddNew();
             rs.SetValue("File", path);
             rs.Update();
-            view.row = rs.LastModified();
+            view.commandRow = rs.LastModified();
             commands.RecordingsPlay();
         } else {
             f.ctx.options.SaveRecentRecording(f.ctx.registry, path, "Recent", 45000.5);

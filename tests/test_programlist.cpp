@@ -129,12 +129,11 @@ private slots:
         QTest::addColumn<int>("answer");
         QTest::addColumn<QString>("question");
         QTest::addColumn<bool>("enabledAfter");
+        const QString question = "Are you sure you want to %1 the selected program?";
         QTest::newRow("disable, no")
-            << true << int(MsgResult::No)
-            << "Are you sure you want to disable the selected program?" << true;
+            << true << int(MsgResult::No) << question.arg("disable") << true;
         QTest::newRow("enable, yes")
-            << false << int(MsgResult::Yes)
-            << "Are you sure you want to enable the selected program?" << true;
+            << false << int(MsgResult::Yes) << question.arg("enable") << true;
     }
     void toggleOfTheRowUnderTheCursorAsksYesOrNo()
     {
@@ -274,68 +273,48 @@ private slots:
     void conflictsAreFoundAsTheEditorSeesThem_data()
     {
         QTest::addColumn<QVariantHash>("other");
-        QTest::addColumn<bool>("oneTime");
         QTest::addColumn<QDate>("day");
         QTest::addColumn<QString>("start");
         QTest::addColumn<QString>("end");
         QTest::addColumn<QString>("days");
         QTest::addColumn<bool>("conflict");
         QTest::addColumn<int>("padding");
-        const double monday = Programs::At(2026, 6, 1, "00:00:00");
-        const double nextMonday = Programs::At(2026, 6, 8, "00:00:00");
-        QTest::newRow("one time, same date, overlapping")
-            << Programs::OneTime("Other", monday, "10:00:00", "11:00:00") << true
-            << QDate(2026, 6, 1) << "10:30:00"
-            << "11:30:00"
-            << "" << true << 0;
-        QTest::newRow("one time, a week apart")
-            << Programs::OneTime("Other", nextMonday, "10:00:00", "11:00:00") << true
-            << QDate(2026, 6, 1) << "10:30:00"
-            << "11:30:00"
-            << "" << false << 0;
-        QTest::newRow("one time across midnight into the other's morning")
-            << Programs::OneTime("Other", Programs::At(2026, 6, 2, "00:00:00"), "01:00:00",
-                                 "03:00:00")
-            << true << QDate(2026, 6, 1) << "22:00:00"
-            << "02:00:00"
-            << "" << true << 0;
-        QTest::newRow("one time against weekly of its weekday")
-            << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << true
-            << QDate(2030, 1, 7) << "10:30:00"
-            << "11:30:00"
-            << "" << true << 0;
-        QTest::newRow("disabled other")
-            << Disabled(Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000")) << false
-            << QDate() << "10:00:00"
-            << "11:00:00"
-            << "0100000" << false << 0;
+        const auto row = [](const char* tag, const QVariantHash& other, const QDate& day,
+                            const char* start, const char* end, const char* days, bool conflict,
+                            int padding = 0) {
+            QTest::newRow(tag) << other << day << QString(start) << QString(end) << QString(days)
+                               << conflict << padding;
+        };
+        const auto once = [](const QDate& d, const char* start, const char* end) {
+            return Programs::OneTime("Other", AutomationDate::FromDate(d), start, end);
+        };
+        const QVariantHash mondays = Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000");
+        const QDate monday(2026, 6, 1);
+        row("one time, same date, overlapping", once(monday, "10:00:00", "11:00:00"), monday,
+            "10:30:00", "11:30:00", "", true);
+        row("one time, a week apart", once(monday.addDays(7), "10:00:00", "11:00:00"), monday,
+            "10:30:00", "11:30:00", "", false);
+        row("one time across midnight into the other's morning",
+            once(monday.addDays(1), "01:00:00", "03:00:00"), monday, "22:00:00", "02:00:00", "",
+            true);
+        row("one time against weekly of its weekday", mondays, QDate(2030, 1, 7), "10:30:00",
+            "11:30:00", "", true);
+        row("disabled other", Disabled(mondays), QDate(), "10:00:00", "11:00:00", "0100000", false);
         // Padded windows: the other program's 11:00 end and this 11:01 start are 60 s
         // apart, so 30 s of padding at each end only touches, and 31 s overlaps.
-        QTest::newRow("padding that only touches")
-            << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << false << QDate()
-            << "11:01:00"
-            << "12:00:00"
-            << "0100000" << false << 30;
-        QTest::newRow("padding that overlaps, weekly")
-            << Programs::Weekly("Other", "10:00:00", "11:00:00", "0100000") << false << QDate()
-            << "11:01:00"
-            << "12:00:00"
-            << "0100000" << true << 31;
-        QTest::newRow("padding that overlaps, one time back to back")
-            << Programs::OneTime("Other", monday, "10:00:00", "11:00:00") << true
-            << QDate(2026, 6, 1) << "11:00:00"
-            << "12:00:00"
-            << "" << true << 1;
-        QTest::newRow("padding across midnight into the next weekday")
-            << Programs::Weekly("Other", "00:05:00", "01:00:00", "0010000") << false << QDate()
-            << "23:00:00"
-            << "00:00:00"
-            << "0100000" << true << 301;
+        row("padding that only touches", mondays, QDate(), "11:01:00", "12:00:00", "0100000", false,
+            30);
+        row("padding that overlaps, weekly", mondays, QDate(), "11:01:00", "12:00:00", "0100000",
+            true, 31);
+        row("padding that overlaps, one time back to back", once(monday, "10:00:00", "11:00:00"),
+            monday, "11:00:00", "12:00:00", "", true, 1);
+        row("padding across midnight into the next weekday",
+            Programs::Weekly("Other", "00:05:00", "01:00:00", "0010000"), QDate(), "23:00:00",
+            "00:00:00", "0100000", true, 301);
     }
     void conflictsAreFoundAsTheEditorSeesThem()
     {
         QFETCH(QVariantHash, other);
-        QFETCH(bool, oneTime);
         QFETCH(QDate, day);
         QFETCH(QString, start);
         QFETCH(QString, end);
@@ -346,8 +325,8 @@ private slots:
         f.Add(other);
         ProgramEditor::ConflictQuery q;
         q.paddingSeconds = qint16(padding);
-        q.oneTime = oneTime;
-        if (day.isValid())
+        q.oneTime = day.isValid();
+        if (q.oneTime)
             q.oneTimeDay = AutomationDate::FromDate(day);
         q.startTime = Programs::TimeOfDay(start);
         q.endTime = Programs::TimeOfDay(end);

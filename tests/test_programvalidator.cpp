@@ -11,8 +11,6 @@ Q_DECLARE_METATYPE(Edit)
 
 namespace {
 
-const QString kForbidden = "cannot contain any of the following characters:\n\\ / : * ? \" < > | ";
-
 // A new program as the editor opens it at noon on Monday 1 June 2026: one time, an hour
 // from now, described, with the default file name.
 ProgramCheckValues NewProgram()
@@ -46,60 +44,48 @@ private slots:
         QTest::addColumn<Edit>("edit");
         QTest::addColumn<bool>("rival");
         QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("text");
         QTest::newRow("a forbidden character in the user's name, before the description")
             << Edit([](ProgramCheckValues& v) {
                    v.userFilename = true;
                    v.filenameUser = "a:b";
                    v.description.clear();
                })
-            << false << "Invalid Filename"
-            << "The filename " + kForbidden;
+            << false << "Invalid Filename";
         QTest::newRow("a user's name of nothing but an extension")
             << Edit([](ProgramCheckValues& v) {
                    v.userFilename = true;
                    v.filenameUser = " .WaV ";
                })
-            << false << "Invalid Filename"
-            << "Invalid Filename";
+            << false << "Invalid Filename";
         QTest::newRow("the user's name leaves the prefix out") << Edit([](ProgramCheckValues& v) {
             v.userFilename = true;
             v.filenameUser = "show.mp3";
             v.prefixChecked = true;
             v.prefix = "a*";
-        }) << false << ""
-                                                               << "";
+        }) << false << "";
         QTest::newRow("an unchecked prefix counts for nothing")
-            << Edit([](ProgramCheckValues& v) { v.prefix = "a*"; }) << false << ""
-            << "";
+            << Edit([](ProgramCheckValues& v) { v.prefix = "a*"; }) << false << "";
         QTest::newRow("a one-time start in the past, before the conflict")
             << Edit([](ProgramCheckValues& v) {
                    v.schedule.startTime = Programs::TimeOfDay("11:59:59");
                })
-            << true << "Invalid date and time"
-            << "The scheduled date and time must be later than the current time.";
+            << true << "Invalid date and time";
         QTest::newRow("a weekly start before now is next week's")
             << Edit([](ProgramCheckValues& v) {
                    Weekly(v, "0100000");
                    v.schedule.startTime = Programs::TimeOfDay("11:00:00");
                })
-            << false << ""
-            << "";
+            << false << "";
         QTest::newRow("a conflict with an enabled program")
-            << Edit([](ProgramCheckValues&) {}) << true << "Schedule Conflict"
-            << "There is a scheduling conflict with another program. Please modify the recording "
-               "time or remove/disable the conflicting program.\n\nConflicting Program "
-               "Description: Rival";
+            << Edit([](ProgramCheckValues&) {}) << true << "Schedule Conflict";
         QTest::newRow("a disabled program is saved in conflict")
-            << Edit([](ProgramCheckValues& v) { v.enabled = false; }) << true << ""
-            << "";
+            << Edit([](ProgramCheckValues& v) { v.enabled = false; }) << true << "";
     }
     void theFirstBrokenRuleIsReported()
     {
         QFETCH(Edit, edit);
         QFETCH(bool, rival);
         QFETCH(QString, title);
-        QFETCH(QString, text);
         OpenedContext tc;
         tc.clock.Set(At(2026, 6, 1, "12:00:00"));
         if (rival) {
@@ -116,7 +102,9 @@ private slots:
         if (!failed)
             return;
         QCOMPARE(failed->title, title);
-        QCOMPARE(failed->text, text);
+        // The texts are the editor form's test; a conflict names the program in the way.
+        if (title == "Schedule Conflict")
+            QVERIFY(failed->text.endsWith("\n\nConflicting Program Description: Rival"));
     }
 
     // The options' padding reaches the conflict test: a show starting as the rival ends is
@@ -167,11 +155,8 @@ private slots:
 
         const auto question = validator.LongRecordingQuestion(seconds);
         QCOMPARE(question.has_value(), asked);
-        if (question) {
+        if (question)
             QCOMPARE(question->title, QStringLiteral("Long Recording Confirmation"));
-            QCOMPARE(question->text, QStringLiteral("A recording longer than 3 hours is "
-                                                    "programmed.  Save this programming? "));
-        }
     }
 };
 

@@ -28,165 +28,131 @@ class TestRecordingPlan : public QObject {
     Q_OBJECT
 
 private slots:
-    void planOfAStart_data();
-    void planOfAStart();
+    // The files named are in /rec; "kind" is pcm, or mp3/convert with the extension it keeps.
+    void planOfAStart_data()
+    {
+        QTest::addColumn<bool>("manual");
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("userName");
+        QTest::addColumn<QStringList>("existing");
+        QTest::addColumn<double>("freeMb");
+        QTest::addColumn<QString>("refusal");
+        QTest::addColumn<QString>("finalFile");
+        QTest::addColumn<QString>("captureFile");
+        QTest::addColumn<int>("captureTag");
+
+        const auto row = [](const char* tag, bool manual, const char* kind, const char* userName,
+                            const QStringList& existing, double freeMb, const char* refusal,
+                            const char* finalFile, const char* captureFile, int captureTag) {
+            QTest::newRow(tag) << manual << QString(kind) << QString(userName) << existing << freeMb
+                               << QString(refusal) << QString(finalFile) << QString(captureFile)
+                               << captureTag;
+        };
+        const double plenty = 100000.0;
+        row("pcm named by the clock, prefix and suffix", false, "pcm", "", {}, plenty, "",
+            "Show_060126_120000_am.WAV", "Show_060126_120000_am.WAV", 1);
+        row("the user's name wins over the stamp", false, "pcm", " Morning ", {}, plenty, "",
+            "Morning.WAV", "Morning.WAV", 1);
+        row("mp3 in real time, kept as .MP3", false, "mp3.mp3", "Morning", {}, plenty, "",
+            "Morning.MP3", "Morning.MP3", 85);
+        row("mp3 in real time inside a wave file", false, "mp3.wav", "Morning", {}, plenty, "",
+            "Morning.WAV", "Morning.WAV", 85);
+        row("mp3 to convert is captured as pcm", false, "convert.mp3", "Morning", {}, plenty, "",
+            "Morning.MP3", "Morning.WAV.TMP", 1);
+        row("a taken name gets the next free number", false, "pcm", "Morning",
+            {"Morning.WAV", "Morning (2).WAV"}, plenty, "", "Morning (3).WAV", "Morning (3).WAV",
+            1);
+        row("a queued capture takes the name of a conversion", false, "convert.wav", "Morning",
+            {"Morning.WAV.TMP"}, plenty, "", "Morning (2).WAV", "Morning (2).WAV.TMP", 1);
+        row("a capture does not take the name of a direct recording", false, "pcm", "Morning",
+            {"Morning.WAV.TMP"}, plenty, "", "Morning.WAV", "Morning.WAV", 1);
+        row("a scheduled recording is never refused for space", false, "pcm", "Morning", {}, 0.0,
+            "", "Morning.WAV", "Morning.WAV", 1);
+        row("manual: half a megabyte above the limit will do", true, "pcm", "Morning", {}, 25.5, "",
+            "Morning.WAV", "Morning.WAV", 1);
+        row("manual: less is refused", true, "pcm", "Morning", {}, 25.49, "space", "", "", 0);
+        // A minute of 22 kHz stereo: about 5 Mbytes of PCM beside the MP3.
+        row("manual to convert needs room for both files", true, "convert.mp3", "Morning", {}, 30.0,
+            "space", "", "", 0);
+        row("manual to convert with that room", true, "convert.mp3", "Morning", {}, 31.0, "",
+            "Morning.MP3", "Morning.WAV.TMP", 1);
+        row("manual without a recording folder", true, "pcm", "Morning", {}, plenty, "folder", "",
+            "", 0);
+        row("program gone", false, "gone", "", {}, plenty, "gone", "", "", 0);
+    }
+
+    void planOfAStart()
+    {
+        QFETCH(bool, manual);
+        QFETCH(QString, kind);
+        QFETCH(QString, userName);
+        QFETCH(QStringList, existing);
+        QFETCH(double, freeMb);
+        QFETCH(QString, refusal);
+        QFETCH(QString, finalFile);
+        QFETCH(QString, captureFile);
+        QFETCH(int, captureTag);
+
+        const double now = Programs::At(2026, 6, 1, "12:00:00");
+        RecordingRequest request;
+        request.ProgramId = manual ? -1 : 7;
+        request.StartTime = now;
+        // The whole day of the span is lost: only the minute counts.
+        request.EndTime = now + 1.0 + 60.0 / 86400.0;
+        request.Format = FormatOf(kind);
+        request.Description = "Morning show";
+        if (manual) {
+            request.UserFileName = userName;
+        } else if (kind != "gone") {
+            ProgramRow row;
+            row.Description = "Morning show";
+            row.FilenameUser = userName;
+            row.FilenamePrefix = "Show_";
+            row.FilenameSuffix = "_am";
+            request.Program = row;
+        }
+        RecordingSettings settings;
+        settings.Folder = refusal == "folder" ? QString() : QString("/rec");
+        settings.StopRecMegsLeft = 25;
+        settings.FreeMbytes = freeMb;
+        QSet<QString> files;
+        for (const QString& name : existing)
+            files.insert("/rec/" + name);
+        const auto planned = PlanRecording(
+            request, settings, now, [&files](const QString& path) { return files.contains(path); });
+
+        if (!refusal.isEmpty()) {
+            const auto* refused = std::get_if<RecordingRefusal>(&planned);
+            QVERIFY(refused);
+            const QHash<QString, RecordingRefusal::Reason> reasons{
+                {"space", RecordingRefusal::Reason::NotEnoughSpace},
+                {"folder", RecordingRefusal::Reason::NoRecordingFolder},
+                {"gone", RecordingRefusal::Reason::ProgramGone}};
+            QCOMPARE(refused->Why, reasons.value(refusal));
+            // A program that is gone ends the start without a word.
+            QCOMPARE(refused->Title.isEmpty(), refusal == "gone");
+            return;
+        }
+        const auto* plan = std::get_if<RecordingPlan>(&planned);
+        QVERIFY(plan);
+        QCOMPARE(plan->Status.FinalFile, "/rec/" + finalFile);
+        QCOMPARE(plan->Status.RecordingFile, "/rec/" + captureFile);
+        QCOMPARE(plan->Parms.outputPath, plan->Status.RecordingFile);
+        QCOMPARE(plan->Parms.finalPath, plan->Status.FinalFile);
+        QCOMPARE(int(plan->Parms.format.wFormatTag), captureTag);
+        QCOMPARE(plan->Parms.lengthSeconds, 60);
+        QCOMPARE(plan->WantedFileName.isEmpty(), !finalFile.contains('('));
+        const bool converted = kind.startsWith("convert");
+        QCOMPARE(plan->Status.ConvertToMP3, converted);
+        QCOMPARE(bool(plan->Conversion), converted);
+        if (converted) {
+            QCOMPARE(plan->Conversion->SourceFile, plan->Status.RecordingFile);
+            QCOMPARE(plan->Conversion->DestinationFile, plan->Status.FinalFile);
+            QCOMPARE(plan->Conversion->DestinationFormat.wFormatTag(), quint16(85));
+            QCOMPARE(plan->Conversion->ManualRecording, manual);
+        }
+    }
 };
-
-// The files named are in /rec; "kind" is pcm, or mp3/convert with the extension it keeps.
-void TestRecordingPlan::planOfAStart_data()
-{
-    QTest::addColumn<bool>("manual");
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("userName");
-    QTest::addColumn<QStringList>("existing");
-    QTest::addColumn<double>("freeMb");
-    QTest::addColumn<QString>("refusal");
-    QTest::addColumn<QString>("finalFile");
-    QTest::addColumn<QString>("captureFile");
-    QTest::addColumn<int>("captureTag");
-
-    const QStringList none;
-    const double plenty = 100000.0;
-    QTest::newRow("pcm named by the clock, prefix and suffix") << false << "pcm"
-                                                               << "" << none << plenty << ""
-                                                               << "Show_060126_120000_am.WAV"
-                                                               << "Show_060126_120000_am.WAV" << 1;
-    QTest::newRow("the user's name wins over the stamp") << false << "pcm"
-                                                         << " Morning " << none << plenty << ""
-                                                         << "Morning.WAV"
-                                                         << "Morning.WAV" << 1;
-    QTest::newRow("mp3 in real time, kept as .MP3") << false << "mp3.mp3"
-                                                    << "Morning" << none << plenty << ""
-                                                    << "Morning.MP3"
-                                                    << "Morning.MP3" << 85;
-    QTest::newRow("mp3 in real time inside a wave file") << false << "mp3.wav"
-                                                         << "Morning" << none << plenty << ""
-                                                         << "Morning.WAV"
-                                                         << "Morning.WAV" << 85;
-    QTest::newRow("mp3 to convert is captured as pcm") << false << "convert.mp3"
-                                                       << "Morning" << none << plenty << ""
-                                                       << "Morning.MP3"
-                                                       << "Morning.WAV.TMP" << 1;
-    QTest::newRow("a taken name gets the next free number")
-        << false << "pcm"
-        << "Morning" << QStringList{"Morning.WAV", "Morning (2).WAV"} << plenty << ""
-        << "Morning (3).WAV"
-        << "Morning (3).WAV" << 1;
-    QTest::newRow("a queued capture takes the name of a conversion")
-        << false << "convert.wav"
-        << "Morning" << QStringList{"Morning.WAV.TMP"} << plenty << ""
-        << "Morning (2).WAV"
-        << "Morning (2).WAV.TMP" << 1;
-    QTest::newRow("a capture does not take the name of a direct recording")
-        << false << "pcm"
-        << "Morning" << QStringList{"Morning.WAV.TMP"} << plenty << ""
-        << "Morning.WAV"
-        << "Morning.WAV" << 1;
-    QTest::newRow("a scheduled recording is never refused for space")
-        << false << "pcm"
-        << "Morning" << none << 0.0 << ""
-        << "Morning.WAV"
-        << "Morning.WAV" << 1;
-    QTest::newRow("manual: half a megabyte above the limit will do")
-        << true << "pcm"
-        << "Morning" << none << 25.5 << ""
-        << "Morning.WAV"
-        << "Morning.WAV" << 1;
-    QTest::newRow("manual: less is refused") << true << "pcm"
-                                             << "Morning" << none << 25.49 << "space"
-                                             << ""
-                                             << "" << 0;
-    // A minute of 22 kHz stereo: about 5 Mbytes of PCM beside the MP3.
-    QTest::newRow("manual to convert needs room for both files")
-        << true << "convert.mp3"
-        << "Morning" << none << 30.0 << "space"
-        << ""
-        << "" << 0;
-    QTest::newRow("manual to convert with that room") << true << "convert.mp3"
-                                                      << "Morning" << none << 31.0 << ""
-                                                      << "Morning.MP3"
-                                                      << "Morning.WAV.TMP" << 1;
-    QTest::newRow("manual without a recording folder") << true << "pcm"
-                                                       << "Morning" << none << plenty << "folder"
-                                                       << ""
-                                                       << "" << 0;
-    QTest::newRow("program gone") << false << "gone"
-                                  << "" << none << plenty << "gone"
-                                  << ""
-                                  << "" << 0;
-}
-
-void TestRecordingPlan::planOfAStart()
-{
-    QFETCH(bool, manual);
-    QFETCH(QString, kind);
-    QFETCH(QString, userName);
-    QFETCH(QStringList, existing);
-    QFETCH(double, freeMb);
-    QFETCH(QString, refusal);
-    QFETCH(QString, finalFile);
-    QFETCH(QString, captureFile);
-    QFETCH(int, captureTag);
-
-    const double now = Programs::At(2026, 6, 1, "12:00:00");
-    RecordingRequest request;
-    request.ProgramId = manual ? -1 : 7;
-    request.StartTime = now;
-    // The whole day of the span is lost: only the minute counts.
-    request.EndTime = now + 1.0 + 60.0 / 86400.0;
-    request.Format = FormatOf(kind);
-    request.Description = "Morning show";
-    if (manual) {
-        request.UserFileName = userName;
-    } else if (kind != "gone") {
-        ProgramRow row;
-        row.Description = "Morning show";
-        row.FilenameUser = userName;
-        row.FilenamePrefix = "Show_";
-        row.FilenameSuffix = "_am";
-        request.Program = row;
-    }
-    RecordingSettings settings;
-    settings.Folder = refusal == "folder" ? QString() : QString("/rec");
-    settings.StopRecMegsLeft = 25;
-    settings.FreeMbytes = freeMb;
-    QSet<QString> files;
-    for (const QString& name : existing)
-        files.insert("/rec/" + name);
-    const auto planned = PlanRecording(
-        request, settings, now, [&files](const QString& path) { return files.contains(path); });
-
-    if (!refusal.isEmpty()) {
-        const auto* refused = std::get_if<RecordingRefusal>(&planned);
-        QVERIFY(refused);
-        const QHash<QString, RecordingRefusal::Reason> reasons{
-            {"space", RecordingRefusal::Reason::NotEnoughSpace},
-            {"folder", RecordingRefusal::Reason::NoRecordingFolder},
-            {"gone", RecordingRefusal::Reason::ProgramGone}};
-        QCOMPARE(refused->Why, reasons.value(refusal));
-        // A program that is gone ends the start without a word.
-        QCOMPARE(refused->Title.isEmpty(), refusal == "gone");
-        return;
-    }
-    const auto* plan = std::get_if<RecordingPlan>(&planned);
-    QVERIFY(plan);
-    QCOMPARE(plan->Status.FinalFile, "/rec/" + finalFile);
-    QCOMPARE(plan->Status.RecordingFile, "/rec/" + captureFile);
-    QCOMPARE(plan->Parms.outputPath, plan->Status.RecordingFile);
-    QCOMPARE(plan->Parms.finalPath, plan->Status.FinalFile);
-    QCOMPARE(int(plan->Parms.format.wFormatTag), captureTag);
-    QCOMPARE(plan->Parms.lengthSeconds, 60);
-    QCOMPARE(plan->WantedFileName.isEmpty(), !finalFile.contains('('));
-    const bool converted = kind.startsWith("convert");
-    QCOMPARE(plan->Status.ConvertToMP3, converted);
-    QCOMPARE(bool(plan->Conversion), converted);
-    if (converted) {
-        QCOMPARE(plan->Conversion->SourceFile, plan->Status.RecordingFile);
-        QCOMPARE(plan->Conversion->DestinationFile, plan->Status.FinalFile);
-        QCOMPARE(plan->Conversion->DestinationFormat.wFormatTag(), quint16(85));
-        QCOMPARE(plan->Conversion->ManualRecording, manual);
-    }
-}
 
 QTEST_GUILESS_MAIN(TestRecordingPlan)
 #include "test_recordingplan.moc"

