@@ -1,5 +1,5 @@
+#include "MemoryLog.h"
 #include "OpenedContext.h"
-#include "StandaloneLog.h"
 #include "common/UnattendedPath.h"
 
 #include <QSignalSpy>
@@ -29,8 +29,8 @@ private slots:
     {
         QFETCH(int, before);
         QFETCH(int, type);
-        StandaloneLog bare;
-        bare.entries = QStringList(before, "2: old");
+        MemoryLog bare;
+        bare.entries = QList<LogEntry>(before, LogEntry{2, "old", ""});
         bare.log.LogEvent(qint16(type), "Something happened", "while nobody watched");
         QTEST(int(bare.entries.size()), "after");
         QTEST(bare.error.ElogFull(), "full");
@@ -56,7 +56,7 @@ private slots:
 
     void nothingCountsWhileTheLogIsOnScreen()
     {
-        StandaloneLog bare;
+        MemoryLog bare;
         bare.error.SetElogVisible(true);
         bare.log.LogEvent(EventError, "Seen at once", "");
         QCOMPARE(bare.error.NumUnviewedElogErrors(), 0);

@@ -1,7 +1,7 @@
 #include "formats/CodecCatalogue.h"
 #include "formats/frmRecordFormat.h"
+#include "support/MemoryLog.h"
 #include "support/ModalDialogs.h"
-#include "support/StandaloneLog.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -28,7 +28,7 @@ class TestFrmRecordFormat : public QObject {
 private slots:
     void cancelAfterTheChooserRestoresFormatAndFlags()
     {
-        StandaloneLog bare;
+        MemoryLog bare;
         clsRecordingFormat format;
         format.SaveMP3FileExtension = true;
         format.ConvertToMP3 = false;
@@ -80,7 +80,7 @@ private slots:
     {
         QFETCH(QString, button);
         QFETCH(bool, changed);
-        StandaloneLog bare;
+        MemoryLog bare;
         clsRecordingFormat format;
         format.SetToPcmPhoneQuality();
         WhenModalOpens([&](QDialog* form) {
@@ -93,7 +93,7 @@ private slots:
 
     void aRateOutsideTheListSelectsNothingAndTheNextChangeTakes11025()
     {
-        StandaloneLog bare;
+        MemoryLog bare;
         clsRecordingFormat format;
         format.SetToPcm(1, 6000, 16);
         frmRecordFormat form(bare.log, format, nullptr);
@@ -125,7 +125,7 @@ private slots:
         QFETCH(int, rate);
         QFETCH(int, bits);
         QFETCH(QString, preset);
-        StandaloneLog bare;
+        MemoryLog bare;
         clsRecordingFormat format;
         // Start from a preset, so that one is selected before the change.
         format.SetToPcm(2, 44100, 16);
@@ -144,7 +144,7 @@ private slots:
 
     void theFormOpensBesideTheMainWindowAndExplainsMp3()
     {
-        StandaloneLog bare;
+        MemoryLog bare;
         QWidget main;
         main.move(300, 200);
         main.show();

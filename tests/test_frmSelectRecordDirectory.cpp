@@ -1,6 +1,6 @@
+#include "MemoryLog.h"
 #include "ModalDialogs.h"
 #include "ScriptedMessageBox.h"
-#include "StandaloneLog.h"
 #include "TestFiles.h"
 #include "options/frmSelectExistingRecordDirectory.h"
 #include "options/frmSelectRecordDirectory.h"
@@ -64,7 +64,7 @@ private slots:
             else
                 QVERIFY(QDir(dir.path()).mkpath(folder));
         }
-        StandaloneLog bare;
+        MemoryLog bare;
         ScriptedMessageBox messageBox;
         frmSelectRecordDirectory form(bare.log, messageBox, nullptr, dir.path());
         form.show();
@@ -102,7 +102,7 @@ private slots:
         QFETCH(bool, existing);
         QFETCH(QString, button);
         QTemporaryDir dir;
-        StandaloneLog bare;
+        MemoryLog bare;
         ScriptedMessageBox messageBox;
         WhenModalOpens([&](QDialog* dialog) {
             if (!existing)
@@ -118,7 +118,7 @@ private slots:
 
     void aMissingProposedFolderIsShownSelected()
     {
-        StandaloneLog bare;
+        MemoryLog bare;
         ScriptedMessageBox messageBox;
         const QString proposed = "/not/yet/there";
         frmSelectRecordDirectory form(bare.log, messageBox, nullptr, proposed);
