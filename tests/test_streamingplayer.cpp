@@ -7,6 +7,7 @@
 #include "RecordingRig.h"
 #include "TestParts.h"
 #include "XDisplay.h"
+#include "recording/RecorderParts.h"
 
 #include <QScopeGuard>
 #include <QTemporaryDir>
@@ -147,7 +148,7 @@ private slots:
         QFETCH(int, seconds);
         QFETCH(bool, closed);
         TestContext tc;
-        StreamingPlayer& player = tc.ctx->recorder.Control().Player();
+        StreamingPlayer& player = RecorderParts::Control(tc.ctx->recorder).Player();
         const double t0 = RecordingRig::At("10:00:00");
         tc.clock.Set(t0);
         player.SnapshotWindowsBeforeLink();

@@ -3,6 +3,7 @@
 // and the stop watchdog. Also the error catalogue and the parameter file.
 #include "TestContext.h"
 #include "TestParts.h"
+#include "recording/RecorderParts.h"
 #include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
 #include "taskcontract/RecParms.h"
@@ -378,7 +379,7 @@ private slots:
         QFETCH(int, command);
         QFETCH(bool, toTray);
         TestContext tc;
-        RecordingTaskLink& link = tc.ctx->recorder.Link();
+        RecordingTaskLink& link = RecorderParts::Link(tc.ctx->recorder);
         QSignalSpy tray(&link, &RecordingTaskLink::MinimizeToTray);
         qint32 result = -1;
         QCOMPARE(link.sbcls1_WndProc(WM_SYSCOMMAND, command, 0, result), toTray);
