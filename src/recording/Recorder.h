@@ -54,8 +54,8 @@ public:
     // The recording's file and the running conversion's: not to be listed as finished yet.
     QStringList FilesBeingWritten() const;
 
-    // The recording task's program and the parameter file it reads at its start; a crashed
-    // run may have left the file behind.
+    // The recording task's program (tests and the soak run name one of their own) and the
+    // parameter file it reads at its start; a crashed run may have left the file behind.
     QString TaskProgram() const { return m_link.TaskProgram(); }
     void SetTaskProgram(const QString& program) { m_link.SetTaskProgram(program); }
     QString ParameterFile() const { return m_link.ParameterFile(); }
