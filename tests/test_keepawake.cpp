@@ -26,16 +26,15 @@ QString EpochText(double date)
     return QString::number(AutomationDate::ToDateTime(date).toSecsSinceEpoch());
 }
 
-// A context on Monday 1 June 2026 with the programs given, scheduled and the keep-awake
-// brought up to date; without a wake alarm the machine has none to set.
+// A context at noon of Monday 1 June 2026 with the programs given, scheduled and the
+// keep-awake brought up to date; without a wake alarm the machine has none to set.
 struct Planned {
-    explicit Planned(const QList<QVariantHash>& programs, const QString& time = "12:00:00",
-                     bool wakeAlarm = true)
+    explicit Planned(const QList<QVariantHash>& programs, bool wakeAlarm = true)
     {
         tc.OpenDatabase();
         if (!wakeAlarm)
             QFile::remove(tc.WakeAlarmFile());
-        tc.clock.Set(RecordingRig::At(time));
+        tc.clock.Set(RecordingRig::At("12:00:00"));
         for (const QVariantHash& p : programs)
             tc.AddProgram(p);
         Schedule();
@@ -135,7 +134,7 @@ private slots:
         QFETCH(bool, wakeAlarm);
         QFETCH(QStringList, messages);
         LogindStandIn logind;
-        Planned p(programDue ? QList{kNightNews} : QList<QVariantHash>{}, "12:00:00", wakeAlarm);
+        Planned p(programDue ? QList{kNightNews} : QList<QVariantHash>{}, wakeAlarm);
         QCOMPARE(logind.Inhibitors().filter("|delay").size(), 1);
         QVERIFY(logind.EmitPrepareForSleep(true));
         QTRY_COMPARE(logind.Inhibitors().filter("|delay").size(), 0);
