@@ -173,7 +173,7 @@ QueueRun RunQueue(TestContext& tc, const QString& source, const QString& destina
     request->DestinationFile = destination;
     request->SourceFormat.SetToPcm(Channels, Rate, 16);
     request->DestinationFormat.SetWaveFormatEx(
-        ctx.log, WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(Channels, Rate, Kbps)).value());
+        WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(Channels, Rate, Kbps)).value());
     request->DestinationFormat.SaveMP3FileExtension = true;
     request->Description = QStringLiteral("Bench");
     ConversionQueue& queue = RecorderParts::Conversion(ctx.recorder);

@@ -88,7 +88,6 @@ public:
     void SetMp3(clsRecordingFormat& format, bool mp3Extension)
     {
         format.SetWaveFormatEx(
-            tc.ctx->log,
             WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(2, 44100, 128)).value());
         format.ConvertToMP3 = true;
         format.SaveMP3FileExtension = mp3Extension;
@@ -151,7 +150,7 @@ public:
         clsRecordingFormat format;
         SetMp3(format, true);
         const qint64 seconds = qRound64((row.end - row.start) * 86400.0);
-        QCOMPARE(seconds, qint64(format.CalcSecondsFromMbytes(tc.ctx->log, row.size)));
+        QCOMPARE(seconds, qint64(format.CalcSecondsFromMbytes(row.size)));
         QCOMPARE(row.size, float(QFileInfo(row.file).size() / 1048576.0));
     }
 

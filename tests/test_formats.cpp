@@ -57,7 +57,7 @@ private slots:
         TestContext tc;
         clsRecordingFormat format;
         format.SetToPcm(2, rate, 16);
-        QCOMPARE(format.CalcSecondsFromMbytes(tc.ctx->log, mbytes), seconds);
+        QCOMPARE(format.CalcSecondsFromMbytes(mbytes), seconds);
     }
 
     void blockAlignOfOddSampleSizesIsRounded_data()
@@ -214,7 +214,7 @@ private slots:
         QCOMPARE(q.value(1).toInt(), flags);
 
         clsRecordingFormat read;
-        ReadFormat(tc.ctx->log, read, rs);
+        ReadFormat(read, rs);
         QCOMPARE(read.Record(), record);
         QCOMPARE(read.SaveMP3FileExtension, bool(flags & 1));
         QCOMPARE(read.ConvertToMP3, bool(flags & 2));
@@ -236,7 +236,7 @@ private slots:
         rs.MoveFirst();
         clsRecordingFormat format;
         format.ConvertToMP3 = format.SaveMP3FileExtension = true;
-        ReadFormat(tc.ctx->log, format, rs);
+        ReadFormat(format, rs);
         QVERIFY(!format.ConvertToMP3);
         QVERIFY(!format.SaveMP3FileExtension);
         QCOMPARE(format.nSamplesPerSec(), 8000u);

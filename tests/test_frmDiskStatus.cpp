@@ -119,7 +119,7 @@ private slots:
             QVariantHash row = DailyHour("Evening news and the weather report", bytesPerSec);
             tc.AddProgram(cancelledEnd > 0 ? Cancelled(row, cancelledEnd) : row);
         }
-        const DiskForecast forecast(tc.clock, tc.ctx->scheduler, tc.ctx->log);
+        const DiskForecast forecast(tc.clock, tc.ctx->scheduler);
         const QList<DiskForecastRow> rows = forecast.Rows(freeMb, 25);
 
         QFETCH(int, rowCount);
@@ -160,7 +160,7 @@ private slots:
         const double free = stat[2].toDouble() * blockMb;
         const QString mountPoint = Run("df", {"--output=target", folder}).split('\n').last();
 
-        const DiskForecast forecast(tc.clock, tc.ctx->scheduler, tc.ctx->log);
+        const DiskForecast forecast(tc.clock, tc.ctx->scheduler);
         frmDiskStatus form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, tc.ctx->error,
                            tc.diskSpace, forecast, nullptr);
         QVERIFY(form.Loaded());
@@ -202,7 +202,7 @@ private slots:
         TestContext tc;
         tc.OpenDatabase();
         tc.ctx->error.SetInvalidRecordingDirectory(true);
-        const DiskForecast forecast(tc.clock, tc.ctx->scheduler, tc.ctx->log);
+        const DiskForecast forecast(tc.clock, tc.ctx->scheduler);
         frmDiskStatus form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, tc.ctx->error,
                            tc.diskSpace, forecast, nullptr);
         QCOMPARE(form.exec(), int(QDialog::Rejected));

@@ -224,7 +224,7 @@ private slots:
         QVERIFY(!path.isEmpty());
         ModuleFileTime::SetFileDateTime(path, FileDate());
         RecordingRow row;
-        QVERIFY(!MediaReaders::ReadNightreelWave(tc.ctx->log, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelWave(path, row));
         QVERIFY(!MediaReaders::ReadNightreelCompressedWave(path, row));
         QVERIFY(MediaReaders::ReadOtherWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("tone.wav"));
@@ -255,7 +255,7 @@ private slots:
         const QString path = WriteFile(
             tc.Root(), "show.wav", NightreelWave(start + Seconds(60.0 * createdMinutesAfterStart)));
         RecordingRow row;
-        QVERIFY(MediaReaders::ReadNightreelWave(tc.ctx->log, path, row));
+        QVERIFY(MediaReaders::ReadNightreelWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("Morning show"));
         QCOMPARE(row.CompressionMethod, QStringLiteral("PCM 11.025 kHz, 8 Bit, Mono"));
         QCOMPARE(AutomationDate::SecondsBetween(FileDate(), row.EndTime),
@@ -282,7 +282,7 @@ private slots:
                              Chunk("fact", fact) + Chunk("data", QByteArray(4000, '\x55')));
         const QString path = WriteFile(tc.Root(), "news.wav", wave);
         RecordingRow row;
-        QVERIFY(!MediaReaders::ReadNightreelWave(tc.ctx->log, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelWave(path, row));
         QVERIFY(MediaReaders::ReadNightreelCompressedWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("News "));
         QCOMPARE(row.CompressionMethod,
@@ -298,13 +298,13 @@ private slots:
         Recordset& rs = tc.ctx->database.DataRecordings.recordset();
 
         bool found = false;
-        AddNightreelWaveToList(tc.ctx->database, tc.ctx->log, nightreel, found);
+        AddNightreelWaveToList(tc.ctx->database, nightreel, found);
         QVERIFY(found);
         AddOtherWaveToList(tc.ctx->database, other);
         QCOMPARE(rs.Value("File").toString(), other);
         // A file already listed is still taken by its reader, and gets no second row.
         found = false;
-        AddNightreelWaveToList(tc.ctx->database, tc.ctx->log, nightreel, found);
+        AddNightreelWaveToList(tc.ctx->database, nightreel, found);
         QVERIFY(found);
         AddOtherWaveToList(tc.ctx->database, other);
         QCOMPARE(tc.CountRows("Recordings"), 2);
@@ -319,9 +319,9 @@ private slots:
         const QString path =
             WriteFile(tc.Root(), "foreign.wav", NightreelWave(FileDate(), "SoundTool 5"));
         RecordingRow row;
-        QVERIFY(!MediaReaders::ReadNightreelWave(tc.ctx->log, path, row));
+        QVERIFY(!MediaReaders::ReadNightreelWave(path, row));
         QVERIFY(!MediaReaders::ReadNightreelCompressedWave(path, row));
-        QVERIFY(MediaReaders::ReadRecordingRow(tc.ctx->log, path, row));
+        QVERIFY(MediaReaders::ReadRecordingRow(path, row));
         QCOMPARE(row.Title, QStringLiteral("foreign.wav"));
         QCOMPARE(AutomationDate::SecondsBetween(row.StartTime, row.EndTime), qint64(10));
     }
@@ -379,7 +379,7 @@ private slots:
             AddMp3ToList(tc.ctx->database, path);
         } else {
             bool found = true;
-            AddNightreelWaveToList(tc.ctx->database, tc.ctx->log, path, found);
+            AddNightreelWaveToList(tc.ctx->database, path, found);
             QVERIFY(!found);
             AddNightreelCompressedWaveToList(tc.ctx->database, path, found);
             QVERIFY(!found);
@@ -400,7 +400,7 @@ private slots:
         const QString wave = WriteFile(tc.Root(), "show.wav", NightreelWave(FileDate()));
         QString text;
         QTextStream out(&text);
-        QCOMPARE(InspectFile(tc.ctx->log, wave, out), 0);
+        QCOMPARE(InspectFile(wave, out), 0);
         const QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
         QCOMPARE(lines.value(0), QStringLiteral("Title: Morning show"));
         QCOMPARE(lines.value(2), QStringLiteral("Start: 2026-06-01 11:59:50"));
@@ -411,8 +411,8 @@ private slots:
 
         text.clear();
         const QString notes = WriteFile(tc.Root(), "notes.txt", "RIFF");
-        QVERIFY(InspectFile(tc.ctx->log, notes, out) != 0);
-        QVERIFY(InspectFile(tc.ctx->log, tc.Root() + "/missing.wav", out) != 0);
+        QVERIFY(InspectFile(notes, out) != 0);
+        QVERIFY(InspectFile(tc.Root() + "/missing.wav", out) != 0);
         QVERIFY(text.isEmpty());
     }
 };

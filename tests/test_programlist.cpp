@@ -265,7 +265,7 @@ private slots:
         Recordset& rs = f.tc.ctx->database.DataPrograms.recordset();
         rs.SetBookmark(id);
         const ProgramFormValues v =
-            ProgramEditor::ReadProgramRow(f.tc.ctx->log, f.tc.ctx->mixerProfiles.Folder(), rs);
+            ProgramEditor::ReadProgramRow(f.tc.ctx->mixerProfiles.Folder(), rs);
         QCOMPARE(v.FormStreamingPlayerClose, ProgramEditor::DoNotClose);
         QCOMPARE(v.FormLaunchAppPrior, QString("player --start"));
         QCOMPARE(v.FormLaunchAppDelay, qint16(0));

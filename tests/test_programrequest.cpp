@@ -60,7 +60,7 @@ private slots:
         QFETCH(QString, error);
         TestContext tc;
         ProgramFormValues values;
-        const auto refused = ProgramRequest::Apply(tc.ctx->log, request, values);
+        const auto refused = ProgramRequest::Apply(request, values);
         QCOMPARE(refused.value_or(QString()), error);
         const QVariantMap written = ProgramRequest::ToMap(1, values);
         for (auto it = expected.cbegin(); it != expected.cend(); ++it)

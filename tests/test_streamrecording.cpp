@@ -278,7 +278,7 @@ private:
         const qint64 id = r.AddProgram(row);
         if (mp3) {
             clsRecordingFormat format;
-            format.SetWaveFormatEx(r.tc.ctx->log, WaveFormatRecord::MpegLayer3(2, 44100, 128));
+            format.SetWaveFormatEx(WaveFormatRecord::MpegLayer3(2, 44100, 128));
             format.SaveMP3FileExtension = true;
             Recordset& rs = r.tc.ctx->database.DataPrograms.recordset();
             rs.FindFirst("Id = " + QString::number(id));

@@ -3,8 +3,10 @@
 #include <QString>
 #include <QVariant>
 #include <exception>
+#include <utility>
 
-// A failure inside a routine, with the number and text that its trap reports to the log.
+// A failure inside a routine, with the number and text that the trap of its entry point
+// reports to the log, under the name of the routine where it arose when one marked it.
 // Numbers follow the database engine's and the run time's where the system knew them.
 class RuntimeError : public std::exception {
 public:
@@ -17,15 +19,25 @@ public:
     int Number() const { return m_number; }
     const QString& Text() const { return m_text; }
     const char* what() const noexcept override { return m_what.constData(); }
+    // The innermost routine that marked the error names it in the log; outer ones keep it.
+    const QString& Routine() const { return m_routine; }
+    void MarkRoutine(const char* routine)
+    {
+        if (m_routine.isEmpty())
+            m_routine = QString::fromLatin1(routine);
+    }
 
 private:
     int m_number;
     QString m_text;
     QByteArray m_what;
+    QString m_routine;
 };
 
 namespace ErrorNumber {
 constexpr int Overflow = 6;
+// Failures of the C++ library (allocation, bad access) carry no number of their own.
+constexpr int InternalError = 51;
 constexpr int InvalidUseOfNull = 94;
 constexpr int FileNotFound = 53;
 constexpr int PathFileAccess = 75;
@@ -52,4 +64,21 @@ inline QVariant NotNull(const QVariant& value)
     if (value.isNull())
         ThrowInvalidUseOfNull();
     return value;
+}
+
+// Runs a routine's body and lets any failure pass on, marked with the routine's name: the
+// trap of the entry point logs it under that name, as the routine's own trap once did. The
+// error is not handled here.
+template <typename Body> decltype(auto) InRoutine(const char* routine, Body&& body)
+{
+    try {
+        return body();
+    } catch (RuntimeError& error) {
+        error.MarkRoutine(routine);
+        throw;
+    } catch (const std::exception& error) {
+        RuntimeError marked(ErrorNumber::InternalError, QString::fromLocal8Bit(error.what()));
+        marked.MarkRoutine(routine);
+        throw marked;
+    }
 }

@@ -6,6 +6,7 @@
 #include "control/ProgramRequest.h"
 #include "control/ProgramRequestView.h"
 #include "diagnostics/EventLog.h"
+#include "diagnostics/Trap.h"
 #include "diagnostics/clsError.h"
 #include "formats/clsRecordingFormat.h"
 #include "nightreeladaptor.h"
@@ -114,11 +115,12 @@ bool ControlService::Register(QDBusConnection bus)
     return true;
 }
 
-void ControlService::Serve(const std::function<void()>& body)
+void ControlService::Serve(const char* method, const std::function<void()>& body)
 {
     try {
         const CallMessageBox::Capture capture(m_s.messageBox);
-        body();
+        if (!Trap(m_s.log, method, body))
+            throw Refusal{QStringLiteral("Failed"), tr("The request failed; see the event log.")};
         if (capture.Refused())
             Refuse(*capture.Refused());
     } catch (const Refusal& refusal) {
@@ -206,12 +208,14 @@ QList<QVariantMap> ControlService::NextPrograms(int count)
 
 QList<QVariantMap> ControlService::Programs()
 {
-    QList<QVariantMap> programs = Rows(m_s.database.DataPrograms.recordset(), [this](
-                                                                                  Recordset& rs) {
-        return ProgramRequest::ToMap(rs.Value(QStringLiteral("ID")).toInt(),
-                                     ProgramEditor::ReadProgramRow(m_s.log, m_s.mixerFolder, rs));
+    QList<QVariantMap> programs;
+    Serve("Programs", [&] {
+        programs = Rows(m_s.database.DataPrograms.recordset(), [this](Recordset& rs) {
+            return ProgramRequest::ToMap(rs.Value(QStringLiteral("ID")).toInt(),
+                                         ProgramEditor::ReadProgramRow(m_s.mixerFolder, rs));
+        });
+        std::reverse(programs.begin(), programs.end());
     });
-    std::reverse(programs.begin(), programs.end());
     return programs;
 }
 
@@ -240,7 +244,7 @@ qint64 ControlService::RunProgramCommand(qint64 bookmark, const QVariantMap& cha
 int ControlService::AddProgram(const QVariantMap& program)
 {
     int id = 0;
-    Serve([&] {
+    Serve("AddProgram", [&] {
         id = int(RunProgramCommand(-1, program, [](ProgramListCommands& c) { c.AddNewProgram(); }));
         if (id < 0)
             throw Refusal{QStringLiteral("Failed"),
@@ -251,7 +255,7 @@ int ControlService::AddProgram(const QVariantMap& program)
 
 void ControlService::UpdateProgram(int id, const QVariantMap& changes)
 {
-    Serve([&] {
+    Serve("UpdateProgram", [&] {
         RequireProgram(id);
         RunProgramCommand(id, changes, [](ProgramListCommands& c) { c.EditProgram(); });
     });
@@ -259,7 +263,7 @@ void ControlService::UpdateProgram(int id, const QVariantMap& changes)
 
 void ControlService::RemoveProgram(int id)
 {
-    Serve([&] {
+    Serve("RemoveProgram", [&] {
         RequireProgram(id);
         RunProgramCommand(id, {}, [](ProgramListCommands& c) { c.RemovePrograms(); });
     });
@@ -267,7 +271,7 @@ void ControlService::RemoveProgram(int id)
 
 void ControlService::SetProgramEnabled(int id, bool enabled)
 {
-    Serve([&] {
+    Serve("SetProgramEnabled", [&] {
         RequireProgram(id);
         Recordset rs = m_s.database.DataPrograms.recordset().Clone();
         rs.SetBookmark(id);
@@ -280,7 +284,7 @@ void ControlService::SetProgramEnabled(int id, bool enabled)
 QString ControlService::StartManual(uint seconds, const QString& description)
 {
     QString file;
-    Serve([&] {
+    Serve("StartManual", [&] {
         if (seconds < 1 || seconds > uint(kLongestManualSeconds))
             throw Refusal{QStringLiteral("InvalidArgument"),
                           tr("A manual recording lasts from 1 second to 23:59:59.")};
@@ -308,7 +312,7 @@ QString ControlService::StartManual(uint seconds, const QString& description)
 
 void ControlService::Stop()
 {
-    Serve([&] {
+    Serve("Stop", [&] {
         if (!m_s.appStatus.Recording() && !m_s.appStatus.Converting())
             throw Refusal{QStringLiteral("NotRecording"),
                           tr("Nothing is being recorded or converted.")};
@@ -318,7 +322,7 @@ void ControlService::Stop()
 
 bool ControlService::PauseResume()
 {
-    Serve([&] {
+    Serve("PauseResume", [&] {
         if (!m_s.appStatus.Recording())
             throw Refusal{QStringLiteral("NotRecording"), tr("Nothing is being recorded.")};
         m_s.recorder.PauseCommand(QStringLiteral("T"));
@@ -328,21 +332,25 @@ bool ControlService::PauseResume()
 
 QList<QVariantMap> ControlService::Recordings()
 {
-    return Rows(m_s.database.DataRecordings.recordset(), [](Recordset& rs) {
-        return QVariantMap{
-            {"id", rs.Value(QStringLiteral("ID")).toInt()},
-            {"description", rs.Value(QStringLiteral("Title")).toString()},
-            {"file", rs.Value(QStringLiteral("File")).toString()},
-            {"start", DateTimeText(rs.Value(QStringLiteral("StartTime")).toDouble())},
-            {"end", DateTimeText(rs.Value(QStringLiteral("EndTime")).toDouble())},
-            {"format", rs.Value(QStringLiteral("CompressionMethod")).toString()},
-            {"size_mb", rs.Value(QStringLiteral("Size")).toDouble()}};
+    QList<QVariantMap> recordings;
+    Serve("Recordings", [&] {
+        recordings = Rows(m_s.database.DataRecordings.recordset(), [](Recordset& rs) {
+            return QVariantMap{
+                {"id", rs.Value(QStringLiteral("ID")).toInt()},
+                {"description", rs.Value(QStringLiteral("Title")).toString()},
+                {"file", rs.Value(QStringLiteral("File")).toString()},
+                {"start", DateTimeText(rs.Value(QStringLiteral("StartTime")).toDouble())},
+                {"end", DateTimeText(rs.Value(QStringLiteral("EndTime")).toDouble())},
+                {"format", rs.Value(QStringLiteral("CompressionMethod")).toString()},
+                {"size_mb", rs.Value(QStringLiteral("Size")).toDouble()}};
+        });
     });
+    return recordings;
 }
 
 void ControlService::DeleteRecording(int id, bool deleteFile)
 {
-    Serve([&] {
+    Serve("DeleteRecording", [&] {
         const auto listed = [this, id] {
             Recordset rs = m_s.database.DataRecordings.recordset().Clone();
             rs.FindFirst(QStringLiteral("ID = ") + QString::number(id));
@@ -369,13 +377,16 @@ QStringList ControlService::Errors()
 QList<QVariantMap> ControlService::EventLog(int count)
 {
     static const QStringList kTypes = {"information", "warning", "error"};
-    QList<QVariantMap> entries = Rows(m_s.database.ElogRecordset(), [](Recordset& rs) {
-        const int type = std::clamp(rs.Value(QStringLiteral("Type")).toInt(), 0, 2);
-        return QVariantMap{
-            {"type", kTypes[type]},
-            {"time", DateTimeText(rs.Value(QStringLiteral("DateAndTime")).toDouble())},
-            {"message", rs.Value(QStringLiteral("Message")).toString()},
-            {"details", rs.Value(QStringLiteral("Details")).toString()}};
+    QList<QVariantMap> entries;
+    Serve("EventLog", [&] {
+        entries = Rows(m_s.database.ElogRecordset(), [](Recordset& rs) {
+            const int type = std::clamp(rs.Value(QStringLiteral("Type")).toInt(), 0, 2);
+            return QVariantMap{
+                {"type", kTypes[type]},
+                {"time", DateTimeText(rs.Value(QStringLiteral("DateAndTime")).toDouble())},
+                {"message", rs.Value(QStringLiteral("Message")).toString()},
+                {"details", rs.Value(QStringLiteral("Details")).toString()}};
+        });
     });
     return entries.mid(0, std::max(count, 0));
 }

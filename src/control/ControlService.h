@@ -79,8 +79,9 @@ signals:
     void ConditionsChanged(const QStringList& conditions);
 
 private:
-    // Runs a method's body with the boxes captured; a refusal becomes the error reply.
-    void Serve(const std::function<void()>& body);
+    // Runs a method's body with the boxes captured, under the bus call's trap: a refusal
+    // becomes the error reply, and so does a failure, logged under the method's name.
+    void Serve(const char* method, const std::function<void()>& body);
     // Runs one of the program list's commands on the program, as the bus asks it.
     qint64 RunProgramCommand(qint64 bookmark, const QVariantMap& changes,
                              const std::function<void(ProgramListCommands&)>& command);

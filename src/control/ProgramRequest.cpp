@@ -36,7 +36,7 @@ QString Invalid(const QString& key, const QVariant& value)
 
 } // namespace
 
-std::optional<QString> Apply(EventLog& log, const QVariantMap& request, ProgramFormValues& v)
+std::optional<QString> Apply(const QVariantMap& request, ProgramFormValues& v)
 {
     for (auto it = request.begin(); it != request.end(); ++it) {
         const QString& key = it.key();
@@ -70,7 +70,7 @@ std::optional<QString> Apply(EventLog& log, const QVariantMap& request, ProgramF
                 v.FormDays[day] = true;
             }
         } else if (key == QStringLiteral("format")) {
-            const auto format = RecordingFormatFromName(log, value.toString());
+            const auto format = RecordingFormatFromName(value.toString());
             if (!format)
                 return Invalid(key, value);
             v.FormFormat.CopyFrom(*format);

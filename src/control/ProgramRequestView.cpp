@@ -21,7 +21,7 @@ bool ProgramRequestView::ShowProgramForm(const ProgramFormValues& initial, bool 
                                          qint32 editProgramId, ProgramFormValues& result)
 {
     result = initial;
-    if (const auto error = ProgramRequest::Apply(m_s.log, m_changes, result)) {
+    if (const auto error = ProgramRequest::Apply(m_changes, result)) {
         m_refusal = CallMessageBox::Refusal{QStringLiteral("Invalid Argument"), *error};
         return false;
     }

@@ -2,7 +2,7 @@
 
 #include "formats/CodecCatalogue.h"
 
-std::optional<clsRecordingFormat> RecordingFormatFromName(EventLog& log, const QString& name)
+std::optional<clsRecordingFormat> RecordingFormatFromName(const QString& name)
 {
     const QString word = name.trimmed().toLower();
     clsRecordingFormat format;
@@ -15,7 +15,7 @@ std::optional<clsRecordingFormat> RecordingFormatFromName(EventLog& log, const Q
             number ? CodecCatalogue::Mp3Record(2, 44100, kbits) : QByteArray();
         if (!CodecCatalogue::RecordingFormats().contains(record))
             return std::nullopt;
-        format.SetWaveFormatEx(log, WaveFormatRecord::Decode(record).value());
+        format.SetWaveFormatEx(WaveFormatRecord::Decode(record).value());
         format.SaveMP3FileExtension = true;
     } else {
         return std::nullopt;

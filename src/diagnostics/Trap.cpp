@@ -6,15 +6,15 @@ namespace TrapDetail {
 
 void Report(EventLog& log, const char* procedureName, const RuntimeError& error)
 {
-    log.LogRuntimeError(QString::fromLatin1(procedureName), error);
+    log.LogRuntimeError(
+        error.Routine().isEmpty() ? QString::fromLatin1(procedureName) : error.Routine(), error);
 }
 
 void Report(EventLog& log, const char* procedureName, const std::exception& error)
 {
-    // Failures of the C++ library (allocation, bad access) carry no number of their own.
-    constexpr int InternalError = 51;
-    log.LogRuntimeError(QString::fromLatin1(procedureName),
-                        RuntimeError(InternalError, QString::fromLocal8Bit(error.what())));
+    log.LogRuntimeError(
+        QString::fromLatin1(procedureName),
+        RuntimeError(ErrorNumber::InternalError, QString::fromLocal8Bit(error.what())));
 }
 
 } // namespace TrapDetail

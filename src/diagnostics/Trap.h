@@ -8,9 +8,10 @@
 
 class EventLog;
 
-// A routine's error trap: runs the body and, when it fails, reports under the routine's
-// own name and returns false. Nothing is repaired; the caller goes on as the routine's
-// rules say.
+// The error trap of an entry point (a timer, a handler, a message of the task): runs the
+// body and, when it fails, reports under the name of the routine where the error arose
+// (InRoutine), else under the entry point's own, and returns false. Nothing is repaired;
+// the caller goes on as the routine's rules say.
 namespace TrapDetail {
 void Report(EventLog& log, const char* procedureName, const RuntimeError& error);
 void Report(EventLog& log, const char* procedureName, const std::exception& error);

@@ -6,10 +6,10 @@
 #include <QFileInfo>
 #include <QTextStream>
 
-int InspectFile(EventLog& log, const QString& path, QTextStream& out)
+int InspectFile(const QString& path, QTextStream& out)
 {
     RecordingRow row;
-    if (!QFileInfo(path).isFile() || !MediaReaders::ReadRecordingRow(log, path, row))
+    if (!QFileInfo(path).isFile() || !MediaReaders::ReadRecordingRow(path, row))
         return 1;
     // Times in ISO form and the size as a plain number, for scripts to read back.
     auto time = [](double date) {

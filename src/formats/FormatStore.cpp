@@ -73,11 +73,11 @@ void WriteRecordColumns(const WaveFormatRecord& r, const QString& prefix, Record
 
 } // namespace
 
-void ReadFormat(EventLog& log, clsRecordingFormat& format, const Recordset& rs)
+void ReadFormat(clsRecordingFormat& format, const Recordset& rs)
 {
-    Trap(log, "ReadFormat", [&] {
+    InRoutine("ReadFormat", [&] {
         format.SetWaveFormatEx(
-            log, ReadRecordColumns(rs, QStringLiteral("wfx_"), QStringLiteral("wfxExtra")));
+            ReadRecordColumns(rs, QStringLiteral("wfx_"), QStringLiteral("wfxExtra")));
         // The flags come after the texts were made: whoever shows the text recalculates it.
         clsProgramFlags flags;
         if (!rs.IsNull(QStringLiteral("Flags")))
@@ -85,6 +85,16 @@ void ReadFormat(EventLog& log, clsRecordingFormat& format, const Recordset& rs)
         format.ConvertToMP3 = flags.ConvertToMP3();
         format.SaveMP3FileExtension = flags.SaveMP3FileExtension();
     });
+}
+
+bool FormatReadable(const Recordset& rs)
+{
+    for (const char* field : {"cbSize", "wFormatTag", "nChannels", "nSamplesPerSec",
+                              "nAvgBytesPerSec", "nBlockAlign", "nBitsPerSample"})
+        if (rs.IsNull(QStringLiteral("wfx_") + QLatin1String(field)))
+            return false;
+    return quint16(rs.Value(QStringLiteral("wfx_cbSize")).toInt()) <=
+           clsRecordingFormat::nMaxExtraBytes;
 }
 
 void WriteFormat(const clsRecordingFormat& format, Recordset& rs)
@@ -149,7 +159,7 @@ void DefaultFormatStore::ReadDefaultFormatInfo(clsRecordingFormat& format)
         ReadRecordColumns(rs, QStringLiteral("wfxdflt_"), QStringLiteral("wfxdfltExtra"));
     const int cb = rs.Value(QStringLiteral("wfxdflt_cbSize")).toInt();
     if (cb >= 0 && cb <= clsRecordingFormat::nMaxExtraBytes) {
-        format.SetWaveFormatEx(m_log, stored);
+        format.SetWaveFormatEx(stored);
     } else {
         // A row made for compression drivers with larger formats than this machine
         // has. The format can't hold its extra bytes, so it keeps the cbSize it had

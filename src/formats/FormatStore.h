@@ -13,8 +13,11 @@ class clsRecordingFormat;
 // row and two settings hold the default format.
 
 // Reads the format of the Programs row that rs is on: the seven wfx_ columns, wfxExtra and
-// the MP3 flags of Flags. Failures are reported to the log.
-void ReadFormat(EventLog& log, clsRecordingFormat& format, const Recordset& rs);
+// the MP3 flags of Flags. A NULL column or more extra bytes than a format holds is an error.
+void ReadFormat(clsRecordingFormat& format, const Recordset& rs);
+// Whether ReadFormat can read the row's format: for those that only look ahead, and leave
+// the report of a bad format to the start of its recording.
+bool FormatReadable(const Recordset& rs);
 // Writes the format into the Programs row being edited or added: the seven wfx_ columns,
 // Flags and wfxExtra. Failures are left to the caller's trap.
 void WriteFormat(const clsRecordingFormat& format, Recordset& rs);

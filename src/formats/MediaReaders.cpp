@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <cmath>
 #include <cstring>
 
@@ -56,24 +57,23 @@ bool StartWaveRow(const QString& path, ReadChunks read, WaveFileChunks& chunks,
     return true;
 }
 
-// Writes the row unless the file is listed; a database failure is not reported, as no
-// reader reports anything.
+// Writes the row unless the file is listed. A write that fails is undone, and the failure
+// goes on to the trap of the command that added the file.
 void AddRow(AppDatabase& database, const RecordingRow& row)
 {
-    try {
-        if (IsFileInRecordingsList(database, row.File))
-            return;
-        database.DataRecordings.recordset().SetBookmark(WriteRecordingRow(database, row));
-    } catch (const std::exception&) {
-        database.DataRecordings.recordset().CancelUpdate();
-    }
+    if (IsFileInRecordingsList(database, row.File))
+        return;
+    Recordset& rs = database.DataRecordings.recordset();
+    auto undo = qScopeGuard([&rs] { rs.CancelUpdate(); });
+    rs.SetBookmark(WriteRecordingRow(database, row));
+    undo.dismiss();
 }
 
 } // namespace
 
 namespace MediaReaders {
 
-bool ReadNightreelWave(EventLog& log, const QString& path, RecordingRow& row)
+bool ReadNightreelWave(const QString& path, RecordingRow& row)
 {
     WaveFileChunks chunks;
     clsRecordingFormat format;
@@ -83,7 +83,7 @@ bool ReadNightreelWave(EventLog& log, const QString& path, RecordingRow& row)
     if (!Options::ParseDateText(chunks.created, created))
         return false;
     row.Title = chunks.title;
-    const qint32 seconds = format.CalcSecondsFromMbytes(log, row.Size);
+    const qint32 seconds = format.CalcSecondsFromMbytes(row.Size);
     row.StartTime = AutomationDate::AddSeconds(row.EndTime, -seconds);
 
     // A file stamped before a change of daylight saving time lies an hour off the start
@@ -151,11 +151,11 @@ bool ReadMp3(const QString& path, RecordingRow& row)
     return true;
 }
 
-bool ReadRecordingRow(EventLog& log, const QString& path, RecordingRow& row)
+bool ReadRecordingRow(const QString& path, RecordingRow& row)
 {
     const QString suffix = QFileInfo(Text::Trim(path)).suffix().toUpper();
     if (suffix == QLatin1String("WAV"))
-        return ReadNightreelWave(log, path, row) || ReadNightreelCompressedWave(path, row) ||
+        return ReadNightreelWave(path, row) || ReadNightreelCompressedWave(path, row) ||
                ReadOtherWave(path, row);
     if (suffix == QLatin1String("MP3"))
         return ReadMp3(path, row);
@@ -164,10 +164,10 @@ bool ReadRecordingRow(EventLog& log, const QString& path, RecordingRow& row)
 
 } // namespace MediaReaders
 
-void AddNightreelWaveToList(AppDatabase& database, EventLog& log, const QString& path, bool& found)
+void AddNightreelWaveToList(AppDatabase& database, const QString& path, bool& found)
 {
     RecordingRow row;
-    found = MediaReaders::ReadNightreelWave(log, path, row);
+    found = MediaReaders::ReadNightreelWave(path, row);
     if (found)
         AddRow(database, row);
 }

@@ -3,7 +3,6 @@
 #include "common/MessageBox.h"
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
-#include "diagnostics/Trap.h"
 
 #include <QCoreApplication>
 #include <cmath>
@@ -35,9 +34,9 @@ void clsRecordingFormat::DecodeBlock()
     WriteBlock();
 }
 
-void clsRecordingFormat::SetWaveFormatEx(EventLog& log, const WaveFormatRecord& record)
+void clsRecordingFormat::SetWaveFormatEx(const WaveFormatRecord& record)
 {
-    Trap(log, "SetWaveFormatEx", [&] {
+    InRoutine("SetWaveFormatEx", [&] {
         if (record.cbSize > quint16(nMaxExtraBytes))
             throw RuntimeError(9, QStringLiteral("Subscript out of range"));
         m_wfx = record;
@@ -125,19 +124,17 @@ float clsRecordingFormat::CalcStorageMbytesSng(qint32 Seconds) const
     return float(double(perSecond) * double(Seconds));
 }
 
-qint32 clsRecordingFormat::CalcSecondsFromMbytes(EventLog& log, float Mbytes) const
+qint32 clsRecordingFormat::CalcSecondsFromMbytes(float Mbytes) const
 {
-    qint32 seconds = 0;
-    Trap(log, "CalcSecondsFromMbytes", [&] {
+    return InRoutine("CalcSecondsFromMbytes", [&]() -> qint32 {
         if (m_wfx.nAvgBytesPerSec == 0)
-            return;
+            return 0;
         const float exact = Mbytes * 1024.0f * 1024.0f / float(m_wfx.nAvgBytesPerSec);
         const float rounded = std::nearbyint(exact);
         if (!(rounded >= -2147483648.0f && rounded < 2147483648.0f))
             throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));
-        seconds = qint32(rounded);
+        return qint32(rounded);
     });
-    return seconds;
 }
 
 bool CheckFor2GbLimit(MessageBoxPresenter& messageBox, const clsRecordingFormat& format,

@@ -9,7 +9,6 @@
 #include <QtGlobal>
 #include <array>
 
-class EventLog;
 class MessageBoxPresenter;
 
 // The one way the system holds a recording format: the wave format record (18 bytes and
@@ -53,9 +52,9 @@ public:
     // The record as it stands in the block: 18 bytes and cbSize extra bytes.
     QByteArray Record() const;
 
-    // Takes the record; one with more extra bytes than there is room for is refused and
-    // reported to the log.
-    void SetWaveFormatEx(EventLog& log, const WaveFormatRecord& record);
+    // Takes the record; one with more extra bytes than there is room for is refused with an
+    // error, and the format stays as it was.
+    void SetWaveFormatEx(const WaveFormatRecord& record);
     // 11025 Hz, 8 bits, mono PCM; cbSize and the extra bytes stay as they were.
     void SetToPcmPhoneQuality();
     // PCM with the block align and byte rate that follow; cbSize stays as it was.
@@ -74,9 +73,9 @@ public:
 
     // Mbytes (1024 times 1024 bytes) needed for so many seconds, in single precision.
     float CalcStorageMbytesSng(qint32 Seconds) const;
-    // Seconds that so many Mbytes hold; 0 for a format without a byte rate, and 0 with a
-    // report to the log when the figure passes the 32-bit range.
-    qint32 CalcSecondsFromMbytes(EventLog& log, float Mbytes) const;
+    // Seconds that so many Mbytes hold; 0 for a format without a byte rate. A figure past
+    // the 32-bit range is an error.
+    qint32 CalcSecondsFromMbytes(float Mbytes) const;
 
 private:
     void WriteBlock();

@@ -221,13 +221,11 @@ void frmRecordFormat::reject()
 
 bool ChangeFormat(EventLog& log, clsRecordingFormat& format, QWidget* owner)
 {
-    bool changed = false;
-    Trap(log, "ChangeFormat", [&] {
+    return InRoutine("ChangeFormat", [&] {
         format.FormatChanged = 0;
         frmRecordFormat form(log, format, owner);
         form.exec();
         // OK sets True, which is -1: any non-zero value is the confirmation.
-        changed = format.FormatChanged != 0;
+        return format.FormatChanged != 0;
     });
-    return changed;
 }

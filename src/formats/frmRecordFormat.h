@@ -41,5 +41,5 @@ private:
 };
 
 // Shows the format dialog for the format, modally over owner; true when the user
-// confirmed with OK, false after Cancel.
+// confirmed with OK, false after Cancel. A failure of the dialog is an error.
 bool ChangeFormat(EventLog& log, clsRecordingFormat& format, QWidget* owner);

@@ -136,9 +136,9 @@ void frmPlayPanel::BuildForm()
     connect(steps, &PlayStepButtons::Forward, this, &frmPlayPanel::btnForward_Click);
     connect(steps, &PlayStepButtons::Reverse, this, &frmPlayPanel::btnReverse_Click);
     connect(sldTime, &TimeSlider::Jumped, this, &frmPlayPanel::sldTime_MouseDown);
-    connect(VSlider1, &QSlider::valueChanged, this, [this](int value) {
-        Trap(m_log, "VSlider1_Change", [&] { Volume::SetVolume(m_log, m_mixer, 100 - value); });
-    });
+    // The volume's own routine traps what fails: nothing else here can.
+    connect(VSlider1, &QSlider::valueChanged, this,
+            [this](int value) { Volume::SetVolume(m_log, m_mixer, 100 - value); });
     WatchKeys();
 }
 

@@ -25,13 +25,15 @@ frmPlayPanelMP::frmPlayPanelMP(EventLog& log, const Options& options, clsAppStat
     connect(&m_timer, &QTimer::timeout, this, [this] {
         if (!m_loaded)
             return;
-        UpdateCurrentPlayTime();
-        UpdateButtonEnables();
+        Trap(m_log, "MP:Timer", [this] {
+            UpdateCurrentPlayTime();
+            UpdateButtonEnables();
+        });
     });
     connect(&m_engine, &PlaybackEngine::Opened, this, &frmPlayPanelMP::OpenStateChange);
     connect(&m_engine, &PlaybackEngine::PlayStateChanged, this, [this] {
         if (m_loaded)
-            UpdateButtonEnables();
+            Trap(m_log, "MP:PlayStateChange", [this] { UpdateButtonEnables(); });
     });
     connect(&m_engine, &PlaybackEngine::Failed, this, [this] {
         lblStatus->setText(tr("Error"));
@@ -108,20 +110,19 @@ void frmPlayPanelMP::OpenStateChange()
 
 int frmPlayPanelMP::TimeSliderValue() const
 {
-    int value = 0;
-    Trap(m_log, "TimeSliderValue", [&] {
+    return InRoutine("TimeSliderValue", [&] {
         const double duration = m_engine.Duration();
-        if (duration > 0)
-            value = int(m_engine.CurrentPosition() / duration *
-                            (sldTime->maximum() - sldTime->minimum()) +
-                        sldTime->minimum());
+        if (duration <= 0)
+            return 0;
+        return int(m_engine.CurrentPosition() / duration *
+                       (sldTime->maximum() - sldTime->minimum()) +
+                   sldTime->minimum());
     });
-    return value;
 }
 
 void frmPlayPanelMP::UpdateCurrentPlayTime()
 {
-    Trap(m_log, "MP:UpdateCurrentPlayTime", [&] {
+    InRoutine("MP:UpdateCurrentPlayTime", [&] {
         sldTime->setValue(TimeSliderValue());
         const qint64 seconds = std::llround(std::max(m_engine.CurrentPosition(), 0.0));
         lblTime->setText(TimeText(seconds));
@@ -130,7 +131,7 @@ void frmPlayPanelMP::UpdateCurrentPlayTime()
 
 void frmPlayPanelMP::UpdateButtonEnables()
 {
-    Trap(m_log, "MP:UpdateButtonEnables", [&] {
+    InRoutine("MP:UpdateButtonEnables", [&] {
         const double position = m_engine.CurrentPosition();
         const PlaybackEngine::PlayState state = m_engine.State();
         btnEnd->setEnabled(m_engine.IsOpen() && position < m_engine.Duration() - 0.1);

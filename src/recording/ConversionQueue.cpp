@@ -73,7 +73,7 @@ void ConversionQueue::LoadSavedQueue()
     Mp3ConvertQueueList saved;
     // A request whose capture is gone has nothing left to convert; one queued in this run
     // before the start is there already.
-    for (const auto& request : ConversionQueueFile::Load(m_log, m_queueFile))
+    for (const auto& request : ConversionQueueFile::Load(m_queueFile))
         if (QFileInfo::exists(request->SourceFile) && !queued.contains(request->SourceFile))
             saved.append(request);
     Mp3ConvertQueue = saved + Mp3ConvertQueue;
@@ -315,7 +315,7 @@ void ConversionQueue::ListResult(clsConvertToMP3Request& request, bool stoppedEa
     // A converted file's date is the end of the recording that its size gives, not the end
     // of the conversion; the row reads it, and the row's tag then changes it again.
     const float size = ModuleFileTime::GetFileSizeMbytes(request.DestinationFile);
-    const qint32 seconds = request.DestinationFormat.CalcSecondsFromMbytes(m_log, size);
+    const qint32 seconds = request.DestinationFormat.CalcSecondsFromMbytes(size);
     const double end = AutomationDate::AddSeconds(request.StartTime, seconds);
     ModuleFileTime::SetFileDateTime(request.DestinationFile, end);
     emit DoEndOfRecordingStuff(request.Description, request.DestinationFile, request.StartTime,

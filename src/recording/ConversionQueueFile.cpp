@@ -29,20 +29,22 @@ QJsonObject ToJson(const clsConvertToMP3Request& r)
             {QStringLiteral("LaunchAfterOnlyIfOk"), r.LaunchAfterOnlyIfOk}};
 }
 
-bool ReadFormat(EventLog& log, const QJsonValue& hex, clsRecordingFormat& format)
+// A format that no format can hold is passed over with its request, as one that can't be
+// decoded: the requests after it still load.
+bool ReadFormat(const QJsonValue& hex, clsRecordingFormat& format)
 {
     const auto record = WaveFormatRecord::Decode(QByteArray::fromHex(hex.toString().toLatin1()));
-    if (!record)
+    if (!record || record->cbSize > clsRecordingFormat::nMaxExtraBytes)
         return false;
-    format.SetWaveFormatEx(log, *record);
+    format.SetWaveFormatEx(*record);
     return true;
 }
 
-std::shared_ptr<clsConvertToMP3Request> FromJson(EventLog& log, const QJsonObject& o)
+std::shared_ptr<clsConvertToMP3Request> FromJson(const QJsonObject& o)
 {
     auto r = std::make_shared<clsConvertToMP3Request>();
-    if (!ReadFormat(log, o.value(QStringLiteral("SourceFormat")), r->SourceFormat) ||
-        !ReadFormat(log, o.value(QStringLiteral("DestinationFormat")), r->DestinationFormat))
+    if (!ReadFormat(o.value(QStringLiteral("SourceFormat")), r->SourceFormat) ||
+        !ReadFormat(o.value(QStringLiteral("DestinationFormat")), r->DestinationFormat))
         return nullptr;
     r->SourceFile = o.value(QStringLiteral("SourceFile")).toString();
     r->DestinationFile = o.value(QStringLiteral("DestinationFile")).toString();
@@ -75,14 +77,14 @@ void ConversionQueueFile::Save(const QString& path, const Mp3ConvertQueueList& r
                 file.errorString());
 }
 
-Mp3ConvertQueueList ConversionQueueFile::Load(EventLog& log, const QString& path)
+Mp3ConvertQueueList ConversionQueueFile::Load(const QString& path)
 {
     QFile file(path);
     Mp3ConvertQueueList requests;
     if (!file.open(QIODevice::ReadOnly))
         return requests;
     for (const QJsonValue& value : QJsonDocument::fromJson(file.readAll()).array())
-        if (auto request = FromJson(log, value.toObject()))
+        if (auto request = FromJson(value.toObject()))
             requests.append(request);
     return requests;
 }

@@ -64,10 +64,11 @@ void PrimedTask::Prime()
     Trap(m_log, "PrimeRecording", [&] {
         Recordset programs = m_database.DataPrograms.recordset().Clone();
         programs.FindFirst(QStringLiteral("Id = ") + QString::number(m_programId));
-        if (programs.NoMatch())
+        // A format that can't be read is reported once, by the start at the due second.
+        if (programs.NoMatch() || !FormatReadable(programs))
             return;
         clsRecordingFormat chosen;
-        ReadFormat(m_log, chosen, programs);
+        ReadFormat(chosen, programs);
         // A recording to be converted is captured as 16-bit PCM, as the start will ask.
         if (chosen.wFormatTag() == clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3 &&
             chosen.ConvertToMP3)

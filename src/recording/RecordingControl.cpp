@@ -109,7 +109,7 @@ void RecordingControl::OnStreamFormatKept(const QByteArray& record)
         const std::optional<WaveFormatRecord> format = WaveFormatRecord::Decode(record);
         if (!format || format->wFormatTag != clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3)
             return;
-        m_format.SetWaveFormatEx(m_s.log, *format);
+        m_format.SetWaveFormatEx(*format);
         m_status.CompressionText =
             m_format.TextCompressionMethodShort + tr("   (Kept as broadcast)");
     });
@@ -149,9 +149,25 @@ void RecordingControl::StartRecording(qint32 ProgramId, double StartTime, double
     m_s.appStatus.SetRecording(true);
     m_status.StopRequested = false;
     m_status.WriteFailed = false;
-    // A failure leaves Recording set on purpose: the clock or the keep-alive ends it.
-    Trap(m_s.log, "StartRecording",
-         [&] { StartRecordingSteps(ProgramId, StartTime, EndTime, Description); });
+    std::optional<RecordingPlan> plan;
+    const bool started = Trap(m_s.log, "StartRecording", [&] {
+        plan = PlanStart(ProgramId, StartTime, EndTime, Description);
+        if (plan)
+            TakePlan(*plan, StartTime);
+    });
+    // A failure once the plan is taken leaves Recording set on purpose: the clock or the
+    // keep-alive ends it, with this recording's status.
+    if (!started && !plan)
+        PassOverFailedStart(ProgramId, EndTime);
+}
+
+void RecordingControl::PassOverFailedStart(qint32 ProgramId, double EndTime)
+{
+    // Nothing was captured and nothing runs (a program whose format can't be read ends here):
+    // the occurrence is passed over as at the end of a recording, and the next one sought.
+    m_s.scheduler.CancelRecording(ProgramId, EndTime);
+    ExitAndClear();
+    m_s.scheduler.ScheduleNextRecording();
 }
 
 RecordingRequest RecordingControl::Request(qint32 ProgramId, double StartTime, double EndTime,
@@ -174,7 +190,7 @@ RecordingRequest RecordingControl::Request(qint32 ProgramId, double StartTime, d
         return request;
     request.Program = ProgramRow::Read(programs);
     RequireStartValues(*request.Program);
-    ReadFormat(m_s.log, request.Format, programs);
+    ReadFormat(request.Format, programs);
     return request;
 }
 
@@ -208,20 +224,24 @@ void RecordingControl::Refuse(const RecordingRefusal& refusal)
     ExitAndClear();
 }
 
-void RecordingControl::StartRecordingSteps(qint32 ProgramId, double StartTime, double EndTime,
-                                           const QString& Description)
+std::optional<RecordingPlan> RecordingControl::PlanStart(qint32 ProgramId, double StartTime,
+                                                         double EndTime, const QString& Description)
 {
     // The program is the one under way from here on, also when its row fails the plan.
     if (ProgramId != -1)
         m_status.ProgramId = ProgramId;
-    const auto planned = PlanRecording(Request(ProgramId, StartTime, EndTime, Description),
-                                       Settings(ProgramId == -1), m_s.clock.Now(),
-                                       [](const QString& path) { return QFileInfo::exists(path); });
+    auto planned = PlanRecording(Request(ProgramId, StartTime, EndTime, Description),
+                                 Settings(ProgramId == -1), m_s.clock.Now(),
+                                 [](const QString& path) { return QFileInfo::exists(path); });
     if (const auto* refusal = std::get_if<RecordingRefusal>(&planned)) {
         Refuse(*refusal);
-        return;
+        return std::nullopt;
     }
-    const RecordingPlan& plan = std::get<RecordingPlan>(planned);
+    return std::get<RecordingPlan>(std::move(planned));
+}
+
+void RecordingControl::TakePlan(const RecordingPlan& plan, double StartTime)
+{
     if (!plan.WantedFileName.isEmpty())
         m_s.log.LogEvent(EventInformation, tr("Recording saved under a new name"),
                          tr("A file named \"%1\" is already in the recording folder "
@@ -446,8 +466,8 @@ void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString
         row.CompressionMethod = CompressionMethod;
         row.Size = ModuleFileTime::GetFileSizeMbytes(File);
         row.EndTime = ModuleFileTime::FileDateTime(File);
-        row.StartTime = AutomationDate::AddSeconds(
-            row.EndTime, -Format.CalcSecondsFromMbytes(m_s.log, row.Size));
+        row.StartTime =
+            AutomationDate::AddSeconds(row.EndTime, -Format.CalcSecondsFromMbytes(row.Size));
         const qint64 id = WriteRecordingRow(m_s.database, row);
         Recordset& rs = m_s.database.DataRecordings.recordset();
         rs.Requery();

@@ -99,8 +99,13 @@ signals:
     void RecordingEnded();
 
 private:
-    void StartRecordingSteps(qint32 ProgramId, double StartTime, double EndTime,
-                             const QString& Description);
+    // The plan of the start, or nothing when it is refused (the refusal is carried out).
+    std::optional<RecordingPlan> PlanStart(qint32 ProgramId, double StartTime, double EndTime,
+                                           const QString& Description);
+    // Makes the plan the recording in progress and carries it out.
+    void TakePlan(const RecordingPlan& plan, double StartTime);
+    // A start that failed before it had a plan: nothing runs for it.
+    void PassOverFailedStart(qint32 ProgramId, double EndTime);
     RecordingRequest Request(qint32 ProgramId, double StartTime, double EndTime,
                              const QString& Description) const;
     RecordingSettings Settings(bool manual) const;

@@ -334,7 +334,7 @@ bool RecordingTaskLink::ActivateNightreeltask()
     m_capturing = false;
     if (TakeOverPrimedTask())
         return true;
-    Trap(m_log, "ActivateNightreeltask", [&] {
+    InRoutine("ActivateNightreeltask", [&] {
         for (int attempt = 0; attempt <= 2; ++attempt) {
             // Only the last attempt reports; the first two failures are silent.
             const bool reporting = attempt == 2;

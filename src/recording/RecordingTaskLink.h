@@ -44,7 +44,8 @@ public:
     QString ParameterFile() const;
 
     // Removes any old task, starts a new one and waits for it to say it is ready. A primed
-    // task whose capture format fits the parameter file is taken over instead.
+    // task whose capture format fits the parameter file is taken over instead. False when
+    // no task would come up, which the log has been told; a failure is thrown to the start.
     bool ActivateNightreeltask();
     // Starts a task ahead of a scheduled start, with its capture open in the format of the
     // parameter file just written, and does not wait. It stays apart from "the task's

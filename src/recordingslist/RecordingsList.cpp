@@ -65,7 +65,7 @@ void RecordingsList::AddFileToRecordingsList(const QString& path)
     const QString suffix = QFileInfo(file).suffix().toUpper();
     if (suffix == QLatin1String("WAV")) {
         bool found = false;
-        AddNightreelWaveToList(m_database, m_log, file, found);
+        AddNightreelWaveToList(m_database, file, found);
         if (!found)
             AddNightreelCompressedWaveToList(m_database, file, found);
         if (!found)

@@ -2,14 +2,13 @@
 
 #include "common/AutomationDate.h"
 #include "common/Clock.h"
+#include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
-#include "diagnostics/Trap.h"
 #include "scheduling/Scheduler.h"
 
-DiskForecast::DiskForecast(const Clock& clock, Scheduler& scheduler, EventLog& log)
+DiskForecast::DiskForecast(const Clock& clock, Scheduler& scheduler)
     : m_clock(clock)
     , m_scheduler(scheduler)
-    , m_log(log)
 {
 }
 
@@ -17,7 +16,7 @@ QList<DiskForecastRow> DiskForecast::Rows(double freeMbytes, qint16 stopMbytes,
                                           qint16 paddingSeconds) const
 {
     QList<DiskForecastRow> rows;
-    Trap(m_log, "DiskForecast Rows", [&] {
+    InRoutine("DiskForecast Rows", [&] {
         double remaining = freeMbytes;
         // Read-only: a lapsed cancellation stays in the table, but each search still tests
         // it against its own reference date, so later occurrences count once the chain has

@@ -6,7 +6,6 @@
 #include <QtGlobal>
 
 class Clock;
-class EventLog;
 class Scheduler;
 
 // One coming recording and the space the recording folder will have left after it.
@@ -28,18 +27,16 @@ public:
         return QCoreApplication::translate("DiskForecast", "  **TRUNCATED**");
     }
 
-    DiskForecast(const Clock& clock, Scheduler& scheduler, EventLog& log);
+    DiskForecast(const Clock& clock, Scheduler& scheduler);
 
     // The rows from now on, starting from freeMbytes and ending at the first of: no
     // occurrence left, MaxRows rows, or a row that takes the space down to stopMbytes. That
     // last row shows stopMbytes and is marked truncated. Each occurrence is charged in full
-    // at its program's byte rate, even one already running, with paddingSeconds at each end;
-    // a failure ends the list at the rows gathered so far.
+    // at its program's byte rate, even one already running, with paddingSeconds at each end.
     QList<DiskForecastRow> Rows(double freeMbytes, qint16 stopMbytes,
                                 qint16 paddingSeconds = 0) const;
 
 private:
     const Clock& m_clock;
     Scheduler& m_scheduler;
-    EventLog& m_log;
 };

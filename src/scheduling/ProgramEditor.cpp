@@ -96,11 +96,11 @@ ProgramFormValues NewProgramValues(double now)
     return v;
 }
 
-ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Recordset& rs)
+ProgramFormValues ReadProgramRow(const QString& mixerFolder, Recordset& rs)
 {
     ProgramFormValues v;
     const ProgramRow row = ProgramRow::Read(rs);
-    ReadFormat(log, v.FormFormat, rs);
+    ReadFormat(v.FormFormat, rs);
     v.FormFormat.CalculateTextCompressionMethodString();
     v.FormCompressionMethod = rs.Value(QStringLiteral("CompressionMethod")).toString();
     v.FormEnabled = Field::ToBool(rs.Value(QStringLiteral("Enabled")));

@@ -10,7 +10,6 @@
 
 class AppDatabase;
 class DataControl;
-class EventLog;
 class Recordset;
 
 // One program as the program editor holds it: what FillProgramFormFromDb puts into the
@@ -87,7 +86,7 @@ ProgramFormValues NewProgramValues(double now);
 // The values of the row that rs is on, read with the rules for old rows (NULL columns)
 // and for mixer profiles whose file is gone from mixerFolder (they count as none).
 // FormCompressionMethod is the text stored in the row, FormFormat the format read from it.
-ProgramFormValues ReadProgramRow(EventLog& log, const QString& mixerFolder, Recordset& rs);
+ProgramFormValues ReadProgramRow(const QString& mixerFolder, Recordset& rs);
 
 // What the editor's values are tested against for a conflict.
 struct ConflictQuery {

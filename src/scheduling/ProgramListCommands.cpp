@@ -36,7 +36,7 @@ bool ProgramListCommands::FindRowToWorkOn()
 
 ProgramFormValues ProgramListCommands::ReadCurrentRow()
 {
-    return ProgramEditor::ReadProgramRow(m_services.log, m_services.mixerFolder,
+    return ProgramEditor::ReadProgramRow(m_services.mixerFolder,
                                          m_services.database.DataPrograms.recordset());
 }
 
@@ -196,8 +196,7 @@ void ProgramListCommands::SelectAll()
 
 void ProgramListCommands::DblClick(bool onRow)
 {
-    Trap(m_services.log, "DBGridPrograms_DblClick", [&] {
-        if (onRow)
-            EditProgram();
-    });
+    // The editor's own routine traps what fails: nothing else here can.
+    if (onRow)
+        EditProgram();
 }

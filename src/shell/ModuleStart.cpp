@@ -22,12 +22,9 @@ int Inspect(int argc, char* argv[], const QString& file)
     QCoreApplication app(argc, argv);
     SetApplicationNames();
     Translations::Install();
-    WidgetMessageBox messageBox;
-    // Inspecting a file records nothing: no bus, no alarm.
-    SystemSeams seams{QDBusConnection(QString()), QDBusConnection(QString())};
-    AppContext ctx(seams.With(messageBox), AppFolders::ForCurrentUser());
+    // Inspecting a file reads it alone: no database, no bus.
     QTextStream out(stdout);
-    return InspectFile(ctx.log, file, out);
+    return InspectFile(file, out);
 }
 
 } // namespace

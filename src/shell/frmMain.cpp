@@ -248,7 +248,7 @@ void frmMain::ConnectDiskStatus()
 {
     for (const char* name : {"mnuViewDiskStatus", "ToolbarMain.DiskStatus", "mnuSystrayDiskStatus"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
-            const DiskForecast forecast(m_ctx.clock, m_ctx.scheduler, m_ctx.log);
+            const DiskForecast forecast(m_ctx.clock, m_ctx.scheduler);
             frmDiskStatus(m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.error, m_ctx.diskSpace,
                           forecast, this)
                 .exec();
