@@ -65,9 +65,8 @@ private slots:
     {
         QProcess program;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.remove("DISPLAY");
-        env.remove("WAYLAND_DISPLAY");
-        env.remove("QT_QPA_PLATFORM");
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            env.remove(QString::fromLatin1(name));
         program.setProcessEnvironment(env);
         program.start(QStringLiteral(NIGHTREEL_BIN_DIR) + "/nightreel", {"--help"});
         QVERIFY(program.waitForFinished(20000));

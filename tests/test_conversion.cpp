@@ -97,15 +97,17 @@ public:
     // request, queued.
     std::shared_ptr<clsConvertToMP3Request> Queue(const QString& name, double seconds,
                                                   const QString& launch = QString(),
-                                                  const QString& destination = QString())
+                                                  const QString& destination = QString(),
+                                                  bool mp3Extension = true)
     {
         const std::string pcm = RawTone(44100, 2, seconds);
         auto request = std::make_shared<clsConvertToMP3Request>();
         request->SourceFile = folder + "/" + name + ".WAV.TMP";
-        request->DestinationFile =
-            destination.isEmpty() ? folder + "/" + name + ".MP3" : destination;
+        request->DestinationFile = destination.isEmpty()
+                                       ? folder + "/" + name + (mp3Extension ? ".MP3" : ".WAV")
+                                       : destination;
         request->SourceFormat.SetToPcm(2, 44100, 16);
-        SetMp3(request->DestinationFormat, true);
+        SetMp3(request->DestinationFormat, mp3Extension);
         request->Description = name;
         request->StartTime = tc.clock.Now();
         request->EndTime = AutomationDate::AddSeconds(request->StartTime, seconds);
@@ -186,90 +188,27 @@ private slots:
             QSKIP(qPrintable(why));
     }
 
-    void recordingIsConvertedAndListedWhenDone_data()
+    // Two recordings ending close together are converted one after the other, in order, while
+    // the heartbeat keeps its pace and the status panel shows the progress. Each is listed
+    // only once its result is written, not even when the folder is added meanwhile; the
+    // captures go, and the results (an MP3 file with its tag, a wave file holding MP3) hold
+    // the tone and the recording's description. (The recording that queues them: the
+    // installed program's test and the stops below.)
+    void queueConvertsInOrderAndListsWhenDone()
     {
-        QTest::addColumn<bool>("mp3Extension");
-        QTest::newRow("MP3 file with its tag") << true;
-        QTest::newRow("wave file holding MP3") << false;
-    }
-
-    // A manual recording to convert is captured as PCM, queued, converted and only then
-    // listed; the capture is gone, and the result holds the tone.
-    void recordingIsConvertedAndListedWhenDone()
-    {
-        QFETCH(bool, mp3Extension);
         Fixture f;
         const QString description = "An evening concert from the old town hall";
-        RecordingControl& control = RecorderParts::Control(f.recorder());
-        f.SetMp3(f.ctx().manualRequest.Format, mp3Extension);
-        const double from = f.tc.clock.Now();
-        control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), description);
-        QVERIFY(f.ctx().appStatus.Recording());
-        QTest::qWait(2500);
-        control.HandleStopRecordingRequest(false);
-        QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);
-        QCOMPARE(f.queue().Mp3ConvertQueue.size(), 1);
-        const auto request = f.queue().Mp3ConvertQueue.first();
-        const QList<RiffChunk> capture = DirectChunks(ReadFile(request->SourceFile));
-        quint32 sourceFrames = 0;
-        for (const RiffChunk& c : capture)
-            if (c.id == "data")
-                sourceFrames = quint32(c.data.size() / 4);
-        QVERIFY(sourceFrames > 44100);
+        const auto first = f.Queue(description, 60, "/usr/bin/after %p");
+        const auto second = f.Queue("Second", 60, "/usr/bin/after %p", {}, false);
+        QVERIFY(first && second);
 
-        // Not listed while it is written, not even when the folder is added.
         int rowsWhileConverting = -1;
-        RecordingsList& list = f.ctx().recordingsList;
         QObject::connect(&f.ctx().appStatus, &clsAppStatus::Update, [&] {
             if (f.ctx().appStatus.Converting() && rowsWhileConverting < 0) {
-                list.AddFolderToRecordingsList(f.folder);
+                f.ctx().recordingsList.AddFolderToRecordingsList(f.folder);
                 rowsWhileConverting = int(f.Recordings().size());
             }
         });
-        f.recorder().Start();
-        QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && !f.Recordings().isEmpty(), 30000);
-        QCOMPARE(rowsWhileConverting, 0);
-
-        QCOMPARE(f.Captures(), QStringList());
-        const QList<RecordingRow> rows = f.Recordings();
-        QCOMPARE(rows.size(), 1);
-        QCOMPARE(rows[0].file, request->DestinationFile);
-        QCOMPARE(rows[0].title, description);
-        f.VerifyRowLength(rows[0]);
-        // The file's date is the recording's end that the row shows, also after the tag.
-        QVERIFY(qAbs(ModuleFileTime::FileDateTime(rows[0].file) - rows[0].end) * 86400.0 < 1.0);
-        QCOMPARE(f.queue().CurrentConvertRequest->PercentComplete, qint16(100));
-
-        const QByteArray bytes = ReadFile(request->DestinationFile);
-        if (mp3Extension) {
-            QVERIFY(request->DestinationFile.endsWith(".MP3"));
-            const QByteArray tag = bytes.right(128);
-            QCOMPARE(tag.left(3), QByteArray("TAG"));
-            QCOMPARE(tag.mid(3, 30), description.left(30).toLatin1());
-            QCOMPARE(tag.mid(97, 30).left(24), QByteArray("Nightreel 2000 Recording"));
-            QCOMPARE(int(quint8(tag[127])), 12);
-            f.VerifyTone(bytes.chopped(128));
-        } else {
-            // The layout itself is the encoder's test; here what the recording puts in it.
-            QVERIFY(request->DestinationFile.endsWith(".WAV"));
-            const QList<RiffChunk> chunks = DirectChunks(bytes);
-            QCOMPARE(chunks.size(), 5);
-            QCOMPARE(chunks[1].data, description.toUtf8() + '\0');
-            QCOMPARE(chunks[2].data, f.ctx().manualRequest.Format.Record());
-            QCOMPARE(qFromLittleEndian<quint32>(chunks[3].data.constData()), sourceFrames);
-            f.VerifyTone(chunks[4].data);
-        }
-    }
-
-    // Two recordings ending close together are converted one after the other, in order, while
-    // the heartbeat keeps its pace and the status panel shows the progress.
-    void queueConvertsInOrderWhileTheHeartbeatTicks()
-    {
-        Fixture f;
-        const auto first = f.Queue("First", 60, "/usr/bin/after %p");
-        const auto second = f.Queue("Second", 60, "/usr/bin/after %p");
-        QVERIFY(first && second);
-
         QElapsedTimer sinceTick;
         qint64 longestGap = 0;
         int ticksWhileConverting = 0;
@@ -291,12 +230,34 @@ private slots:
 
         f.recorder().Start();
         QTRY_VERIFY_WITH_TIMEOUT(f.Idle() && f.Recordings().size() == 2, 60000);
+        QCOMPARE(rowsWhileConverting, 0);
         const QList<RecordingRow> rows = f.Recordings();
-        QCOMPARE(rows[0].title, QString("First"));
-        QCOMPARE(rows[1].title, QString("Second"));
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(rows[i].file, (i == 0 ? first : second)->DestinationFile);
+            QCOMPARE(rows[i].title, i == 0 ? description : QString("Second"));
+            f.VerifyRowLength(rows[i]);
+            // The file's date is the recording's end that the row shows, also after the tag.
+            QVERIFY(qAbs(ModuleFileTime::FileDateTime(rows[i].file) - rows[i].end) * 86400.0 < 1);
+        }
+        QCOMPARE(f.queue().CurrentConvertRequest->PercentComplete, qint16(100));
         QCOMPARE(f.tc.launcher.started, QStringList({"/usr/bin/after " + first->DestinationFile,
                                                      "/usr/bin/after " + second->DestinationFile}));
         QCOMPARE(f.Captures(), QStringList());
+
+        const QByteArray mp3 = ReadFile(first->DestinationFile);
+        const QByteArray tag = mp3.right(128);
+        QCOMPARE(tag.left(3), QByteArray("TAG"));
+        QCOMPARE(tag.mid(3, 30), description.left(30).toLatin1());
+        QCOMPARE(tag.mid(97, 30).left(24), QByteArray("Nightreel 2000 Recording"));
+        QCOMPARE(int(quint8(tag[127])), 12);
+        f.VerifyTone(mp3.chopped(128));
+        // The wave file's layout is the encoder's test; here what the recording puts in it.
+        const QList<RiffChunk> chunks = DirectChunks(ReadFile(second->DestinationFile));
+        QCOMPARE(chunks.size(), 5);
+        QCOMPARE(chunks[1].data, QByteArray("Second") + '\0');
+        QCOMPARE(chunks[2].data, second->DestinationFormat.Record());
+        QCOMPARE(qFromLittleEndian<quint32>(chunks[3].data.constData()), quint32(60 * 44100));
+        f.VerifyTone(chunks[4].data);
 
         QVERIFY2(ticksWhileConverting >= 3, qPrintable(QString::number(ticksWhileConverting)));
         // The heartbeat's 250 ms, late by at most a tick on a busy machine: a conversion that

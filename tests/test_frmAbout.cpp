@@ -33,7 +33,6 @@ private slots:
         frmSplash splash;
         QCOMPARE(about.findChild<QLabel*>("lblVersion")->text(), shown);
         QCOMPARE(splash.findChild<QLabel*>("lblVersion")->text(), shown);
-        QCOMPARE(splash.findChild<QLabel*>("lblProductName")->text(), QString("Nightreel 2000"));
     }
 
     void systemInfoShowsTheFactsInABox()

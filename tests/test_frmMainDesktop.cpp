@@ -29,6 +29,13 @@ int Count(const QList<LogEntry>& entries, const QString& message)
                              [&](const LogEntry& e) { return e.message == message; }));
 }
 
+// A notification as the stand-in service keeps it; a click opens the event log.
+QString Note(const QString& summary, const QString& body, int urgency)
+{
+    return "Nightreel 2000|nightreel|" + summary + u'|' + body + "|default,Open Event Log|" +
+           QString::number(urgency);
+}
+
 } // namespace
 
 class TestFrmMainDesktop : public QObject {
@@ -122,26 +129,21 @@ private slots:
         QTest::addColumn<bool>("diskFills");
         QTest::addColumn<bool>("switchedOn");
         QTest::addColumn<QStringList>("notified");
-        const QString app = "Nightreel 2000|nightreel|";
-        const QString click = "|default,Open Event Log|";
         QTest::newRow("the task refuses to start")
             << "ready=1053" << false << true
-            << QStringList{app + "Recording failed|Night show / Bad Recording Format." + click +
-                           "2"};
+            << QStringList{Note("Recording failed", "Night show / Bad Recording Format.", 2)};
         QTest::newRow("the input goes silent")
             << "write=200000 afterstart=1048:-900" << false << true
-            << QStringList{app + "Recording is silent|Night show / No sound is coming in." + click +
-                           "1"};
+            << QStringList{Note("Recording is silent", "Night show / No sound is coming in.", 1)};
         QTest::newRow("the disk guard stops the recording, round after round")
             << "write=200000" << true << true
-            << QStringList{app +
-                               "Recording stopped: disk nearly full|Night show / Free disk space "
-                               "fell below the limit set in Options." +
-                               click + "2",
-                           app +
-                               "Disk space low|Night show / Less than 50 Megabytes are free in "
-                               "the recording folder." +
-                               click + "1"};
+            << QStringList{Note("Recording stopped: disk nearly full",
+                                "Night show / Free disk space fell below the limit set in Options.",
+                                2),
+                           Note("Disk space low",
+                                "Night show / Less than 50 Megabytes are free in the recording "
+                                "folder.",
+                                1)};
         QTest::newRow("switched off") << "ready=1053" << false << false << QStringList{};
     }
     void eachEventIsNotifiedOnce()
@@ -189,8 +191,7 @@ private slots:
         QCOMPARE(missed.size(), 2);
         QVERIFY(missed[0].contains("Late show") && missed[1].contains("Night news"));
         QCOMPARE(m_daemon->Notified(),
-                 QStringList{"Nightreel 2000|nightreel|Recordings missed|" + missed.join(" / ") +
-                             "|default,Open Event Log|2"});
+                 QStringList{Note("Recordings missed", missed.join(" / "), 2)});
     }
 
     // The click on a notification brings the window forward with the event log open.

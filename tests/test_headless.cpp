@@ -157,31 +157,21 @@ private slots:
         QCOMPARE(box.asked[0].text, QString("Nightreel 2000 is already running."));
     }
 
+    // The editor's rules are the validator's tests; here one of them reaches the caller.
     void aRefusedOrBadRequestSaysWhy_data()
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<QString>("message");
         const QString tomorrow = QDate::currentDate().addDays(1).toString(Qt::ISODate);
-        const QStringList once = {"add", "--once", tomorrow, "--desc", "x"};
-        QTest::newRow("end before start")
-            << once + QStringList{"--start", "10:00", "--end", "09:00"} << 1
-            << "A recording longer than 3 hours is programmed.";
-        QTest::newRow("no description") << QStringList{"add",     "--once", tomorrow, "--desc", " ",
-                                                       "--start", "10:00",  "--end",  "11:00"}
-                                        << 1 << "Please enter a program description.";
-        QTest::newRow("in the past")
-            << QStringList{"add",     "--once", "2001-01-01", "--desc", "x",
-                           "--start", "10:00",  "--end",      "11:00"}
-            << 1 << "must be later than the current time";
+        const QStringList once = {"add", "--once", tomorrow, "--desc", "x", "--start"};
+        QTest::newRow("end before start") << once + QStringList{"10:00", "--end", "09:00"} << 1
+                                          << "A recording longer than 3 hours is programmed.";
         QTest::newRow("no such time")
-            << once + QStringList{"--start", "25:00", "--end", "09:00"} << 2 << "HH:MM";
+            << once + QStringList{"25:00", "--end", "09:00"} << 2 << "HH:MM";
         QTest::newRow("unknown format")
-            << once + QStringList{"--start", "10:00", "--end", "11:00", "--format", "ogg"} << 2
+            << once + QStringList{"10:00", "--end", "11:00", "--format", "ogg"} << 2
             << "Invalid value for format";
-        QTest::newRow("a stream that isn't http")
-            << once + QStringList{"--start", "10:00", "--end", "11:00", "--stream", "ftp://x/a.mp3"}
-            << 1 << "must begin with http://";
         QTest::newRow("no such program") << QStringList{"remove", "999"} << 1 << "no program 999";
         QTest::newRow("nothing to stop") << QStringList{"stop"} << 1 << "Nothing is being";
         QTest::newRow("unknown command") << QStringList{"rewind"} << 2 << "unknown command";

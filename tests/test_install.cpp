@@ -57,176 +57,166 @@ QList<QStringList> ListedRecordings(const QString& databaseFile)
 class TestInstall : public QObject {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-    void programFindsItsPieces_data();
-    void programFindsItsPieces();
-    void desktopFilesAreValid_data();
-    void desktopFilesAreValid();
-    void iconsAndManPageAreInstalled();
-    void theUserServiceStartsTheInstalledProgram();
-    void installedProgramRecordsConvertsAndLists();
-
-private:
     QString Installed(const QString& path) const { return m_stage.path() + kPrefix + path; }
 
     QTemporaryDir m_stage;
-};
 
-void TestInstall::initTestCase()
-{
-    QProcess install;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("DESTDIR", m_stage.path());
-    install.setProcessEnvironment(env);
-    install.setProcessChannelMode(QProcess::MergedChannels);
-    install.start(NIGHTREEL_CMAKE, {"--install", NIGHTREEL_BUILD_DIR, "--prefix", kPrefix});
-    QVERIFY(install.waitForFinished(120000));
-    QVERIFY2(install.exitCode() == 0, install.readAll().constData());
-}
-
-// The installed layout is recognised and every piece is where the program looks; a build
-// folder keeps them all beside the program.
-void TestInstall::programFindsItsPieces_data()
-{
-    QTest::addColumn<QString>("programFolder");
-    QTest::addColumn<bool>("installed");
-    QTest::newRow("installed") << Installed("/bin") << true;
-    QTest::newRow("build folder") << QStringLiteral(NIGHTREEL_BIN_DIR) << false;
-}
-
-void TestInstall::programFindsItsPieces()
-{
-    QFETCH(QString, programFolder);
-    QFETCH(bool, installed);
-    const ProgramFiles files(programFolder);
-    QCOMPARE(files.Installed(), installed);
-    QVERIFY(QFileInfo(files.TaskProgram()).isExecutable());
-    for (const char* library : {"/libnightreelenc.so", "/libmixset.so"})
-        QVERIFY2(QFileInfo::exists(files.LibraryFolder() + library), library);
-    QVERIFY(QFileInfo::exists(files.Manual()));
-    QVERIFY(QFileInfo::exists(files.DesktopEntry()));
-    QVERIFY(QFileInfo::exists(files.TranslationFolder() + "/nightreel_de.qm"));
-}
-
-void TestInstall::desktopFilesAreValid_data()
-{
-    QTest::addColumn<QString>("validator");
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("file");
-    QTest::newRow("desktop entry")
-        << "desktop-file-validate" << QStringList() << "/share/applications/nightreel.desktop";
-    QTest::newRow("metainfo") << "appstreamcli" << QStringList{"validate", "--no-net", "--strict"}
-                              << "/share/metainfo/org.larkmoor.Nightreel.metainfo.xml";
-}
-
-void TestInstall::desktopFilesAreValid()
-{
-    QFETCH(QString, validator);
-    QFETCH(QStringList, options);
-    QFETCH(QString, file);
-    QVERIFY(QFileInfo::exists(Installed(file)));
-    if (QStandardPaths::findExecutable(validator).isEmpty())
-        QSKIP(qPrintable(validator + " is not installed"));
-    QByteArray errors;
-    bool ok = false;
-    const QByteArray out = RunProgram(validator, options << Installed(file), &ok, &errors);
-    QVERIFY2(ok, (out + errors).constData());
-    // The menu and the autostart copy start the program where the installation put it.
-    if (file.endsWith(".desktop"))
-        QVERIFY(
-            ReadFile(Installed(file)).contains("\nExec=" + kPrefix.toUtf8() + "/bin/nightreel\n"));
-}
-
-void TestInstall::iconsAndManPageAreInstalled()
-{
-    QVERIFY(QFileInfo::exists(Installed("/share/icons/hicolor/scalable/apps/nightreel.svg")));
-    for (int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        const QString folder = QString("/share/icons/hicolor/%1x%1/apps/").arg(size);
-        QCOMPARE(PngSize(Installed(folder + "nightreel.png")), QSize(size, size));
+private slots:
+    void initTestCase()
+    {
+        QProcess install;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("DESTDIR", m_stage.path());
+        install.setProcessEnvironment(env);
+        install.setProcessChannelMode(QProcess::MergedChannels);
+        install.start(NIGHTREEL_CMAKE, {"--install", NIGHTREEL_BUILD_DIR, "--prefix", kPrefix});
+        QVERIFY(install.waitForFinished(120000));
+        QVERIFY2(install.exitCode() == 0, install.readAll().constData());
     }
-    QVERIFY(ReadFile(Installed("/share/man/man1/nightreel.1.gz")).startsWith("\x1f\x8b"));
-}
 
-// The systemd unit and the session bus's activation file start the recorder without a window
-// where the installation put it.
-void TestInstall::theUserServiceStartsTheInstalledProgram()
-{
-    const QByteArray program = kPrefix.toUtf8() + "/bin/nightreel --headless\n";
-    QVERIFY(ReadFile(Installed("/lib/systemd/user/nightreel.service"))
-                .contains("\nExecStart=" + program));
-    QVERIFY(ReadFile(Installed("/share/dbus-1/services/org.larkmoor.Nightreel1.service"))
-                .contains("\nExec=" + program));
-    QVERIFY(QFileInfo(Installed("/bin/nightreel-ctl")).isExecutable());
-}
+    // The installed layout is recognised and every piece is where the program looks; a build
+    // folder keeps them all beside the program.
+    void programFindsItsPieces_data()
+    {
+        QTest::addColumn<QString>("programFolder");
+        QTest::addColumn<bool>("installed");
+        QTest::newRow("installed") << Installed("/bin") << true;
+        QTest::newRow("build folder") << QStringLiteral(NIGHTREEL_BIN_DIR) << false;
+    }
 
-// The installed program, started as a user would start it (offscreen here), with a
-// one-time MP3 program due in a few seconds on a sound server that plays a tone.
-void TestInstall::installedProgramRecordsConvertsAndLists()
-{
-    PulseFixture pulse;
-    if (!pulse.Running() || !pulse.PlayTone())
-        QSKIP("no PulseAudio server of the test's own can run here");
-    // A program that would cross midnight is not what is tested here.
-    if (QTime::currentTime() > QTime(23, 59, 0))
-        QTest::qWait(QTime::currentTime().msecsTo(QTime(23, 59, 59, 999)) + 2000);
+    void programFindsItsPieces()
+    {
+        QFETCH(QString, programFolder);
+        QFETCH(bool, installed);
+        const ProgramFiles files(programFolder);
+        QCOMPARE(files.Installed(), installed);
+        QVERIFY(QFileInfo(files.TaskProgram()).isExecutable());
+        for (const char* library : {"/libnightreelenc.so", "/libmixset.so"})
+            QVERIFY2(QFileInfo::exists(files.LibraryFolder() + library), library);
+        QVERIFY(QFileInfo::exists(files.Manual()));
+        QVERIFY(QFileInfo::exists(files.DesktopEntry()));
+        QVERIFY(QFileInfo::exists(files.TranslationFolder() + "/nightreel_de.qm"));
+    }
 
-    // The user's data and settings, as the program finds them through XDG_DATA_HOME and
-    // XDG_CONFIG_HOME.
-    TestContext tc;
-    tc.OpenDatabase();
-    const QString recordings = tc.Root() + "/recordings";
-    QDir().mkpath(recordings);
-    tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", recordings);
-    tc.ctx->registry.SaveSetting("Settings", "ShowSplashScreen", "False");
-    const QDateTime now = QDateTime::currentDateTime();
-    const QDate today = now.date();
-    QVariantHash row = Programs::OneTime(
-        "Night news", Programs::At(today.year(), today.month(), today.day(), "00:00:00"),
-        now.addSecs(6).toString("HH:mm:ss"), now.addSecs(10).toString("HH:mm:ss"));
-    const WaveFormatRecord mp3 = *WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(1, 22050, 32));
-    row.insert({{"wfx_wFormatTag", mp3.wFormatTag},
-                {"wfx_nChannels", mp3.nChannels},
-                {"wfx_nSamplesPerSec", mp3.nSamplesPerSec},
-                {"wfx_nAvgBytesPerSec", mp3.nAvgBytesPerSec},
-                {"wfx_nBlockAlign", mp3.nBlockAlign},
-                {"wfx_nBitsPerSample", mp3.nBitsPerSample},
-                {"wfx_cbSize", mp3.cbSize},
-                {"wfxExtra", mp3.extra},
-                // Converted to MP3 after the recording, into a file named .MP3.
-                {"Flags", 3}});
-    tc.AddProgram(row);
-    tc.ctx.reset();
-    const QString dataHome = tc.Root() + "/data-home";
-    QDir().mkpath(dataHome + "/Larkmoor Systems");
-    QVERIFY(QFile::link(tc.Root() + "/data", dataHome + "/Larkmoor Systems/Nightreel"));
+    void desktopFilesAreValid_data()
+    {
+        QTest::addColumn<QString>("validator");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("desktop entry")
+            << "desktop-file-validate" << QStringList() << "/share/applications/nightreel.desktop";
+        QTest::newRow("metainfo") << "appstreamcli"
+                                  << QStringList{"validate", "--no-net", "--strict"}
+                                  << "/share/metainfo/org.larkmoor.Nightreel.metainfo.xml";
+    }
 
-    QProcess program;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("XDG_DATA_HOME", dataHome);
-    env.insert("XDG_CONFIG_HOME", tc.Root() + "/config");
-    env.insert("QT_QPA_PLATFORM", "offscreen");
-    program.setProcessEnvironment(env);
-    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(Installed("/bin/nightreel"), {});
-    QVERIFY(program.waitForStarted(5000));
-    const QString database = tc.Root() + "/data/nightreel.db";
-    QTRY_VERIFY_WITH_TIMEOUT(
-        !ListedRecordings(database).isEmpty() || program.state() == QProcess::NotRunning, 60000);
-    const QList<QStringList> listed = ListedRecordings(database);
-    QCOMPARE(listed.size(), 1);
-    QCOMPARE(listed.first().first(), QString("Night news"));
-    const QString file = listed.first().last();
-    QVERIFY2(file.startsWith(recordings) && file.endsWith(".MP3"), qPrintable(file));
-    // The capture goes once it is converted.
-    QTRY_COMPARE(QDir(recordings).entryList(QDir::Files), QStringList{QFileInfo(file).fileName()});
-    program.terminate();
-    program.waitForFinished(5000);
-    const Mp3Tone tone = DecodeMp3(ReadFile(file), tc.Root() + "/decoded");
-    QVERIFY(tone.ok);
-    QVERIFY2(tone.rms > 0.1 && std::abs(tone.frequency - 1000) < 100,
-             qPrintable(QString("rms %1, %2 Hz").arg(tone.rms).arg(tone.frequency)));
-}
+    void desktopFilesAreValid()
+    {
+        QFETCH(QString, validator);
+        QFETCH(QStringList, options);
+        QFETCH(QString, file);
+        QVERIFY(QFileInfo::exists(Installed(file)));
+        if (QStandardPaths::findExecutable(validator).isEmpty())
+            QSKIP(qPrintable(validator + " is not installed"));
+        QByteArray errors;
+        bool ok = false;
+        const QByteArray out = RunProgram(validator, options << Installed(file), &ok, &errors);
+        QVERIFY2(ok, (out + errors).constData());
+        // The menu and the autostart copy start the program where the installation put it.
+        if (file.endsWith(".desktop"))
+            QVERIFY(ReadFile(Installed(file))
+                        .contains("\nExec=" + kPrefix.toUtf8() + "/bin/nightreel\n"));
+    }
+
+    // The icons and the manual page; the systemd unit and the session bus's activation file
+    // start the recorder without a window where the installation put it.
+    void iconsManPageAndServiceAreInstalled()
+    {
+        QVERIFY(QFileInfo::exists(Installed("/share/icons/hicolor/scalable/apps/nightreel.svg")));
+        for (int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+            const QString folder = QString("/share/icons/hicolor/%1x%1/apps/").arg(size);
+            QCOMPARE(PngSize(Installed(folder + "nightreel.png")), QSize(size, size));
+        }
+        QVERIFY(ReadFile(Installed("/share/man/man1/nightreel.1.gz")).startsWith("\x1f\x8b"));
+        const QByteArray program = kPrefix.toUtf8() + "/bin/nightreel --headless\n";
+        QVERIFY(ReadFile(Installed("/lib/systemd/user/nightreel.service"))
+                    .contains("\nExecStart=" + program));
+        QVERIFY(ReadFile(Installed("/share/dbus-1/services/org.larkmoor.Nightreel1.service"))
+                    .contains("\nExec=" + program));
+        QVERIFY(QFileInfo(Installed("/bin/nightreel-ctl")).isExecutable());
+    }
+
+    // The installed program, started as a user would start it (offscreen here), with a
+    // one-time MP3 program due in a few seconds on a sound server that plays a tone.
+    void installedProgramRecordsConvertsAndLists()
+    {
+        PulseFixture pulse;
+        if (!pulse.Running() || !pulse.PlayTone())
+            QSKIP("no PulseAudio server of the test's own can run here");
+        // A program that would cross midnight is not what is tested here.
+        if (QTime::currentTime() > QTime(23, 59, 0))
+            QTest::qWait(QTime::currentTime().msecsTo(QTime(23, 59, 59, 999)) + 2000);
+
+        // The user's data and settings, as the program finds them through XDG_DATA_HOME and
+        // XDG_CONFIG_HOME.
+        TestContext tc;
+        tc.OpenDatabase();
+        const QString recordings = tc.Root() + "/recordings";
+        QDir().mkpath(recordings);
+        tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", recordings);
+        tc.ctx->registry.SaveSetting("Settings", "ShowSplashScreen", "False");
+        const QDateTime now = QDateTime::currentDateTime();
+        const QDate today = now.date();
+        QVariantHash row = Programs::OneTime(
+            "Night news", Programs::At(today.year(), today.month(), today.day(), "00:00:00"),
+            now.addSecs(6).toString("HH:mm:ss"), now.addSecs(10).toString("HH:mm:ss"));
+        const WaveFormatRecord mp3 =
+            *WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(1, 22050, 32));
+        row.insert({{"wfx_wFormatTag", mp3.wFormatTag},
+                    {"wfx_nChannels", mp3.nChannels},
+                    {"wfx_nSamplesPerSec", mp3.nSamplesPerSec},
+                    {"wfx_nAvgBytesPerSec", mp3.nAvgBytesPerSec},
+                    {"wfx_nBlockAlign", mp3.nBlockAlign},
+                    {"wfx_nBitsPerSample", mp3.nBitsPerSample},
+                    {"wfx_cbSize", mp3.cbSize},
+                    {"wfxExtra", mp3.extra},
+                    // Converted to MP3 after the recording, into a file named .MP3.
+                    {"Flags", 3}});
+        tc.AddProgram(row);
+        tc.ctx.reset();
+        const QString dataHome = tc.Root() + "/data-home";
+        QDir().mkpath(dataHome + "/Larkmoor Systems");
+        QVERIFY(QFile::link(tc.Root() + "/data", dataHome + "/Larkmoor Systems/Nightreel"));
+
+        QProcess program;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("XDG_DATA_HOME", dataHome);
+        env.insert("XDG_CONFIG_HOME", tc.Root() + "/config");
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        program.setProcessEnvironment(env);
+        program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        program.start(Installed("/bin/nightreel"), {});
+        QVERIFY(program.waitForStarted(5000));
+        const QString database = tc.Root() + "/data/nightreel.db";
+        QTRY_VERIFY_WITH_TIMEOUT(!ListedRecordings(database).isEmpty() ||
+                                     program.state() == QProcess::NotRunning,
+                                 60000);
+        const QList<QStringList> listed = ListedRecordings(database);
+        QCOMPARE(listed.size(), 1);
+        QCOMPARE(listed.first().first(), QString("Night news"));
+        const QString file = listed.first().last();
+        QVERIFY2(file.startsWith(recordings) && file.endsWith(".MP3"), qPrintable(file));
+        // The capture goes once it is converted.
+        QTRY_COMPARE(QDir(recordings).entryList(QDir::Files),
+                     QStringList{QFileInfo(file).fileName()});
+        program.terminate();
+        program.waitForFinished(5000);
+        const Mp3Tone tone = DecodeMp3(ReadFile(file), tc.Root() + "/decoded");
+        QVERIFY(tone.ok);
+        QVERIFY2(tone.rms > 0.1 && std::abs(tone.frequency - 1000) < 100,
+                 qPrintable(QString("rms %1, %2 Hz").arg(tone.rms).arg(tone.frequency)));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestInstall)
 #include "test_install.moc"

@@ -3,11 +3,13 @@
 // part of its title, or by the windows that appeared after the link was opened; a window
 // that refuses stays open and the recording ends all the same.
 #include "DesktopData.h"
+#include "MemoryLog.h"
 #include "PulseFixture.h"
 #include "RecordingRig.h"
 #include "TestParts.h"
 #include "XDisplay.h"
-#include "recording/RecorderParts.h"
+#include "platform/XcbWindowList.h"
+#include "sideactions/StreamingPlayer.h"
 
 #include <QScopeGuard>
 #include <QTemporaryDir>
@@ -48,12 +50,6 @@ private slots:
         const QString missing = RecordingRig::StartSound(m_pulse);
         if (!missing.isEmpty())
             QSKIP(qPrintable(missing));
-    }
-
-    void cleanupTestCase()
-    {
-        m_pulse.reset();
-        m_display.reset();
     }
 
     void closingAtTheEndOfTheRecording_data()
@@ -105,11 +101,7 @@ private slots:
         for (int i = 0; i < windows.size(); ++i)
             QVERIFY2(XDisplay::Closed(windows[i], closed[i] ? 3000 : 500) == closed[i],
                      qPrintable(titles[i]));
-        const QList<LogEntry> log = r.tc.LogEntries();
-        QCOMPARE(std::count_if(
-                     log.cbegin(), log.cend(),
-                     [](const LogEntry& e) { return e.message == "Streaming player on Wayland"; }),
-                 waylandSession ? 1 : 0);
+        QCOMPARE(r.Logged("Streaming player on Wayland").size(), waylandSession ? 1 : 0);
     }
 
     void automaticSearchClosesOnlyTheNewWindows()
@@ -147,14 +139,15 @@ private slots:
     {
         QFETCH(int, seconds);
         QFETCH(bool, closed);
-        TestContext tc;
-        StreamingPlayer& player = RecorderParts::Control(tc.ctx->recorder).Player();
+        MemoryLog log;
+        XcbWindowList windows;
+        StreamingPlayer player(log.clock, windows, log.log);
         const double t0 = RecordingRig::At("10:00:00");
-        tc.clock.Set(t0);
+        log.clock.Set(t0);
         player.SnapshotWindowsBeforeLink();
         QProcess* window = m_display->OpenWindow("Stream player");
         QVERIFY(window);
-        tc.clock.Set(AutomationDate::AddSeconds(t0, seconds));
+        log.clock.Set(AutomationDate::AddSeconds(t0, seconds));
         player.SnapshotWindowsAtRecordingStart();
         player.CloseNewWindows();
         QCOMPARE(XDisplay::Closed(window, closed ? 3000 : 500), closed);

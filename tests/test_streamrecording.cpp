@@ -13,11 +13,11 @@
 #include <QDir>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QSqlQuery>
 #include <QSslKey>
 #include <QSslServer>
 #include <QTest>
 #include <QtEndian>
+#include <algorithm>
 
 namespace {
 
@@ -88,12 +88,12 @@ private slots:
             QSKIP("the recording task is not built");
         // No sound server at all: a stream needs none.
         qputenv("PULSE_SERVER", "unix:/nonexistent/pulse/native");
-        m_mp3 = MakeTone(m_scratch.path(), "mp3");
+        const QByteArray mp3 = MakeTone(m_scratch.path(), "mp3");
         const QByteArray ogg = MakeTone(m_scratch.path(), "ogg");
-        if (m_mp3.isEmpty() || ogg.isEmpty())
+        if (mp3.isEmpty() || ogg.isEmpty())
             QSKIP("sox or lame could not make the station's sound");
         m_server.AddStream("/tone.mp3",
-                           {"audio/mpeg", m_mp3, 16000, {{0, "First Song"}, {13, "Second Song"}}});
+                           {"audio/mpeg", mp3, 16000, {{0, "First Song"}, {13, "Second Song"}}});
         const int headers = OggHeaderBytes(ogg);
         m_server.AddStream(
             "/tone.ogg",
@@ -128,10 +128,8 @@ private slots:
         // 6 seconds of 128 kbit/s.
         QVERIFY2(qAbs(frames.size() - 6 * 16000) < 16000,
                  qPrintable(QString::number(frames.size())));
-        QSqlQuery q(r.tc.ctx->database.db.Connection());
-        QVERIFY(q.exec("SELECT CompressionMethod FROM Recordings") && q.next());
-        QVERIFY2(q.value(0).toString().contains("Kept as broadcast"),
-                 qPrintable(q.value(0).toString()));
+        const QString compression = r.Recordings().value(0).compression;
+        QVERIFY2(compression.contains("Kept as broadcast"), qPrintable(compression));
 
         const QString cue = QString::fromUtf8(ReadFile(r.folder + "/Kept.cue"));
         QVERIFY2(cue.contains("FILE \"Kept.MP3\" MP3"), qPrintable(cue));
@@ -168,8 +166,7 @@ private slots:
         QVERIFY(r.Run(RecordingRig::At("10:00:01"), {}, 40000));
         const QString file = r.folder + "/Kept.WAV";
         QVERIFY2(QFile::exists(file), qPrintable(r.LoggedMessages().join("; ")));
-        double rms = 0;
-        double frequency = 0;
+        double rms = 0, frequency = 0;
         QVERIFY(ToneOf(file, rms, frequency, 0.2));
         QVERIFY2(rms > 0.25 && qAbs(frequency - 1000) < 50,
                  qPrintable(QString("rms %1, %2 Hz").arg(rms).arg(frequency)));
@@ -214,14 +211,14 @@ private slots:
         QVERIFY(r.Run(RecordingRig::At("10:00:01"), {}, 40000));
         QCOMPARE(r.Recordings().size(), 0);
         QCOMPARE(QDir(r.folder).entryList(QDir::Files), QStringList());
-        QList<LogEntry> errors;
-        for (const LogEntry& e : r.tc.LogEntries())
-            if (e.type == 2)
-                errors << e;
-        QCOMPARE(errors.size(), 1);
-        QCOMPARE(errors[0].message, QString("Internet stream could not be reached."));
-        QVERIFY2(errors[0].details.startsWith(m_server.Url("/gone.mp3") + ": HTTP 404"),
-                 qPrintable(errors[0].details));
+        const QList<LogEntry> log = r.Log();
+        QCOMPARE(
+            std::count_if(log.cbegin(), log.cend(), [](const LogEntry& e) { return e.type == 2; }),
+            1);
+        const QStringList details = r.Logged("Internet stream could not be reached.");
+        QCOMPARE(details.size(), 1);
+        QVERIFY2(details[0].startsWith(m_server.Url("/gone.mp3") + ": HTTP 404"),
+                 qPrintable(details[0]));
     }
 
     // Test in the editor: what the station sends, or why it can't be played.
@@ -291,7 +288,6 @@ private:
 
     QTemporaryDir m_scratch;
     StreamServer m_server;
-    QByteArray m_mp3;
 };
 
 NIGHTREEL_TEST_PARTS_MAIN(TestStreamRecording, QCoreApplication)

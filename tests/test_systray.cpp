@@ -53,63 +53,46 @@ class TestSysTray : public QObject {
 private slots:
     void stateChoosesPictureAndTip_data()
     {
-        QTest::addColumn<bool>("suspended");
-        QTest::addColumn<bool>("recording");
-        QTest::addColumn<bool>("paused");
-        QTest::addColumn<bool>("playing");
-        QTest::addColumn<bool>("converting");
-        QTest::addColumn<bool>("warning");
+        QTest::addColumn<QString>("flags");
         QTest::addColumn<int>("unviewed");
-        QTest::addColumn<QString>("tip");
+        QTest::addColumn<QString>("tip"); // after "Nightreel 2000 - "
         QTest::addColumn<SysTrayList>("list");
         QTest::addColumn<int>("index");
 
         using L = SysTrayList;
         // Each row also sets what lower rows look at, to show that the first match wins. The
         // phases are at 1: odd, so a pause shows its second picture.
-        QTest::newRow("suspended") << true << false << false << true << true << true << 2
-                                   << "Nightreel 2000 - SUSPENDED" << L::General << 4;
-        QTest::newRow("paused") << false << true << true << false << true << true << 0
-                                << "Nightreel 2000 - RECORDING PAUSED" << L::Pause << 2;
-        QTest::newRow("paused, playing") << false << true << true << true << false << false << 0
-                                         << "Nightreel 2000 - RECORDING PAUSED" << L::Pause << 4;
-        QTest::newRow("recording, playing")
-            << false << true << false << true << true << false << 0
-            << "Nightreel 2000 - PLAYING and RECORDING" << L::RecordAndPlay << 1;
+        QTest::newRow("suspended")
+            << "suspended,playing,converting,warning" << 2 << "SUSPENDED" << L::General << 4;
+        QTest::newRow("paused") << "recording,paused,converting,warning" << 0 << "RECORDING PAUSED"
+                                << L::Pause << 2;
+        QTest::newRow("paused, playing")
+            << "recording,paused,playing" << 0 << "RECORDING PAUSED" << L::Pause << 4;
+        QTest::newRow("recording, playing") << "recording,playing,converting" << 0
+                                            << "PLAYING and RECORDING" << L::RecordAndPlay << 1;
         QTest::newRow("recording hides a warning")
-            << false << true << false << false << true << true << 1 << "Nightreel 2000 - RECORDING"
-            << L::Record << 1;
+            << "recording,converting,warning" << 1 << "RECORDING" << L::Record << 1;
         QTest::newRow("converting, playing")
-            << false << false << false << true << true << true << 0
-            << "Nightreel 2000 - PLAYING & CONVERTING TO MP3" << L::ConvertAndPlay << 1;
-        QTest::newRow("converting") << false << false << false << false << true << true << 0
-                                    << "Nightreel 2000 - CONVERTING TO MP3" << L::Convert << 1;
+            << "playing,converting,warning" << 0 << "PLAYING & CONVERTING TO MP3"
+            << L::ConvertAndPlay << 1;
+        QTest::newRow("converting")
+            << "converting,warning" << 0 << "CONVERTING TO MP3" << L::Convert << 1;
         QTest::newRow("playing hides a warning")
-            << false << false << false << true << false << true << 2 << "Nightreel 2000 - PLAYING"
-            << L::General << 3;
+            << "playing,warning" << 2 << "PLAYING" << L::General << 3;
         QTest::newRow("warning before the log")
-            << false << false << false << false << false << true << 2
-            << "Nightreel 2000 - Errors or warnings are present." << L::General << 2;
+            << "warning" << 2 << "Errors or warnings are present." << L::General << 2;
         QTest::newRow("one unviewed entry")
-            << false << false << false << false << false << false << 1
-            << "Nightreel 2000 - Error occurred, check the error log" << L::General << 2;
+            << "" << 1 << "Error occurred, check the error log" << L::General << 2;
         QTest::newRow("two unviewed entries")
-            << false << false << false << false << false << false << 2
-            << "Nightreel 2000 - Errors occurred, check the error log" << L::General << 2;
-        QTest::newRow("nothing") << false << false << false << false << false << false << 0
-                                 << "Nightreel 2000 - STOPPED" << L::General << 1;
+            << "" << 2 << "Errors occurred, check the error log" << L::General << 2;
+        QTest::newRow("nothing") << "" << 0 << "STOPPED" << L::General << 1;
     }
 
     // The state is set through the flags and the log as the program sets it; nothing calls
     // Update by hand: the manager follows the changes by itself.
     void stateChoosesPictureAndTip()
     {
-        QFETCH(bool, suspended);
-        QFETCH(bool, recording);
-        QFETCH(bool, paused);
-        QFETCH(bool, playing);
-        QFETCH(bool, converting);
-        QFETCH(bool, warning);
+        QFETCH(QString, flags);
         QFETCH(int, unviewed);
         QFETCH(QString, tip);
         QFETCH(SysTrayList, list);
@@ -118,26 +101,18 @@ private slots:
         Tray t;
         clsAppStatus& s = t.ctx().appStatus;
         t.LogErrors(unviewed);
-        t.ctx().error.SetDiskLowWarn(warning);
-        if (suspended)
+        t.ctx().error.SetDiskLowWarn(flags.contains("warning"));
+        if (flags.contains("suspended"))
             t.Suspend();
-        s.SetPlaying(playing);
-        s.SetConverting(converting);
-        s.SetRecording(recording);
-        s.SetPaused(paused);
+        s.SetPlaying(flags.contains("playing"));
+        s.SetConverting(flags.contains("converting"));
+        s.SetRecording(flags.contains("recording"));
+        s.SetPaused(flags.contains("paused"));
 
-        QCOMPARE(t.mgr->CurrentTip(), tip);
+        QCOMPARE(t.mgr->CurrentTip(), "Nightreel 2000 - " + tip);
         QVERIFY((t.mgr->CurrentIcon() == SysTrayPicture{list, index}));
         // What the icon was last given is what the manager holds.
-        QString lastTip;
-        SysTrayPicture lastPicture{SysTrayList::General, SysTrayPicture::Normal};
-        for (const auto& c : t.calls.calls) {
-            if (c.op != "ChangeSystemTrayTip")
-                lastPicture = c.picture;
-            lastTip = c.tip;
-        }
-        QCOMPARE(lastTip, tip);
-        QVERIFY((lastPicture == SysTrayPicture{list, index}));
+        QCOMPARE(t.calls.calls.last().tip, t.mgr->CurrentTip());
     }
 
     // Each event shows the next frame, one call each; a conversion that follows starts at the

@@ -1,19 +1,21 @@
 // The scheduler's side of the link, driven by the scripted stand-in task: the hand-shake's
 // attempts, removal of an old task, what the task sends during a recording, the keep-alive
 // and the stop watchdog. Also the error catalogue and the parameter file.
-#include "TestContext.h"
+#include "MemoryLog.h"
+#include "TestFiles.h"
 #include "TestParts.h"
-#include "recording/RecorderParts.h"
+#include "common/RuntimeError.h"
+#include "common/clsAppStatus.h"
 #include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
 #include "taskcontract/RecParms.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
-#include <QSqlQuery>
+#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 
@@ -21,22 +23,19 @@ using namespace TaskProtocol;
 
 namespace {
 
-// A context and a link that starts the stand-in with the given plan.
+// A link that starts the stand-in with the given plan, with the parts of the program it needs.
 struct Fixture {
     explicit Fixture(const QString& plan)
     {
-        tc.OpenDatabase();
         qputenv("NIGHTREEL_FAKE_PLAN", plan.toUtf8());
-        qputenv("NIGHTREEL_FAKE_LOG", (tc.Root() + "/fake.log").toUtf8());
-        link = std::make_unique<RecordingTaskLink>(tc.ctx->log, tc.ctx->appStatus,
-                                                   tc.ctx->folders.runtimeFolder);
+        qputenv("NIGHTREEL_FAKE_LOG", (dir.path() + "/fake.log").toUtf8());
         link->SetTaskProgram(NIGHTREEL_FAKETASK);
         RecParms().Write(link->ParameterFile());
         // StopRecording as the system has it: it acts only while a recording runs.
         QObject::connect(link.get(), &RecordingTaskLink::StopRecording, [this] {
-            if (tc.ctx->appStatus.Recording()) {
+            if (appStatus.Recording()) {
                 ++stops;
-                tc.ctx->appStatus.SetRecording(false);
+                appStatus.SetRecording(false);
                 link->tmrKeepAlive.SetInterval(0);
             }
         });
@@ -50,23 +49,14 @@ struct Fixture {
 
     bool StartRecording()
     {
-        tc.ctx->appStatus.SetRecording(true);
+        appStatus.SetRecording(true);
         return link->ActivateNightreeltask() && link->SendMessage(REC_MSG_START) == 0;
-    }
-    QList<LogEntry> Entries() const { return tc.LogEntries(); }
-    QStringList Messages() const
-    {
-        QStringList messages;
-        for (const LogEntry& e : tc.LogEntries())
-            messages << e.message;
-        return messages;
     }
     // What the stand-ins wrote: "start PID" and "recv PID NUMBER" lines.
     QStringList FakeLog() const
     {
-        QFile file(tc.Root() + "/fake.log");
-        file.open(QIODevice::ReadOnly);
-        return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        return QString::fromUtf8(ReadFile(dir.path() + "/fake.log"))
+            .split(u'\n', Qt::SkipEmptyParts);
     }
     // Stand-ins that received WM_CLOSE or WM_QUIT.
     int ToldToLeave() const
@@ -81,14 +71,15 @@ struct Fixture {
     }
     int Received(quint32 number) const
     {
-        int count = 0;
-        for (const QString& line : FakeLog())
-            count += line.startsWith("recv ") && line.section(u' ', 2, 2).toUInt() == number;
-        return count;
+        return int(
+            FakeLog().filter(QRegularExpression(QString("^recv \\d+ %1$").arg(number))).size());
     }
 
-    TestContext tc;
-    std::unique_ptr<RecordingTaskLink> link;
+    QTemporaryDir dir;
+    MemoryLog log;
+    clsAppStatus appStatus;
+    std::unique_ptr<RecordingTaskLink> link =
+        std::make_unique<RecordingTaskLink>(log.log, appStatus, dir.path());
     int stops = 0;
 };
 
@@ -124,16 +115,13 @@ private slots:
         QFETCH(int, code);
         QFETCH(QString, message);
         QFETCH(QString, detailsStart);
-        TestContext tc;
-        tc.OpenDatabase();
-        ReportRecordingTaskError(tc.ctx->log, code);
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        q.exec("SELECT Type, Message, Details FROM EventLog");
-        QVERIFY(q.next());
-        QCOMPARE(q.value(0).toInt(), 2);
-        QCOMPARE(q.value(1).toString(), message);
-        QVERIFY2(q.value(2).toString().startsWith(detailsStart), qPrintable(q.value(2).toString()));
-        QVERIFY(!q.next());
+        MemoryLog log;
+        ReportRecordingTaskError(log.log, code);
+        QCOMPARE(log.entries.size(), 1);
+        QCOMPARE(log.entries[0].type, 2);
+        QCOMPARE(log.entries[0].message, message);
+        QVERIFY2(log.entries[0].details.startsWith(detailsStart),
+                 qPrintable(log.entries[0].details));
     }
 
     void parameterFile_data()
@@ -146,6 +134,7 @@ private slots:
         QTest::newRow("MP3, 12 extra bytes") << 85 << " 85 " << 12 << 24;
         // The tag is a signed 16-bit number in the file.
         QTest::newRow("the most the buffer holds, a high tag") << 65534 << "-2 " << 256 << 268;
+        QTest::newRow("a byte more: refused") << 1 << "" << 257 << 0;
     }
     void parameterFile()
     {
@@ -153,24 +142,25 @@ private slots:
         QFETCH(QString, tagLine);
         QFETCH(int, cbSize);
         QFETCH(int, lines);
-        TestContext tc;
+        QTemporaryDir dir;
         RecParms p;
         p.softwareName = "Nightreel 2000 1.0";
         p.description = "  Jazz at night";
         p.startText = "06/01/2026 23:00:00";
-        p.outputPath = tc.Root() + "/Jazz.WAV";
+        p.outputPath = dir.path() + "/Jazz.WAV";
         p.lengthSeconds = 3600;
         p.format.wFormatTag = quint16(tag);
         p.format.nSamplesPerSec = 44100;
         p.format.cbSize = quint16(cbSize);
         for (int i = 0; i < cbSize; ++i)
             p.format.extra.append(char(i * 7));
-        const QString path = tc.ctx->folders.runtimeFolder + "/RECPARMS.TMP";
-        QFile::remove(path);
+        const QString path = dir.path() + "/RECPARMS.TMP";
+        if (lines == 0) {
+            QVERIFY_THROWS_EXCEPTION(RuntimeError, p.Write(path));
+            return;
+        }
         p.Write(path);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray text = file.readAll();
+        const QByteArray text = ReadFile(path);
         QVERIFY(text.endsWith("\r\n"));
         const QStringList written = QString::fromUtf8(text.chopped(2)).split("\r\n");
         QCOMPARE(written.size(), lines);
@@ -187,14 +177,6 @@ private slots:
         QCOMPARE(read->outputPath, p.outputPath);
         QCOMPARE(read->startText, p.startText);
         QCOMPARE(read->format, p.format);
-    }
-
-    void anOversizedFormatCannotBeWritten()
-    {
-        TestContext tc;
-        RecParms p;
-        p.format.cbSize = 257;
-        QVERIFY_THROWS_EXCEPTION(RuntimeError, p.Write(tc.Root() + "/RECPARMS.TMP"));
     }
 
     void activation_data()
@@ -232,11 +214,11 @@ private slots:
         f.link->SetActivationTimeout(500);
         QCOMPARE(f.link->ActivateNightreeltask(), activated);
         QCOMPARE(f.link->StartedTasks().size(), starts);
-        QCOMPARE(f.Messages(), messages);
+        QCOMPARE(f.log.Messages(), messages);
         if (!messages.isEmpty()) {
-            QCOMPARE(f.Entries().first().type, 2);
-            QVERIFY2(f.Entries().first().details.startsWith(details),
-                     qPrintable(f.Entries().first().details));
+            QCOMPARE(f.log.entries.first().type, 2);
+            QVERIFY2(f.log.entries.first().details.startsWith(details),
+                     qPrintable(f.log.entries.first().details));
         }
         // Each task that failed to come up was told to leave.
         QTRY_COMPARE(f.ToldToLeave(), toldToLeave);
@@ -253,7 +235,7 @@ private slots:
         QCOMPARE(f.link->StartedTasks().size(), 2);
         QCOMPARE(f.Received(WM_CLOSE), 1);
         QCOMPARE(f.Received(WM_QUIT), 1);
-        QVERIFY(f.Messages().isEmpty());
+        QVERIFY(f.log.Messages().isEmpty());
     }
 
     void anOldTaskThatCannotBeRemovedIsReportedOnce()
@@ -262,8 +244,8 @@ private slots:
         QVERIFY(f.link->ActivateNightreeltask());
         QVERIFY(!f.link->ActivateNightreeltask());
         QCOMPARE(f.link->StartedTasks().size(), 1);
-        QCOMPARE(f.Messages(), QStringList{"Error removing Recording Process."});
-        QCOMPARE(f.Entries().first().details,
+        QCOMPARE(f.log.Messages(), QStringList{"Error removing Recording Process."});
+        QCOMPARE(f.log.entries.first().details,
                  QString("This may require the system to be restarted."));
     }
 
@@ -276,7 +258,7 @@ private slots:
         QVERIFY(f.StartRecording());
         QTRY_COMPARE(taskError.size(), 2);
         QCOMPARE(taskError[0][0].toInt(), 1024);
-        QVERIFY(f.Messages().isEmpty());
+        QVERIFY(f.log.Messages().isEmpty());
     }
 
     void aStartRefusedIsTheTaskAnswer()
@@ -302,7 +284,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(stopRecording.size(), 2, 3000);
         QCOMPARE(f.stops, 1);
         QCOMPARE(f.Received(REC_MSG_STOP), 1);
-        QVERIFY(f.Messages().isEmpty());
+        QVERIFY(f.log.Messages().isEmpty());
     }
 
     void keepAlive_data()
@@ -332,7 +314,7 @@ private slots:
         Fixture f(plan);
         QSignalSpy notResponding(f.link.get(), &RecordingTaskLink::TaskNotResponding);
         QVERIFY(f.StartRecording());
-        f.tc.ctx->appStatus.SetRecording(recording);
+        f.appStatus.SetRecording(recording);
         for (int i = 0; i < ticks; ++i) {
             f.link->tmrKeepAlive_Timer();
             QTest::qWait(100);
@@ -358,8 +340,8 @@ private slots:
         Fixture f(plan);
         QVERIFY(f.StartRecording());
         QTRY_COMPARE(f.stops, 1);
-        QCOMPARE(f.Messages(), QStringList{"Run Time Error"});
-        const QString details = f.Entries().first().details;
+        QCOMPARE(f.log.Messages(), QStringList{"Run Time Error"});
+        const QString details = f.log.entries.first().details;
         QVERIFY2(details.startsWith("Unexpected code from recording process.  " + code),
                  qPrintable(details));
         QVERIFY(details.endsWith("try a different recording format or restarting the system"));
@@ -378,8 +360,10 @@ private slots:
     {
         QFETCH(int, command);
         QFETCH(bool, toTray);
-        TestContext tc;
-        RecordingTaskLink& link = RecorderParts::Link(tc.ctx->recorder);
+        QTemporaryDir dir;
+        MemoryLog log;
+        clsAppStatus appStatus;
+        RecordingTaskLink link(log.log, appStatus, dir.path());
         QSignalSpy tray(&link, &RecordingTaskLink::MinimizeToTray);
         qint32 result = -1;
         QCOMPARE(link.sbcls1_WndProc(WM_SYSCOMMAND, command, 0, result), toTray);

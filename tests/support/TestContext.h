@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MemoryLog.h"
 #include "RecordingLauncher.h"
 #include "ScriptedMessageBox.h"
 #include "TestClock.h"
@@ -59,13 +60,6 @@ protected:
             d.free = *freeMb;
         return d;
     }
-};
-
-// One row of the event log.
-struct LogEntry {
-    int type;
-    QString message;
-    QString details;
 };
 
 // A fresh application context over a temporary folder: its own data and runtime folders,
