@@ -3,6 +3,7 @@
 #include "Programs.h"
 #include "TestContext.h"
 #include "recording/Heartbeat.h"
+#include "recording/RecorderParts.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -70,7 +71,7 @@ double IdleTickMicroseconds()
 {
     // The program's own heartbeat, with the status bar round it runs on every tick.
     TestContext tc;
-    Heartbeat& heartbeat = tc.ctx->recorder.HeartbeatTimer();
+    Heartbeat& heartbeat = RecorderParts::HeartbeatTimer(tc.ctx->recorder);
     tc.ctx->appStatus.SetReady(true);
     tc.ctx->options.DefaultRecordingDirectory = tc.Root();
     NextProgram& next = tc.ctx->scheduler.next;

@@ -33,6 +33,7 @@
 #include "formats/CodecCatalogue.h"
 #include "recording/ConversionQueue.h"
 #include "recording/EncoderLibrary.h"
+#include "recording/RecorderParts.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -175,7 +176,7 @@ QueueRun RunQueue(TestContext& tc, const QString& source, const QString& destina
         WaveFormatRecord::Decode(CodecCatalogue::Mp3Record(Channels, Rate, Kbps)).value());
     request->DestinationFormat.SaveMP3FileExtension = true;
     request->Description = QStringLiteral("Bench");
-    ConversionQueue& queue = ctx.recorder.Conversion();
+    ConversionQueue& queue = RecorderParts::Conversion(ctx.recorder);
     queue.Mp3ConvertQueue.append(request);
 
     QEventLoop loop;
@@ -315,7 +316,9 @@ int main(int argc, char* argv[])
     TestContext tc;
     tc.OpenDatabase();
     tc.ctx->options.DefaultRecordingDirectory = dir.path();
-    tc.ctx->recorder.Conversion().Encoder().SetFolder(QStringLiteral(NIGHTREELENC_DIR));
+    RecorderParts::Conversion(tc.ctx->recorder)
+        .Encoder()
+        .SetFolder(QStringLiteral(NIGHTREELENC_DIR));
     const QString sourcePath = QFile::decodeName(source.c_str());
     const QString queueOut = dir.path() + QStringLiteral("/queue.MP3");
     if (!RunQueue(tc, sourcePath, queueOut).ok)

@@ -5,6 +5,7 @@
 // Prints ontime_median_ms= and ontime_worst_ms=, from the due second to the first sample on
 // disk. Goals: 100 and 150.
 #include "RecordingRig.h"
+#include "recording/RecorderParts.h"
 
 #include <QRandomGenerator>
 #include <algorithm>
@@ -37,7 +38,7 @@ int main(int argc, char* argv[])
     RecordingRig r;
     r.tc.clock.FollowSystemTime();
     AppContext& ctx = *r.tc.ctx;
-    Heartbeat& heartbeat = ctx.recorder.HeartbeatTimer();
+    Heartbeat& heartbeat = RecorderParts::HeartbeatTimer(ctx.recorder);
     const auto runFor = [&](int ms, const std::function<bool()>& done) {
         QElapsedTimer waited;
         waited.start();

@@ -14,6 +14,7 @@
 #include "formats/CodecCatalogue.h"
 #include "formats/ModuleFileTime.h"
 #include "platform/StorageDiskSpace.h"
+#include "recording/RecorderParts.h"
 #include "recordingslist/RecordingsList.h"
 #include "shell/MainFormController.h"
 
@@ -82,7 +83,7 @@ public:
         recorder().Start();
     }
 
-    ConversionQueue& queue() { return tc.ctx->recorder.Conversion(); }
+    ConversionQueue& queue() { return RecorderParts::Conversion(tc.ctx->recorder); }
 
     void SetMp3(clsRecordingFormat& format, bool mp3Extension)
     {
@@ -211,14 +212,15 @@ private slots:
         QElapsedTimer sinceTick;
         qint64 longestGap = 0;
         int ticksWhileConverting = 0;
-        QObject::connect(&f.recorder().HeartbeatTimer(), &Heartbeat::UpdateStatusBarPlus, [&] {
-            if (f.ctx().appStatus.Converting()) {
-                ++ticksWhileConverting;
-                if (sinceTick.isValid())
-                    longestGap = std::max(longestGap, sinceTick.elapsed());
-            }
-            sinceTick.start();
-        });
+        QObject::connect(&RecorderParts::HeartbeatTimer(f.recorder()),
+                         &Heartbeat::UpdateStatusBarPlus, [&] {
+                             if (f.ctx().appStatus.Converting()) {
+                                 ++ticksWhileConverting;
+                                 if (sinceTick.isValid())
+                                     longestGap = std::max(longestGap, sinceTick.elapsed());
+                             }
+                             sinceTick.start();
+                         });
         QStringList panelTexts;
         QObject::connect(&f.recorder(), &Recorder::StatusBarUpdated,
                          [&](const StatusBarPlus::Update& u) {
@@ -301,8 +303,8 @@ private slots:
 
         QString live;
         if (whileRecording) {
-            RecordingControl& control = f.recorder().Control();
-            f.SetMp3(f.recorder().Manual().Format, true);
+            RecordingControl& control = RecorderParts::Control(f.recorder());
+            f.SetMp3(f.ctx().manualRequest.Format, true);
             f.tc.clock.AdvanceSeconds(60);
             const double from = f.tc.clock.Now();
             control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Live");
@@ -483,18 +485,18 @@ private slots:
             QSKIP("no user namespace here in which to mount a small file system");
         f.tc.diskSpace.freeMb.reset();
         f.ctx().options.StopRecMegsLeft = 5;
-        f.SetMp3(f.recorder().Manual().Format, true);
+        f.SetMp3(f.ctx().manualRequest.Format, true);
         const double from = f.tc.clock.Now();
         // Short enough for the start's own check of the space; the clock stands still, so
         // the guard ends it.
-        f.recorder().Control().StartRecording(-1, from, AutomationDate::AddSeconds(from, 3),
-                                              "Night concert");
+        RecorderParts::Control(f.recorder())
+            .StartRecording(-1, from, AutomationDate::AddSeconds(from, 3), "Night concert");
         QVERIFY(f.ctx().appStatus.Recording());
         clsConvertToMP3Request recorded;
         recorded.SourceFile = f.recorder().Status().RecordingFile;
         recorded.Description = "Night concert";
         f.ctx().options.DefaultRecordingDirectory = f.tc.Root();
-        f.recorder().HeartbeatTimer().Start();
+        RecorderParts::HeartbeatTimer(f.recorder()).Start();
         QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 60000);
 
         StorageDiskSpace disks;
@@ -558,8 +560,8 @@ private slots:
     void diskGuardCountsTheMp3OfARecordingToConvert()
     {
         Fixture f;
-        RecordingControl& control = f.recorder().Control();
-        f.SetMp3(f.recorder().Manual().Format, true);
+        RecordingControl& control = RecorderParts::Control(f.recorder());
+        f.SetMp3(f.ctx().manualRequest.Format, true);
         const double from = f.tc.clock.Now();
         control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Tight");
         QVERIFY(f.ctx().appStatus.Recording());

@@ -4,6 +4,7 @@
 #include "TestContext.h"
 #include "TestFiles.h"
 #include "recording/ModeDisplay.h"
+#include "recording/RecorderParts.h"
 #include "shell/frmMain.h"
 #include "tray/clsSysTrayMgr.h"
 
@@ -66,12 +67,12 @@ private slots:
         // Loaded, not yet activated: no database, no heartbeat, not ready.
         QVERIFY(!s.tc.ctx->appStatus.Ready());
         QVERIFY(!s.tc.ctx->database.db.IsOpen());
-        QCOMPARE(s.tc.ctx->recorder.HeartbeatTimer().Timer1.Interval(), 0);
+        QCOMPARE(RecorderParts::HeartbeatTimer(s.tc.ctx->recorder).Timer1.Interval(), 0);
 
         s.form->FirstActivate();
         QVERIFY(s.tc.ctx->appStatus.Ready());
         QVERIFY(s.tc.ctx->scheduler.next.NextProgramFound);
-        QCOMPARE(s.tc.ctx->recorder.HeartbeatTimer().Timer1.Interval(), 250);
+        QCOMPARE(RecorderParts::HeartbeatTimer(s.tc.ctx->recorder).Timer1.Interval(), 250);
         QCOMPARE(s.form->ui.DBGridPrograms->model()->rowCount(), 1);
         QVERIFY(s.form->ui.Action("mnuEdit")->isEnabled());
         QVERIFY(!s.form->ui.Action("mnuRecordingsPlay")->isEnabled());
@@ -95,7 +96,7 @@ private slots:
         QFETCH(QString, failing);
         Started s;
         s.tc.ctx->registry.SaveSetting("Settings", "StopRecMegsLeft", "40");
-        QVERIFY(WriteFile(s.tc.ctx->recorder.Link().ParameterFile(), "left by a crash"));
+        QVERIFY(WriteFile(s.tc.ctx->recorder.ParameterFile(), "left by a crash"));
         if (failing == "database")
             QVERIFY(WriteFile(s.tc.ctx->database.DatabaseFile(),
                               QByteArray("not a database\n").repeated(100)));
@@ -106,9 +107,9 @@ private slots:
         const LogCapture output;
         s.Activate();
         QVERIFY(s.tc.ctx->appStatus.Ready());
-        QCOMPARE(s.tc.ctx->recorder.HeartbeatTimer().Timer1.Interval(), 250);
+        QCOMPARE(RecorderParts::HeartbeatTimer(s.tc.ctx->recorder).Timer1.Interval(), 250);
         QCOMPARE(s.tc.ctx->options.StopRecMegsLeft, qint16(40));
-        QVERIFY(!QFile::exists(s.tc.ctx->recorder.Link().ParameterFile()));
+        QVERIFY(!QFile::exists(s.tc.ctx->recorder.ParameterFile()));
         if (failing != "database")
             QVERIFY(output.Contains("Module: Main Form Load"));
     }

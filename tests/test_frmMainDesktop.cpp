@@ -9,6 +9,7 @@
 #include "XDisplay.h"
 #include "common/AutomationDate.h"
 #include "platform/FreedesktopNotifications.h"
+#include "recording/RecorderParts.h"
 #include "shell/frmMain.h"
 #include "tray/SysTrayIcon.h"
 
@@ -49,11 +50,11 @@ private:
     {
         qputenv("NIGHTREEL_FAKE_PLAN", plan.toUtf8());
         qputenv("NIGHTREEL_FAKE_LOG", (m_tc->Root() + "/fake.log").toUtf8());
-        ctx().recorder.Manual().Format.SetToPcm(1, 22050, 16);
-        ctx().recorder.Status().ProgramId = -1;
+        ctx().manualRequest.Format.SetToPcm(1, 22050, 16);
+        RecorderParts::Status(ctx().recorder).ProgramId = -1;
         const double now = ctx().Now();
-        ctx().recorder.Control().StartRecording(-1, now, AutomationDate::AddSeconds(now, 60),
-                                                "Night show");
+        RecorderParts::Control(ctx().recorder)
+            .StartRecording(-1, now, AutomationDate::AddSeconds(now, 60), "Night show");
         if (during && ctx().appStatus.Recording())
             during();
         ctx().recorder.StopCommand(false);
@@ -81,7 +82,7 @@ private slots:
         QDir().mkpath(m_tc->Root() + "/recordings");
         ctx().registry.SaveSetting("Settings", "DefaultRecordingDirectory",
                                    m_tc->Root() + "/recordings");
-        ctx().recorder.Link().SetTaskProgram(NIGHTREEL_FAKETASK);
+        ctx().recorder.SetTaskProgram(NIGHTREEL_FAKETASK);
         m_form = std::make_unique<frmMain>(ctx(), true);
         m_form->show();
         m_form->FirstActivate();
@@ -177,9 +178,9 @@ private slots:
         ctx().registry.SaveSetting("Settings", "RecorderAliveTime",
                                    QString::number(Programs::At(2026, 6, 1, "22:00:00")));
         m_tc->clock.Set(Programs::At(2026, 6, 2, "08:00:00"));
-        ctx().recorder.Missed().CheckAtStart();
+        RecorderParts::Missed(ctx().recorder).CheckAtStart();
         m_tc->clock.AdvanceSeconds(600);
-        ctx().recorder.Missed().CheckAtStart();
+        RecorderParts::Missed(ctx().recorder).CheckAtStart();
         QTest::qWait(300);
 
         QStringList missed;

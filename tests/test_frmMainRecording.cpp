@@ -1,99 +1,59 @@
 // The main window forwards the Stop and Pause commands of toolbar and menu to the recorder.
 // No recording task is involved: what is checked is who is asked what.
 #include "TestContext.h"
+#include "recording/RecorderParts.h"
 #include "shell/frmMain.h"
 
 #include <QAction>
 #include <QDir>
 #include <QTest>
 
-namespace {
-
-struct Window {
-    Window()
-    {
-        QDir().mkpath(tc.Root() + "/recordings");
-        tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory",
-                                     tc.Root() + "/recordings");
-        form = std::make_unique<frmMain>(*tc.ctx, false);
-        form->FirstActivate();
-        tc.ctx->recorder.Link().SetTaskProgram(tc.Root() + "/no-such-task");
-    }
-
-    // A recording as the start leaves it, without a task behind it.
-    void PretendRecording(qint32 programId)
-    {
-        tc.ctx->appStatus.SetRecording(true);
-        tc.ctx->recorder.Status().ProgramId = programId;
-    }
-
-    TestContext tc;
-    std::unique_ptr<frmMain> form;
-};
-
-} // namespace
-
 class TestFrmMainRecording : public QObject {
     Q_OBJECT
 
 private slots:
-    void stopCommands_data();
-    void stopCommands();
-    void pauseCommandsToggle_data();
-    void pauseCommandsToggle();
-    void pauseAndResumeEntriesDoOneThingEach();
+    void commands_data();
+    void commands();
 };
 
-void TestFrmMainRecording::stopCommands_data()
+void TestFrmMainRecording::commands_data()
 {
     QTest::addColumn<QString>("action");
-    QTest::newRow("toolbar") << "ToolbarMain.Stop";
-    QTest::newRow("menu") << "mnuStopCurrentRecording";
+    QTest::addColumn<bool>("pausedBefore");
+    QTest::addColumn<bool>("pausedAfter");
+    QTest::addColumn<bool>("stopped");
+    QTest::newRow("toolbar Stop") << "ToolbarMain.Stop" << false << false << true;
+    QTest::newRow("menu Stop") << "mnuStopCurrentRecording" << false << false << true;
+    QTest::newRow("toolbar Pause pauses") << "ToolbarMain.Pause" << false << true << false;
+    QTest::newRow("menu Pause resumes") << "mnuPauseRecording" << true << false << false;
+    // The Recording menu's Pause (Ctrl+P) and Resume (Ctrl+U) do not toggle.
+    QTest::newRow("Pause only") << "mnuPauseOnly" << true << true << false;
+    QTest::newRow("Resume") << "mnuResume" << false << false << false;
 }
 
-// Both pass the confirmation option: with it off, a manual recording stops at once.
-void TestFrmMainRecording::stopCommands()
+// A manual recording as the start leaves it, without a task behind it; with the confirmation
+// option off, Stop asks nothing.
+void TestFrmMainRecording::commands()
 {
     QFETCH(QString, action);
-    Window w;
-    w.tc.ctx->options.ConfirmStopManualRecording = false;
-    w.PretendRecording(-1);
-    w.form->ui.Action(action)->trigger();
-    QVERIFY(w.tc.messageBox.asked.isEmpty());
-    QVERIFY(w.tc.ctx->recorder.Status().StopRequested);
-}
-
-void TestFrmMainRecording::pauseCommandsToggle_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::newRow("toolbar") << "ToolbarMain.Pause";
-    QTest::newRow("menu") << "mnuPauseRecording";
-}
-
-void TestFrmMainRecording::pauseCommandsToggle()
-{
-    QFETCH(QString, action);
-    Window w;
-    w.PretendRecording(-1);
-    w.form->ui.Action(action)->trigger();
-    QVERIFY(w.tc.ctx->appStatus.Paused());
-    w.form->ui.Action(action)->trigger();
-    QVERIFY(!w.tc.ctx->appStatus.Paused());
-}
-
-// The Recording menu's Pause (Ctrl+P) and Resume (Ctrl+U) do not toggle.
-void TestFrmMainRecording::pauseAndResumeEntriesDoOneThingEach()
-{
-    Window w;
-    w.PretendRecording(-1);
-    for (int i = 0; i < 2; ++i) {
-        w.form->ui.Action("mnuPauseOnly")->trigger();
-        QVERIFY(w.tc.ctx->appStatus.Paused());
-    }
-    for (int i = 0; i < 2; ++i) {
-        w.form->ui.Action("mnuResume")->trigger();
-        QVERIFY(!w.tc.ctx->appStatus.Paused());
-    }
+    QFETCH(bool, pausedBefore);
+    QFETCH(bool, pausedAfter);
+    QFETCH(bool, stopped);
+    TestContext tc;
+    QDir().mkpath(tc.Root() + "/recordings");
+    tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory",
+                                 tc.Root() + "/recordings");
+    frmMain form(*tc.ctx, false);
+    form.FirstActivate();
+    tc.ctx->recorder.SetTaskProgram(tc.Root() + "/no-such-task");
+    tc.ctx->options.ConfirmStopManualRecording = false;
+    tc.ctx->appStatus.SetRecording(true);
+    RecorderParts::Status(tc.ctx->recorder).ProgramId = -1;
+    tc.ctx->appStatus.SetPaused(pausedBefore);
+    form.ui.Action(action)->trigger();
+    QCOMPARE(tc.ctx->appStatus.Paused(), pausedAfter);
+    QCOMPARE(tc.ctx->recorder.Status().StopRequested, stopped);
+    QVERIFY(tc.messageBox.asked.isEmpty());
 }
 
 QTEST_MAIN(TestFrmMainRecording)

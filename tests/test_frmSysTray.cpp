@@ -229,7 +229,7 @@ private slots:
         if (!m_noSound.isEmpty())
             QSKIP(qPrintable(m_noSound));
         ctx().options.ConfirmStopManualRecording = false;
-        ctx().recorder.Manual().Format.SetToPcm(1, 22050, 16);
+        ctx().manualRequest.Format.SetToPcm(1, 22050, 16);
         QCOMPARE(mgr().tmrSystray.Interval(), 0);
         m_rig->StartManual(ctx().Now(), 120, "Tray");
         QVERIFY(ctx().appStatus.Recording());

@@ -2,42 +2,49 @@
 // starts that end at once, and the user's stop of a recording or of a conversion.
 #include "Programs.h"
 #include "TestContext.h"
-#include "recording/RecordingTaskLink.h"
+#include "recording/RecorderParts.h"
 
-#include <QSqlQuery>
 #include <QTest>
 #include <memory>
 
 namespace {
 
-// The program's own recorder over a fresh context.
+// The program's own recorder over a fresh context; no task may be started.
 struct Fixture {
     Fixture()
         : recorder(tc.ctx->recorder)
-        , control(&recorder.Control())
+        , control(RecorderParts::Control(recorder))
+        , status(RecorderParts::Status(recorder))
+        , link(RecorderParts::Link(recorder))
     {
         tc.OpenDatabase();
-        // No task may be started by these tests.
-        recorder.Link().SetTaskProgram(tc.Root() + "/no-such-task");
+        recorder.SetTaskProgram(tc.Root() + "/no-such-task");
         tc.ctx->options.DefaultRecordingDirectory = tc.Root();
         tc.clock.Set(Programs::At(2026, 6, 1, "10:00:00"));
     }
-
-    AppContext& ctx() { return *tc.ctx; }
-
     QStringList LogMessages() const
     {
         QStringList messages;
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        q.exec("SELECT Message || ' | ' || Details FROM EventLog ORDER BY ID");
-        while (q.next())
-            messages << q.value(0).toString();
+        for (const LogEntry& e : tc.LogEntries())
+            messages << e.message + " | " + e.details;
         return messages;
+    }
+    qint32 AddProgram(const QVariantHash& row)
+    {
+        const qint64 id = tc.AddProgram(row);
+        tc.ctx->database.DataPrograms.Requery();
+        return qint32(id);
+    }
+    void Start(qint32 id)
+    {
+        control.StartRecording(id, tc.clock.Now(), tc.clock.Now() + 0.01, "Test");
     }
 
     TestContext tc;
     Recorder& recorder;
-    RecordingControl* control;
+    RecordingControl& control;
+    clsRecordingStatus& status;
+    RecordingTaskLink& link;
 };
 
 } // namespace
@@ -46,89 +53,63 @@ class TestRecordingControl : public QObject {
     Q_OBJECT
 
 private slots:
-    void startThatEndsAtOnce_data();
-    void startThatEndsAtOnce();
-    void nullPlayerTitleUnderAfterProfileFailsTheStart();
+    void startsThatGoNoFurther_data();
+    void startsThatGoNoFurther();
     void stopRequest_data();
     void stopRequest();
     void whatTheTaskReportsFailsTheRecordingOnce_data();
     void whatTheTaskReportsFailsTheRecordingOnce();
 };
 
-void TestRecordingControl::startThatEndsAtOnce_data()
+void TestRecordingControl::startsThatGoNoFurther_data()
 {
     QTest::addColumn<QString>("situation");
+    QTest::addColumn<bool>("failed");
     QTest::addColumn<QString>("boxTitle");
-
-    QTest::newRow("suspended") << "suspended"
-                               << "";
-    QTest::newRow("program row gone") << "row gone"
-                                      << "";
-    QTest::newRow("manual without folder") << "no folder"
-                                           << "Error";
-    QTest::newRow("manual with too little disk")
-        << "no space"
-        << "Recording not started due to insufficient disk space.";
+    QTest::newRow("suspended") << "suspended" << false << "";
+    QTest::newRow("program row gone") << "row gone" << false << "";
+    QTest::newRow("manual without folder") << "no folder" << false << "Error";
+    QTest::newRow("manual, too little disk")
+        << "no space" << false << "Recording not started due to insufficient disk space.";
+    // Intended: a NULL StreamingPlayerClose is only tolerated when MixerProfileAfter is NULL
+    // too; otherwise the start fails before its plan and the occurrence is passed over.
+    QTest::newRow("no player title, a profile after") << "quirk" << true << "";
 }
 
-// Nothing is logged, no task is started, and Recording is clear again.
-void TestRecordingControl::startThatEndsAtOnce()
+// No task is started and Recording is clear again. A refused start logs nothing, a failed
+// one its error.
+void TestRecordingControl::startsThatGoNoFurther()
 {
     QFETCH(QString, situation);
+    QFETCH(bool, failed);
     QFETCH(QString, boxTitle);
-
     Fixture f;
-    qint32 id = 4711;
+    qint32 id = situation == "row gone" ? 4711 : -1;
+    QVariantHash row = Programs::Weekly("Program", "10:00:00", "11:00:00", "1111111");
     if (situation == "suspended") {
         f.tc.messageBox.answers << MsgResult::Yes;
-        f.ctx().appStatus.HandleSuspendMenuClickEvent(f.tc.messageBox);
-        QVERIFY(f.ctx().appStatus.Suspended());
+        f.tc.ctx->appStatus.HandleSuspendMenuClickEvent(f.tc.messageBox);
         f.tc.messageBox.asked.clear();
-        id = qint32(
-            f.tc.AddProgram(Programs::Weekly("Suspended", "10:00:00", "11:00:00", "1111111")));
-        f.ctx().database.DataPrograms.Requery();
+        id = f.AddProgram(row);
     } else if (situation == "no folder") {
-        id = -1;
-        f.ctx().options.DefaultRecordingDirectory.clear();
+        f.tc.ctx->options.DefaultRecordingDirectory.clear();
     } else if (situation == "no space") {
-        id = -1;
         f.tc.diskSpace.freeMb = 1.0;
+    } else if (situation == "quirk") {
+        row["StreamingPlayerClose"] = QVariant();
+        row["MixerProfileAfter"] = "evening";
+        id = f.AddProgram(row);
     }
-    const double now = f.ctx().Now();
-    QString description = "Test";
-    f.control->StartRecording(id, now, now + 0.01, description);
-
-    QVERIFY(!f.ctx().appStatus.Recording());
-    QVERIFY(f.recorder.Link().StartedTasks().isEmpty());
-    QVERIFY(f.LogMessages().isEmpty());
-    if (boxTitle.isEmpty()) {
-        QVERIFY(f.tc.messageBox.asked.isEmpty());
-    } else {
-        QCOMPARE(f.tc.messageBox.asked.size(), 1);
-        QCOMPARE(f.tc.messageBox.asked[0].title, boxTitle);
-    }
-}
-
-// Intended: a NULL StreamingPlayerClose is only tolerated when MixerProfileAfter is NULL too;
-// otherwise the start fails before its plan: nothing runs, and the occurrence is passed over.
-void TestRecordingControl::nullPlayerTitleUnderAfterProfileFailsTheStart()
-{
-    Fixture f;
-    QVariantHash row = Programs::Weekly("Quirk", "10:00:00", "11:00:00", "1111111");
-    row["StreamingPlayerClose"] = QVariant();
-    row["MixerProfileAfter"] = "evening";
-    const qint32 id = qint32(f.tc.AddProgram(row));
-    f.ctx().database.DataPrograms.Requery();
-    qint32 programId = id;
-    QString description;
-    const double now = f.ctx().Now();
-    f.control->StartRecording(programId, now, now + 0.01, description);
-
-    QVERIFY(!f.ctx().appStatus.Recording());
-    QVERIFY(f.recorder.Link().StartedTasks().isEmpty());
+    f.Start(id);
+    QVERIFY(!f.tc.ctx->appStatus.Recording());
+    QVERIFY(f.link.StartedTasks().isEmpty());
     const QStringList messages = f.LogMessages();
-    QCOMPARE(messages.size(), 1);
-    QVERIFY2(messages[0].contains("StartRecording"), qPrintable(messages[0]));
+    QCOMPARE(messages.size(), failed ? 1 : 0);
+    if (failed)
+        QVERIFY2(messages[0].contains("StartRecording"), qPrintable(messages[0]));
+    QCOMPARE(f.tc.messageBox.asked.size(), boxTitle.isEmpty() ? 0 : 1);
+    if (!boxTitle.isEmpty())
+        QCOMPARE(f.tc.messageBox.asked[0].title, boxTitle);
 }
 
 void TestRecordingControl::stopRequest_data()
@@ -140,35 +121,22 @@ void TestRecordingControl::stopRequest_data()
     QTest::addColumn<bool>("answerYes");
     QTest::addColumn<int>("queued");
     QTest::addColumn<QString>("question");
-    QTest::addColumn<bool>("stopped");
-
-    const QString save = "This will stop and save the recording in progress.  Are you sure you "
-                         "want to stop recording?";
-    const QString convert = "This will stop and convert the recording in progress to MP3.  Are "
-                            "you sure you want to stop recording?";
-    const QString conversion = "This will stop and save the MP3 conversion in progress.  Are you "
-                               "sure you want to stop the MP3 conversion?";
-    const QString conversionAndQueue =
-        "This will stop and save the MP3 conversion in progress and abort the remaining MP3 "
-        "conversions in the queue.   Are you sure you want to stop the MP3 conversion?";
-
-    QTest::newRow("manual, no confirmation")
-        << true << -1 << false << false << false << 0 << "" << true;
-    QTest::newRow("manual, confirmed no")
-        << true << -1 << false << true << false << 0 << save << false;
-    QTest::newRow("program always asks")
-        << true << 7 << false << false << true << 0 << save << true;
-    QTest::newRow("program to convert, no")
-        << true << 7 << true << false << false << 0 << convert << false;
-    QTest::newRow("conversion, queue empty")
-        << false << -1 << false << true << true << 0 << conversion << true;
+    // What tells the questions apart.
+    const QString save = "stop and save the recording in progress.";
+    const QString convert = "stop and convert the recording in progress to MP3.";
+    const QString conversion = "stop and save the MP3 conversion in progress.  Are";
+    const QString conversionAndQueue = "and abort the remaining MP3 conversions in the queue.";
+    QTest::newRow("manual, no confirmation") << true << -1 << false << false << false << 0 << "";
+    QTest::newRow("manual, confirmed no") << true << -1 << false << true << false << 0 << save;
+    QTest::newRow("program always asks") << true << 7 << false << false << true << 0 << save;
+    QTest::newRow("program to convert, no") << true << 7 << true << false << false << 0 << convert;
+    QTest::newRow("conversion, no") << false << -1 << false << true << false << 0 << conversion;
     QTest::newRow("conversion, queue waiting")
-        << false << -1 << false << true << true << 2 << conversionAndQueue << true;
-    QTest::newRow("conversion, no")
-        << false << -1 << false << true << false << 0 << conversion << false;
+        << false << -1 << false << true << true << 2 << conversionAndQueue;
 }
 
-// The stop of a recording posts one request; the stop of a conversion raises its flag.
+// The stop of a recording posts one request; the stop of a conversion raises its flag. It
+// stops without a question or on Yes.
 void TestRecordingControl::stopRequest()
 {
     QFETCH(bool, recording);
@@ -178,36 +146,29 @@ void TestRecordingControl::stopRequest()
     QFETCH(bool, answerYes);
     QFETCH(int, queued);
     QFETCH(QString, question);
-    QFETCH(bool, stopped);
-
     Fixture f;
-    AppContext& ctx = f.ctx();
     if (recording)
-        ctx.appStatus.SetRecording(true);
+        f.tc.ctx->appStatus.SetRecording(true);
     else
-        ctx.appStatus.SetConverting(true);
-    f.recorder.Status().ProgramId = programId;
-    f.recorder.Status().ConvertToMP3 = convert;
+        f.tc.ctx->appStatus.SetConverting(true);
+    f.status.ProgramId = programId;
+    f.status.ConvertToMP3 = convert;
+    ConversionQueue& queue = RecorderParts::Conversion(f.recorder);
     for (int i = 0; i < queued; ++i)
-        f.recorder.Conversion().Mp3ConvertQueue.append(std::make_shared<clsConvertToMP3Request>());
+        queue.Mp3ConvertQueue.append(std::make_shared<clsConvertToMP3Request>());
     f.tc.messageBox.answers << (answerYes ? MsgResult::Yes : MsgResult::No);
 
-    f.control->HandleStopRecordingRequest(confirm);
+    f.recorder.StopCommand(confirm);
 
-    if (question.isEmpty()) {
-        QVERIFY(f.tc.messageBox.asked.isEmpty());
-    } else {
-        QCOMPARE(f.tc.messageBox.asked.size(), 1);
-        QCOMPARE(f.tc.messageBox.asked[0].text, question);
+    QCOMPARE(f.tc.messageBox.asked.size(), question.isEmpty() ? 0 : 1);
+    if (!question.isEmpty()) {
+        QVERIFY2(f.tc.messageBox.asked[0].text.contains(question),
+                 qPrintable(f.tc.messageBox.asked[0].text));
         QCOMPARE(f.tc.messageBox.asked[0].buttons, MsgButtons::YesNo);
     }
-    if (recording) {
-        QCOMPARE(f.recorder.Status().StopRequested, stopped);
-        QVERIFY(!f.recorder.Conversion().StopMp3Conversion);
-    } else {
-        QCOMPARE(f.recorder.Conversion().StopMp3Conversion, stopped);
-        QVERIFY(!f.recorder.Status().StopRequested);
-    }
+    const bool stopped = question.isEmpty() || answerYes;
+    QCOMPARE(f.status.StopRequested, recording && stopped);
+    QCOMPARE(queue.StopMp3Conversion, !recording && stopped);
 }
 
 void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce_data()
@@ -216,20 +177,14 @@ void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce_data()
     QTest::addColumn<QString>("stopAsked");
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("detailsEnd");
+    const QString capture = "Error occurred during recording process.";
+    const QString silent = "No response from recording task.";
     const QString noAnswer =
         "system restart. \rThe error occurred during the following recording: Evening news";
-    QTest::newRow("capture error") << true << ""
-                                   << "Error occurred during recording process."
-                                   << "";
-    QTest::newRow("no keep-alive answer") << false << ""
-                                          << "No response from recording task." << noAnswer;
-    QTest::newRow("capture error after a stop request")
-        << true << "capturing"
-        << "Error occurred during recording process."
-        << "";
-    QTest::newRow("no keep-alive answer, stop asked while starting")
-        << false << "starting"
-        << "No response from recording task." << noAnswer;
+    QTest::newRow("capture error") << true << "" << capture << "";
+    QTest::newRow("capture error after a stop request") << true << "capturing" << capture << "";
+    QTest::newRow("no answer, stop asked while starting")
+        << false << "starting" << silent << noAnswer;
 }
 
 // The first report fails and ends the recording and is logged after the end; a second
@@ -242,32 +197,31 @@ void TestRecordingControl::whatTheTaskReportsFailsTheRecordingOnce()
     QFETCH(QString, message);
     QFETCH(QString, detailsEnd);
     Fixture f;
-    f.ctx().appStatus.SetRecording(true);
-    f.recorder.Status().Description = "Evening news";
-    RecordingTaskLink& link = f.recorder.Link();
+    f.tc.ctx->appStatus.SetRecording(true);
+    f.status.Description = "Evening news";
     // Without a task the start command is answered at once, as by a task that is gone.
     if (stopAsked == "capturing")
-        link.SendMessage(TaskProtocol::REC_MSG_START);
+        f.link.SendMessage(TaskProtocol::REC_MSG_START);
     if (!stopAsked.isEmpty())
-        f.control->RequestStop();
+        f.recorder.RequestStop();
     int entriesAtEnd = -1;
-    QObject::connect(f.control, &RecordingControl::UpdateRecordingsButtonsAndMenus,
+    QObject::connect(&f.recorder, &Recorder::UpdateRecordingsButtonsAndMenus,
                      [&] { entriesAtEnd = f.LogMessages().size(); });
     for (int i = 0; i < 2; ++i) {
         if (error)
-            emit f.recorder.Link().TaskError(1024);
+            emit f.link.TaskError(1024);
         else
-            emit f.recorder.Link().TaskNotResponding();
+            emit f.link.TaskNotResponding();
     }
-    QVERIFY(f.recorder.Status().Failed);
-    QVERIFY(!f.ctx().appStatus.Recording());
+    QVERIFY(f.status.Failed);
+    QVERIFY(!f.tc.ctx->appStatus.Recording());
     const QStringList messages = f.LogMessages();
     QCOMPARE(messages.size(), 1);
     QVERIFY(messages[0].startsWith(message + " | "));
     QVERIFY(messages[0].endsWith(detailsEnd));
     QCOMPARE(entriesAtEnd, error ? 0 : 1);
-    link.SendMessage(TaskProtocol::REC_MSG_START);
-    QCOMPARE(link.tmrStopRecording.Interval(), 0);
+    f.link.SendMessage(TaskProtocol::REC_MSG_START);
+    QCOMPARE(f.link.tmrStopRecording.Interval(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestRecordingControl)

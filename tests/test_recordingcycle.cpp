@@ -8,6 +8,7 @@
 #include "TestFiles.h"
 #include "TestParts.h"
 #include "formats/ModuleFileTime.h"
+#include "recording/RecorderParts.h"
 #include "sideactions/MixerProfiles.h"
 #include "taskcontract/RecParms.h"
 
@@ -208,9 +209,10 @@ private slots:
         r.AddProgram(Programs::Weekly("Primed", "10:00:05", "10:00:07", "0100000"));
         r.tc.clock.Set(At("10:00:02"));
         r.ctx().scheduler.ScheduleNextRecording();
-        r.recorder().HeartbeatTimer().Timer1_Timer();
+        RecorderParts::HeartbeatTimer(r.recorder()).Timer1_Timer();
         qint64 primed = 0;
-        QTRY_VERIFY_WITH_TIMEOUT((primed = PrimedTaskOf(r.recorder().Link())) != 0, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT((primed = PrimedTaskOf(RecorderParts::Link(r.recorder()))) != 0,
+                                 5000);
         QTest::qWait(1000);
         QVERIFY(r.Files().isEmpty());
         if (meanwhile == "kill") {
@@ -226,11 +228,11 @@ private slots:
         for (double at = At("10:00:04"); at <= At("10:00:09") && elapsed.elapsed() < 20000;
              at = AutomationDate::AddSeconds(at, 0.25)) {
             r.tc.clock.Set(at);
-            r.recorder().HeartbeatTimer().Timer1_Timer();
+            RecorderParts::HeartbeatTimer(r.recorder()).Timer1_Timer();
             QTest::qWait(250);
         }
         QTRY_VERIFY_WITH_TIMEOUT(!r.ctx().appStatus.Recording(), 12000);
-        QTRY_VERIFY_WITH_TIMEOUT(PrimedTaskOf(r.recorder().Link()) == 0, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(PrimedTaskOf(RecorderParts::Link(r.recorder())) == 0, 5000);
         QCOMPARE(r.Log().size(), logged.isEmpty() ? 0 : 1);
         if (!logged.isEmpty())
             QVERIFY2(r.Log()[0].details.contains(logged), qPrintable(r.Log()[0].details));
@@ -239,13 +241,14 @@ private slots:
             const NextProgram& next = r.ctx().scheduler.next;
             QVERIFY(!next.NextProgramFound || next.NextProgramStart > At("10:00:09"));
             QCOMPARE(r.starts, logged.isEmpty() ? 0 : 1);
-            QVERIFY(r.recorder().Link().StartedTasks().isEmpty());
+            QVERIFY(RecorderParts::Link(r.recorder()).StartedTasks().isEmpty());
             QVERIFY(r.Files().isEmpty());
             return;
         }
         QCOMPARE(r.starts, 1);
-        QCOMPARE(r.recorder().Link().StartedTasks().size(), 1);
-        QCOMPARE(r.recorder().Link().StartedTasks()[0] == primed, meanwhile.isEmpty());
+        QCOMPARE(RecorderParts::Link(r.recorder()).StartedTasks().size(), 1);
+        QCOMPARE(RecorderParts::Link(r.recorder()).StartedTasks()[0] == primed,
+                 meanwhile.isEmpty());
         QCOMPARE(r.Files(), QStringList{"060126_100005.WAV"});
         VerifyTone(r.folder + "/060126_100005.WAV");
         QCOMPARE(r.Recordings().size(), 1);
@@ -290,7 +293,7 @@ private slots:
         QVariantHash row = Programs::Weekly("Silent", "10:00:01", "10:00:03", "0100000");
         row.insert({{"LaunchAppAfter", "/usr/bin/after %p"}, {"LaunchAfterOnlyIfOk", -1}});
         r.AddProgram(row);
-        QVERIFY(r.Run(At("10:00:00"), [&] { r.recorder().Control().ToolbarPauseResume("p"); }));
+        QVERIFY(r.Run(At("10:00:00"), [&] { r.recorder().PauseCommand("p"); }));
         const QList<LogEntry> entries = r.Log();
         QCOMPARE(entries.size(), 1);
         QCOMPARE(entries[0].type, 2);
@@ -313,14 +316,15 @@ private slots:
         elapsed.start();
         QTimer::singleShot(0, [&] {
             QVERIFY(r.ctx().appStatus.Recording());
-            r.recorder().Control().HandleStopRecordingRequest(false);
+            r.recorder().StopCommand(false);
         });
         r.StartManual(At("12:00:00"), 60, "Stopped at once");
         QVERIFY(r.recorder().Status().StopRequested);
         QVERIFY(r.WaitUntilStopped(8000));
         QVERIFY2(elapsed.elapsed() < 8000, qPrintable(QString::number(elapsed.elapsed())));
-        QCOMPARE(r.recorder().Link().tmrStopRecording.Interval(), 0);
-        const QString task = "/proc/" + QString::number(r.recorder().Link().StartedTasks().last());
+        QCOMPARE(RecorderParts::Link(r.recorder()).tmrStopRecording.Interval(), 0);
+        const QString task =
+            "/proc/" + QString::number(RecorderParts::Link(r.recorder()).StartedTasks().last());
         QTRY_VERIFY_WITH_TIMEOUT(!QFileInfo::exists(task), 3000);
     }
 
@@ -335,7 +339,7 @@ private slots:
                                     RecordingRig::TaskProgram() + " \"$@\"\n")
                                        .toUtf8()));
         QVERIFY(QFile::setPermissions(limited, QFile::ReadOwner | QFile::ExeOwner));
-        r.recorder().Link().SetTaskProgram(limited);
+        r.recorder().SetTaskProgram(limited);
         r.AddProgram(Programs::Weekly("Full disk", "10:00:01", "10:00:30", "0100000"));
         QVERIFY(r.Run(At("10:00:00")));
 
@@ -450,7 +454,7 @@ private slots:
                  At("10:00:30"));
         for (int i = 0; i < 10; ++i) {
             r.tc.clock.AdvanceSeconds(0.25);
-            r.recorder().HeartbeatTimer().Timer1_Timer();
+            RecorderParts::HeartbeatTimer(r.recorder()).Timer1_Timer();
         }
         QCOMPARE(r.starts, 1);
         QVERIFY(!r.ctx().appStatus.Recording());

@@ -2,6 +2,7 @@
 #include "RecordingsListFixture.h"
 #include "TaskWaveSource.h"
 #include "TestFiles.h"
+#include "recording/RecorderParts.h"
 #include "recordingslist/ListFile.h"
 #include "recordingslist/SavedLists.h"
 
@@ -49,7 +50,7 @@ private slots:
     {
         ListFixture f;
         WriteWave(f.File("now.wav"));
-        f.tc.ctx->recorder.Status().FinalFile = f.File("now.wav");
+        RecorderParts::Status(f.tc.ctx->recorder).FinalFile = f.File("now.wav");
         f.list.AddFileToRecordingsList(f.File("now.wav"));
         QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
     }

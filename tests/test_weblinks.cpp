@@ -7,6 +7,7 @@
 #include "PulseFixture.h"
 #include "RecordingRig.h"
 #include "TestFiles.h"
+#include "recording/RecorderParts.h"
 #include "sideactions/ViewHtmlFile.h"
 
 #include <QFile>
@@ -126,7 +127,7 @@ private slots:
             {{"InternetLink", kUrl}, {"InternetLinkDelay", 3}, {"StreamingPlayerClose", ""}});
         double snapshotAt = 0;
         qsizetype launchesAtSnapshot = -1;
-        QObject::connect(&r.tc.ctx->recorder.HeartbeatTimer(),
+        QObject::connect(&RecorderParts::HeartbeatTimer(r.tc.ctx->recorder),
                          &Heartbeat::SnapshotWindowsBeforeLink, [&] {
                              snapshotAt = r.tc.clock.Now();
                              launchesAtSnapshot = r.tc.launcher.started.size();

@@ -3,6 +3,7 @@
 #include "Programs.h"
 #include "TestContext.h"
 #include "recording/Recorder.h"
+#include "recording/RecorderParts.h"
 #include "scheduling/Scheduler.h"
 #include "store/Options.h"
 
@@ -289,7 +290,7 @@ Soak::Soak(const SoakOptions& options)
     m_taskLog = m_tc.Root() + "/task.log";
     qputenv("NIGHTREEL_FAKE_PLAN", QByteArray("write=") + QByteArray::number(kFileBytes));
     qputenv("NIGHTREEL_FAKE_LOG", m_taskLog.toUtf8());
-    ctx.recorder.Link().SetTaskProgram(options.taskProgram);
+    ctx.recorder.SetTaskProgram(options.taskProgram);
     ctx.options.DefaultRecordingDirectory = m_tc.Root() + "/recordings";
     QDir().mkpath(ctx.options.DefaultRecordingDirectory);
     ctx.appStatus.SetReady(true);
@@ -479,7 +480,7 @@ void Soak::ModelTick(double reading)
 void Soak::SystemTick()
 {
     AppContext& ctx = *m_tc.ctx;
-    Heartbeat& heartbeat = ctx.recorder.HeartbeatTimer();
+    Heartbeat& heartbeat = RecorderParts::HeartbeatTimer(ctx.recorder);
     heartbeat.Timer1_Timer();
     // The harness is the timer: a tick that re-armed itself is taken back, and one that did
     // not has failed and ended the heartbeat.
@@ -523,7 +524,7 @@ qint64 Soak::Outage(qint64 utc)
         ctx.scheduler.ScheduleNextRecording();
         ctx.recorder.Start();
         // The harness is the timer.
-        ctx.recorder.HeartbeatTimer().Timer1.SetInterval(0);
+        RecorderParts::HeartbeatTimer(ctx.recorder).Timer1.SetInterval(0);
     }
     const QString cause =
         outage.asleep ? "the computer was asleep" : "the recorder was not running";

@@ -86,8 +86,7 @@ ControlService::ControlService(const ControlServices& services, QObject* parent)
         m_recordingFile = m_s.recorder.Status().FinalFile;
         emit RecordingStarted(m_s.recorder.Status().Description, m_recordingFile);
     });
-    connect(&recorder.Control(), &RecordingControl::RecordingEnded, this,
-            &ControlService::OnRecordingEnded);
+    connect(&recorder, &Recorder::RecordingEnded, this, &ControlService::OnRecordingEnded);
     connect(&m_s.appStatus, &clsAppStatus::Update, this, &ControlService::OnModeMaybeChanged);
     connect(&recorder, &Recorder::UpdateModeDisplay, this, &ControlService::OnModeMaybeChanged);
     connect(&m_s.error, &clsError::IndicationUpdated, this, [this] {
@@ -294,7 +293,7 @@ QString ControlService::StartManual(uint seconds, const QString& description)
                           tr("A recording is already in progress.")};
         if (description.trimmed().isEmpty())
             throw Refusal{QStringLiteral("DescriptionRequired"), tr("Please enter a description.")};
-        clsManualRecord& request = m_s.recorder.Manual();
+        clsManualRecord& request = m_s.manualRequest;
         request.Format.CopyFrom(m_s.defaultFormat);
         if (CheckFor2GbLimit(m_s.messageBox, request.Format, qint32(seconds)))
             return;

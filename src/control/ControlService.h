@@ -19,10 +19,13 @@ class Scheduler;
 class clsAppStatus;
 class clsError;
 class clsRecordingFormat;
+struct clsManualRecord;
 
 // What the bus interface works with.
 struct ControlServices {
     Recorder& recorder;
+    // The one manual request: a started manual recording is described here.
+    clsManualRecord& manualRequest;
     Scheduler& scheduler;
     AppDatabase& database;
     EventLog& log;

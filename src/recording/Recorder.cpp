@@ -6,11 +6,24 @@
 
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
     : QObject(parent)
-    , m_s(services)
+    , m_clock(services.clock)
+    , m_log(services.log)
+    , m_appStatus(services.appStatus)
+    , m_error(services.error)
+    , m_messageBox(services.messageBox)
+    , m_launcher(services.launcher)
+    , m_runtimeFolder(services.runtimeFolder)
+    , m_hasDisplay(services.hasDisplay)
+    , m_manual(services.manualRequest)
     , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status,
                    services.diskSpace, services.dataFolder + QStringLiteral("/conversions.json"))
     , m_link(services.log, services.appStatus, services.runtimeFolder)
-    , m_control(services, m_link, m_status, m_conversion, m_manual)
+    , m_control(RecordingControlServices{services.log, services.clock, services.options,
+                                         services.registry, services.appStatus, services.database,
+                                         services.scheduler, services.messageBox, services.launcher,
+                                         services.diskSpace, services.mixerProfiles,
+                                         services.windows, services.network, services.hasDisplay},
+                m_link, m_status, m_conversion, m_manual)
     , m_heartbeat(services.clock, services.log, services.options, services.launcher,
                   services.scheduler, services.appStatus, m_status)
     , m_statusBar(services.clock, services.log, services.options, services.appStatus,
@@ -34,6 +47,7 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     connect(&m_heartbeat, &Heartbeat::PurgeDue, this, &Recorder::PurgeDue);
     connect(&m_control, &RecordingControl::UpdateModeDisplay, this, &Recorder::UpdateModeDisplay);
     connect(&m_control, &RecordingControl::RecordingStarted, this, &Recorder::RecordingStarted);
+    connect(&m_control, &RecordingControl::RecordingEnded, this, &Recorder::RecordingEnded);
     connect(&m_control, &RecordingControl::UpdateRecordingsButtonsAndMenus, this,
             &Recorder::UpdateRecordingsButtonsAndMenus);
     connect(&m_control, &RecordingControl::ShowRecordingStatusForm, this,
@@ -91,7 +105,7 @@ void Recorder::Stop()
 
 void Recorder::StartManualRecording()
 {
-    const double now = m_s.clock.Now();
+    const double now = m_clock.Now();
     m_status.ProgramId = -1;
     m_control.StartRecording(-1, now, now + m_manual.DurationSeconds / 86400.0,
                              m_manual.Description);
@@ -110,17 +124,33 @@ ModeDisplay Recorder::Mode(ModeDisplay::Extra extra) const
 {
     extra.elapsedRemainingText = m_statusBar.ElapsedRemainingText();
     extra.convertingText = m_conversion.StatusBarDisplay();
-    if (m_conversion.CurrentConvertRequest)
-        extra.convertingDescription = m_conversion.CurrentConvertRequest->Description;
-    return ModeDisplay::Compute(m_s.appStatus, m_s.error, extra);
+    extra.convertingDescription = ConvertingDescription();
+    return ModeDisplay::Compute(m_appStatus, m_error, extra);
+}
+
+QString Recorder::ConvertingDescription() const
+{
+    const auto& request = m_conversion.CurrentConvertRequest;
+    return request ? request->Description : QString();
+}
+
+QStringList Recorder::FilesBeingWritten() const
+{
+    return {m_status.FinalFile, m_conversion.RunningDestination()};
+}
+
+QStringList Recorder::ResumeConversions(const QStringList& leftCaptures)
+{
+    m_conversion.LoadSavedQueue();
+    return m_conversion.KeepLeftCaptures(leftCaptures);
 }
 
 void Recorder::OpenInternetLink(const QString& link)
 {
-    if (!m_s.hasDisplay) {
-        m_s.log.LogEvent(EventInformation, tr("Web link not opened"),
-                         tr("There is no display to open it on: ") + link);
+    if (!m_hasDisplay) {
+        m_log.LogEvent(EventInformation, tr("Web link not opened"),
+                       tr("There is no display to open it on: ") + link);
         return;
     }
-    ViewHtmlFile(m_s.log, m_s.messageBox, m_s.launcher, m_s.runtimeFolder, link);
+    ViewHtmlFile(m_log, m_messageBox, m_launcher, m_runtimeFolder, link);
 }

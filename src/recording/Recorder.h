@@ -31,7 +31,7 @@ public:
     void Stop();
 
     // The user's commands. A manual recording takes its length, description, format and
-    // file name from the manual request and starts now.
+    // file name from the manual request (the one the context holds) and starts now.
     void StartManualRecording();
     void StopCommand(bool confirm) { m_control.HandleStopRecordingRequest(confirm); }
     void PauseCommand(const QString& command) { m_control.ToolbarPauseResume(command); }
@@ -41,21 +41,35 @@ public:
     // The mode as it stands, with the recording's and the conversion's texts filled in.
     ModeDisplay Mode(ModeDisplay::Extra extra) const;
 
-    clsRecordingStatus& Status() { return m_status; }
-    ConversionQueue& Conversion() { return m_conversion; }
-    RecordingTaskLink& Link() { return m_link; }
-    RecordingControl& Control() { return m_control; }
-    Heartbeat& HeartbeatTimer() { return m_heartbeat; }
-    const StatusBarPlus& StatusBar() const { return m_statusBar; }
-    KeepAwake& KeepAwakeControl() { return m_keepAwake; }
-    MissedRecordings& Missed() { return m_missed; }
-    // The manual request that a recording of program -1 starts from.
-    clsManualRecord& Manual() { return m_manual; }
+    // The clock's stop, the disk guard's and the service manager's: the task is asked to
+    // end the recording and save it.
+    void RequestStop() { m_control.RequestStop(); }
+
+    // The recording in progress, or the last one.
+    const clsRecordingStatus& Status() const { return m_status; }
+    // How long the recording runs, as the task bar shows it.
+    QString ElapsedText() const { return m_statusBar.ElapsedText(); }
+    // The description of the request being converted; empty when none is.
+    QString ConvertingDescription() const;
+    // The recording's file and the running conversion's: not to be listed as finished yet.
+    QStringList FilesBeingWritten() const;
+
+    // The recording task's program (tests and the soak run name one of their own) and the
+    // parameter file it reads at its start; a crashed run may have left the file behind.
+    QString TaskProgram() const { return m_link.TaskProgram(); }
+    void SetTaskProgram(const QString& program) { m_link.SetTaskProgram(program); }
+    QString ParameterFile() const { return m_link.ParameterFile(); }
+
+    // At the first activation: the conversions saved by the last run are queued again, and
+    // of the captures left behind those the queue does not take are returned for the list.
+    QStringList ResumeConversions(const QStringList& leftCaptures);
 
 signals:
     void StatusBarUpdated(const StatusBarPlus::Update& update);
     void RecordingStarted();
     void UpdateModeDisplay();
+    // The recording is over, however it ended (a conversion may follow).
+    void RecordingEnded();
     void UpdateRecordingsButtonsAndMenus();
     void ShowRecordingStatusForm();
     void UnloadRecordingStatusForm();
@@ -68,13 +82,24 @@ signals:
     void RecordingsMissed(const QStringList& lines);
 
 private:
+    // Tests and benchmarks drive the parts by hand through it.
+    friend struct RecorderParts;
+
     void OpenInternetLink(const QString& link);
     // The keep-awake and the silence alarm.
     void ConnectUnattended();
 
-    RecorderServices m_s;
+    const Clock& m_clock;
+    EventLog& m_log;
+    const clsAppStatus& m_appStatus;
+    const clsError& m_error;
+    MessageBoxPresenter& m_messageBox;
+    ProcessLauncher& m_launcher;
+    const QString m_runtimeFolder;
+    const bool m_hasDisplay;
     clsRecordingStatus m_status;
-    clsManualRecord m_manual;
+    // A manual recording starts from this request.
+    const clsManualRecord& m_manual;
     ConversionQueue m_conversion;
     RecordingTaskLink m_link;
     RecordingControl m_control;

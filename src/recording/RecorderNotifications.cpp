@@ -98,11 +98,8 @@ void RecorderNotifications::Heard(const QString& message, const QString& details
     if (it == m_events.cend())
         return;
     const Event& event = *it;
-    QString subject = m_recorder.Status().Description;
-    if (event.conversion) {
-        const auto& request = m_recorder.Conversion().CurrentConvertRequest;
-        subject = request ? request->Description : QString();
-    }
+    const QString subject =
+        event.conversion ? m_recorder.ConvertingDescription() : m_recorder.Status().Description;
     QString reason = event.reason;
     if (reason.isEmpty())
         reason = event.conversion ? details.section(u'\r', 0, 0) : message;

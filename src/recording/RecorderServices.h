@@ -17,9 +17,11 @@ class Scheduler;
 class WindowList;
 class clsAppStatus;
 class clsError;
+struct clsManualRecord;
 
 // What the recorder and its parts use of the rest of the system, handed in by whoever
-// composes the program (the application context, or a test).
+// composes the program (the application context, or a test). The recorder hands each part
+// the few of these it uses.
 struct RecorderServices {
     EventLog& log;
     Clock& clock;
@@ -44,4 +46,6 @@ struct RecorderServices {
     SleepInhibitor& sleepInhibitor;
     // Whether a desktop is there to open a browser or close a player window on.
     bool hasDisplay = true;
+    // The one manual request, filled by the dialog and the bus interface.
+    const clsManualRecord& manualRequest;
 };

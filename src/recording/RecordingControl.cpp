@@ -60,9 +60,10 @@ qint64 DueMsecs(const Clock& clock, double start)
 
 } // namespace
 
-RecordingControl::RecordingControl(const RecorderServices& services, RecordingTaskLink& link,
-                                   clsRecordingStatus& status, ConversionQueue& conversion,
-                                   const clsManualRecord& manual, QObject* parent)
+RecordingControl::RecordingControl(const RecordingControlServices& services,
+                                   RecordingTaskLink& link, clsRecordingStatus& status,
+                                   ConversionQueue& conversion, const clsManualRecord& manual,
+                                   QObject* parent)
     : QObject(parent)
     , m_s(services)
     , m_link(link)

@@ -24,12 +24,8 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , recorder(RecorderServices{log, clock, options, registry, appStatus, error, database,
                                 scheduler, messageBox, launcher, diskSpace, mixerProfiles, windows,
                                 network, folders.runtimeFolder, folders.dataFolder,
-                                seams.sleepInhibitor, seams.hasDisplay})
-    , recordingsList(database, log, options, clock,
-                     [this] {
-                         return QStringList{recorder.Status().FinalFile,
-                                            recorder.Conversion().RunningDestination()};
-                     })
+                                seams.sleepInhibitor, seams.hasDisplay, manualRequest})
+    , recordingsList(database, log, options, clock, [this] { return recorder.FilesBeingWritten(); })
     , savedLists(database, recordingsList, folders.dataFolder)
     , joystick(seams.joystick)
     , desktopNotifications(seams.notifications)
@@ -83,12 +79,22 @@ ProgramFormServices AppContext::ForProgramForm()
             clock,
             folders.runtimeFolder,
             mixerProfiles.Folder(),
-            recorder.Link().TaskProgram()};
+            recorder.TaskProgram()};
 }
 
 ControlServices AppContext::ForControl(CallMessageBox& callBox)
 {
-    return {recorder,   scheduler,      database, log,
-            error,      appStatus,      options,  clock,
-            WfxDefault, recordingsList, callBox,  mixerProfiles.Folder()};
+    return {recorder,
+            manualRequest,
+            scheduler,
+            database,
+            log,
+            error,
+            appStatus,
+            options,
+            clock,
+            WfxDefault,
+            recordingsList,
+            callBox,
+            mixerProfiles.Folder()};
 }

@@ -98,6 +98,9 @@ public:
     clsRecordingFormat WfxDefault;
     // Where WfxDefault is read from and saved to.
     DefaultFormatStore defaultFormats;
+    // The one manual request that a recording of program -1 starts from: the manual dialog
+    // and the bus interface fill it, the recorder reads it.
+    clsManualRecord manualRequest;
     Recorder recorder;
     RecordingsList recordingsList;
     SavedLists savedLists;

@@ -27,7 +27,7 @@ void QuitWhenIdle(AppContext& ctx)
         "HeadlessStart", "Asked to end: the recording in progress is saved first; conversions "
                          "to MP3 go on at the next start.");
     if (ctx.appStatus.Recording())
-        ctx.recorder.Control().RequestStop();
+        ctx.recorder.RequestStop();
     auto* poll = new QTimer(QCoreApplication::instance());
     QObject::connect(poll, &QTimer::timeout, poll, [&ctx] {
         if (!ctx.appStatus.Recording())

@@ -27,7 +27,7 @@ void MainFormController::Form_Load()
         m_ctx.log, "Main Form Load", [&] { InitializeVariables(); },
         [&] { m_ctx.options.GetOptions(m_ctx.registry); },
         // A crashed run may have left its parameter file.
-        [&] { QFile::remove(m_ctx.recorder.Link().ParameterFile()); });
+        [&] { QFile::remove(m_ctx.recorder.ParameterFile()); });
 }
 
 void MainFormController::InitializeVariables()
@@ -35,7 +35,6 @@ void MainFormController::InitializeVariables()
     m_ctx.scheduler.next = NextProgram();
     if (m_ctx.audioDevices.CountCaptureSources() < 1)
         m_ctx.error.SetNoAudioRecordDevice(true);
-    m_ctx.recorder.Conversion().StopMp3Conversion = false;
 }
 
 void MainFormController::InitializeForFirstActivation(const FolderChooser& chooser)
@@ -97,12 +96,10 @@ void MainFormController::RemoveTemporaryRecordings(const QString& folder)
             paths << dir.filePath(name);
         return paths;
     };
-    ConversionQueue& conversion = m_ctx.recorder.Conversion();
-    conversion.LoadSavedQueue();
     // An incomplete MP3 goes: its capture is converted again. A second instance must leave
     // alone what the first one writes.
     OpenFiles::RemoveUnlessInUse(files(QStringLiteral("*.MP3.TMP")));
-    for (const QString& kept : conversion.KeepLeftCaptures(files(QStringLiteral("*.WAV.TMP"))))
+    for (const QString& kept : m_ctx.recorder.ResumeConversions(files(QStringLiteral("*.WAV.TMP"))))
         m_ctx.recordingsList.AddFileToRecordingsList(kept);
 }
 
@@ -139,7 +136,7 @@ void MainFormController::Form_Unload()
 {
     m_ctx.recorder.Stop();
     m_ctx.database.CloseAll();
-    QFile::remove(m_ctx.recorder.Link().ParameterFile());
+    QFile::remove(m_ctx.recorder.ParameterFile());
 }
 
 void MainFormController::mnuCompactDb_Click()

@@ -277,8 +277,8 @@ void frmMain::ConnectManualRecording()
 {
     m_manualRecording = new ManualRecordCommands(
         ManualRecordServices{m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.messageBox,
-                             m_ctx.appStatus, m_ctx.recorder.Manual(), m_ctx.WfxDefault,
-                             m_ctx.recorder.Link().TaskProgram()},
+                             m_ctx.appStatus, m_ctx.manualRequest, m_ctx.WfxDefault,
+                             m_ctx.recorder.TaskProgram()},
         m_ctx.recorder, this);
     for (const char* name : {"ToolbarMain.Record", "mnuManualRecording"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, m_manualRecording,
@@ -445,7 +445,7 @@ void frmMain::ShowStatusBar(const StatusBarPlus::Update& u)
         SetIfChanged(ui.ModeStatus, u.modeText);
     if (m_ctx.appStatus.Recording() && m_recordingStatusForm) {
         if (m_ctx.options.ShowRecordingTimeInTaskBar)
-            m_recordingStatusForm->setWindowTitle(m_ctx.recorder.StatusBar().ElapsedText());
+            m_recordingStatusForm->setWindowTitle(m_ctx.recorder.ElapsedText());
         else
             m_recordingStatusForm.reset();
     }
@@ -462,7 +462,7 @@ void frmMain::ShowRecordingStatusForm()
     if (!m_ctx.options.ShowRecordingTimeInTaskBar)
         return;
     m_recordingStatusForm = std::make_unique<frmRecordingStatus>();
-    m_recordingStatusForm->setWindowTitle(m_ctx.recorder.StatusBar().ElapsedText());
+    m_recordingStatusForm->setWindowTitle(m_ctx.recorder.ElapsedText());
     m_recordingStatusForm->showMinimized();
 }
 

@@ -1,5 +1,7 @@
 #include "RecordingRig.h"
 
+#include "recording/RecorderParts.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -12,11 +14,11 @@ RecordingRig::RecordingRig(bool opened)
     QDir().mkpath(folder);
     tc.ctx->registry.SaveSetting("Settings", "DefaultRecordingDirectory", folder);
     tc.ctx->options.DefaultRecordingDirectory = folder;
-    recorder().Link().SetTaskProgram(TaskProgram());
-    QObject::connect(&recorder().HeartbeatTimer(), &Heartbeat::StartRecordingDue,
+    recorder().SetTaskProgram(TaskProgram());
+    QObject::connect(&RecorderParts::HeartbeatTimer(recorder()), &Heartbeat::StartRecordingDue,
                      [this] { ++starts; });
     if (opened) {
-        recorder().Manual().Format.SetToPcm(1, 22050, 16);
+        ctx().manualRequest.Format.SetToPcm(1, 22050, 16);
         tc.OpenDatabase();
         tc.ctx->appStatus.SetReady(true);
     }
@@ -64,11 +66,11 @@ bool RecordingRig::Run(double from, const std::function<void()>& atStart, int li
     bool began = false;
     while (elapsed.elapsed() < limitMs) {
         tc.clock.Set(AutomationDate::AddSeconds(from, elapsed.elapsed() / 1000.0));
-        recorder().HeartbeatTimer().Timer1_Timer();
+        RecorderParts::HeartbeatTimer(recorder()).Timer1_Timer();
         const bool recording = ctx().appStatus.Recording();
         if ((recording || starts > 0) && !began) {
             began = true;
-            parmsAtStart = RecParms::Read(recorder().Link().ParameterFile());
+            parmsAtStart = RecParms::Read(recorder().ParameterFile());
             durationAtStart = recorder().Status().DurationSeconds;
             if (atStart)
                 atStart();
@@ -82,10 +84,10 @@ bool RecordingRig::Run(double from, const std::function<void()>& atStart, int li
 
 void RecordingRig::StartManual(double from, double seconds, const QString& description)
 {
-    recorder().Status().ProgramId = -1;
+    RecorderParts::Status(recorder()).ProgramId = -1;
     tc.clock.Set(from);
-    recorder().Control().StartRecording(-1, from, AutomationDate::AddSeconds(from, seconds),
-                                        description);
+    RecorderParts::Control(recorder())
+        .StartRecording(-1, from, AutomationDate::AddSeconds(from, seconds), description);
 }
 
 bool RecordingRig::WaitUntilStopped(int ms)
