@@ -12,16 +12,6 @@
 #include <QRadioButton>
 #include <QtTest>
 
-namespace {
-
-void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
-{
-    std::memcpy(format.mwfx(), record.constData(), size_t(record.size()));
-    format.CalcRemainingVarsFromMwfx();
-}
-
-} // namespace
-
 class TestFrmRecordFormat : public QObject {
     Q_OBJECT
 

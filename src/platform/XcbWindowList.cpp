@@ -154,7 +154,7 @@ private:
     {
         XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
             m_c, xcb_intern_atom(m_c, 0, uint16_t(std::strlen(name)), name), nullptr));
-        return reply ? reply->atom : XCB_ATOM_NONE;
+        return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
     }
 
     // A window manager announces itself on the root and on a window of its own.
