@@ -124,6 +124,10 @@
         <source>The file could not be deleted; see the event log.</source>
         <translation>Die Datei konnte nicht gelöscht werden; siehe Ereignisprotokoll.</translation>
     </message>
+    <message>
+        <source>The request failed; see the event log.</source>
+        <translation>Die Anfrage ist fehlgeschlagen; siehe Ereignisprotokoll.</translation>
+    </message>
 </context>
 <context>
     <name>ConversionQueue</name>
