@@ -108,6 +108,7 @@ private slots:
 
     // The purge deletes old recordings that are listed and in the recording folder, with
     // their CUE sheets, and their rows; the user's own files in that folder stay, however old.
+    // A purge that deleted something also drops the rows of files gone from that folder.
     void thePurgeDeletesOldListedRecordingsOnly()
     {
         ListFixture f;
@@ -122,6 +123,9 @@ private slots:
         for (const char* name : {"old.wav", "old.mp3", "new.wav"})
             f.list.AddFileToRecordingsList(f.File(name));
         f.list.AddFileToRecordingsList(elsewhere + "/old.wav");
+        WriteWave(f.File("gone.wav"));
+        f.list.AddFileToRecordingsList(f.File("gone.wav"));
+        QVERIFY(QFile::remove(f.File("gone.wav")));
         f.tc.clock.Set(QDateTime::currentDateTime());
         const QDateTime longAgo = QDateTime::currentDateTime().addDays(-40);
         for (const QString& path : old) {
