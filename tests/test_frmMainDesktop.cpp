@@ -197,6 +197,11 @@ private slots:
     // The click on a notification brings the window forward with the event log open.
     void clickingANotificationOpensTheEventLog()
     {
+        // The stand-in numbers notifications from 1: this one is the first when run alone.
+        m_tc->diskSpace.freeMb = 1.0;
+        ctx().recorder.UpdateStatusBarPlus();
+        m_tc->diskSpace.freeMb.reset();
+        ctx().recorder.UpdateStatusBarPlus();
         m_form->showMinimized();
         QString opened;
         bool windowForward = false;
