@@ -45,7 +45,8 @@ struct OptionsFixture {
                                            c.WfxDefault,
                                            c.defaultFormats,
                                            [&c] { c.recorder.UpdateStatusBarPlus(); },
-                                           QStringLiteral(NIGHTREEL_BIN_DIR)};
+                                           QStringLiteral(NIGHTREEL_BIN_DIR),
+                                           c.audioDevices};
         auto form = std::make_unique<frmOptions>(services, false, nullptr);
         form->show();
         form->activateWindow();

@@ -83,7 +83,8 @@ ProgramFormServices AppContext::ForProgramForm()
             clock,
             folders.runtimeFolder,
             mixerProfiles.Folder(),
-            recorder.TaskProgram()};
+            recorder.TaskProgram(),
+            audioDevices};
 }
 
 ControlServices AppContext::ForControl(CallMessageBox& callBox)
