@@ -47,7 +47,8 @@ void PulseInputLevel::OnContextState(pa_context* context, void* self)
     auto* l = static_cast<PulseInputLevel*>(self);
     if (pa_context_get_state(context) != PA_CONTEXT_READY || l->m_stream)
         return;
-    const pa_sample_spec sampleSpec{PA_SAMPLE_FLOAT32NE, 1, PeaksPerSecond};
+    const pa_sample_spec sampleSpec{
+        .format = PA_SAMPLE_FLOAT32NE, .rate = PeaksPerSecond, .channels = 1};
     l->m_stream = pa_stream_new(context, "Input level", &sampleSpec, nullptr);
     if (!l->m_stream)
         return;
