@@ -23,18 +23,24 @@
 #include <algorithm>
 
 namespace {
-// The notification area docked at the top of the test's display.
+// The notification area docked at the top of the test's display. A trayer that quits before
+// its window shows is started again; what the last one said is kept for the failure message.
+QString g_trayOutput;
 bool StartTray(QProcess& trayer)
 {
-    trayer.start("trayer",
-                 {"--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24",
-                  "--SetDockType", "true", "--transparent", "false", "--tint", "0x404050"});
-    if (!trayer.waitForStarted(5000))
-        return false;
-    for (int i = 0; i < 100; ++i) {
-        if (QProcess::execute("xdotool", {"search", "--classname", "trayer"}) == 0)
-            return true;
-        QTest::qSleep(100);
+    trayer.setProcessChannelMode(QProcess::MergedChannels);
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        trayer.start("trayer", {"--edge", "top", "--align", "right", "--widthtype", "request",
+                                "--height", "24", "--SetDockType", "true", "--transparent", "false",
+                                "--tint", "0x404050"});
+        for (int i = 0; i < 100 && trayer.waitForStarted(5000); ++i) {
+            if (QProcess::execute("xdotool", {"search", "--classname", "trayer"}) == 0)
+                return true;
+            QTest::qSleep(100);
+        }
+        trayer.kill();
+        trayer.waitForFinished(3000);
+        g_trayOutput = QString::fromLocal8Bit(trayer.readAll());
     }
     return false;
 }
@@ -100,7 +106,7 @@ private slots:
         if (!g_haveDisplay)
             QSKIP("no X display could be made (Xvfb)");
         // The notification area's absence is a failure, not a reason to skip.
-        QVERIFY2(g_haveTray, "trayer shows no window");
+        QVERIFY2(g_haveTray, qPrintable("trayer shows no window: " + g_trayOutput));
         m_noSound = RecordingRig::StartSound(m_pulse);
         m_rig = std::make_unique<RecordingRig>(false);
         m_form = std::make_unique<frmMain>(
