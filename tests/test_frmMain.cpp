@@ -129,7 +129,7 @@ private slots:
         QFETCH(bool, folder);
         QFETCH(int, sources);
         Started s(folder);
-        s.tc.audioDevices.sources = sources;
+        s.tc.audioDevices.sources.resize(sources);
         s.tc.messageBox.answers << MsgResult::No;
         s.Activate();
         QCOMPARE(s.tc.messageBox.asked.size(), folder ? 0 : 1);

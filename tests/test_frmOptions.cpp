@@ -45,7 +45,8 @@ struct OptionsFixture {
                                            c.WfxDefault,
                                            c.defaultFormats,
                                            [&c] { c.recorder.UpdateStatusBarPlus(); },
-                                           QStringLiteral(NIGHTREEL_BIN_DIR)};
+                                           QStringLiteral(NIGHTREEL_BIN_DIR),
+                                           c.audioDevices};
         auto form = std::make_unique<frmOptions>(services, false, nullptr);
         form->show();
         form->activateWindow();
@@ -121,6 +122,9 @@ private slots:
             << QStringList{"chkShowSplashScreen=0", "chkPurgeOldRecordings=1", "txtPurgeDays=2"}
             << true << QStringList{"PurgeDays==", "PurgeRecordings==", "ShowSplashScreen=False"}
             << false << false;
+        QTest::newRow("an input chosen from the list")
+            << true << QStringList{"cboRecordingInput=Monitor of the fake output"} << false
+            << QStringList{"RecordingInput=fake.monitor"} << false << false;
         QTest::newRow("leaving the padding lowers 700 to 600")
             << true << QStringList{"txtPaddingSeconds=700"} << false
             << QStringList{"PaddingSeconds=600"} << false << false;

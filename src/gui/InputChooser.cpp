@@ -1,6 +1,6 @@
 #include "gui/InputChooser.h"
 
-#include "platform/PulseAudioDevices.h"
+#include "platform/AudioDevices.h"
 
 #include <algorithm>
 
@@ -20,7 +20,7 @@ InputChooser::InputChooser(QWidget* parent)
 void InputChooser::SetInputName(const QString& name)
 {
     setCurrentIndex(0);
-    if (m_listed)
+    if (m_devices)
         Rebuild(name);
 }
 
@@ -29,14 +29,14 @@ QString InputChooser::InputName() const
     return currentData(NamedInputRole).toBool() ? currentData().toString() : QString();
 }
 
-void InputChooser::SetListed(bool listed)
+void InputChooser::ListInputs(AudioDevices& devices)
 {
-    m_listed = listed;
+    m_devices = &devices;
 }
 
 void InputChooser::showPopup()
 {
-    if (m_listed)
+    if (m_devices)
         Rebuild(InputName());
     QComboBox::showPopup();
 }
@@ -50,7 +50,7 @@ void InputChooser::Rebuild(const QString& chosen)
         const QSignalBlocker quiet(this);
         while (count() > 1 && itemData(1, NamedInputRole).toBool())
             removeItem(1);
-        QList<CaptureSource> sources = PulseAudioDevices().CaptureSources();
+        QList<CaptureSource> sources = m_devices->CaptureSources();
         const auto known = [&sources](const QString& name) {
             return std::any_of(sources.cbegin(), sources.cend(),
                                [&name](const CaptureSource& s) { return s.name == name; });

@@ -2,10 +2,13 @@
 
 #include <QComboBox>
 
+class AudioDevices;
+
 // A list of the sound server's inputs by their descriptions, the monitors of the outputs
 // included, after "The sound server's default input"; each item holds its source's name. The
 // list is read again each time it opens, so a device plugged in since shows up. Items an
-// owner adds after the inputs stay where they are.
+// owner adds after the inputs stay where they are. Until it is given the sound system to
+// list, it holds its first item (and an owner's) alone.
 class InputChooser : public QComboBox {
     Q_OBJECT
 public:
@@ -16,8 +19,7 @@ public:
     void SetInputName(const QString& name);
     // Empty for the default input and for any item that is not an input.
     QString InputName() const;
-    // Unlisted, it holds its first item (and an owner's) alone; listed is the default.
-    void SetListed(bool listed);
+    void ListInputs(AudioDevices& devices);
 
     void showPopup() override;
 
@@ -26,5 +28,5 @@ private:
     // unless an owner's item was chosen.
     void Rebuild(const QString& chosen);
 
-    bool m_listed = true;
+    AudioDevices* m_devices = nullptr;
 };

@@ -5,11 +5,12 @@
 
 #include <QHBoxLayout>
 
-RecordingInputBox::RecordingInputBox(QWidget* parent)
+RecordingInputBox::RecordingInputBox(AudioDevices& devices, QWidget* parent)
     : QGroupBox(tr("&Input"), parent)
     , cboRecordingInput(new InputChooser)
-    , meterRecordingInput(new InputLevelMeter)
+    , meterRecordingInput(new InputLevelMeter(devices))
 {
+    cboRecordingInput->ListInputs(devices);
     setObjectName(QStringLiteral("frameRecordingInput"));
     cboRecordingInput->setObjectName(QStringLiteral("cboRecordingInput"));
     meterRecordingInput->setObjectName(QStringLiteral("meterRecordingInput"));

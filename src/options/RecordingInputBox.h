@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 
+class AudioDevices;
 class InputChooser;
 class InputLevelMeter;
 
@@ -10,7 +11,7 @@ class InputLevelMeter;
 class RecordingInputBox : public QGroupBox {
     Q_OBJECT
 public:
-    explicit RecordingInputBox(QWidget* parent = nullptr);
+    explicit RecordingInputBox(AudioDevices& devices, QWidget* parent = nullptr);
 
     // By source name; empty for the server's default input.
     void SetInputName(const QString& name);

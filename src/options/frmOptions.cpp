@@ -169,7 +169,7 @@ QWidget* frmOptions::BuildRecordTab()
     connect(btnChangeRecordingFolder, &QPushButton::clicked, this,
             &frmOptions::btnChangeRecordingFolder_Click);
     layout->addWidget(folder);
-    frameRecordingInput = new RecordingInputBox;
+    frameRecordingInput = new RecordingInputBox(m_s.audioDevices);
     layout->addWidget(frameRecordingInput);
 
     auto* format = new QGroupBox(tr("Default Recording Format"));

@@ -6,6 +6,7 @@
 #include <array>
 #include <functional>
 
+class AudioDevices;
 class DefaultFormatStore;
 class EventLog;
 class MessageBoxPresenter;
@@ -37,6 +38,8 @@ struct OptionsFormServices {
     std::function<void()> updateStatusBarPlus;
     // The folder of the running program, where its desktop entry lies.
     QString programFolder;
+    // The inputs to record from, and their level.
+    AudioDevices& audioDevices;
 };
 
 // "Options": the user's settings on five tabs. Nothing is stored before OK, and OK stores

@@ -1,5 +1,7 @@
 #include "platform/PulseAudioDevices.h"
 
+#include "platform/PulseInputLevel.h"
+
 #include <pulse/pulseaudio.h>
 
 namespace {
@@ -39,11 +41,6 @@ void OnState(pa_context* context, void* userdata)
 
 } // namespace
 
-int PulseAudioDevices::CountCaptureSources()
-{
-    return int(CaptureSources().size());
-}
-
 QList<CaptureSource> PulseAudioDevices::CaptureSources()
 {
     Query query;
@@ -62,4 +59,9 @@ QList<CaptureSource> PulseAudioDevices::CaptureSources()
         pa_context_unref(context);
     pa_mainloop_free(loop);
     return query.sources;
+}
+
+std::unique_ptr<InputLevel> PulseAudioDevices::ListenToInput(const QString& name)
+{
+    return std::make_unique<PulseInputLevel>(name);
 }

@@ -18,12 +18,7 @@ Recorder::Recorder(const RecorderServices& services, QObject* parent)
     , m_conversion(services.log, services.options, services.appStatus, services.launcher, m_status,
                    services.diskSpace, services.dataFolder + QStringLiteral("/conversions.json"))
     , m_link(services.log, services.appStatus, services.runtimeFolder)
-    , m_control(RecordingControlServices{services.log, services.clock, services.options,
-                                         services.registry, services.appStatus, services.database,
-                                         services.scheduler, services.messageBox, services.launcher,
-                                         services.diskSpace, services.mixerProfiles,
-                                         services.windows, services.network, services.hasDisplay},
-                m_link, m_status, m_conversion, m_manual)
+    , m_control(services, m_link, m_status, m_conversion, m_manual)
     , m_heartbeat(services.clock, services.log, services.options, services.launcher,
                   services.scheduler, services.appStatus, m_status)
     , m_statusBar(services.clock, services.log, services.options, services.appStatus,

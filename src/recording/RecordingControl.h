@@ -1,6 +1,7 @@
 #pragma once
 
 #include "formats/clsRecordingFormat.h"
+#include "recording/RecordingControlServices.h"
 #include "recording/RecordingEndPlan.h"
 #include "recording/RecordingPlan.h"
 #include "recording/clsConvertToMP3Request.h"
@@ -11,44 +12,9 @@
 #include <QString>
 #include <memory>
 
-class AppDatabase;
-class Clock;
 class ConversionQueue;
-class DiskSpace;
-class EventLog;
-class MessageBoxPresenter;
-class MixerProfiles;
-class NetworkConnections;
-class Options;
-class ProcessLauncher;
 class RecordingTaskLink;
-class RegKeys;
-class Scheduler;
-class WindowList;
-class clsAppStatus;
 struct clsRecordingStatus;
-
-// What the recording control uses of the rest of the system.
-struct RecordingControlServices {
-    EventLog& log;
-    Clock& clock;
-    Options& options;
-    // The recent recordings of the File menu are saved there.
-    RegKeys& registry;
-    clsAppStatus& appStatus;
-    AppDatabase& database;
-    Scheduler& scheduler;
-    MessageBoxPresenter& messageBox;
-    // The application after a recording.
-    ProcessLauncher& launcher;
-    DiskSpace& diskSpace;
-    MixerProfiles& mixerProfiles;
-    // The streaming player's window is closed at the end, the connections hung up.
-    WindowList& windows;
-    NetworkConnections& network;
-    // Whether a desktop is there to close a player window on.
-    bool hasDisplay = true;
-};
 
 // The life of one recording, from a row of Programs (or a manual request) to a file and a
 // row of Recordings: the start, the stop request, the user's pause, the end with its

@@ -3,6 +3,7 @@
 #include <QString>
 
 class AppDatabase;
+class AudioDevices;
 class Clock;
 class EventLog;
 class MessageBoxPresenter;
@@ -23,4 +24,6 @@ struct ProgramFormServices {
     QString mixerFolder;
     // The recording task, which tests a stream's address.
     QString taskProgram;
+    // The inputs a program may record from.
+    AudioDevices& audioDevices;
 };

@@ -27,7 +27,6 @@ SourceChooser::SourceChooser(QWidget* parent)
     cboSource->setObjectName(QStringLiteral("cboSource"));
     // Where a program or a manual recording names no input of its own.
     cboSource->setItemText(0, tr("The input chosen in the options"));
-    m_inputs->SetListed(false);
     cboSource->addItem(tr("Internet stream"));
     cboSource->setItemData(cboSource->count() - 1, true, StreamItemRole);
     txtStreamUrl = new QLineEdit;
@@ -77,9 +76,9 @@ void SourceChooser::SetStreamUrl(const QString& address)
     cboSource->setCurrentIndex(address.trimmed().isEmpty() ? 0 : cboSource->count() - 1);
 }
 
-void SourceChooser::ListInputs()
+void SourceChooser::ListInputs(AudioDevices& devices)
 {
-    m_inputs->SetListed(true);
+    m_inputs->ListInputs(devices);
 }
 
 void SourceChooser::SetInputName(const QString& name)

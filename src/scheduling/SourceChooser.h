@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 
+class AudioDevices;
 class InputChooser;
 class QComboBox;
 class QLabel;
@@ -23,7 +24,7 @@ public:
 
     void SetTaskProgram(const QString& taskProgram);
     // Offers the server's inputs by name after the options' one (the program editor).
-    void ListInputs();
+    void ListInputs(AudioDevices& devices);
 
     // An empty address chooses the first item, the options' input.
     void SetStreamUrl(const QString& address);

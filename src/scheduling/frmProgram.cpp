@@ -87,7 +87,7 @@ frmProgram::frmProgram(const ProgramFormServices& services, QWidget* owner)
         dateFormat.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
     dtpkrOnceDate->setDisplayFormat(dateFormat);
     frameSource->SetTaskProgram(m_services.taskProgram);
-    frameSource->ListInputs();
+    frameSource->ListInputs(m_services.audioDevices);
     if (IsWaylandSession())
         frameCloseStreamingPlayer->setToolTip(StreamingPlayer::WaylandNote());
 

@@ -21,10 +21,14 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , scheduler(clock, database, log, messageBox, options)
     , mixerProfiles(log, mixer, folders.dataFolder + QStringLiteral("/mixer"))
     , defaultFormats(log, registry, options, database.DataInfo)
-    , recorder(RecorderServices{log, clock, options, registry, appStatus, error, database,
-                                scheduler, messageBox, launcher, diskSpace, mixerProfiles, windows,
-                                network, folders.runtimeFolder, folders.dataFolder,
-                                seams.sleepInhibitor, seams.hasDisplay, manualRequest})
+    , recorder(RecorderServices{{log, clock, options, registry, appStatus, database, scheduler,
+                                 messageBox, launcher, diskSpace, mixerProfiles, windows, network,
+                                 seams.hasDisplay},
+                                error,
+                                folders.runtimeFolder,
+                                folders.dataFolder,
+                                seams.sleepInhibitor,
+                                manualRequest})
     , recordingsList(database, log, options, clock, [this] { return recorder.FilesBeingWritten(); })
     , savedLists(database, recordingsList, folders.dataFolder)
     , joystick(seams.joystick)
@@ -79,7 +83,8 @@ ProgramFormServices AppContext::ForProgramForm()
             clock,
             folders.runtimeFolder,
             mixerProfiles.Folder(),
-            recorder.TaskProgram()};
+            recorder.TaskProgram(),
+            audioDevices};
 }
 
 ControlServices AppContext::ForControl(CallMessageBox& callBox)

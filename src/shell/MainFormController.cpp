@@ -33,7 +33,7 @@ void MainFormController::Form_Load()
 void MainFormController::InitializeVariables()
 {
     m_ctx.scheduler.next = NextProgram();
-    if (m_ctx.audioDevices.CountCaptureSources() < 1)
+    if (m_ctx.audioDevices.CaptureSources().isEmpty())
         m_ctx.error.SetNoAudioRecordDevice(true);
 }
 

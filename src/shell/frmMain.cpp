@@ -266,7 +266,8 @@ void frmMain::ConnectOptions()
                                            m_ctx.WfxDefault,
                                            m_ctx.defaultFormats,
                                            [this] { UpdateStatusBarPlus(); },
-                                           QCoreApplication::applicationDirPath()};
+                                           QCoreApplication::applicationDirPath(),
+                                           m_ctx.audioDevices};
         frmOptions(services, MediaPlayerAvailable(), this).exec();
     });
 }

@@ -27,16 +27,24 @@
 #include <memory>
 #include <optional>
 
-// A sound system with as many capture sources as the test says, or one that fails to answer.
+// A sound system with the capture sources the test says (one unless it says otherwise), all
+// of them silent, or one that fails to answer.
 class FakeAudioDevices : public AudioDevices {
 public:
-    int CountCaptureSources() override
+    QList<CaptureSource> CaptureSources() override
     {
         if (fails)
             throw RuntimeError(ErrorNumber::PathFileAccess, "the sound system did not answer");
         return sources;
     }
-    int sources = 1;
+    std::unique_ptr<InputLevel> ListenToInput(const QString&) override
+    {
+        struct Silence : InputLevel {
+            float TakePeak() override { return 0.0f; }
+        };
+        return std::make_unique<Silence>();
+    }
+    QList<CaptureSource> sources{{"fake.monitor", "Monitor of the fake output"}};
     bool fails = false;
 };
 
