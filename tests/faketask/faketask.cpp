@@ -10,7 +10,7 @@
 //   afterstart=A+B    posts after answering 1025: N:ARG posts N with ARG, "raw" sends bytes
 //                     that are no frame
 //   keepalive=N       answers every Nth keep-alive question (0: never; default 1)
-//   stop=MS           posts 1045 MS milliseconds after 1026 (default 0); "ignore" never
+//   stop=MS           posts 1045 MS milliseconds after 1026 (default 0)
 //   write=BYTES       at 1025, writes BYTES zero bytes to the parameter file's output path
 //                     and logs "record PID DESCRIPTION", so that a recording has a file
 // Every start and every message received is appended to the file NIGHTREEL_FAKE_LOG as
@@ -105,10 +105,7 @@ void OnFrame(const Frame& frame)
         break;
     }
     case REC_MSG_STOP: {
-        const QString stop = plan.value("stop", "0");
-        if (stop == "ignore")
-            break;
-        QTimer::singleShot(stop.toInt(), [] {
+        QTimer::singleShot(plan.value("stop", "0").toInt(), [] {
             Send(Kind::Post, REC_MSG_STOPPED, 0);
             Leave();
         });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Programs.h"
 #include "TestContext.h"
 #include "scheduling/ProgramListCommands.h"
 
@@ -63,21 +64,10 @@ template <typename View = FakeProgramListView> struct ProgramListFixture {
         tc.ctx->WfxDefault.SetToPcm(1, 11025, 8);
     }
     // Rows get the format that every row written by the editor has.
-    qint64 Add(QVariantHash row)
+    qint64 Add(const QVariantHash& row)
     {
-        const QVariantHash format{{"wfx_wFormatTag", 1},
-                                  {"wfx_nChannels", 1},
-                                  {"wfx_nSamplesPerSec", 11025},
-                                  {"wfx_nAvgBytesPerSec", 11025},
-                                  {"wfx_nBlockAlign", 1},
-                                  {"wfx_nBitsPerSample", 8},
-                                  {"wfx_cbSize", 0},
-                                  {"Flags", 0},
-                                  {"CompressionMethod", "PCM 11.025 kHz, 8 Bit, Mono"}};
-        for (auto it = format.cbegin(); it != format.cend(); ++it)
-            if (!row.contains(it.key()))
-                row.insert(it.key(), it.value());
-        const qint64 id = tc.AddProgram(row);
+        const qint64 id =
+            tc.AddProgram(Programs::WithPcmFormat(row, 11025, 8, "PCM 11.025 kHz, 8 Bit, Mono"));
         tc.ctx->database.DataPrograms.Requery();
         return id;
     }

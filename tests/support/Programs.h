@@ -40,18 +40,19 @@ inline QVariantHash Weekly(const QString& description, const QString& start, con
     return row;
 }
 
-// 16-bit mono PCM at 44100 Hz, as the program editor writes it.
-inline QVariantHash WithPcmFormat(QVariantHash row)
+// Mono PCM, as the program editor writes it.
+inline QVariantHash WithPcmFormat(QVariantHash row, int rate = 44100, int bits = 16,
+                                  const QString& text = "PCM 44,100 Hz, 16 Bit, Mono")
 {
     row.insert({{"wfx_wFormatTag", 1},
                 {"wfx_nChannels", 1},
-                {"wfx_nSamplesPerSec", 44100},
-                {"wfx_nAvgBytesPerSec", 88200},
-                {"wfx_nBlockAlign", 2},
-                {"wfx_nBitsPerSample", 16},
+                {"wfx_nSamplesPerSec", rate},
+                {"wfx_nAvgBytesPerSec", rate * bits / 8},
+                {"wfx_nBlockAlign", bits / 8},
+                {"wfx_nBitsPerSample", bits},
                 {"wfx_cbSize", 0},
                 {"Flags", 0},
-                {"CompressionMethod", "PCM 44,100 Hz, 16 Bit, Mono"}});
+                {"CompressionMethod", text}});
     return row;
 }
 

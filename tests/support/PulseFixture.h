@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Pactl.h"
+#include "TestFiles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -59,11 +62,8 @@ public:
     void Stop()
     {
         StopTone();
-        for (QProcess& daemon : m_pipeWire) {
-            daemon.terminate();
-            if (!daemon.waitForFinished(3000))
-                daemon.kill();
-        }
+        for (QProcess& daemon : m_pipeWire)
+            EndProcess(daemon);
         QFile pidFile(m_dir.path() + "/pulse/pid");
         if (!pidFile.open(QIODevice::ReadOnly))
             return;
@@ -128,22 +128,17 @@ private:
             if (!m_pipeWire.back().waitForStarted(3000))
                 return false;
         }
-        const auto pactl = [](const QStringList& args) {
-            QProcess p;
-            p.start("pactl", args);
-            return p.waitForFinished(5000) && p.exitCode() == 0;
-        };
         // The server takes requests a moment after it starts, the default a moment later.
-        const auto retried = [&pactl](const QStringList& args) {
+        const auto retried = [](const QStringList& args) {
             for (int i = 0; i < 100; ++i, QTest::qWait(100))
-                if (pactl(args))
+                if (Pactl::Run(args))
                     return true;
             return false;
         };
         return retried({"info"}) &&
-               pactl({"load-module", "module-null-sink", "sink_name=recsink"}) &&
-               pactl({"load-module", "module-remap-source", "source_name=recmic",
-                      "master=recsink.monitor"}) &&
+               Pactl::Run({"load-module", "module-null-sink", "sink_name=recsink"}) &&
+               Pactl::Run({"load-module", "module-remap-source", "source_name=recmic",
+                           "master=recsink.monitor"}) &&
                retried({"set-default-source", "recmic"});
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TestFiles.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -10,11 +12,10 @@
 // from skip seconds on.
 inline bool ToneOf(const QString& path, double& rms, double& frequency, double skip = 0.0)
 {
-    QProcess sox;
-    sox.start("sox", {path, "-n", "trim", QString::number(skip), "remix", "-", "stat"});
-    if (!sox.waitForFinished(30000))
-        return false;
-    const QString out = QString::fromUtf8(sox.readAllStandardError());
+    QByteArray errors;
+    RunProgram("sox", {path, "-n", "trim", QString::number(skip), "remix", "-", "stat"}, nullptr,
+               &errors);
+    const QString out = QString::fromUtf8(errors);
     const auto value = [&](const QString& label) {
         const auto m = QRegularExpression(label + R"(:\s+([-0-9.]+))").match(out);
         return m.hasMatch() ? m.captured(1).toDouble() : -1.0;
@@ -28,24 +29,23 @@ inline bool ToneOf(const QString& path, double& rms, double& frequency, double s
 // empty when soxi can't read the file.
 inline QString Soxi(const QString& option, const QString& file)
 {
-    QProcess soxi;
-    soxi.start("soxi", {option, file});
-    soxi.waitForFinished(10000);
-    return soxi.exitCode() == 0 ? QString::fromUtf8(soxi.readAllStandardOutput()).trimmed()
-                                : QString();
+    bool ok = false;
+    const QByteArray out = RunProgram("soxi", {option, file}, &ok);
+    return ok ? QString::fromUtf8(out).trimmed() : QString();
 }
 
 // Raw little-endian samples of a 1 kHz tone at half scale, as the recording task captures
 // them (8-bit samples unsigned, wider ones signed); empty when sox fails.
 inline std::string RawTone(int rate, int channels, double seconds, int bits = 16)
 {
-    QProcess sox;
-    sox.start("sox", {"-n", "-r", QString::number(rate), "-c", QString::number(channels), "-b",
-                      QString::number(bits), "-e", bits == 8 ? "unsigned" : "signed", "-t", "raw",
-                      "-", "synth", QString::number(seconds), "sine", "1000", "vol", "0.5"});
-    if (!sox.waitForFinished(60000) || sox.exitCode() != 0)
-        return {};
-    return sox.readAllStandardOutput().toStdString();
+    bool ok = false;
+    const QByteArray pcm =
+        RunProgram("sox",
+                   {"-n", "-r", QString::number(rate), "-c", QString::number(channels), "-b",
+                    QString::number(bits), "-e", bits == 8 ? "unsigned" : "signed", "-t", "raw",
+                    "-", "synth", QString::number(seconds), "sine", "1000", "vol", "0.5"},
+                   &ok);
+    return ok ? pcm.toStdString() : std::string();
 }
 
 // What lame decodes from an MP3 stream (written to scratch.mp3, decoded to scratch.wav), as
@@ -58,17 +58,13 @@ struct Mp3Tone {
 inline Mp3Tone DecodeMp3(const QByteArray& mp3, const QString& scratch)
 {
     Mp3Tone t;
-    QFile file(scratch + ".mp3");
-    if (!file.open(QIODevice::WriteOnly) || file.write(mp3) != mp3.size())
+    if (!WriteFile(scratch + ".mp3", mp3) ||
+        QProcess::execute("lame", {"--quiet", "--decode", scratch + ".mp3", scratch + ".wav"}) != 0)
         return t;
-    file.close();
-    if (QProcess::execute("lame", {"--quiet", "--decode", scratch + ".mp3", scratch + ".wav"}) != 0)
+    const QString seconds = Soxi("-D", scratch + ".wav");
+    if (seconds.isEmpty())
         return t;
-    QProcess soxi;
-    soxi.start("soxi", {"-D", scratch + ".wav"});
-    if (!soxi.waitForFinished(30000) || soxi.exitCode() != 0)
-        return t;
-    t.seconds = soxi.readAllStandardOutput().trimmed().toDouble();
+    t.seconds = seconds.toDouble();
     ToneOf(scratch + ".wav", t.rms, t.frequency);
     t.ok = t.rms >= 0;
     return t;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TestFiles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -55,11 +57,8 @@ public:
 
     ~SystemBusStandIn()
     {
-        for (QProcess* p : {&m_mock, &m_bus}) {
-            p->terminate();
-            if (!p->waitForFinished(3000))
-                p->kill();
-        }
+        EndProcess(m_mock);
+        EndProcess(m_bus);
         if (m_saved)
             qputenv(m_variable, *m_saved);
         else

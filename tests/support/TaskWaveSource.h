@@ -68,14 +68,12 @@ inline std::string Mp3Record(uint16_t channels, uint32_t rate, int kbps)
     return r;
 }
 
-// Writes `pcm` (raw little-endian samples of `bits` bits) as the task would; `staleExtra`
-// bytes are added to the data size and RIFF size of the header, as a killed task may leave
-// them. False on a write failure.
-inline bool Write(const std::string& path, uint16_t channels, uint32_t rate, const std::string& pcm,
-                  uint32_t staleExtra = 0, uint16_t bits = 16)
+// Writes a wave file as the task would, with the format record given and `frames` in its
+// fact chunk; `staleExtra` bytes are added to the data size and RIFF size of the header, as
+// a killed task may leave them. False on a write failure.
+inline bool WriteWave(const std::string& path, const std::string& record, uint32_t frames,
+                      const std::string& data, uint32_t staleExtra = 0)
 {
-    const std::string record = PcmRecord(channels, rate, bits);
-    const uint32_t frames = uint32_t(pcm.size() / (channels * bits / 8));
     std::string h = "RIFF";
     PutLe32(h, 0);
     h += "WAVE";
@@ -93,16 +91,24 @@ inline bool Write(const std::string& path, uint16_t channels, uint32_t rate, con
     PutLe32(h, uint32_t(info.size()));
     h += info;
     h += "data";
-    PutLe32(h, uint32_t(pcm.size()) + staleExtra);
-    const uint32_t riff = uint32_t(h.size() - 8 + pcm.size() + staleExtra);
+    PutLe32(h, uint32_t(data.size()) + staleExtra);
+    const uint32_t riff = uint32_t(h.size() - 8 + data.size() + staleExtra);
     for (int i = 0; i < 4; ++i)
         h[4 + i] = char((riff >> (8 * i)) & 0xff);
     std::FILE* f = std::fopen(path.c_str(), "wb");
     if (!f)
         return false;
     const bool ok = std::fwrite(h.data(), 1, h.size(), f) == h.size() &&
-                    std::fwrite(pcm.data(), 1, pcm.size(), f) == pcm.size();
+                    std::fwrite(data.data(), 1, data.size(), f) == data.size();
     return std::fclose(f) == 0 && ok;
+}
+
+// `pcm` (raw little-endian samples of `bits` bits) as the task writes it.
+inline bool Write(const std::string& path, uint16_t channels, uint32_t rate, const std::string& pcm,
+                  uint32_t staleExtra = 0, uint16_t bits = 16)
+{
+    return WriteWave(path, PcmRecord(channels, rate, bits),
+                     uint32_t(pcm.size() / (channels * bits / 8)), pcm, staleExtra);
 }
 
 // Reads a whole file; empty on failure.

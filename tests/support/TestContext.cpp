@@ -46,11 +46,6 @@ void TestContext::Restart()
     MakeContext();
 }
 
-TestContext::~TestContext()
-{
-    ctx.reset();
-}
-
 QString TestContext::SettingsFile() const
 {
     return m_dir.path() + "/config/Larkmoor Systems/Nightreel.conf";

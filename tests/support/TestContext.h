@@ -7,17 +7,11 @@
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
 #include "platform/DesktopNotifications.h"
-#include "platform/DiskSpace.h"
-#include "platform/Joystick.h"
 #include "platform/LinuxJoystick.h"
 #include "platform/LogindSleepInhibitor.h"
-#include "platform/Mixer.h"
 #include "platform/MixsetMixer.h"
-#include "platform/NetworkConnections.h"
 #include "platform/NetworkManagerConnections.h"
-#include "platform/SleepInhibitor.h"
 #include "platform/StorageDiskSpace.h"
-#include "platform/WindowList.h"
 #include "platform/XcbWindowList.h"
 #include "shell/AppContext.h"
 
@@ -76,7 +70,6 @@ class TestContext {
 public:
     // The desktop's notifications go nowhere unless the test gives its own.
     explicit TestContext(DesktopNotifications* notifications = nullptr);
-    ~TestContext();
 
     // Opens the database as the first activation does.
     void OpenDatabase();

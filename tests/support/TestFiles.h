@@ -42,6 +42,17 @@ inline QByteArray RunProgram(const QString& program, const QStringList& argument
     return process.readAllStandardOutput();
 }
 
+// Asks a program to end, and ends it if it has not within the time.
+inline void EndProcess(QProcess& process, int ms = 3000)
+{
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.terminate();
+    if (!process.waitForFinished(ms))
+        process.kill();
+    process.waitForFinished(1000);
+}
+
 struct RiffChunk {
     QByteArray id;
     QByteArray data;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TestFiles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -38,9 +40,9 @@ public:
     ~XDisplay()
     {
         for (QProcess& window : m_windows)
-            Stop(window);
-        Stop(m_windowManager);
-        Stop(m_server);
+            EndProcess(window);
+        EndProcess(m_windowManager);
+        EndProcess(m_server);
         if (m_saved)
             qputenv("DISPLAY", *m_saved);
         else
@@ -125,16 +127,6 @@ private:
         }
         xcb_disconnect(c);
         return found;
-    }
-
-    static void Stop(QProcess& p)
-    {
-        if (p.state() == QProcess::NotRunning)
-            return;
-        p.terminate();
-        if (!p.waitForFinished(3000))
-            p.kill();
-        p.waitForFinished(1000);
     }
 
     QProcess m_server;
