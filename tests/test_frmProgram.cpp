@@ -245,35 +245,14 @@ private slots:
         QTEST(f.Column(f.view.current, column).toString(), "stored");
     }
 
-    void aCloneIsRefusedUnchangedAnEditNeverConflictsWithItself()
+    // The form shows the row; OK stores it back without a conflict with itself and clears a
+    // mixer profile whose file is gone. An unchanged copy conflicts with its original; a
+    // disabled one is saved, marked in its description.
+    void anEditShowsTheRowAndStoresItBackACopyIsChecked()
     {
         Fixture f;
-        const qint64 id = f.Add(Programs::Weekly("Jazz", "20:00:00", "21:00:00", "0000011"));
-
-        f.view.current = id;
-        f.commands.CopyProgram();
-        QCOMPARE(f.tc.messageBox.asked.size(), 1);
-        QCOMPARE(f.tc.messageBox.asked[0].title, QString("Schedule Conflict"));
-        QVERIFY(f.tc.messageBox.asked[0].text.endsWith("Conflicting Program Description: Jazz"));
-        QCOMPARE(f.tc.CountRows("Programs"), 1);
-
-        f.tc.messageBox.asked.clear();
-        f.view.current = id;
-        f.commands.EditProgram();
-        QVERIFY(f.tc.messageBox.asked.isEmpty());
-
-        f.view.current = id;
-        f.view.edits = {"CheckEnabled=0"};
-        f.commands.CopyProgram();
-        QVERIFY(f.tc.messageBox.asked.isEmpty());
-        QCOMPARE(f.tc.CountRows("Programs"), 2);
-        QCOMPARE(f.Column(f.view.current, "DescriptionText").toString(),
-                 QString("Jazz   **DISABLED** "));
-    }
-
-    void anEditShowsTheRowAndStoresItBack()
-    {
-        Fixture f;
+        const QString folder = f.tc.ctx->mixerProfiles.Folder();
+        QVERIFY(QDir().mkpath(folder) && WriteFile(folder + "/Evening.mxr", "profile"));
         QVariantHash row = Programs::Weekly("Jazz", "22:00:00", "02:00:00", "0000011");
         row.insert({{"FilenamePrefix", "pre"},
                     {"LaunchAppPrior", "player"},
@@ -281,7 +260,9 @@ private slots:
                     {"InternetLink", "http://radio"},
                     {"InternetLinkDelay", 15},
                     {"HangupInternetConnection", -1},
-                    {"StreamingPlayerClose", "Radio"}});
+                    {"StreamingPlayerClose", "Radio"},
+                    {"MixerProfileBefore", "gone"},
+                    {"MixerProfileAfter", "Evening"}});
         const qint64 id = f.Add(row);
         f.view.current = id;
         f.tc.messageBox.answers = {MsgResult::Yes}; // four hours is a long recording
@@ -295,26 +276,33 @@ private slots:
         };
         f.commands.EditProgram();
         QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.tc.messageBox.asked[0].title, QString("Long Recording Confirmation"));
         QCOMPARE(f.Column(id, "FilenamePrefix").toString(), QString("pre"));
         QCOMPARE(f.Column(id, "LaunchAppDelay").toInt(), 30);
         QCOMPARE(f.Column(id, "InternetLinkDelay").toInt(), 15);
         QCOMPARE(f.Column(id, "StreamingPlayerClose").toString(), QString("Radio"));
         QVERIFY(Field::ToBool(f.Column(id, "HangupInternetConnection")));
         QCOMPARE(f.Column(id, "FrequencyText").toString(), QString("Fri,Sat"));
-    }
-
-    void aDeletedMixerProfileIsClearedOnSave()
-    {
-        Fixture f;
-        const QString folder = f.tc.ctx->mixerProfiles.Folder();
-        QVERIFY(QDir().mkpath(folder) && WriteFile(folder + "/Evening.mxr", "profile"));
-        QVariantHash row = Programs::Weekly("Jazz", "20:00:00", "21:00:00", "0000011");
-        row.insert({{"MixerProfileBefore", "gone"}, {"MixerProfileAfter", "Evening"}});
-        const qint64 id = f.Add(row);
-        f.view.current = id;
-        f.commands.EditProgram();
         QCOMPARE(f.Column(id, "MixerProfileBefore").toString(), QString());
         QCOMPARE(f.Column(id, "MixerProfileAfter").toString(), QString("Evening"));
+
+        f.view.inspect = nullptr;
+        f.tc.messageBox.asked.clear();
+        f.commands.CopyProgram();
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.tc.messageBox.asked[0].title, QString("Schedule Conflict"));
+        QVERIFY(f.tc.messageBox.asked[0].text.endsWith("Conflicting Program Description: Jazz"));
+        QCOMPARE(f.tc.CountRows("Programs"), 1);
+
+        f.tc.messageBox.asked.clear();
+        f.tc.messageBox.answers = {MsgResult::Yes};
+        f.view.current = id;
+        f.view.edits = {"CheckEnabled=0"};
+        f.commands.CopyProgram();
+        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.tc.CountRows("Programs"), 2);
+        QCOMPARE(f.Column(f.view.current, "DescriptionText").toString(),
+                 QString("Jazz   **DISABLED** "));
     }
 
     // A new program's form: equal times last nothing and can be saved; the link controls
