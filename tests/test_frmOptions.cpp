@@ -1,3 +1,4 @@
+#include "FormEdits.h"
 #include "TestContext.h"
 #include "options/frmOptions.h"
 
@@ -32,6 +33,9 @@ struct OptionsFixture {
         tc.ctx->options.DefaultRecordingDirectory = folder;
         // An input unplugged for now is kept, not lost by opening the options.
         tc.ctx->options.RecordingInput = kUnplugged;
+        // Hidden, chosen on a desktop with a notification area: here it can only be left.
+        tc.ctx->options.HiddenWindowStatupMode = true;
+        tc.ctx->options.SaveStartupMode(tc.ctx->registry);
     }
 
     std::unique_ptr<frmOptions> Open()
@@ -62,36 +66,6 @@ struct OptionsFixture {
 
     TestContext tc;
 };
-
-// Types into a box as the user does: focus, replace, type. Check boxes and option buttons
-// take "1" or "0", lists an index, time pickers HH:mm:ss.
-void Enter(frmOptions& form, const QString& edit)
-{
-    const QString name = edit.section('=', 0, 0);
-    const QString value = edit.section('=', 1);
-    QWidget* control = form.findChild<QWidget*>(name);
-    QVERIFY2(control, qPrintable(name));
-    if (auto* box = qobject_cast<QLineEdit*>(control)) {
-        // Only a box on the tab in view can take the focus.
-        auto* tabs = form.findChild<QTabWidget*>("SSTab1");
-        for (int i = 0; i < tabs->count(); ++i) {
-            if (tabs->widget(i)->isAncestorOf(box))
-                tabs->setCurrentIndex(i);
-        }
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, value);
-    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-        button->setChecked(value == "1");
-    } else if (auto* list = qobject_cast<QComboBox*>(control)) {
-        bool index = false;
-        list->setCurrentIndex(value.toInt(&index));
-        if (!index)
-            list->setCurrentText(value);
-    } else if (auto* time = qobject_cast<QTimeEdit*>(control)) {
-        time->setTime(QTime::fromString(value, "HH:mm:ss"));
-    }
-}
 
 } // namespace
 
@@ -178,8 +152,8 @@ private slots:
                            "DefaultRecordingDirectory=<root>/rec"}
             << false << true;
         QTest::newRow("a missing folder keeps the dialog open with the start-up mode stored")
-            << false << QStringList{"optHiddenStartupMode=1", "chkShowSplashScreen=0"} << false
-            << QStringList{"HiddenWindowStatupMode=True",
+            << false << QStringList{"optNormalStartupMode=1", "chkShowSplashScreen=0"} << false
+            << QStringList{"HiddenWindowStatupMode=False",
                            "ShowSplashScreen==", "DefaultRecordingDirectory=="}
             << true << false;
     }
@@ -195,8 +169,7 @@ private slots:
         for (const QString& s : stored)
             before[s.section('=', 0, 0)] = f.Setting(s.section('=', 0, 0));
         auto form = f.Open();
-        for (const QString& edit : edits)
-            Enter(*form, edit);
+        Apply(form.get(), edits);
         if (enterInLastBox)
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         else

@@ -1,3 +1,4 @@
+#include "FormEdits.h"
 #include "ModalDialogs.h"
 #include "ProgramListFixture.h"
 #include "Programs.h"
@@ -19,30 +20,6 @@
 #include <functional>
 
 namespace {
-
-// Edits as a user makes them, in order: "name=value". Buttons take 1 or 0 and are clicked
-// only when that changes them, so the form's click rules run; time pickers take HH:mm:ss.
-void Apply(QWidget* form, const QStringList& edits)
-{
-    for (const QString& edit : edits) {
-        const int at = edit.indexOf(u'=');
-        const QString name = edit.left(at);
-        const QString value = edit.mid(at + 1);
-        QWidget* control = Control(form, name);
-        if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-            if (button->isChecked() != (value == "1"))
-                button->click();
-        } else if (auto* time = qobject_cast<QTimeEdit*>(control)) {
-            time->setTime(QTime::fromString(value, "HH:mm:ss"));
-        } else if (auto* line = qobject_cast<QLineEdit*>(control)) {
-            line->setText(value);
-        } else if (auto* list = qobject_cast<QComboBox*>(control)) {
-            list->setCurrentIndex(value == "last" ? list->count() - 1 : value.toInt());
-        } else {
-            qFatal("can't edit %s", qPrintable(name));
-        }
-    }
-}
 
 // The program commands with the real editor, answered in place: the edits are made and
 // OK is clicked.
