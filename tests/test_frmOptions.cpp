@@ -3,15 +3,11 @@
 #include "options/frmOptions.h"
 
 #include <QAbstractButton>
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QTest>
-#include <QTimeEdit>
 
 namespace {
 

@@ -8,14 +8,12 @@
 #include "shell/frmMain.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
-#include <QTimeEdit>
 #include <QtTest>
 #include <functional>
 
