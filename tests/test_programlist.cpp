@@ -65,6 +65,9 @@ private slots:
         const qint64 only = f.Add(Programs::Weekly("Only", "10:00:00", "11:00:00", "1111111"));
         f.tc.ctx->scheduler.ScheduleNextRecording();
         QVERIFY(f.tc.ctx->scheduler.next.NextProgramFound);
+        // Launch times left from before must go too.
+        f.tc.ctx->scheduler.next.NextLinkLaunchTime = 0;
+        f.tc.ctx->scheduler.next.NextAppLaunchTime = 0;
         f.view.current = only;
         f.tc.messageBox.answers = {MsgResult::Yes};
 
@@ -72,6 +75,8 @@ private slots:
 
         QCOMPARE(f.tc.CountRows("Programs"), 0);
         QVERIFY(!f.tc.ctx->scheduler.next.NextProgramFound);
+        QCOMPARE(f.tc.ctx->scheduler.next.NextLinkLaunchTime, AutomationDate::Never());
+        QCOMPARE(f.tc.ctx->scheduler.next.NextAppLaunchTime, AutomationDate::Never());
         QVERIFY(f.view.buttonUpdates > 0);
     }
 

@@ -78,6 +78,11 @@ private slots:
         row("one time, into the new year", party, At(2027, 1, 1, "00:30:00"),
             At(2026, 12, 31, "23:00:00"), At(2027, 1, 1, "01:00:00"));
         row("one time, over at 01:00", party, At(2027, 1, 1, "01:00:00"), 0, 0);
+        // The cancellation lapses before the enabled test leaves the row out.
+        QVariantHash off = cancelled(Programs::Weekly("Off", "10:00:00", "11:00:00", "1111111"),
+                                     At(2026, 5, 1, "11:00:00"));
+        off["Enabled"] = 0;
+        row("disabled, a lapsed cancellation", off, At(2026, 6, 1, "12:00:00"), 0, 0, 0);
         for (const QVariant& flag : {QVariant(-1), QVariant()}) {
             QVariantHash cancelledParty = party;
             cancelledParty["RecordingCancelled"] = flag;
@@ -127,38 +132,6 @@ private slots:
                                         order);
         db.DataPrograms.Refresh();
         QTEST(Search(*tc.ctx, At(2026, 6, 1, "12:00:00"))->description, "winner");
-    }
-
-    void nothingToScheduleClearsTheNextProgram_data()
-    {
-        QTest::addColumn<bool>("disabledRow");
-        QTest::newRow("empty table") << false;
-        QTest::newRow("all disabled") << true;
-    }
-    void nothingToScheduleClearsTheNextProgram()
-    {
-        OpenedContext tc;
-        qint64 id = 0;
-        QFETCH(bool, disabledRow);
-        if (disabledRow) {
-            QVariantHash row = Programs::Weekly("Off", "10:00:00", "11:00:00", "1111111");
-            row["Enabled"] = 0;
-            row["RecordingCancelled"] = -1;
-            row["RecordingCancelledEndDateAndTime"] = At(2026, 5, 1, "11:00:00");
-            id = tc.AddProgram(row);
-        }
-        QVERIFY(!Search(*tc.ctx, At(2026, 6, 1, "12:00:00")));
-        // The cancellation test comes before the enabled test.
-        if (id)
-            QVERIFY(!Field::ToBool(Column(*tc.ctx, id, "RecordingCancelled")));
-
-        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
-        tc.ctx->scheduler.next.NextProgramFound = true;
-        tc.ctx->scheduler.next.NextLinkLaunchTime = 0;
-        tc.ctx->scheduler.ScheduleNextRecording();
-        QVERIFY(!tc.ctx->scheduler.next.NextProgramFound);
-        QCOMPARE(tc.ctx->scheduler.next.NextLinkLaunchTime, AutomationDate::Never());
-        QCOMPARE(tc.ctx->scheduler.next.NextAppLaunchTime, AutomationDate::Never());
     }
 
     // Rows of an older file: NULL in the added columns reads as the documented value,
