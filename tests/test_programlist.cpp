@@ -227,8 +227,16 @@ private slots:
         QTest::addColumn<QString>("descriptionText");
         QTest::addColumn<QString>("frequencyText");
         const QString name = "123456789012345678901234567890";
-        QTest::newRow("enabled weekdays") << true << "0111110" << name << "Mon-Fri";
-        QTest::newRow("no day") << true << "0000000" << name << " ";
+        const auto row = [&name](const char* tag, const char* days, const char* frequency) {
+            QTest::newRow(tag) << true << QString(days) << name << QString(frequency);
+        };
+        // Three days or more in a row are a range; the week does not wrap.
+        row("working week", "0111110", "Mon-Fri");
+        row("two days in a row stay two names", "1101000", "Sun,Mon,Wed");
+        row("range then single", "1110100", "Sun-Tue,Thu");
+        row("single then range to Saturday", "0100111", "Mon,Thu-Sat");
+        row("whole week", "1111111", "Sun-Sat");
+        row("no day", "0000000", " ");
         QTest::newRow("disabled weekend") << false << "1000001"
                                           << "1234567890123456789012345   **DISABLED** "
                                           << "Sun,Sat";
