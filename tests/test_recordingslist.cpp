@@ -91,21 +91,6 @@ private slots:
         QVERIFY(log.Value("Details").toString().endsWith("Filename: " + f.File("stuck.wav")));
     }
 
-    void removingAndClearingLeaveTheFiles()
-    {
-        ListFixture f;
-        WriteWave(f.File("a.wav"));
-        WriteWave(f.File("b.wav"));
-        f.list.AddFolderToRecordingsList(f.Folder());
-        Recordset rs = f.tc.ctx->database.DataRecordings.recordset().Clone();
-        rs.MoveFirst();
-        f.list.RemoveFromList({rs.Bookmark()});
-        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"b.wav"});
-        f.list.ClearRecordingsList();
-        QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
-        QVERIFY(QFile::exists(f.File("a.wav")) && QFile::exists(f.File("b.wav")));
-    }
-
     // The purge deletes old recordings that are listed and in the recording folder, with
     // their CUE sheets, and their rows; the user's own files in that folder stay, however old.
     // A purge that deleted something also drops the rows of files gone from that folder.
