@@ -2,6 +2,7 @@
 #include "RecordingsListFixture.h"
 #include "TaskWaveSource.h"
 #include "TestFiles.h"
+#include "formats/MediaReaders.h"
 #include "recording/RecorderParts.h"
 #include "recordingslist/ListFile.h"
 #include "recordingslist/SavedLists.h"
@@ -40,10 +41,16 @@ private slots:
     {
         ListFixture f;
         WriteWave(f.File("a.wav"));
+        WriteWave(f.File("b.wav"));
         f.list.AddFileToRecordingsList(f.File("a.wav"));
+        f.list.AddFileToRecordingsList(f.File("b.wav"));
+        QCOMPARE(f.tc.ctx->database.DataRecordings.recordset().Value("File").toString(),
+                 f.File("b.wav")); // the new row is the current one
         f.list.AddFileToRecordingsList("  " + f.File("a.wav") + " ");
         f.list.AddFileToRecordingsList(f.File("notes.txt"));
-        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"a.wav"});
+        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList({"a.wav", "b.wav"}));
+        // Names compare trimmed and upper-cased.
+        QVERIFY(IsFileInRecordingsList(f.tc.ctx->database, f.File("A.WAV")));
     }
 
     void theFileBeingRecordedIsNotListed()
