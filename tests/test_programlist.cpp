@@ -319,8 +319,6 @@ private slots:
             30);
         row("padding that overlaps, weekly", mondays, QDate(), "11:01:00", "12:00:00", "0100000",
             true, 31);
-        row("padding that overlaps, one time back to back", once(monday, "10:00:00", "11:00:00"),
-            monday, "11:00:00", "12:00:00", "", true, 1);
         row("padding across midnight into the next weekday",
             Programs::Weekly("Other", "00:05:00", "01:00:00", "0010000"), QDate(), "23:00:00",
             "00:00:00", "0100000", true, 301);
