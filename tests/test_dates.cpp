@@ -48,6 +48,16 @@ private slots:
         QCOMPARE(t, QDateTime(QDate(2026, 3, 29), QTime(3, 30)));
     }
 
+    // Differences count the unit boundaries passed, not the elapsed whole units.
+    void differencesCountBoundaries()
+    {
+        const double a = FromDateTime(QDateTime(QDate(2026, 3, 1), QTime(10, 59, 59)));
+        const double b = AddSeconds(a, 2);
+        QCOMPARE(MinutesBetween(a, b), qint64(1));
+        QCOMPARE(HoursBetween(a, b), qint64(1));
+        QCOMPARE(HoursBetween(b, a), qint64(-1));
+    }
+
     void theSystemClockGivesWholeSeconds()
     {
         SystemClock clock;

@@ -13,29 +13,26 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("expanded");
-        const QString news = "/rec/show/news.wav";
-        QTest::newRow("all") << "tag %d|%p|%f|%b|%e|%%" << news
-                             << "tag /rec/show/|/rec/show/news.wav|news.wav|news|wav|%";
-        QTest::newRow("upper case") << "%P %F" << news << "/rec/show/news.wav news.wav";
-        QTest::newRow("lone percent") << "%" << news << "%";
-        QTest::newRow("percent at the end") << "a%" << news << "a%";
-        QTest::newRow("escaped percent") << "%%p" << news << "%p";
-        QTest::newRow("unknown") << "%x %" << news << "%x %";
-        QTest::newRow("percent before a placeholder") << "%%%f" << news << "%news.wav";
-        QTest::newRow("only the full name is trimmed") << "[%p][%f]"
-                                                       << " /rec/a.wav "
-                                                       << "[/rec/a.wav][a.wav ]";
+        const auto row = [](const char* tag, const char* command, const char* path,
+                            const char* expanded) {
+            QTest::newRow(tag) << QString(command) << QString(path) << QString(expanded);
+        };
+        const char* news = "/rec/show/news.wav";
+        row("all", "tag %d|%p|%f|%b|%e|%%", news,
+            "tag /rec/show/|/rec/show/news.wav|news.wav|news|wav|%");
+        row("upper case", "%P %F", news, "/rec/show/news.wav news.wav");
+        row("lone percent", "%", news, "%");
+        row("percent at the end", "a%", news, "a%");
+        row("escaped percent", "%%p", news, "%p");
+        row("unknown", "%x %", news, "%x %");
+        row("percent before a placeholder", "%%%f", news, "%news.wav");
+        row("only the full name is trimmed", "[%p][%f]", " /rec/a.wav ", "[/rec/a.wav][a.wav ]");
         // The extension is the name's last three characters, the base what comes before
         // them and the dot.
-        QTest::newRow("four characters") << "%d|%b|%e"
-                                         << "/rec/abcd"
-                                         << "/rec/||";
-        QTest::newRow("longer extension") << "%d|%b|%e"
-                                          << "/rec/ab.html"
-                                          << "/rec/|ab.|tml";
-        QTest::newRow("two closing separators") << "%d|%b|%e"
-                                                << "/rec/x//"
-                                                << "/rec/x/||";
+        row("five characters", "%d|%b|%e", "/rec/a.wav", "/rec/|a|wav");
+        row("four characters", "%d|%b|%e", "/rec/abcd", "/rec/||");
+        row("longer extension", "%d|%b|%e", "/rec/ab.html", "/rec/|ab.|tml");
+        row("two closing separators", "%d|%b|%e", "/rec/x//", "/rec/x/||");
     }
     void placeholders()
     {
