@@ -68,54 +68,30 @@ private slots:
         m_main->move(100, 80);
     }
 
-    void cleanup()
-    {
-        m_main.reset();
-        m_tc.reset();
-    }
-
-    void loadListsAndSelectsTheFirst_data()
-    {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<bool>("enabled");
-        QTest::newRow("none") << QStringList{} << false;
-        QTest::newRow("sorted by name") << QStringList{"night", "Evening", "morning"} << true;
-    }
-
-    void loadListsAndSelectsTheFirst()
-    {
-        QFETCH(QStringList, files);
-        QFETCH(bool, enabled);
-        MakeProfiles(files);
-        QVERIFY(WriteFile(Profiles().Folder() + "/notes.txt", "x")); // not a profile
-        const auto form = Open();
-        auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
-        QStringList sorted = files;
-        sorted.sort(Qt::CaseInsensitive);
-        QCOMPARE(Texts(list), sorted);
-        QCOMPARE(Selected(list), sorted.value(0));
-        QCOMPARE(Control<QPushButton>(form.get(), "btnActivate")->isEnabled(), enabled);
-        QCOMPARE(Control<QPushButton>(form.get(), "btnRemove")->isEnabled(), enabled);
-    }
-
     void removeSelects_data()
     {
         QTest::addColumn<QStringList>("files");
         QTest::addColumn<int>("row");
         QTest::addColumn<QString>("selected");
-        QTest::newRow("the first of three") << QStringList{"A", "B", "C"} << 0 << "B";
-        QTest::newRow("the last") << QStringList{"A", "B", "C"} << 2 << "B";
+        QTest::newRow("the first of three") << QStringList{"b", "A", "C"} << 0 << "b";
+        QTest::newRow("the last") << QStringList{"b", "A", "C"} << 2 << "b";
         QTest::newRow("the only one") << QStringList{"A"} << 0 << "";
     }
 
+    // The form lists the profiles sorted by name, whatever the case, and selects the first;
+    // Remove asks, then selects the next one, or the one before the last.
     void removeSelects()
     {
         QFETCH(QStringList, files);
         QFETCH(int, row);
         QFETCH(QString, selected);
         MakeProfiles(files);
+        QVERIFY(WriteFile(Profiles().Folder() + "/notes.txt", "x")); // not a profile
         const auto form = Open();
         auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
+        files.sort(Qt::CaseInsensitive);
+        QCOMPARE(Texts(list), files);
+        QCOMPARE(Selected(list), files[0]);
         list->setCurrentRow(row);
         m_tc->messageBox.answers = {MsgResult::Yes};
         form->btnRemove_Click();
@@ -166,6 +142,8 @@ private slots:
     {
         MakeProfiles({"Empty"}, QByteArray());
         const auto form = Open();
+        // Opened at an offset from the main form, whatever its place.
+        QCOMPARE(form->pos(), m_main->pos() + QPoint(Twips::ToPixels(250), Twips::ToPixels(250)));
         m_tc->messageBox.answers = {MsgResult::Yes};
         form->btnActivate_Click();
         QCOMPARE(m_tc->messageBox.asked.size(), 1);
@@ -215,14 +193,6 @@ private slots:
         QVERIFY(QFile(Profiles().PathOf("Late show")).size() > kProfile.size());
         QCOMPARE(Selected(list), QString("Old"));
         QVERIFY(Control<QPushButton>(form.get(), "btnActivate")->isEnabled());
-    }
-
-    // The forms open at an offset from the main form, whatever its place (the other forms
-    // are placed the same way).
-    void placesAtTheMainForm()
-    {
-        const auto form = Open();
-        QCOMPARE(form->pos(), m_main->pos() + QPoint(Twips::ToPixels(250), Twips::ToPixels(250)));
     }
 };
 

@@ -16,9 +16,13 @@ struct Fixture {
     Fixture()
     {
         tc.OpenDatabase();
+        AddRecording("/rec/one.wav");
+    }
+    void AddRecording(const QString& file)
+    {
         Recordset& rs = tc.ctx->database.DataRecordings.recordset();
         rs.AddNew();
-        rs.SetValue("File", "/rec/one.wav");
+        rs.SetValue("File", file);
         rs.Update();
     }
     QByteArray Saved(const QString& name) const
@@ -67,10 +71,7 @@ private slots:
         Fixture f;
         f.SaveAs("Mine ");
         QCOMPARE(f.Saved("Mine"), QByteArray("\"/rec/one.wav\"\r\n"));
-        Recordset& rs = f.tc.ctx->database.DataRecordings.recordset();
-        rs.AddNew();
-        rs.SetValue("File", "/rec/two.wav");
-        rs.Update();
+        f.AddRecording("/rec/two.wav");
         f.tc.messageBox.answers << MsgResult::No;
         f.SaveAs("Mine");
         QCOMPARE(f.tc.messageBox.asked.last().title, QStringLiteral("Overwrite list"));
