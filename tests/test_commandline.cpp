@@ -2,7 +2,6 @@
 // earlier versions, and --inspect.
 #include "shell/CommandLine.h"
 
-#include <QProcess>
 #include <QTest>
 #include <QTextStream>
 
@@ -58,20 +57,6 @@ private slots:
         QVERIFY2(printed.isEmpty() ? shown.isEmpty() : shown.contains(printed), qPrintable(shown));
         if (exitCode == 0)
             QVERIFY(errText.isEmpty());
-    }
-
-    // Help is what a user asks for when the program won't start, often with no desktop.
-    void helpNeedsNoDisplay()
-    {
-        QProcess program;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-            env.remove(QString::fromLatin1(name));
-        program.setProcessEnvironment(env);
-        program.start(QStringLiteral(NIGHTREEL_BIN_DIR) + "/nightreel", {"--help"});
-        QVERIFY(program.waitForFinished(20000));
-        QCOMPARE(program.exitCode(), 0);
-        QVERIFY(program.readAllStandardOutput().contains("--version"));
     }
 };
 
