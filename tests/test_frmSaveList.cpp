@@ -16,13 +16,9 @@ struct Fixture {
     Fixture()
     {
         tc.OpenDatabase();
-        AddRecording("/rec/one.wav");
-    }
-    void AddRecording(const QString& file)
-    {
         Recordset& rs = tc.ctx->database.DataRecordings.recordset();
         rs.AddNew();
-        rs.SetValue("File", file);
+        rs.SetValue("File", "/rec/one.wav");
         rs.Update();
     }
     QByteArray Saved(const QString& name) const
@@ -71,7 +67,10 @@ private slots:
         Fixture f;
         f.SaveAs("Mine ");
         QCOMPARE(f.Saved("Mine"), QByteArray("\"/rec/one.wav\"\r\n"));
-        f.AddRecording("/rec/two.wav");
+        Recordset& rs = f.tc.ctx->database.DataRecordings.recordset();
+        rs.AddNew();
+        rs.SetValue("File", "/rec/two.wav");
+        rs.Update();
         f.tc.messageBox.answers << MsgResult::No;
         f.SaveAs("Mine");
         QCOMPARE(f.tc.messageBox.asked.last().title, QStringLiteral("Overwrite list"));
