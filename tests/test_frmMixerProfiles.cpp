@@ -97,7 +97,6 @@ private slots:
         form->btnRemove_Click();
 
         QCOMPARE(m_tc->messageBox.asked.size(), 1);
-        QCOMPARE(m_tc->messageBox.asked[0].title, QString("Remove mixer profile"));
         QVERIFY(!QFile::exists(Profiles().PathOf(files[row])));
         files.removeAt(row);
         QCOMPARE(Texts(list), files);
@@ -107,50 +106,44 @@ private slots:
         QCOMPARE(Control<QPushButton>(form.get(), "btnActivate")->isEnabled(), !files.isEmpty());
     }
 
-    // Without a selection the two buttons go grey and ask nothing; No changes nothing.
-    void noSelectionOrNo_data()
+    // Activate and Remove ask first: No changes nothing; Yes activates (an empty profile is
+    // deleted by the activation, and stays listed until the form is opened again) or removes.
+    // Without a selection the two buttons go grey and ask nothing.
+    void activateAndRemoveAskFirst_data()
     {
         QTest::addColumn<bool>("remove");
-        QTest::newRow("activate") << false;
-        QTest::newRow("remove") << true;
+        QTest::addColumn<QString>("title");
+        QTest::newRow("activate") << false << "Activate mixer profile";
+        QTest::newRow("remove") << true << "Remove mixer profile";
     }
 
-    void noSelectionOrNo()
+    void activateAndRemoveAskFirst()
     {
         QFETCH(bool, remove);
         MakeProfiles({"A", "B"}, QByteArray());
         const auto form = Open();
+        // Opened at an offset from the main form, whatever its place.
+        QCOMPARE(form->pos(), m_main->pos() + QPoint(Twips::ToPixels(250), Twips::ToPixels(250)));
         auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
         const auto click = [&] {
             remove ? form->btnRemove_Click() : form->btnActivate_Click();
         };
+        m_tc->messageBox.answers = {MsgResult::No, MsgResult::Yes};
         click();
-        QCOMPARE(m_tc->messageBox.asked.size(), 1);
         QCOMPARE(Texts(list), QStringList({"A", "B"}));
         QVERIFY(QFile::exists(Profiles().PathOf("A")));
+        click();
+        QCOMPARE(m_tc->messageBox.asked.size(), 2);
+        QTEST(m_tc->messageBox.asked[1].title, "title");
+        QCOMPARE(m_tc->messageBox.asked[1].buttons, MsgButtons::YesNo);
+        QVERIFY(!QFile::exists(Profiles().PathOf("A")));
+        QCOMPARE(Texts(list), remove ? QStringList{"B"} : QStringList({"A", "B"}));
 
         list->clearSelection();
         click();
-        QCOMPARE(m_tc->messageBox.asked.size(), 1);
+        QCOMPARE(m_tc->messageBox.asked.size(), 2);
         QVERIFY(!Control<QPushButton>(form.get(), "btnActivate")->isEnabled());
         QVERIFY(!Control<QPushButton>(form.get(), "btnRemove")->isEnabled());
-    }
-
-    // Yes activates the selected profile: an empty one is deleted by the activation, and
-    // stays listed until the form is opened again.
-    void activateAsksThenActivates()
-    {
-        MakeProfiles({"Empty"}, QByteArray());
-        const auto form = Open();
-        // Opened at an offset from the main form, whatever its place.
-        QCOMPARE(form->pos(), m_main->pos() + QPoint(Twips::ToPixels(250), Twips::ToPixels(250)));
-        m_tc->messageBox.answers = {MsgResult::Yes};
-        form->btnActivate_Click();
-        QCOMPARE(m_tc->messageBox.asked.size(), 1);
-        QCOMPARE(m_tc->messageBox.asked[0].title, QString("Activate mixer profile"));
-        QCOMPARE(m_tc->messageBox.asked[0].buttons, MsgButtons::YesNo);
-        QVERIFY(!QFile::exists(Profiles().PathOf("Empty")));
-        QCOMPARE(Texts(Control<QListWidget>(form.get(), "lstMixerProfiles")), QStringList{"Empty"});
     }
 
     // Saving through the add form, opened by Add: a new name (trimmed) joins the list and is
