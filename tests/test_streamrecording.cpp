@@ -147,11 +147,19 @@ private slots:
         QVERIFY2(qAbs(offsets[1] - 3.0) < 1.0, qPrintable(cue));
     }
 
-    // Anything else is decoded into the program's format; a list leads to its first stream.
+    // Anything else is decoded into the program's format; a list leads to its first stream
+    // (an Ogg Vorbis one, an MP3 one).
+    void otherStreamsAreDecodedToTheProgramsFormat_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow(".pls list") << "/list.pls";
+        QTest::newRow(".m3u list") << "/list.m3u";
+    }
     void otherStreamsAreDecodedToTheProgramsFormat()
     {
+        QFETCH(QString, path);
         RecordingRig r;
-        AddStreamProgram(r, "/list.pls", "10:00:12", "10:00:16", false);
+        AddStreamProgram(r, path, "10:00:12", "10:00:16", false);
         QVERIFY(r.Run(RecordingRig::At("10:00:01"), {}, 40000));
         const QString file = r.folder + "/Kept.WAV";
         QVERIFY2(QFile::exists(file), qPrintable(r.LoggedMessages().join("; ")));
