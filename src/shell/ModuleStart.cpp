@@ -1,5 +1,6 @@
 #include "shell/ModuleStart.h"
 
+#include "common/RuntimeError.h"
 #include "common/Translations.h"
 #include "control/CallMessageBox.h"
 #include "formats/FileRowPreview.h"
@@ -24,7 +25,12 @@ int Inspect(int argc, char* argv[], const QString& file)
     Translations::Install();
     // Inspecting a file reads it alone: no database, no bus.
     QTextStream out(stdout);
-    return InspectFile(file, out);
+    try {
+        return InspectFile(file, out);
+    } catch (const RuntimeError& e) {
+        QTextStream(stderr) << file << ": " << e.Text() << '\n';
+        return 1;
+    }
 }
 
 } // namespace
