@@ -6,6 +6,7 @@
 #include "formats/Mp3Info.h"
 #include "store/Options.h"
 #include "support/OpenedContext.h"
+#include "support/TestFiles.h"
 
 #include <QProcess>
 #include <QTextStream>
@@ -66,11 +67,8 @@ QString WriteFile(const QString& folder, const QString& name, const QByteArray& 
                   double date = FileDate())
 {
     const QString path = folder + u'/' + name;
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!::WriteFile(path, content))
         return QString();
-    file.write(content);
-    file.close();
     ModuleFileTime::SetFileDateTime(path, date);
     return path;
 }
@@ -286,29 +284,6 @@ private slots:
         QCOMPARE(row.CompressionMethod,
                  QStringLiteral("MPEG Layer-3 128 kBit/s, 44,100 Hz, Stereo"));
         QCOMPARE(AutomationDate::SecondsBetween(row.StartTime, row.EndTime), qint64(seconds));
-    }
-
-    void eachFileGetsOneRowAndTheNewRowIsCurrent()
-    {
-        OpenedContext tc;
-        const QString nightreel = WriteFile(tc.Root(), "show.wav", NightreelWave(FileDate()));
-        const QString other = MakeWav(tc.Root(), "other.wav", 8000, 1, 8, 2);
-        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
-
-        bool found = false;
-        AddNightreelWaveToList(tc.ctx->database, nightreel, found);
-        QVERIFY(found);
-        AddOtherWaveToList(tc.ctx->database, other);
-        QCOMPARE(rs.Value("File").toString(), other);
-        // A file already listed is still taken by its reader, and gets no second row.
-        found = false;
-        AddNightreelWaveToList(tc.ctx->database, nightreel, found);
-        QVERIFY(found);
-        AddOtherWaveToList(tc.ctx->database, other);
-        QCOMPARE(tc.CountRows("Recordings"), 2);
-        // The test is on trimmed, upper-cased text.
-        QVERIFY(IsFileInRecordingsList(tc.ctx->database, " " + other.toLower() + " "));
-        QVERIFY(!IsFileInRecordingsList(tc.ctx->database, tc.Root() + "/o'ther.wav"));
     }
 
     void otherAndDamagedFilesGiveTheDefinedRowOrNone_data()

@@ -38,56 +38,77 @@ class TestProgramValidator : public QObject {
 
 private slots:
     // Each control's check and its text are the editor form's test, through the form; here
-    // the rules' order and the cases that let an entry through.
+    // the rules' order and the cases that let an entry through. The rival runs 13:30-14:30.
     void theFirstBrokenRuleIsReported_data()
     {
         QTest::addColumn<Edit>("edit");
         QTest::addColumn<bool>("rival");
         QTest::addColumn<QString>("title");
-        QTest::newRow("a forbidden character in the user's name, before the description")
-            << Edit([](ProgramCheckValues& v) {
-                   v.userFilename = true;
-                   v.filenameUser = "a:b";
-                   v.description.clear();
-               })
-            << false << "Invalid Filename";
-        QTest::newRow("a user's name of nothing but an extension")
-            << Edit([](ProgramCheckValues& v) {
-                   v.userFilename = true;
-                   v.filenameUser = " .WaV ";
-               })
-            << false << "Invalid Filename";
-        QTest::newRow("the user's name leaves the prefix out") << Edit([](ProgramCheckValues& v) {
-            v.userFilename = true;
-            v.filenameUser = "show.mp3";
-            v.prefixChecked = true;
-            v.prefix = "a*";
-        }) << false << "";
-        QTest::newRow("an unchecked prefix counts for nothing")
-            << Edit([](ProgramCheckValues& v) { v.prefix = "a*"; }) << false << "";
-        QTest::newRow("a one-time start in the past, before the conflict")
-            << Edit([](ProgramCheckValues& v) {
-                   v.schedule.startTime = Programs::TimeOfDay("11:59:59");
-               })
-            << true << "Invalid date and time";
-        QTest::newRow("a weekly start before now is next week's")
-            << Edit([](ProgramCheckValues& v) {
-                   Weekly(v, "0100000");
-                   v.schedule.startTime = Programs::TimeOfDay("11:00:00");
-               })
-            << false << "";
-        QTest::newRow("a conflict with an enabled program")
-            << Edit([](ProgramCheckValues&) {}) << true << "Schedule Conflict";
-        QTest::newRow("a disabled program is saved in conflict")
-            << Edit([](ProgramCheckValues& v) { v.enabled = false; }) << true << "";
+        QTest::addColumn<int>("padding");
+        const auto row = [](const char* tag, const Edit& edit, bool rival, const char* title,
+                            int padding = 0) {
+            QTest::newRow(tag) << edit << rival << QString(title) << padding;
+        };
+        row(
+            "a forbidden character in the user's name, before the description",
+            [](ProgramCheckValues& v) {
+                v.userFilename = true;
+                v.filenameUser = "a:b";
+                v.description.clear();
+            },
+            false, "Invalid Filename");
+        row(
+            "a user's name of nothing but an extension",
+            [](ProgramCheckValues& v) {
+                v.userFilename = true;
+                v.filenameUser = " .WaV ";
+            },
+            false, "Invalid Filename");
+        row(
+            "the user's name leaves the prefix out",
+            [](ProgramCheckValues& v) {
+                v.userFilename = true;
+                v.filenameUser = "show.mp3";
+                v.prefixChecked = true;
+                v.prefix = "a*";
+            },
+            false, "");
+        row(
+            "an unchecked prefix counts for nothing",
+            [](ProgramCheckValues& v) { v.prefix = "a*"; }, false, "");
+        row(
+            "a one-time start in the past, before the conflict",
+            [](ProgramCheckValues& v) { v.schedule.startTime = Programs::TimeOfDay("11:59:59"); },
+            true, "Invalid date and time");
+        row(
+            "a weekly start before now is next week's",
+            [](ProgramCheckValues& v) {
+                Weekly(v, "0100000");
+                v.schedule.startTime = Programs::TimeOfDay("11:00:00");
+            },
+            false, "");
+        row(
+            "a conflict with an enabled program", [](ProgramCheckValues&) {}, true,
+            "Schedule Conflict");
+        row(
+            "a disabled program is saved in conflict",
+            [](ProgramCheckValues& v) { v.enabled = false; }, true, "");
+        // The options' padding reaches the conflict test.
+        const Edit backToBack = [](ProgramCheckValues& v) {
+            v.schedule.endTime = Programs::TimeOfDay("13:30:00");
+        };
+        row("back to back without padding", backToBack, true, "");
+        row("back to back with a second of padding", backToBack, true, "Schedule Conflict", 1);
     }
     void theFirstBrokenRuleIsReported()
     {
         QFETCH(Edit, edit);
         QFETCH(bool, rival);
         QFETCH(QString, title);
+        QFETCH(int, padding);
         OpenedContext tc;
         tc.clock.Set(At(2026, 6, 1, "12:00:00"));
+        tc.ctx->options.PaddingSeconds = qint16(padding);
         if (rival) {
             tc.AddProgram(
                 Programs::OneTime("Rival", At(2026, 6, 1, "00:00:00"), "13:30:00", "14:30:00"));
@@ -105,33 +126,6 @@ private slots:
         // The texts are the editor form's test; a conflict names the program in the way.
         if (title == "Schedule Conflict")
             QVERIFY(failed->text.endsWith("\n\nConflicting Program Description: Rival"));
-    }
-
-    // The options' padding reaches the conflict test: a show starting as the rival ends is
-    // refused once recordings run a second late and early.
-    void paddingFromTheOptionsCountsInTheConflictTest_data()
-    {
-        QTest::addColumn<int>("padding");
-        QTest::addColumn<bool>("refused");
-        QTest::newRow("no padding, back to back") << 0 << false;
-        QTest::newRow("a second of padding") << 1 << true;
-    }
-    void paddingFromTheOptionsCountsInTheConflictTest()
-    {
-        QFETCH(int, padding);
-        QFETCH(bool, refused);
-        OpenedContext tc;
-        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
-        tc.ctx->options.PaddingSeconds = qint16(padding);
-        tc.AddProgram(
-            Programs::OneTime("Rival", At(2026, 6, 1, "00:00:00"), "12:30:00", "13:00:00"));
-        tc.ctx->database.DataPrograms.Requery();
-        const ProgramValidator validator(tc.ctx->database, tc.clock, tc.ctx->options);
-
-        const auto failed = validator.FirstFailedCheck(NewProgram());
-        QCOMPARE(failed.has_value(), refused);
-        if (failed)
-            QCOMPARE(failed->title, QString("Schedule Conflict"));
     }
 
     void longRecordingsAreConfirmed_data()

@@ -29,6 +29,7 @@ class TestRecordingPlan : public QObject {
 
 private slots:
     // The files named are in /rec; "kind" is pcm, or mp3/convert with the extension it keeps.
+    // A conversion captures PCM beside its final name.
     void planOfAStart_data()
     {
         QTest::addColumn<bool>("manual");
@@ -36,49 +37,42 @@ private slots:
         QTest::addColumn<QString>("userName");
         QTest::addColumn<QStringList>("existing");
         QTest::addColumn<double>("freeMb");
-        QTest::addColumn<QString>("refusal");
-        QTest::addColumn<QString>("finalFile");
-        QTest::addColumn<QString>("captureFile");
-        QTest::addColumn<int>("captureTag");
+        QTest::addColumn<QString>("outcome"); // the final file's name, or the refusal
 
         const auto row = [](const char* tag, bool manual, const char* kind, const char* userName,
-                            const QStringList& existing, double freeMb, const char* refusal,
-                            const char* finalFile, const char* captureFile, int captureTag) {
+                            const QStringList& existing, double freeMb, const char* outcome) {
             QTest::newRow(tag) << manual << QString(kind) << QString(userName) << existing << freeMb
-                               << QString(refusal) << QString(finalFile) << QString(captureFile)
-                               << captureTag;
+                               << QString(outcome);
         };
         const double plenty = 100000.0;
-        row("pcm named by the clock, prefix and suffix", false, "pcm", "", {}, plenty, "",
-            "Show_060126_120000_am.WAV", "Show_060126_120000_am.WAV", 1);
-        row("the user's name wins over the stamp", false, "pcm", " Morning ", {}, plenty, "",
-            "Morning.WAV", "Morning.WAV", 1);
-        row("mp3 in real time, kept as .MP3", false, "mp3.mp3", "Morning", {}, plenty, "",
-            "Morning.MP3", "Morning.MP3", 85);
-        row("mp3 in real time inside a wave file", false, "mp3.wav", "Morning", {}, plenty, "",
-            "Morning.WAV", "Morning.WAV", 85);
-        row("mp3 to convert is captured as pcm", false, "convert.mp3", "Morning", {}, plenty, "",
-            "Morning.MP3", "Morning.WAV.TMP", 1);
+        row("pcm named by the clock, prefix and suffix", false, "pcm", "", {}, plenty,
+            "Show_060126_120000_am.WAV");
+        row("the user's name wins over the stamp", false, "pcm", " Morning ", {}, plenty,
+            "Morning.WAV");
+        row("mp3 in real time, kept as .MP3", false, "mp3.mp3", "Morning", {}, plenty,
+            "Morning.MP3");
+        row("mp3 in real time inside a wave file", false, "mp3.wav", "Morning", {}, plenty,
+            "Morning.WAV");
+        row("mp3 to convert is captured as pcm", false, "convert.mp3", "Morning", {}, plenty,
+            "Morning.MP3");
         row("a taken name gets the next free number", false, "pcm", "Morning",
-            {"Morning.WAV", "Morning (2).WAV"}, plenty, "", "Morning (3).WAV", "Morning (3).WAV",
-            1);
+            {"Morning.WAV", "Morning (2).WAV"}, plenty, "Morning (3).WAV");
         row("a queued capture takes the name of a conversion", false, "convert.wav", "Morning",
-            {"Morning.WAV.TMP"}, plenty, "", "Morning (2).WAV", "Morning (2).WAV.TMP", 1);
+            {"Morning.WAV.TMP"}, plenty, "Morning (2).WAV");
         row("a capture does not take the name of a direct recording", false, "pcm", "Morning",
-            {"Morning.WAV.TMP"}, plenty, "", "Morning.WAV", "Morning.WAV", 1);
+            {"Morning.WAV.TMP"}, plenty, "Morning.WAV");
         row("a scheduled recording is never refused for space", false, "pcm", "Morning", {}, 0.0,
-            "", "Morning.WAV", "Morning.WAV", 1);
-        row("manual: half a megabyte above the limit will do", true, "pcm", "Morning", {}, 25.5, "",
-            "Morning.WAV", "Morning.WAV", 1);
-        row("manual: less is refused", true, "pcm", "Morning", {}, 25.49, "space", "", "", 0);
+            "Morning.WAV");
+        row("manual: half a megabyte above the limit will do", true, "pcm", "Morning", {}, 25.5,
+            "Morning.WAV");
+        row("manual: less is refused", true, "pcm", "Morning", {}, 25.49, "space");
         // A minute of 22 kHz stereo: about 5 Mbytes of PCM beside the MP3.
         row("manual to convert needs room for both files", true, "convert.mp3", "Morning", {}, 30.0,
-            "space", "", "", 0);
-        row("manual to convert with that room", true, "convert.mp3", "Morning", {}, 31.0, "",
-            "Morning.MP3", "Morning.WAV.TMP", 1);
-        row("manual without a recording folder", true, "pcm", "Morning", {}, plenty, "folder", "",
-            "", 0);
-        row("program gone", false, "gone", "", {}, plenty, "gone", "", "", 0);
+            "space");
+        row("manual to convert with that room", true, "convert.mp3", "Morning", {}, 31.0,
+            "Morning.MP3");
+        row("manual without a recording folder", true, "pcm", "Morning", {}, plenty, "folder");
+        row("program gone", false, "gone", "", {}, plenty, "gone");
     }
 
     void planOfAStart()
@@ -88,10 +82,8 @@ private slots:
         QFETCH(QString, userName);
         QFETCH(QStringList, existing);
         QFETCH(double, freeMb);
-        QFETCH(QString, refusal);
-        QFETCH(QString, finalFile);
-        QFETCH(QString, captureFile);
-        QFETCH(int, captureTag);
+        QFETCH(QString, outcome);
+        const bool refused = !outcome.contains('.');
 
         const double now = Programs::At(2026, 6, 1, "12:00:00");
         RecordingRequest request;
@@ -112,7 +104,7 @@ private slots:
             request.Program = row;
         }
         RecordingSettings settings;
-        settings.Folder = refusal == "folder" ? QString() : QString("/rec");
+        settings.Folder = outcome == "folder" ? QString() : QString("/rec");
         settings.StopRecMegsLeft = 25;
         settings.FreeMbytes = freeMb;
         QSet<QString> files;
@@ -121,28 +113,30 @@ private slots:
         const auto planned = PlanRecording(
             request, settings, now, [&files](const QString& path) { return files.contains(path); });
 
-        if (!refusal.isEmpty()) {
-            const auto* refused = std::get_if<RecordingRefusal>(&planned);
-            QVERIFY(refused);
+        if (refused) {
+            const auto* refusal = std::get_if<RecordingRefusal>(&planned);
+            QVERIFY(refusal);
             const QHash<QString, RecordingRefusal::Reason> reasons{
                 {"space", RecordingRefusal::Reason::NotEnoughSpace},
                 {"folder", RecordingRefusal::Reason::NoRecordingFolder},
                 {"gone", RecordingRefusal::Reason::ProgramGone}};
-            QCOMPARE(refused->Why, reasons.value(refusal));
+            QCOMPARE(refusal->Why, reasons.value(outcome));
             // A program that is gone ends the start without a word.
-            QCOMPARE(refused->Title.isEmpty(), refusal == "gone");
+            QCOMPARE(refusal->Title.isEmpty(), outcome == "gone");
             return;
         }
         const auto* plan = std::get_if<RecordingPlan>(&planned);
         QVERIFY(plan);
-        QCOMPARE(plan->Status.FinalFile, "/rec/" + finalFile);
-        QCOMPARE(plan->Status.RecordingFile, "/rec/" + captureFile);
+        const bool converted = kind.startsWith("convert");
+        const QString finalFile = "/rec/" + outcome;
+        QCOMPARE(plan->Status.FinalFile, finalFile);
+        QCOMPARE(plan->Status.RecordingFile,
+                 converted ? finalFile.section('.', 0, -2) + ".WAV.TMP" : finalFile);
         QCOMPARE(plan->Parms.outputPath, plan->Status.RecordingFile);
         QCOMPARE(plan->Parms.finalPath, plan->Status.FinalFile);
-        QCOMPARE(int(plan->Parms.format.wFormatTag), captureTag);
+        QCOMPARE(int(plan->Parms.format.wFormatTag), kind.startsWith("mp3") ? 85 : 1);
         QCOMPARE(plan->Parms.lengthSeconds, 60);
-        QCOMPARE(plan->WantedFileName.isEmpty(), !finalFile.contains('('));
-        const bool converted = kind.startsWith("convert");
+        QCOMPARE(plan->WantedFileName.isEmpty(), !outcome.contains('('));
         QCOMPARE(plan->Status.ConvertToMP3, converted);
         QCOMPARE(bool(plan->Conversion), converted);
         if (converted) {

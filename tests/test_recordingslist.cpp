@@ -2,6 +2,7 @@
 #include "RecordingsListFixture.h"
 #include "TaskWaveSource.h"
 #include "TestFiles.h"
+#include "formats/MediaReaders.h"
 #include "recording/RecorderParts.h"
 #include "recordingslist/ListFile.h"
 #include "recordingslist/SavedLists.h"
@@ -40,19 +41,19 @@ private slots:
     {
         ListFixture f;
         WriteWave(f.File("a.wav"));
+        WriteWave(f.File("b.wav"));
         f.list.AddFileToRecordingsList(f.File("a.wav"));
+        f.list.AddFileToRecordingsList(f.File("b.wav"));
+        QCOMPARE(f.tc.ctx->database.DataRecordings.recordset().Value("File").toString(),
+                 f.File("b.wav")); // the new row is the current one
         f.list.AddFileToRecordingsList("  " + f.File("a.wav") + " ");
         f.list.AddFileToRecordingsList(f.File("notes.txt"));
-        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"a.wav"});
-    }
-
-    void theFileBeingRecordedIsNotListed()
-    {
-        ListFixture f;
-        WriteWave(f.File("now.wav"));
+        WriteWave(f.File("now.wav")); // the file being recorded is not listed
         RecorderParts::Status(f.tc.ctx->recorder).FinalFile = f.File("now.wav");
         f.list.AddFileToRecordingsList(f.File("now.wav"));
-        QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
+        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList({"a.wav", "b.wav"}));
+        // Names compare trimmed and upper-cased.
+        QVERIFY(IsFileInRecordingsList(f.tc.ctx->database, f.File("A.WAV")));
     }
 
     void aFolderListsItsWaveFilesFirst()
@@ -91,24 +92,10 @@ private slots:
         QVERIFY(log.Value("Details").toString().endsWith("Filename: " + f.File("stuck.wav")));
     }
 
-    void removingAndClearingLeaveTheFiles()
-    {
-        ListFixture f;
-        WriteWave(f.File("a.wav"));
-        WriteWave(f.File("b.wav"));
-        f.list.AddFolderToRecordingsList(f.Folder());
-        Recordset rs = f.tc.ctx->database.DataRecordings.recordset().Clone();
-        rs.MoveFirst();
-        f.list.RemoveFromList({rs.Bookmark()});
-        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"b.wav"});
-        f.list.ClearRecordingsList();
-        QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
-        QVERIFY(QFile::exists(f.File("a.wav")) && QFile::exists(f.File("b.wav")));
-    }
-
     // The purge deletes old recordings that are listed and in the recording folder, with
     // their CUE sheets, and their rows; the user's own files in that folder stay, however old.
-    // A purge that deleted something also drops the rows of files gone from that folder.
+    // A purge that deleted something also drops the rows of files gone from that folder, and
+    // only from that folder.
     void thePurgeDeletesOldListedRecordingsOnly()
     {
         ListFixture f;
@@ -123,9 +110,11 @@ private slots:
         for (const char* name : {"old.wav", "old.mp3", "new.wav"})
             f.list.AddFileToRecordingsList(f.File(name));
         f.list.AddFileToRecordingsList(elsewhere + "/old.wav");
-        WriteWave(f.File("gone.wav"));
-        f.list.AddFileToRecordingsList(f.File("gone.wav"));
-        QVERIFY(QFile::remove(f.File("gone.wav")));
+        for (const QString& gone : {f.File("gone.wav"), elsewhere + "/gone.wav"}) {
+            WriteWave(gone);
+            f.list.AddFileToRecordingsList(gone);
+            QVERIFY(QFile::remove(gone));
+        }
         f.tc.clock.Set(QDateTime::currentDateTime());
         const QDateTime longAgo = QDateTime::currentDateTime().addDays(-40);
         for (const QString& path : old) {
@@ -140,23 +129,8 @@ private slots:
         QVERIFY(QFile::exists(elsewhere + "/old.wav"));
         QStringList listed = ListedFiles(*f.tc.ctx);
         listed.sort();
-        QCOMPARE(listed, QStringList({"new.wav", "old.wav"}));
+        QCOMPARE(listed, QStringList({"gone.wav", "new.wav", "old.wav"}));
         QCOMPARE(f.list.PurgeOldRecordings(), 0);
-    }
-
-    void aRowOfAVanishedFileGoesOnlyFromTheRecordingFolder()
-    {
-        ListFixture f;
-        const QString elsewhere = f.tc.Root() + "/elsewhere";
-        QDir().mkpath(elsewhere);
-        WriteWave(f.File("a.wav"));
-        WriteWave(elsewhere + "/b.wav");
-        f.list.AddFileToRecordingsList(f.File("a.wav"));
-        f.list.AddFileToRecordingsList(elsewhere + "/b.wav");
-        QFile::remove(f.File("a.wav"));
-        QFile::remove(elsewhere + "/b.wav");
-        f.list.RemoveMissingFromRecordingFolder();
-        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"b.wav"});
     }
 
     void durations_data()

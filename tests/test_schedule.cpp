@@ -78,6 +78,11 @@ private slots:
         row("one time, into the new year", party, At(2027, 1, 1, "00:30:00"),
             At(2026, 12, 31, "23:00:00"), At(2027, 1, 1, "01:00:00"));
         row("one time, over at 01:00", party, At(2027, 1, 1, "01:00:00"), 0, 0);
+        // The cancellation lapses before the enabled test leaves the row out.
+        QVariantHash off = cancelled(Programs::Weekly("Off", "10:00:00", "11:00:00", "1111111"),
+                                     At(2026, 5, 1, "11:00:00"));
+        off["Enabled"] = 0;
+        row("disabled, a lapsed cancellation", off, At(2026, 6, 1, "12:00:00"), 0, 0, 0);
         for (const QVariant& flag : {QVariant(-1), QVariant()}) {
             QVariantHash cancelledParty = party;
             cancelledParty["RecordingCancelled"] = flag;
@@ -99,66 +104,6 @@ private slots:
         if (stillCancelled >= 0)
             QCOMPARE(Field::ToBool(Column(*tc.ctx, id, "RecordingCancelled")),
                      bool(stillCancelled));
-    }
-
-    // Of two programs due, the one that starts first wins, a running one before a later
-    // one; equal starts go by the grid's order.
-    void theFirstOfTwoProgramsWins_data()
-    {
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<QStringList>("alpha"); // start and end; Bravo runs from 20:00 to 21:00
-        QTest::addColumn<QString>("winner");
-        QTest::newRow("equal starts, ascending")
-            << QString("ASC") << QStringList{"20:00:00", "20:30:00"} << QString("Alpha");
-        QTest::newRow("equal starts, descending")
-            << QString("DESC") << QStringList{"20:00:00", "20:30:00"} << QString("Bravo");
-        QTest::newRow("running beats a later start")
-            << QString("DESC") << QStringList{"11:00:00", "21:30:00"} << QString("Alpha");
-    }
-    void theFirstOfTwoProgramsWins()
-    {
-        QFETCH(QString, order);
-        QFETCH(QStringList, alpha);
-        OpenedContext tc;
-        tc.AddProgram(Programs::Weekly("Bravo", "20:00:00", "21:00:00", "0100000"));
-        tc.AddProgram(Programs::Weekly("Alpha", alpha[0], alpha[1], "0100000"));
-        AppDatabase& db = tc.ctx->database;
-        db.DataPrograms.SetRecordSource("SELECT * FROM [Programs] ORDER BY [DescriptionText] " +
-                                        order);
-        db.DataPrograms.Refresh();
-        QTEST(Search(*tc.ctx, At(2026, 6, 1, "12:00:00"))->description, "winner");
-    }
-
-    void nothingToScheduleClearsTheNextProgram_data()
-    {
-        QTest::addColumn<bool>("disabledRow");
-        QTest::newRow("empty table") << false;
-        QTest::newRow("all disabled") << true;
-    }
-    void nothingToScheduleClearsTheNextProgram()
-    {
-        OpenedContext tc;
-        qint64 id = 0;
-        QFETCH(bool, disabledRow);
-        if (disabledRow) {
-            QVariantHash row = Programs::Weekly("Off", "10:00:00", "11:00:00", "1111111");
-            row["Enabled"] = 0;
-            row["RecordingCancelled"] = -1;
-            row["RecordingCancelledEndDateAndTime"] = At(2026, 5, 1, "11:00:00");
-            id = tc.AddProgram(row);
-        }
-        QVERIFY(!Search(*tc.ctx, At(2026, 6, 1, "12:00:00")));
-        // The cancellation test comes before the enabled test.
-        if (id)
-            QVERIFY(!Field::ToBool(Column(*tc.ctx, id, "RecordingCancelled")));
-
-        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
-        tc.ctx->scheduler.next.NextProgramFound = true;
-        tc.ctx->scheduler.next.NextLinkLaunchTime = 0;
-        tc.ctx->scheduler.ScheduleNextRecording();
-        QVERIFY(!tc.ctx->scheduler.next.NextProgramFound);
-        QCOMPARE(tc.ctx->scheduler.next.NextLinkLaunchTime, AutomationDate::Never());
-        QCOMPARE(tc.ctx->scheduler.next.NextAppLaunchTime, AutomationDate::Never());
     }
 
     // Rows of an older file: NULL in the added columns reads as the documented value,
@@ -202,88 +147,99 @@ private slots:
         QVERIFY(capture.Contains("Module: DetermineNextProgramToSchedule"));
     }
 
-    // A program from 20:00 to 21:00 on Monday and maybe another after it.
-    void paddingWidensScheduledRecordings_data()
+    // What the search at noon on Monday hands on to the heartbeat: the padded window, which
+    // gives way to the next program, and the lead times of the link and the application.
+    // Of two programs, the first to start wins, a running one before a later one; equal
+    // starts go by the grid's order.
+    void theNextRecordingAsScheduled_data()
     {
+        QTest::addColumn<QList<QVariantHash>>("programs");
         QTest::addColumn<int>("padding");
-        QTest::addColumn<QString>("following");
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("end");
-        const auto row = [](const char* tag, int padding, const char* following, const char* start,
-                            const char* end) {
-            QTest::newRow(tag) << padding << QString(following) << QString(start) << QString(end);
-        };
-        row("none", 0, "", "20:00:00", "21:00:00");
-        row("alone", 300, "", "19:55:00", "21:05:00");
-        row("gives way to the next", 300, "21:00:00", "19:55:00", "21:00:00");
-        row("gives way part way", 300, "21:03:00", "19:55:00", "21:03:00");
-        row("an overlapping one does not cut it", 300, "20:30:00", "19:55:00", "21:00:00");
-    }
-    void paddingWidensScheduledRecordings()
-    {
-        QFETCH(int, padding);
-        QFETCH(QString, following);
-        QFETCH(QString, start);
-        QFETCH(QString, end);
-        OpenedContext tc;
-        tc.ctx->options.PaddingSeconds = qint16(padding);
-        tc.AddProgram(Programs::Weekly("Evening", "20:00:00", "21:00:00", "0100000"));
-        if (!following.isEmpty())
-            tc.AddProgram(Programs::Weekly("Later", following, "23:00:00", "0100000"));
-        tc.clock.Set(At(2026, 6, 1, "12:00:00"));
-        tc.ctx->scheduler.ScheduleNextRecording();
-        const NextProgram& n = tc.ctx->scheduler.next;
-        QCOMPARE(n.NextProgramDescription, QString("Evening"));
-        QCOMPARE(n.NextProgramStart, At(2026, 6, 1, start));
-        QCOMPARE(n.NextProgramEnd, At(2026, 6, 1, end));
-    }
-
-    void launchTimesAheadOfTheStart_data()
-    {
-        QTest::addColumn<QString>("link");
-        QTest::addColumn<int>("linkDelay");
-        QTest::addColumn<QString>("close");
-        QTest::addColumn<QString>("launch");
-        QTest::addColumn<int>("launchDelay");
-        QTest::addColumn<int>("linkLead");
+        QTest::addColumn<QString>("order");
+        QTest::addColumn<QStringList>("window"); // description, start, end
+        QTest::addColumn<int>("linkLead");       // seconds ahead, -1: never
         QTest::addColumn<int>("appLead");
-        const auto row = [](const char* tag, const char* link, int linkDelay, const char* close,
-                            const char* launch, int launchDelay, int linkLead, int appLead) {
-            QTest::newRow(tag) << QString(link) << linkDelay << QString(close) << QString(launch)
-                               << launchDelay << linkLead << appLead;
+        const auto row = [](const char* tag, const QList<QVariantHash>& programs, int padding,
+                            const QStringList& window, int linkLead = -1, int appLead = -1,
+                            const char* order = "ASC") {
+            QTest::newRow(tag) << programs << padding << QString(order) << window << linkLead
+                               << appLead;
         };
-        row("automatic player: at least 5 s", "http://radio", 0, "", "", 0, 5, -1);
-        row("do not close: at the start", "http://radio", 0, "DO_NOT_CLOSE", "player", 0, 0, 0);
-        row("a longer lead stays", "http://radio", 60, "", "player", 3, 60, 3);
-        row("no link", "", 30, "", "player", 120, -1, 120);
+        const auto evening = [](const QVariantHash& columns = {}) {
+            QVariantHash program = Programs::Weekly("Evening", "20:00:00", "21:00:00", "0100000");
+            program["StreamingPlayerClose"] = ""; // the automatic player
+            program.insert(columns);
+            return program;
+        };
+        const auto later = [](const char* start) {
+            return Programs::Weekly("Later", start, "23:00:00", "0100000");
+        };
+        const QStringList asIs{"Evening", "20:00:00", "21:00:00"};
+        row("no padding", {evening()}, 0, asIs);
+        row("padded", {evening()}, 300, {"Evening", "19:55:00", "21:05:00"});
+        row("padding gives way to the next", {evening(), later("21:00:00")}, 300,
+            {"Evening", "19:55:00", "21:00:00"});
+        row("padding gives way part way", {evening(), later("21:03:00")}, 300,
+            {"Evening", "19:55:00", "21:03:00"});
+        row("an overlapping one does not cut it", {evening(), later("20:30:00")}, 300,
+            {"Evening", "19:55:00", "21:00:00"});
+        row("automatic player: at least 5 s", {evening({{"InternetLink", "http://radio"}})}, 0,
+            asIs, 5);
+        row("do not close: at the start",
+            {evening({{"InternetLink", "http://radio"},
+                      {"StreamingPlayerClose", "DO_NOT_CLOSE"},
+                      {"LaunchAppPrior", "player"}})},
+            0, asIs, 0, 0);
+        row("a longer lead stays",
+            {evening({{"InternetLink", "http://radio"},
+                      {"InternetLinkDelay", 60},
+                      {"LaunchAppPrior", "player"},
+                      {"LaunchAppDelay", 3}})},
+            0, asIs, 60, 3);
+        row("no link",
+            {evening({{"InternetLinkDelay", 30},
+                      {"LaunchAppPrior", "player"},
+                      {"LaunchAppDelay", 120}})},
+            0, asIs, -1, 120);
+        const QVariantHash bravo = Programs::Weekly("Bravo", "20:00:00", "21:00:00", "0100000");
+        const QVariantHash alpha = Programs::Weekly("Alpha", "20:00:00", "20:30:00", "0100000");
+        row("equal starts, ascending", {bravo, alpha}, 0, {"Alpha", "20:00:00", "20:30:00"});
+        row("equal starts, descending", {bravo, alpha}, 0, {"Bravo", "20:00:00", "21:00:00"}, -1,
+            -1, "DESC");
+        row("running beats a later start",
+            {bravo, Programs::Weekly("Alpha", "11:00:00", "21:30:00", "0100000")}, 0,
+            {"Alpha", "11:00:00", "21:30:00"}, -1, -1, "DESC");
     }
-    void launchTimesAheadOfTheStart()
+    void theNextRecordingAsScheduled()
     {
+        QFETCH(QList<QVariantHash>, programs);
+        QFETCH(QStringList, window);
         OpenedContext tc;
-        QVariantHash row = Programs::Weekly("Stream", "20:00:00", "21:00:00", "0100000");
-        QFETCH(QString, link);
-        row["InternetLink"] = link;
-        QFETCH(int, linkDelay);
-        row["InternetLinkDelay"] = linkDelay;
-        QFETCH(QString, close);
-        row["StreamingPlayerClose"] = close;
-        QFETCH(QString, launch);
-        row["LaunchAppPrior"] = launch;
-        QFETCH(int, launchDelay);
-        row["LaunchAppDelay"] = launchDelay;
-        tc.AddProgram(row);
+        QFETCH(int, padding);
+        tc.ctx->options.PaddingSeconds = qint16(padding);
+        for (const QVariantHash& program : programs)
+            tc.AddProgram(program);
+        QFETCH(QString, order);
+        tc.ctx->database.DataPrograms.SetRecordSource(
+            "SELECT * FROM [Programs] ORDER BY [DescriptionText] " + order);
+        tc.ctx->database.DataPrograms.Refresh();
         tc.clock.Set(At(2026, 6, 1, "12:00:00"));
         tc.ctx->scheduler.ScheduleNextRecording();
         const NextProgram& n = tc.ctx->scheduler.next;
         QVERIFY(n.NextProgramFound);
-        const double start = At(2026, 6, 1, "20:00:00");
+        QCOMPARE(n.NextProgramDescription, window[0]);
+        const double start = At(2026, 6, 1, window[1]);
+        QCOMPARE(n.NextProgramStart, start);
+        QCOMPARE(n.NextProgramEnd, At(2026, 6, 1, window[2]));
         QFETCH(int, linkLead);
         QFETCH(int, appLead);
-        QCOMPARE(n.NextLinkLaunchTime, linkLead < 0 ? AutomationDate::Never()
-                                                    : AutomationDate::AddSeconds(start, -linkLead));
-        QCOMPARE(n.NextAppLaunchTime, appLead < 0 ? AutomationDate::Never()
-                                                  : AutomationDate::AddSeconds(start, -appLead));
-        QCOMPARE(n.NextInternetLinkDelay, qint16(linkDelay));
+        const auto lead = [start](int seconds) {
+            return seconds < 0 ? AutomationDate::Never()
+                               : AutomationDate::AddSeconds(start, -seconds);
+        };
+        QCOMPARE(n.NextLinkLaunchTime, lead(linkLead));
+        QCOMPARE(n.NextAppLaunchTime, lead(appLead));
+        QCOMPARE(n.NextInternetLinkDelay, qint16(programs[0].value("InternetLinkDelay").toInt()));
     }
 
     void expiredOneTimeProgramsAreOfferedForRemoval_data()

@@ -300,26 +300,31 @@ private slots:
         }
     }
 
-    void recentRecordingTimeReadsBackAsWritten_data()
+    void recentRecordingReadsBackUnlessItsFileIsGone_data()
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QDateTime>("time"); // invalid: none (0)
+        QTest::addColumn<bool>("fileGone");
 
         // Locales whose short dates have two-digit years and whose long times name the zone.
+        const QDateTime afternoon(QDate(2026, 6, 1), QTime(14, 30, 15));
         for (const char* locale : {"en_US", "de_DE"}) {
             const auto row = [&](const char* tag, const QDateTime& time) {
-                QTest::addRow("%s, %s", locale, tag) << QString(locale) << time;
+                QTest::addRow("%s, %s", locale, tag) << QString(locale) << time << false;
             };
-            row("afternoon", QDateTime(QDate(2026, 6, 1), QTime(14, 30, 15)));
+            row("afternoon", afternoon);
             row("last century", QDateTime(QDate(1950, 3, 4), QTime(8, 0, 1)));
             row("none", QDateTime());
         }
+        // Cleared in the store too: the next start finds nothing.
+        QTest::newRow("file gone") << QString("en_US") << afternoon << true;
     }
 
-    void recentRecordingTimeReadsBackAsWritten()
+    void recentRecordingReadsBackUnlessItsFileIsGone()
     {
         QFETCH(QString, locale);
         QFETCH(QDateTime, time);
+        QFETCH(bool, fileGone);
         const double written = time.isValid() ? AutomationDate::FromDateTime(time) : 0.0;
 
         const QLocale previous;
@@ -327,15 +332,18 @@ private slots:
         const auto restore = qScopeGuard([&] { QLocale::setDefault(previous); });
         TestContext tc;
         const QString file = tc.Root() + "/take.wav";
-        QVERIFY(WriteFile(file, "RIFF"));
+        QVERIFY(fileGone || WriteFile(file, "RIFF"));
         tc.ctx->options.SaveRecentRecording(tc.ctx->registry, file, "Evening news", written);
 
-        Options read;
-        read.GetRecentRecording(tc.ctx->registry);
-        QCOMPARE(read.RecentRecordingFilename, file);
-        QCOMPARE(read.RecentRecordingDescription, QString("Evening news"));
-        QCOMPARE(AutomationDate::ToDateTime(read.RecentRecordingTime),
-                 AutomationDate::ToDateTime(written));
+        for (int start = 0; start < (fileGone ? 2 : 1); ++start) {
+            Options read;
+            read.GetRecentRecording(tc.ctx->registry);
+            QCOMPARE(read.RecentRecordingFilename, fileGone ? QString() : file);
+            QCOMPARE(read.RecentRecordingDescription,
+                     fileGone ? QString() : QString("Evening news"));
+            QCOMPARE(AutomationDate::ToDateTime(read.RecentRecordingTime),
+                     AutomationDate::ToDateTime(fileGone ? 0.0 : written));
+        }
     }
 
     // Each option the dialog edits is written under the name the next start reads.
@@ -392,26 +400,6 @@ private slots:
         QCOMPARE(written(), first);
         QCOMPARE(first.value(kSection + "/WavPlayer"), saved.WavPlayer);
         QVERIFY(first.size() > 20);
-    }
-
-    void recentRecordingIsClearedWhenItsFileIsGone()
-    {
-        TestContext tc;
-        Preset(tc, "RecentRecordingFilename", tc.Root() + "/gone.wav");
-        Preset(tc, "RecentRecordingDescription", "Evening news");
-        Preset(tc, "RecentRecordingTime", "6/1/2026 2:30:00 PM");
-
-        Options& options = tc.ctx->options;
-        options.GetRecentRecording(tc.ctx->registry);
-        QCOMPARE(options.RecentRecordingFilename, QString());
-        QCOMPARE(options.RecentRecordingDescription, QString());
-        QCOMPARE(options.RecentRecordingTime, 0.0);
-
-        // Cleared in the store too: the next start finds nothing.
-        Options next;
-        next.GetRecentRecording(tc.ctx->registry);
-        QCOMPARE(next.RecentRecordingDescription, QString());
-        QCOMPARE(next.RecentRecordingTime, 0.0);
     }
 };
 

@@ -1,11 +1,9 @@
-// The live figures of the status bar and the guard against a full disk, through the
-// recorder that runs them on every tick.
+// The live figures of the status bar, through the recorder that runs them on every tick.
 #include "Programs.h"
 #include "TestContext.h"
 #include "platform/StorageDiskSpace.h"
 #include "recording/RecorderParts.h"
 
-#include <QDir>
 #include <QTest>
 
 class TestStatusBar : public QObject {
@@ -46,45 +44,6 @@ private slots:
         QCOMPARE(DiskSpaceMb::FromBytes(512 * 1024, 512 * 1024).usedPercent, 100.0f);
         QCOMPARE(DiskSpaceMb::FromBytes(4 * 1048576, 1048576).usedPercent, 75.0f);
         QCOMPARE(StorageDiskSpace().GetRecDirDiskSpaceMb("/a").total, 0.0);
-    }
-
-    void theDiskGuardWatchesTheFilesBeingWritten_data()
-    {
-        QTest::addColumn<bool>("converting");
-        QTest::newRow("the live recording") << false;
-        QTest::newRow("the running conversion") << true;
-    }
-    // The guard measures the disk of the file being written, not the folder that the options
-    // name now, and logs once however many rounds the stop takes; the recording's stop posts
-    // once and arms the watchdog that ends it if the task stays silent.
-    void theDiskGuardWatchesTheFilesBeingWritten()
-    {
-        QFETCH(bool, converting);
-        TestContext tc;
-        tc.OpenDatabase();
-        const QString written = tc.Root() + "/small disk";
-        tc.ctx->options.DefaultRecordingDirectory = tc.Root();
-        tc.ctx->options.StopRecMegsLeft = 25;
-        tc.diskSpace.freeMb = 1000;
-        tc.diskSpace.freeMbOf[written] = 10;
-        Recorder& recorder = tc.ctx->recorder;
-        ConversionQueue& conversion = RecorderParts::Conversion(recorder);
-        if (converting) {
-            conversion.CurrentConvertRequest = std::make_shared<clsConvertToMP3Request>();
-            conversion.CurrentConvertRequest->DestinationFile = written + "/Concert.MP3";
-            tc.ctx->appStatus.SetConverting(true);
-        } else {
-            tc.ctx->appStatus.SetRecording(true);
-            RecorderParts::Status(recorder).RecordingFile = written + "/Concert.WAV";
-            // The task has answered the start command (none here answers at once).
-            RecorderParts::Link(recorder).SendMessage(TaskProtocol::REC_MSG_START);
-        }
-        for (int round = 0; round < 3; ++round)
-            recorder.UpdateStatusBarPlus();
-        QCOMPARE(tc.CountRows("EventLog"), 1);
-        QCOMPARE(conversion.StopMp3Conversion, converting);
-        QCOMPARE(recorder.Status().StopRequested, !converting);
-        QCOMPARE(RecorderParts::Link(recorder).tmrStopRecording.Interval(), converting ? 0 : 10000);
     }
 
     void elapsedTexts()

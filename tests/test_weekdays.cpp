@@ -1,6 +1,5 @@
 #include "common/AutomationDate.h"
 #include "formats/clsProgramFlags.h"
-#include "scheduling/ModuleUtility.h"
 #include "scheduling/clsWeekdays.h"
 
 #include <QtTest>
@@ -63,53 +62,6 @@ private slots:
         QCOMPARE(flags.Flags, after);
         QCOMPARE(flags.SaveMP3FileExtension(), (after & 1) != 0);
         QCOMPARE(flags.ConvertToMP3(), (after & 2) != 0);
-    }
-
-    void daysString_data()
-    {
-        QTest::addColumn<QString>("days");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char* tag, const char* days, const char* text) {
-            QTest::newRow(tag) << QString(days) << QString(text);
-        };
-        row("working week", "Mon,Tue,Wed,Thu,Fri", "Mon-Fri");
-        row("two days in a row stay two names", "Sun,Mon,Wed", "Sun,Mon,Wed");
-        row("weekend does not wrap", "Sun,Sat", "Sun,Sat");
-        row("no day", "", "");
-        row("range then single", "Sun,Mon,Tue,Thu", "Sun-Tue,Thu");
-        row("single then range to Saturday", "Mon,Thu,Fri,Sat", "Mon,Thu-Sat");
-        row("whole week", "Sun,Mon,Tue,Wed,Thu,Fri,Sat", "Sun-Sat");
-    }
-    void daysString()
-    {
-        QFETCH(QString, days);
-        QTEST(DaysString(DaysOf(days)), "text");
-    }
-
-    void timeRangesOverlap_data()
-    {
-        QTest::addColumn<double>("a0");
-        QTest::addColumn<double>("a1");
-        QTest::addColumn<double>("b0");
-        QTest::addColumn<double>("b1");
-        QTest::addColumn<bool>("overlap");
-        QTest::newRow("apart") << 1.0 << 2.0 << 3.0 << 4.0 << false;
-        QTest::newRow("touching") << 1.0 << 2.0 << 2.0 << 3.0 << false;
-        QTest::newRow("partly") << 1.0 << 3.0 << 2.0 << 4.0 << true;
-        QTest::newRow("enclosed") << 1.0 << 4.0 << 2.0 << 3.0 << true;
-        QTest::newRow("zero length at the start") << 1.0 << 3.0 << 1.0 << 1.0 << true;
-        QTest::newRow("zero length at the end") << 1.0 << 3.0 << 3.0 << 3.0 << true;
-        QTest::newRow("zero length outside") << 1.0 << 3.0 << 4.0 << 4.0 << false;
-    }
-    void timeRangesOverlap()
-    {
-        QFETCH(double, a0);
-        QFETCH(double, a1);
-        QFETCH(double, b0);
-        QFETCH(double, b1);
-        // The answer must not depend on which range comes first.
-        QTEST(TimeRangesOverlap(a0, a1, b0, b1), "overlap");
-        QTEST(TimeRangesOverlap(b0, b1, a0, a1), "overlap");
     }
 
     // A one-time program (a date given) meets a weekly one on its weekday only.
