@@ -388,23 +388,41 @@ private slots:
                      qPrintable(text));
     }
 
-    // On a nearly full disk no conversion starts: the recording stays as its PCM capture.
+    void diskGuardKeepsTheCapture_data()
+    {
+        QTest::addColumn<bool>("started");
+        QTest::newRow("conversion stopped part-way") << true;
+        QTest::newRow("conversion not started") << false;
+    }
+
+    // The guard watches the disk of the file being written, not the options' folder: on a
+    // nearly full one no conversion starts, and a running one is stopped (logged once, however
+    // many rounds it takes). The recording stays as its PCM capture, beside a partial MP3.
     void diskGuardKeepsTheCapture()
     {
+        QFETCH(bool, started);
         Fixture f;
-        const auto request = f.Queue("Guarded", 5);
+        const auto request = f.Queue("Guarded", 60);
         QVERIFY(request);
-        f.tc.diskSpace.freeMb = 0.0;
+        if (started)
+            QVERIFY(f.ConvertSome(3));
+        f.ctx().options.DefaultRecordingDirectory = f.tc.Root();
+        f.tc.diskSpace.freeMbOf[f.folder] = 0.0;
         f.recorder().UpdateStatusBarPlus();
+        f.recorder().UpdateStatusBarPlus();
+        QCOMPARE(f.queue().StopMp3Conversion, started);
         f.queue().TimerConvert_Timer();
+
         QVERIFY(f.Idle());
+        QCOMPARE(f.Logged("MP3 conversion stopped due to insufficient disk space.").size(),
+                 started ? 1 : 0);
         f.VerifyKept(*request);
-        QCOMPARE(f.Recordings().size(), 1);
-        QVERIFY(!QFile::exists(request->DestinationFile));
+        QCOMPARE(f.Recordings().size(), started ? 2 : 1);
+        QCOMPARE(QFile::exists(request->DestinationFile), started);
         QCOMPARE(f.Captures(), QStringList());
     }
 
-    // The guard also counts the MP3 a recording to convert will need.
+    // The guard watches the live recording's disk, and counts the MP3 it will need.
     void diskGuardCountsTheMp3OfARecordingToConvert()
     {
         Fixture f;
@@ -413,8 +431,9 @@ private slots:
         const double from = f.tc.clock.Now();
         control.StartRecording(-1, from, AutomationDate::AddSeconds(from, 60), "Tight");
         QVERIFY(f.ctx().appStatus.Recording());
+        f.ctx().options.DefaultRecordingDirectory = f.tc.Root();
         // Half a megabyte of MP3 is due at the start: above the limit by less than that.
-        f.tc.diskSpace.freeMb = f.ctx().options.StopRecMegsLeft + 0.2;
+        f.tc.diskSpace.freeMbOf[f.folder] = f.ctx().options.StopRecMegsLeft + 0.2;
         f.recorder().UpdateStatusBarPlus();
         f.recorder().UpdateStatusBarPlus();
         QTRY_VERIFY_WITH_TIMEOUT(!f.ctx().appStatus.Recording(), 12000);

@@ -413,6 +413,7 @@ private slots:
     {
         QTest::addColumn<QString>("how");
         QTest::addColumn<QString>("logged"); // the start of the first entry, message | details
+        // The command after it: for good recordings only in the first row, always in the others.
         QTest::newRow("paused at once") << "pause"
                                         << "Recording failed | The following recording failed "
                                            "since no recording data was written:\r\nLost";
@@ -423,9 +424,9 @@ private slots:
         QTest::newRow("no server at the start") << "none"
                                                 << "No audio driver found for recording. | ";
     }
-    // The failure is logged, no file or row is left, and the command not limited to good
-    // recordings runs all the same. An occurrence lost during capture is marked, so that it
-    // doesn't start again.
+    // The failure is logged, no file or row is left, and only the command not limited to good
+    // recordings runs. An occurrence lost during capture is marked, so that it doesn't start
+    // again.
     void aFailedRecordingLeavesNothing()
     {
         QFETCH(QString, how);
@@ -434,7 +435,9 @@ private slots:
             m_pulse->Stop();
         RecordingRig r;
         QVariantHash row = Programs::Weekly("Lost", "10:00:01", "10:00:05", "0100000");
-        row.insert({{"LaunchAppAfter", "/usr/bin/after %f"}, {"LaunchAfterOnlyIfOk", 0}});
+        const bool onlyIfOk = how == "pause";
+        row.insert(
+            {{"LaunchAppAfter", "/usr/bin/after %f"}, {"LaunchAfterOnlyIfOk", onlyIfOk ? -1 : 0}});
         const qint64 id = r.AddProgram(row);
         QVERIFY(r.Run(At("10:00:00"), [&] {
             if (how == "pause") {
@@ -453,7 +456,8 @@ private slots:
         QVERIFY(r.recorder().Status().Failed);
         QVERIFY(r.Files().isEmpty());
         QVERIFY(r.Recordings().isEmpty());
-        QCOMPARE(r.tc.launcher.started, QStringList{"/usr/bin/after 060126_100001.WAV"});
+        QCOMPARE(r.tc.launcher.started,
+                 onlyIfOk ? QStringList() : QStringList{"/usr/bin/after 060126_100001.WAV"});
         if (how == "none")
             return;
         QCOMPARE(r.Log().size(), 1);
