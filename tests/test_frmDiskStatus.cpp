@@ -142,7 +142,8 @@ private slots:
     }
 
     // The real folder's figures, the forecast in the grid, nothing written to the program
-    // list (a lapsed cancellation stays as it is), and the layout kept at closing.
+    // list (a lapsed cancellation stays as it is), the layout kept at closing; and no form
+    // without a recording folder.
     void formShowsTheFolderAndTheForecast()
     {
         TestContext tc;
@@ -190,18 +191,13 @@ private slots:
         QCOMPARE(setting("DiskFormWidth"), Twips::FromPixels(640));
         QCOMPARE(setting("DiskFormHeight"), Twips::FromPixels(300));
         QCOMPARE(setting("DiskFormCol0Width"), Twips::FromPixels(222));
-    }
 
-    void invalidRecordingFolderKeepsTheFormClosed()
-    {
-        TestContext tc;
-        tc.OpenDatabase();
+        // Without a valid recording folder the form does not open.
         tc.ctx->error.SetInvalidRecordingDirectory(true);
-        const DiskForecast forecast(tc.clock, tc.ctx->scheduler);
-        frmDiskStatus form(tc.ctx->log, tc.ctx->registry, tc.ctx->options, tc.ctx->error,
-                           tc.diskSpace, forecast, nullptr);
-        QCOMPARE(form.exec(), int(QDialog::Rejected));
-        QVERIFY(!form.Loaded());
+        frmDiskStatus refused(tc.ctx->log, tc.ctx->registry, tc.ctx->options, tc.ctx->error,
+                              tc.diskSpace, forecast, nullptr);
+        QCOMPARE(refused.exec(), int(QDialog::Rejected));
+        QVERIFY(!refused.Loaded());
     }
 
     // The main window's ways into the forecast, from the menu, the tool bar and the tray.

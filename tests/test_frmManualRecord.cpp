@@ -1,6 +1,6 @@
 // Manual recordings in the real main window with the real recording task and a tone from a
 // PulseAudio server of the test's own: the quick start of Ctrl+R and of the joystick, the
-// dialog of the toolbar and the other recording keys.
+// dialog of the toolbar, and the other recording commands of the keys, toolbar and menus.
 #include "ModalDialogs.h"
 #include "RecordingRig.h"
 #include "SoxTone.h"
@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
@@ -66,37 +67,6 @@ struct Window : RecordingRig {
     std::unique_ptr<frmMain> form;
     QElapsedTimer elapsed;
     QTimer clockTimer;
-};
-
-// The write end of a pipe that the joystick reader takes for a device.
-class JoystickPipe {
-public:
-    explicit JoystickPipe(TestContext& tc)
-    {
-        const QByteArray path = QFile::encodeName(tc.JoystickFolder() + "/js0");
-        if (::mkfifo(path.constData(), 0600) != 0)
-            return;
-        QTRY_VERIFY(tc.joystick.IsOpen());
-        m_fd = ::open(path.constData(), O_WRONLY | O_NONBLOCK);
-    }
-    ~JoystickPipe()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    bool IsOpen() const { return m_fd >= 0; }
-    // A press and a release of a button numbered from 1, as the driver reports them.
-    void Press(int button, quint8 flags = 0)
-    {
-        for (qint16 value : {1, 0}) {
-            const js_event event{0, value, quint8(JS_EVENT_BUTTON | flags), quint8(button - 1)};
-            QCOMPARE(::write(m_fd, &event, sizeof event), ssize_t(sizeof event));
-        }
-        QTest::qWait(300);
-    }
-
-private:
-    int m_fd = -1;
 };
 
 } // namespace
@@ -147,44 +117,62 @@ void TestFrmManualRecord::ctrlRRecordsTheDefaultAtOnce()
 
 void TestFrmManualRecord::recordingKeys_data()
 {
-    QTest::addColumn<QString>("widget");
+    QTest::addColumn<QString>("target"); // a widget for a key, else an action to trigger
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<bool>("disabled");
-    QTest::addColumn<bool>("acts");
+    QTest::addColumn<bool>("pausedBefore");
+    QTest::addColumn<bool>("pausedAfter");
+    QTest::addColumn<bool>("stopped");
     const int ctrl = Qt::ControlModifier;
-    QTest::newRow("Ctrl+P pauses") << "SSTab1" << int(Qt::Key_P) << ctrl << false << true;
-    QTest::newRow("Ctrl+U resumes") << "DBGridPrograms" << int(Qt::Key_U) << ctrl << false << true;
-    QTest::newRow("Ctrl+T toggles") << "DBGridPrograms" << int(Qt::Key_T) << ctrl << false << true;
-    QTest::newRow("Ctrl+Shift+R") << "DBGridPrograms" << int(Qt::Key_R)
-                                  << int(ctrl | Qt::ShiftModifier) << false << false;
-    QTest::newRow("disabled Ctrl+S") << "DBGridPrograms" << int(Qt::Key_S) << ctrl << true << false;
+    const auto action = [](const char* tag, const char* name, bool before, bool after,
+                           bool stopped) {
+        QTest::newRow(tag) << QString(name) << 0 << 0 << false << before << after << stopped;
+    };
+    action("toolbar Stop", "ToolbarMain.Stop", false, false, true);
+    action("menu Stop", "mnuStopCurrentRecording", false, false, true);
+    action("toolbar Pause pauses", "ToolbarMain.Pause", false, true, false);
+    action("menu Pause resumes", "mnuPauseRecording", true, false, false);
+    // The Recording menu's Pause (Ctrl+P) and Resume (Ctrl+U) do not toggle.
+    action("menu Pause only", "mnuPauseOnly", true, true, false);
+    action("menu Resume", "mnuResume", false, false, false);
+    QTest::newRow("Ctrl+P pauses")
+        << "SSTab1" << int(Qt::Key_P) << ctrl << false << false << true << false;
+    QTest::newRow("Ctrl+U resumes")
+        << "DBGridPrograms" << int(Qt::Key_U) << ctrl << false << true << false << false;
+    QTest::newRow("Ctrl+T toggles")
+        << "DBGridPrograms" << int(Qt::Key_T) << ctrl << false << false << true << false;
+    QTest::newRow("Ctrl+Shift+P") << "DBGridPrograms" << int(Qt::Key_P)
+                                  << int(ctrl | Qt::ShiftModifier) << false << false << false
+                                  << false;
+    QTest::newRow("disabled Ctrl+S")
+        << "DBGridPrograms" << int(Qt::Key_S) << ctrl << true << false << false << false;
 }
 
-// The keys act with Ctrl alone and the keys not turned off. S, P, U and T are tried on a
-// recording as the start leaves it, without a task; R with none running.
+// The toolbar, the menus and the keys (with Ctrl alone, unless turned off) forward Stop and
+// Pause to the recorder, on a manual recording as the start leaves it, without a task; with
+// the confirmation off, Stop asks nothing.
 void TestFrmManualRecord::recordingKeys()
 {
-    QFETCH(QString, widget);
+    QFETCH(QString, target);
     QFETCH(int, key);
     QFETCH(int, modifiers);
     QFETCH(bool, disabled);
-    QFETCH(bool, acts);
+    QFETCH(bool, pausedBefore);
     Window w;
     AppContext& ctx = w.ctx();
     ctx.options.DisableKeyboardActivatedRecording = disabled;
     ctx.options.ConfirmStopManualRecording = false;
-    const bool quickStart = key == Qt::Key_R;
-    if (!quickStart) {
-        ctx.appStatus.SetRecording(true);
-        RecorderParts::Status(ctx.recorder).ProgramId = -1;
-        ctx.appStatus.SetPaused(key == Qt::Key_U);
-    }
-    QTest::keyClick(Control(w.form.get(), widget), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    const bool changed = quickStart ? w.StartedTasks() > 0
-                                    : ctx.recorder.Status().StopRequested ||
-                                          ctx.appStatus.Paused() != (key == Qt::Key_U);
-    QCOMPARE(changed, acts);
+    ctx.appStatus.SetRecording(true);
+    RecorderParts::Status(ctx.recorder).ProgramId = -1;
+    ctx.appStatus.SetPaused(pausedBefore);
+    if (key == 0)
+        w.form->ui.Action(target)->trigger();
+    else
+        QTest::keyClick(Control(w.form.get(), target), Qt::Key(key),
+                        Qt::KeyboardModifiers(modifiers));
+    QTEST(ctx.appStatus.Paused(), "pausedAfter");
+    QTEST(ctx.recorder.Status().StopRequested, "stopped");
     QVERIFY(w.tc.messageBox.asked.isEmpty());
     ctx.appStatus.SetRecording(false);
 }
@@ -307,15 +295,28 @@ void TestFrmManualRecord::joystickButtonsDriveARecording()
     AppContext& ctx = w.ctx();
     ctx.options.ConfirmStopManualRecording = true;
     w.SetDefaultDuration(0, 1, 0);
-    JoystickPipe joystick(w.tc);
-    QVERIFY(joystick.IsOpen());
-    joystick.Press(3);
+    // A pipe that the reader takes for a device; the test writes the driver's events into it.
+    const QByteArray path = QFile::encodeName(w.tc.JoystickFolder() + "/js0");
+    QCOMPARE(::mkfifo(path.constData(), 0600), 0);
+    QTRY_VERIFY(w.tc.joystick.IsOpen());
+    const int fd = ::open(path.constData(), O_WRONLY | O_NONBLOCK);
+    QVERIFY(fd >= 0);
+    const auto closing = qScopeGuard([fd] { ::close(fd); });
+    // A press and a release of a button numbered from 1.
+    const auto press = [fd](int button, quint8 flags = 0) {
+        for (qint16 value : {1, 0}) {
+            const js_event event{0, value, quint8(JS_EVENT_BUTTON | flags), quint8(button - 1)};
+            QCOMPARE(::write(fd, &event, sizeof event), ssize_t(sizeof event));
+        }
+        QTest::qWait(300);
+    };
+    press(3);
     ctx.options.AllowJoystickActivation = true;
-    joystick.Press(3, JS_EVENT_INIT);
+    press(3, JS_EVENT_INIT);
     ctx.options.EnableJoystickButton3 = false;
-    joystick.Press(3);
+    press(3);
     QVERIFY(!ctx.appStatus.Recording());
-    joystick.Press(7);
+    press(7);
     const QList<LogEntry> entries = w.tc.LogEntries();
     QCOMPARE(std::count_if(entries.begin(), entries.end(),
                            [](const LogEntry& e) {
@@ -324,13 +325,13 @@ void TestFrmManualRecord::joystickButtonsDriveARecording()
              1);
 
     ctx.options.EnableJoystickButton3 = true;
-    joystick.Press(3);
+    press(3);
     QVERIFY(ctx.appStatus.Recording());
-    joystick.Press(2);
+    press(2);
     QVERIFY(ctx.appStatus.Paused());
-    joystick.Press(1);
+    press(1);
     QVERIFY(!ctx.appStatus.Paused());
-    joystick.Press(4);
+    press(4);
     QVERIFY(w.WaitUntilStopped());
     QVERIFY(w.tc.messageBox.asked.isEmpty());
     QCOMPARE(w.Files().size(), 1);

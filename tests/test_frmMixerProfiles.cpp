@@ -68,60 +68,35 @@ private slots:
         m_main->move(100, 80);
     }
 
-    void cleanup()
-    {
-        m_main.reset();
-        m_tc.reset();
-    }
-
-    void loadListsAndSelectsTheFirst_data()
-    {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<bool>("enabled");
-        QTest::newRow("none") << QStringList{} << false;
-        QTest::newRow("sorted by name") << QStringList{"night", "Evening", "morning"} << true;
-    }
-
-    void loadListsAndSelectsTheFirst()
-    {
-        QFETCH(QStringList, files);
-        QFETCH(bool, enabled);
-        MakeProfiles(files);
-        QVERIFY(WriteFile(Profiles().Folder() + "/notes.txt", "x")); // not a profile
-        const auto form = Open();
-        auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
-        QStringList sorted = files;
-        sorted.sort(Qt::CaseInsensitive);
-        QCOMPARE(Texts(list), sorted);
-        QCOMPARE(Selected(list), sorted.value(0));
-        QCOMPARE(Control<QPushButton>(form.get(), "btnActivate")->isEnabled(), enabled);
-        QCOMPARE(Control<QPushButton>(form.get(), "btnRemove")->isEnabled(), enabled);
-    }
-
     void removeSelects_data()
     {
         QTest::addColumn<QStringList>("files");
         QTest::addColumn<int>("row");
         QTest::addColumn<QString>("selected");
-        QTest::newRow("the first of three") << QStringList{"A", "B", "C"} << 0 << "B";
-        QTest::newRow("the last") << QStringList{"A", "B", "C"} << 2 << "B";
+        QTest::newRow("the first of three") << QStringList{"b", "A", "C"} << 0 << "b";
+        QTest::newRow("the last") << QStringList{"b", "A", "C"} << 2 << "b";
         QTest::newRow("the only one") << QStringList{"A"} << 0 << "";
     }
 
+    // The form lists the profiles sorted by name, whatever the case, and selects the first;
+    // Remove asks, then selects the next one, or the one before the last.
     void removeSelects()
     {
         QFETCH(QStringList, files);
         QFETCH(int, row);
         QFETCH(QString, selected);
         MakeProfiles(files);
+        QVERIFY(WriteFile(Profiles().Folder() + "/notes.txt", "x")); // not a profile
         const auto form = Open();
         auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
+        files.sort(Qt::CaseInsensitive);
+        QCOMPARE(Texts(list), files);
+        QCOMPARE(Selected(list), files[0]);
         list->setCurrentRow(row);
         m_tc->messageBox.answers = {MsgResult::Yes};
         form->btnRemove_Click();
 
         QCOMPARE(m_tc->messageBox.asked.size(), 1);
-        QCOMPARE(m_tc->messageBox.asked[0].title, QString("Remove mixer profile"));
         QVERIFY(!QFile::exists(Profiles().PathOf(files[row])));
         files.removeAt(row);
         QCOMPARE(Texts(list), files);
@@ -131,48 +106,44 @@ private slots:
         QCOMPARE(Control<QPushButton>(form.get(), "btnActivate")->isEnabled(), !files.isEmpty());
     }
 
-    // Without a selection the two buttons go grey and ask nothing; No changes nothing.
-    void noSelectionOrNo_data()
+    // Activate and Remove ask first: No changes nothing; Yes activates (an empty profile is
+    // deleted by the activation, and stays listed until the form is opened again) or removes.
+    // Without a selection the two buttons go grey and ask nothing.
+    void activateAndRemoveAskFirst_data()
     {
         QTest::addColumn<bool>("remove");
-        QTest::newRow("activate") << false;
-        QTest::newRow("remove") << true;
+        QTest::addColumn<QString>("title");
+        QTest::newRow("activate") << false << "Activate mixer profile";
+        QTest::newRow("remove") << true << "Remove mixer profile";
     }
 
-    void noSelectionOrNo()
+    void activateAndRemoveAskFirst()
     {
         QFETCH(bool, remove);
         MakeProfiles({"A", "B"}, QByteArray());
         const auto form = Open();
+        // Opened at an offset from the main form, whatever its place.
+        QCOMPARE(form->pos(), m_main->pos() + QPoint(Twips::ToPixels(250), Twips::ToPixels(250)));
         auto* list = Control<QListWidget>(form.get(), "lstMixerProfiles");
         const auto click = [&] {
             remove ? form->btnRemove_Click() : form->btnActivate_Click();
         };
+        m_tc->messageBox.answers = {MsgResult::No, MsgResult::Yes};
         click();
-        QCOMPARE(m_tc->messageBox.asked.size(), 1);
         QCOMPARE(Texts(list), QStringList({"A", "B"}));
         QVERIFY(QFile::exists(Profiles().PathOf("A")));
+        click();
+        QCOMPARE(m_tc->messageBox.asked.size(), 2);
+        QTEST(m_tc->messageBox.asked[1].title, "title");
+        QCOMPARE(m_tc->messageBox.asked[1].buttons, MsgButtons::YesNo);
+        QVERIFY(!QFile::exists(Profiles().PathOf("A")));
+        QCOMPARE(Texts(list), remove ? QStringList{"B"} : QStringList({"A", "B"}));
 
         list->clearSelection();
         click();
-        QCOMPARE(m_tc->messageBox.asked.size(), 1);
+        QCOMPARE(m_tc->messageBox.asked.size(), 2);
         QVERIFY(!Control<QPushButton>(form.get(), "btnActivate")->isEnabled());
         QVERIFY(!Control<QPushButton>(form.get(), "btnRemove")->isEnabled());
-    }
-
-    // Yes activates the selected profile: an empty one is deleted by the activation, and
-    // stays listed until the form is opened again.
-    void activateAsksThenActivates()
-    {
-        MakeProfiles({"Empty"}, QByteArray());
-        const auto form = Open();
-        m_tc->messageBox.answers = {MsgResult::Yes};
-        form->btnActivate_Click();
-        QCOMPARE(m_tc->messageBox.asked.size(), 1);
-        QCOMPARE(m_tc->messageBox.asked[0].title, QString("Activate mixer profile"));
-        QCOMPARE(m_tc->messageBox.asked[0].buttons, MsgButtons::YesNo);
-        QVERIFY(!QFile::exists(Profiles().PathOf("Empty")));
-        QCOMPARE(Texts(Control<QListWidget>(form.get(), "lstMixerProfiles")), QStringList{"Empty"});
     }
 
     // Saving through the add form, opened by Add: a new name (trimmed) joins the list and is
@@ -215,14 +186,6 @@ private slots:
         QVERIFY(QFile(Profiles().PathOf("Late show")).size() > kProfile.size());
         QCOMPARE(Selected(list), QString("Old"));
         QVERIFY(Control<QPushButton>(form.get(), "btnActivate")->isEnabled());
-    }
-
-    // The forms open at an offset from the main form, whatever its place (the other forms
-    // are placed the same way).
-    void placesAtTheMainForm()
-    {
-        const auto form = Open();
-        QCOMPARE(form->pos(), m_main->pos() + QPoint(Twips::ToPixels(250), Twips::ToPixels(250)));
     }
 };
 

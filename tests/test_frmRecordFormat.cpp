@@ -59,28 +59,6 @@ private slots:
         QCOMPARE(format.FormatChanged, qint16(0));
     }
 
-    void changeFormatTellsOkFromCancel_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("changed");
-        QTest::newRow("OK") << "CommandOk" << true;
-        QTest::newRow("Cancel") << "CommandCancel" << false;
-    }
-    void changeFormatTellsOkFromCancel()
-    {
-        QFETCH(QString, button);
-        QFETCH(bool, changed);
-        MemoryLog bare;
-        clsRecordingFormat format;
-        format.SetToPcmPhoneQuality();
-        WhenModalOpens([&](QDialog* form) {
-            Control<QRadioButton>(form, "optCDQuality")->click();
-            form->findChild<QPushButton*>(button)->click();
-        });
-        QCOMPARE(ChangeFormat(bare.log, format, nullptr), changed);
-        QCOMPARE(format.nSamplesPerSec(), changed ? 44100u : 11025u);
-    }
-
     void aRateOutsideTheListSelectsNothingAndTheNextChangeTakes11025()
     {
         MemoryLog bare;

@@ -24,30 +24,27 @@ private slots:
         QTest::addColumn<QString>("titleAsked");
         QTest::addColumn<QString>("chosen");
         QTest::addColumn<bool>("folderExistsAfter");
+        const auto row = [](const char* tag, const QStringList& folders, const char* typed,
+                            const QList<MsgResult>& answers, const char* asked, const char* chosen,
+                            bool existsAfter) {
+            QTest::newRow(tag) << folders << QString(typed) << answers << QString(asked)
+                               << QString(chosen) << existsAfter;
+        };
         const QList<MsgResult> yes{MsgResult::Yes};
-        const QString create = "Create Folder";
-        QTest::newRow("existing folder")
-            << QStringList{"rec"} << "<root>/rec/" << QList<MsgResult>() << ""
-            << "<root>/rec/" << true;
-        QTest::newRow("relative levels are resolved")
-            << QStringList{"rec"} << "<root>/x/../rec/" << QList<MsgResult>() << ""
-            << "<root>/rec/" << true;
+        const char* create = "Create Folder";
+        row("existing folder", {"rec"}, "<root>/rec/", {}, "", "<root>/rec/", true);
+        row("relative levels are resolved", {"rec"}, "<root>/x/../rec/", {}, "", "<root>/rec/",
+            true);
         // The listing without a closing separator matches the start of names: intended.
-        QTest::newRow("start of an existing name")
-            << QStringList{"recordings"} << "<root>/rec" << QList<MsgResult>() << ""
-            << "<root>/rec" << false;
-        QTest::newRow("missing levels created on Yes")
-            << QStringList() << "<root>/a/b/c" << yes << create << "<root>/a/b/c/" << true;
-        QTest::newRow("missing folder, No keeps the form open")
-            << QStringList() << "<root>/a/b" << QList<MsgResult>{MsgResult::No} << create << ""
-            << false;
-        QTest::newRow("blank text")
-            << QStringList() << "   " << QList<MsgResult>() << "Invalid Recording Directory"
-            << "" << false;
+        row("start of an existing name", {"recordings"}, "<root>/rec", {}, "", "<root>/rec", false);
+        row("missing levels created on Yes", {}, "<root>/a/b/c", yes, create, "<root>/a/b/c/",
+            true);
+        row("missing folder, No keeps the form open", {}, "<root>/a/b", {MsgResult::No}, create, "",
+            false);
+        row("blank text", {}, "   ", {}, "Invalid Recording Directory", "", false);
         // A level that can't be made still counts as created; later checks catch it.
-        QTest::newRow("folder under a file is accepted")
-            << QStringList{"file:plain"} << "<root>/plain/sub" << yes << create
-            << "<root>/plain/sub/" << false;
+        row("folder under a file is accepted", {"file:plain"}, "<root>/plain/sub", yes, create,
+            "<root>/plain/sub/", false);
     }
     void okTakesTypedPath()
     {
@@ -67,6 +64,8 @@ private slots:
         MemoryLog bare;
         ScriptedMessageBox messageBox;
         frmSelectRecordDirectory form(bare.log, messageBox, nullptr, dir.path());
+        // The folder proposed comes selected, to be typed over.
+        QCOMPARE(form.findChild<QLineEdit*>("txtPath")->selectedText(), dir.path());
         form.show();
         form.findChild<QLineEdit*>("txtPath")->setText(inRoot(typed));
         messageBox.answers = answers;
@@ -114,15 +113,6 @@ private slots:
                                    : frmSelectRecordDirectory::Choose(bare.log, messageBox, nullptr,
                                                                       dir.path() + "/recordings");
         QCOMPARE(folder, button == "btnOK" ? dir.path() + '/' : QString());
-    }
-
-    void aMissingProposedFolderIsShownSelected()
-    {
-        MemoryLog bare;
-        ScriptedMessageBox messageBox;
-        const QString proposed = "/not/yet/there";
-        frmSelectRecordDirectory form(bare.log, messageBox, nullptr, proposed);
-        QCOMPARE(form.findChild<QLineEdit*>("txtPath")->selectedText(), proposed);
     }
 };
 
