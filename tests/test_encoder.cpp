@@ -321,6 +321,50 @@ private slots:
             QVERIFY(encoded.mid(dataStart) == bytes.mid(dataStart, encoded.size() - dataStart));
     }
 
+    // A call out of turn is refused and changes nothing: while idle, a second start, a step
+    // after the source is used up, a finish after finishing, and after a failed write (the disk
+    // full, for both results) anything but the clean-up.
+    void callsOutOfTurnAreRefused()
+    {
+        MakeSource("oo.WAV.TMP", 44100, 2, 3);
+        const QString source = Path("oo.WAV.TMP");
+        const std::string in = TaskWaveSource::PcmRecord(2, 44100);
+        const std::string out = TaskWaveSource::Mp3Record(2, 44100, 128);
+        qint32 percent = 0, finished = 0;
+        const auto refused = [&] {
+            QCOMPARE(m_enc.EncodeNextBuffer(&percent, &finished), NIGHTREELENC_ERR_OUT_OF_ORDER);
+            QCOMPARE(m_enc.FinishEncodeMp3(" ", " ", " "), NIGHTREELENC_ERR_OUT_OF_ORDER);
+            QCOMPARE(finished, 0);
+        };
+        refused();
+        QCOMPARE(Start(source, Path("oo.MP3"), in, out, false), 0);
+        QCOMPARE(Start(source, Path("oo2.MP3"), in, out, false), NIGHTREELENC_ERR_OUT_OF_ORDER);
+        int sets = 0;
+        for (int i = 0; i < 10000 && finished == 0; ++i) {
+            QCOMPARE(m_enc.EncodeNextBuffer(&percent, &finished), 0);
+            sets += finished;
+        }
+        QCOMPARE(sets, 1);
+        finished = 0;
+        QCOMPARE(m_enc.EncodeNextBuffer(&percent, &finished), NIGHTREELENC_ERR_OUT_OF_ORDER);
+        QCOMPARE(finished, 0); // left as passed
+        QCOMPARE(m_enc.FinishEncodeMp3("Nightreel 2000 1.0 ", " ", "Title "), 0);
+        refused();
+        VerifyMp3File(ReadFile(Path("oo.MP3")));
+        QCOMPARE(m_enc.Mp3ConvertErrorCleanUp(), 0); // harmless when idle
+
+        for (const bool asWave : {false, true}) {
+            const Run run = Convert(source, QStringLiteral("/dev/full"), in, out, asWave);
+            QCOMPARE(run.code, NIGHTREELENC_ERR_WRITE);
+            QCOMPARE(run.finishedSets, 0);
+            refused();
+            QCOMPARE(Start(source, Path("df.MP3"), in, out, false), NIGHTREELENC_ERR_OUT_OF_ORDER);
+            QCOMPARE(m_enc.Mp3ConvertErrorCleanUp(), 0);
+            QCOMPARE(Convert(source, Path("df.MP3"), in, out, false).code, 0);
+            VerifyMp3File(ReadFile(Path("df.MP3")));
+        }
+    }
+
     void startFailures()
     {
         MakeSource("sf.WAV.TMP", 44100, 2, 1);

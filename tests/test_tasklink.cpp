@@ -252,6 +252,18 @@ private slots:
                  QString("This may require the system to be restarted."));
     }
 
+    // Every report is handed on with its code; the recording control fails the recording
+    // on the first.
+    void aTaskReportingAnErrorTwiceIsHandedOnTwice()
+    {
+        Fixture f("afterstart=1046:1024+1046:1024");
+        QSignalSpy taskError(f.link.get(), &RecordingTaskLink::TaskError);
+        QVERIFY(f.StartRecording());
+        QTRY_COMPARE(taskError.size(), 2);
+        QCOMPARE(taskError[0][0].toInt(), 1024);
+        QVERIFY(f.log.Messages().isEmpty());
+    }
+
     void aStartRefusedIsTheTaskAnswer()
     {
         Fixture f("start=1021");
