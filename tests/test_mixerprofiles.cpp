@@ -1,6 +1,5 @@
-// The mixer profiles, the master volume and the mixer application as the program uses them
-// (a profile saved and activated around a recording is the recording cycle's test):
-// the real mixer library against a PulseAudio server of the test's own, read back with pactl.
+// The mixer profiles, the master volume and the mixer application as the program uses them,
+// with the real mixer library against a PulseAudio server of the test's own.
 #include "Pactl.h"
 #include "PulseFixture.h"
 #include "TestContext.h"
@@ -267,5 +266,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMixerProfiles)
-#include "platform/MixsetMixer.h"
 #include "test_mixerprofiles.moc"

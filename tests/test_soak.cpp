@@ -1,8 +1,6 @@
-// Three simulated days of the recorder on its own: the Sundays of the summer-time changes,
-// each with the clock set forward and back by an hour, and a Monday with the recorder
-// stopped for six hours and the computer asleep for two. Every occurrence starts as often as
-// the rules give, each one missed is logged once, and the cases that the rules decide start
-// as worked out here by hand.
+// Simulated days of the recorder on its own: the Sundays of the summer-time changes with the
+// clock set forward and back, and a Monday with the recorder stopped and the computer asleep.
+// The cases the rules decide start as worked out here by hand.
 #include "SoakRun.h"
 #include "TestParts.h"
 
@@ -31,10 +29,8 @@ private slots:
         QCOMPARE(m_report.missed, 0);
         QCOMPARE(m_report.startedTwice, 0);
         QCOMPARE(m_report.missedUnreported, 0);
-        // Only what the outages missed (7 in the morning, 1 in the afternoon, and the two that
-        // started late), and the renames of occurrences started again in their window (the
-        // hour that comes twice, the clock set back), which take the next free name instead
-        // of replacing the first recording.
+        // What the outages missed (7, 1 and two late), and the renames of occurrences started
+        // again in their window.
         int missed = 0, renamed = 0;
         for (const QString& row : m_report.logged) {
             missed += row.startsWith("type 1: Missed recording: ") ||

@@ -1,7 +1,5 @@
-// The streaming player that a web link opened is closed at the end of the recording, on an
-// X display of the test's own (with a window manager when NIGHTREEL_TEST_WM is set): by a
-// part of its title, or by the windows that appeared after the link was opened; a window
-// that refuses stays open and the recording ends all the same.
+// The streaming player is closed at the end of the recording, on an X display of the test's
+// own (with a window manager when NIGHTREEL_TEST_WM is set).
 #include "DesktopData.h"
 #include "MemoryLog.h"
 #include "PulseFixture.h"
@@ -58,8 +56,7 @@ private slots:
         QTest::addColumn<QStringList>("titles");
         QTest::addColumn<bool>("firstRefuses");
         QTest::addColumn<QList<bool>>("closed");
-        // The X server stands for XWayland there: its windows close, and the log says once
-        // that native Wayland windows can't.
+        // The X server stands for XWayland: the log says once that native windows can't close.
         QTest::addColumn<bool>("waylandSession");
         const QStringList titles{"Media PLAYER", "player - radio", "Notes"};
         QTest::newRow("never") << "DO_NOT_CLOSE" << titles << false
@@ -106,8 +103,7 @@ private slots:
 
     void automaticSearchClosesOnlyTheNewWindows()
     {
-        // The link's browser (registered in main) opens a window of the same title as one that
-        // was there before.
+        // The link's browser (registered in main) opens a window titled as an older one.
         QProcess* before = m_display->OpenWindow("Radio");
         QVERIFY(before);
         RecordingRig r;

@@ -1,5 +1,4 @@
-// Programs that record an internet stream: scheduled like any program, recorded by the real
-// task from a station of the test's own on 127.0.0.1, on a machine without a sound server.
+// Programs that record an internet stream from a station of the test's own on 127.0.0.1.
 #include "RecordingRig.h"
 #include "SoxTone.h"
 #include "StreamServer.h"
@@ -108,8 +107,7 @@ private slots:
                                             m_server.Url("/tone.mp3").toUtf8() + "\n");
     }
 
-    // The broadcast's MP3 frames reach the file as they were sent: no decoding, no encoding,
-    // no ICY metadata; the titles sent during the show stand in a CUE sheet beside it.
+    // The broadcast's MP3 frames reach the file as sent; its titles go to a CUE sheet.
     void anMp3StreamIsKeptAsBroadcastWithItsTitles()
     {
         RecordingRig r;
@@ -133,8 +131,7 @@ private slots:
 
         const QString cue = QString::fromUtf8(ReadFile(r.folder + "/Kept.cue"));
         QVERIFY2(cue.contains("FILE \"Kept.MP3\" MP3"), qPrintable(cue));
-        // The station changes titles 13 s into its broadcast; this listener connected ten
-        // seconds ahead of the start, so the change falls about 3 s into the show.
+        // The title changes 13 s into the broadcast, joined 10 s ahead of the start.
         const QRegularExpression track(
             "TITLE \"([^\"]+)\"\\r\\n +INDEX 01 (\\d\\d):(\\d\\d):(\\d\\d)");
         QStringList titles;
@@ -150,8 +147,8 @@ private slots:
         QVERIFY2(qAbs(offsets[1] - 3.0) < 1.0, qPrintable(cue));
     }
 
-    // Anything else is decoded and written in the program's format by the usual writers; a
-    // list leads to its first stream (an Ogg Vorbis one, an MP3 one).
+    // Anything else is decoded into the program's format; a list leads to its first stream
+    // (an Ogg Vorbis one, an MP3 one).
     void otherStreamsAreDecodedToTheProgramsFormat_data()
     {
         QTest::addColumn<QString>("path");
@@ -174,8 +171,7 @@ private slots:
         QVERIFY2(qAbs(seconds - 4.0) < 0.35, qPrintable(QString::number(seconds)));
     }
 
-    // A station whose server goes away for 10 s: one file that keeps to the clock, and one
-    // logged gap as long as the station was missed.
+    // A station gone for 10 s: one file that keeps to the clock, and one logged gap.
     void aDropIsRetriedFilledWithSilenceAndLoggedOnce()
     {
         RecordingRig r;
@@ -265,8 +261,7 @@ private slots:
     }
 
 private:
-    // A program "Kept" on Mondays recording the station's path: 16-bit mono PCM, or MP3 at
-    // 128 kbit/s written to an .MP3 file.
+    // A program "Kept" on Mondays: 16-bit mono PCM, or MP3 at 128 kbit/s in an .MP3 file.
     void AddStreamProgram(RecordingRig& r, const QString& path, const QString& start,
                           const QString& end, bool mp3)
     {

@@ -1,5 +1,4 @@
-// The privileged wake helper on a system bus of the test's own, with polkit's stand-in,
-// asked by the recorder's own client; the helper writes a clock folder of the test's.
+// The privileged wake helper on a system bus of the test's own, asked by the recorder's client.
 #include "SystemBusStandIn.h"
 #include "platform/LogindSleepInhibitor.h"
 #include "platform/SleepInhibitor.h"
@@ -55,7 +54,6 @@ private slots:
         m_helper.waitForFinished(3000);
     }
 
-    // The clock file holds "untouched" before each call.
     void onlyAllowedCallersAndTimesInRange_data()
     {
         QTest::addColumn<bool>("allowed");

@@ -1,7 +1,5 @@
-// Web pages go to the desktop's program for HTML files, found through the desktop's own
-// handler registry (a private one here), never to the URL's own handler; the link of a
-// program opens when the clock reaches its time, and a missing browser doesn't hold up the
-// recording.
+// Web pages go to the desktop's program for HTML files (a private handler registry here),
+// never to the URL's own handler.
 #include "DesktopData.h"
 #include "MemoryLog.h"
 #include "PulseFixture.h"
@@ -25,8 +23,8 @@ QTemporaryDir& Desktop()
 
 const QString kUrl = "http://radio.example/live?station=7&format=mp3";
 
-// The desktop library reads its registry once, so the test runs twice: with a browser
-// registered from the start, and (NIGHTREEL_TEST_NO_BROWSER set) with none.
+// The desktop library reads its registry once: the test runs again with
+// NIGHTREEL_TEST_NO_BROWSER set, without a browser.
 bool WithBrowser()
 {
     return !qEnvironmentVariableIsSet("NIGHTREEL_TEST_NO_BROWSER");
@@ -115,10 +113,8 @@ private slots:
         }
     }
 
-    // The link opens in the browser ahead of the start: the windows are noted before it opens,
-    // as the player is to be found by itself, and it keeps a lead of 5 seconds although 3 are
-    // asked for. Without a browser the box comes from the heartbeat's round: it is put on
-    // screen without waiting and logged. Either way the recording starts on time.
+    // The link opens with a lead of 5 s although 3 are asked for, the windows noted before it;
+    // without a browser the box is shown without waiting and logged.
     void linkOpensAtItsTime()
     {
         RecordingRig r;
