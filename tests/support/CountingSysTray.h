@@ -25,15 +25,6 @@ struct SysTrayCalls {
             n += op.isEmpty() || c.op == op;
         return n;
     }
-    QList<Call> Of(const QString& op) const
-    {
-        QList<Call> of;
-        for (const Call& c : calls) {
-            if (c.op == op)
-                of << c;
-        }
-        return of;
-    }
 
     QList<Call> calls;
     QElapsedTimer clock;

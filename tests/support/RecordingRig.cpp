@@ -71,7 +71,6 @@ bool RecordingRig::Run(double from, const std::function<void()>& atStart, int li
         if ((recording || starts > 0) && !began) {
             began = true;
             parmsAtStart = RecParms::Read(recorder().ParameterFile());
-            durationAtStart = recorder().Status().DurationSeconds;
             if (atStart)
                 atStart();
         }

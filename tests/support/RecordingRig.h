@@ -70,5 +70,4 @@ public:
     // Starts the heartbeat asked for, and what the task was given at the start of the last run.
     int starts = 0;
     std::optional<RecParms> parmsAtStart;
-    qint32 durationAtStart = -1;
 };
