@@ -1,6 +1,7 @@
 #include "LogCapture.h"
 #include "OpenedContext.h"
 #include "Programs.h"
+#include "diagnostics/Trap.h"
 
 #include <QTest>
 
@@ -132,7 +133,7 @@ private slots:
         {
             LogCapture capture;
             tc.ctx->scheduler.ScheduleNextRecording();
-            tc.ctx->scheduler.OfferRemovalOfExpiredPrograms();
+            Trap(tc.ctx->log, "test", [&] { tc.ctx->scheduler.OfferRemovalOfExpiredPrograms(); });
             QVERIFY(tc.ctx->scheduler.next.NextProgramFound);
             QVERIFY(capture.Contains("Module: OfferRemovalOfExpiredPrograms"));
         }

@@ -2,6 +2,7 @@
 
 #include "common/Clock.h"
 #include "diagnostics/EventLog.h"
+#include "diagnostics/Trap.h"
 #include "sideactions/ViewHtmlFile.h"
 
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
@@ -147,5 +148,6 @@ void Recorder::OpenInternetLink(const QString& link)
                        tr("There is no display to open it on: ") + link);
         return;
     }
-    ViewHtmlFile(m_log, m_messageBox, m_launcher, m_runtimeFolder, link);
+    Trap(m_log, "OpenInternetLink",
+         [&] { ViewHtmlFile(m_messageBox, m_launcher, m_runtimeFolder, link); });
 }

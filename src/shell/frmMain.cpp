@@ -203,8 +203,10 @@ void frmMain::ConnectCommands()
     on(QStringLiteral("mnuHelpSearch"), [this] { ShowHelp(QStringLiteral("index")); });
     // The maker's page is a web page: it goes to the browser, as the links of programs do.
     on(QStringLiteral("mnuHelpHomePage"), [this] {
-        ViewHtmlFile(m_ctx.log, m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder,
-                     ManualUrl(QStringLiteral("contact")).toString());
+        Trap(m_ctx.log, "mnuHelpHomePage_Click", [&] {
+            ViewHtmlFile(m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder,
+                         ManualUrl(QStringLiteral("contact")).toString());
+        });
     });
     on(QStringLiteral("ToolbarMain.Help"), [this] { ShowHelp(QString()); });
     on(QStringLiteral("ToolbarMain.Error"), [this] { ToolbarError_Click(); });

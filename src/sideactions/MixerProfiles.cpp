@@ -38,7 +38,7 @@ QStringList MixerProfiles::Names() const
 
 void MixerProfiles::ActivateMixerProfile(const QString& name)
 {
-    Trap(m_log, "Activate Mixer Profile", [&] {
+    InRoutine("Activate Mixer Profile", [&] {
         const QString path = PathOf(name);
         if (!FileExistsOrClear(path))
             return;
