@@ -84,9 +84,13 @@ void Recorder::ConnectUnattended()
     });
 }
 
-void Recorder::Start()
+void Recorder::CheckMissedRecordings()
 {
     m_missed.CheckAtStart();
+}
+
+void Recorder::Start()
+{
     m_heartbeat.Start();
     m_conversion.Start();
 }
