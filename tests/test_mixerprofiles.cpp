@@ -111,8 +111,8 @@ private slots:
         QDir().mkpath(profiles.Folder());
         QVERIFY(WriteFile(profiles.PathOf("Any"), "nightreel-mixer-profile 1\n"));
         Trap(m_tc->ctx->log, "test", [&] { profiles.ActivateMixerProfile("Any"); });
-        QCOMPARE(Volume::GetVolume(m_tc->ctx->log, absent), -1);
-        QVERIFY(!Volume::SetVolume(m_tc->ctx->log, absent, 50));
+        Trap(m_tc->ctx->log, "test", [&] { Volume::GetVolume(absent); });
+        Trap(m_tc->ctx->log, "test", [&] { Volume::SetVolume(absent, 50); });
         const QList<LogEntry> entries = m_tc->LogEntries();
         QCOMPARE(entries.size(), 3);
         const QStringList routines{"Activate Mixer Profile", "GetVolume", "SetVolume"};
@@ -201,13 +201,12 @@ private slots:
         QFETCH(int, set);
         QFETCH(int, after);
         QVERIFY(Run(QStringList{"set-sink-volume", "recsink"} + before));
-        EventLog& log = m_tc->ctx->log;
         {
             std::optional<NoServer> noServer;
             if (!server)
                 noServer.emplace();
-            QTEST(Volume::GetVolume(log, m_tc->mixer), "read");
-            QCOMPARE(Volume::SetVolume(log, m_tc->mixer, set), server);
+            QTEST(Volume::GetVolume(m_tc->mixer), "read");
+            QCOMPARE(Volume::SetVolume(m_tc->mixer, set), server);
         }
         const Volumes volumes = VolumesOf("sink", "recsink");
         QCOMPARE(volumes.size(), 2);
