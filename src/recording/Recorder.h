@@ -29,7 +29,7 @@ public:
     // right before Start, which goes on after its failure.
     void CheckMissedRecordings();
     // The heartbeat and the conversion timer start at the end of the first activation and
-    // stop at the unload.
+    // stop at the unload. A saved conversion queue that can't be read throws once both run.
     void Start();
     void Stop();
 
