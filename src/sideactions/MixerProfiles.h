@@ -43,7 +43,8 @@ public:
         Failed,
     };
     // Saves the present mixer under the name typed (trimmed), asking before it replaces a
-    // profile; each refusal is told to the user through messageBox.
+    // profile; each refusal is told to the user through messageBox. A folder or file that
+    // can't be written throws, marked with the routine's name.
     SaveOutcome SaveMixerProfile(const QString& typed, MessageBoxPresenter& messageBox);
 
 private:
