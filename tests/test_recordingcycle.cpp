@@ -232,6 +232,28 @@ private slots:
         QCOMPARE(r.Recordings().size(), 1);
     }
 
+    // A start whose plan fails and whose passing over fails too reports both, in the order
+    // they failed, and clears Recording all the same.
+    void aStartThatFailsTwiceReportsEachFailure()
+    {
+        RecordingRig r;
+        const qint64 id =
+            r.AddProgram(Programs::Weekly("Spoilt", "10:00:05", "10:00:07", "0100000"));
+        QSqlQuery q(r.ctx().database.db.Connection());
+        QVERIFY(q.exec("UPDATE Programs SET wfx_cbSize = 9999"));
+        QVERIFY(q.exec("CREATE TRIGGER locked BEFORE UPDATE ON Programs "
+                       "BEGIN SELECT RAISE(ABORT, 'locked'); END"));
+        r.ctx().database.DataPrograms.Requery();
+        r.tc.clock.Set(At("10:00:05"));
+        RecorderParts::Control(r.recorder())
+            .StartRecording(qint32(id), At("10:00:05"), At("10:00:07"), QString());
+        const QList<LogEntry> log = r.Log();
+        QCOMPARE(log.size(), 2);
+        QVERIFY2(log[0].details.contains("Module: SetWaveFormatEx"), qPrintable(log[0].details));
+        QVERIFY2(log[1].details.contains("Module: CancelRecording"), qPrintable(log[1].details));
+        QVERIFY(!r.ctx().appStatus.Recording());
+    }
+
     // A stop asked while the task still starts reaches it: no watchdog, and the task leaves.
     void aStopAskedWhileTheTaskStartsReachesIt()
     {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QVariant>
 #include <exception>
@@ -66,6 +67,30 @@ inline QVariant NotNull(const QVariant& value)
     return value;
 }
 
+// The failures of a routine that went on after its steps failed, thrown together at its end.
+// Each step marked its own; the entry point's trap reports each, in order.
+class StepFailures : public std::exception {
+public:
+    explicit StepFailures(QList<std::exception_ptr> failures)
+        : m_failures(std::move(failures))
+    {
+    }
+    const QList<std::exception_ptr>& Failures() const { return m_failures; }
+    const char* what() const noexcept override { return "Several steps failed"; }
+
+private:
+    QList<std::exception_ptr> m_failures;
+};
+
+// Throws what a routine's steps left: nothing, the one failure as it was, or all together.
+inline void ThrowFailures(const QList<std::exception_ptr>& failures)
+{
+    if (failures.size() == 1)
+        std::rethrow_exception(failures.first());
+    if (failures.size() > 1)
+        throw StepFailures(failures);
+}
+
 // Runs a routine's body and lets any failure pass on, marked with the routine's name: the
 // trap of the entry point logs it under that name, as the routine's own trap once did. The
 // error is not handled here.
@@ -75,6 +100,8 @@ template <typename Body> decltype(auto) InRoutine(const char* routine, Body&& bo
         return body();
     } catch (RuntimeError& error) {
         error.MarkRoutine(routine);
+        throw;
+    } catch (const StepFailures&) {
         throw;
     } catch (const std::exception& error) {
         RuntimeError marked(ErrorNumber::InternalError, QString::fromLocal8Bit(error.what()));

@@ -17,6 +17,11 @@ void Report(EventLog& log, const char* procedureName, const RuntimeError& error)
 void Report(EventLog& log, const char* procedureName, const std::exception& error);
 } // namespace TrapDetail
 
+// Reports each failure that a routine which carries on after errors gave back, under the
+// routine's name.
+void ReportEach(EventLog& log, const char* procedureName,
+                const QList<std::exception_ptr>& failures);
+
 template <typename Body> bool Trap(EventLog& log, const char* procedureName, Body&& body)
 {
     try {
@@ -24,16 +29,13 @@ template <typename Body> bool Trap(EventLog& log, const char* procedureName, Bod
         return true;
     } catch (const RuntimeError& error) {
         TrapDetail::Report(log, procedureName, error);
+    } catch (const StepFailures& failures) {
+        ReportEach(log, procedureName, failures.Failures());
     } catch (const std::exception& error) {
         TrapDetail::Report(log, procedureName, error);
     }
     return false;
 }
-
-// Reports each failure that a routine which carries on after errors gave back, under the
-// routine's name.
-void ReportEach(EventLog& log, const char* procedureName,
-                const QList<std::exception_ptr>& failures);
 
 // Runs each step in turn under one routine's trap: a failing step is reported and the next
 // still runs, as a routine that carries on after an error does.

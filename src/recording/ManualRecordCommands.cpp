@@ -26,10 +26,15 @@ void ManualRecordCommands::ToolbarRecord()
         form.exec();
     }
     if (m_s.request.Requested && !m_s.appStatus.Recording())
-        m_recorder.StartManualRecording();
+        Trap(m_s.log, "ToolbarRecord", [this] { m_recorder.StartManualRecording(); });
 }
 
 void ManualRecordCommands::QuickStart()
+{
+    Trap(m_s.log, "QuickStart", [this] { StartQuickly(); });
+}
+
+void ManualRecordCommands::StartQuickly()
 {
     if (m_s.appStatus.Recording())
         return;
@@ -49,22 +54,21 @@ bool ManualRecordCommands::HandleCommandKey(int keyCode, Qt::KeyboardModifiers s
         shift & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     if (m_s.options.DisableKeyboardActivatedRecording || held != Qt::ControlModifier)
         return false;
+    const auto command = [this](auto&& body) {
+        Trap(m_s.log, "HandleCommandKey", body);
+        return true;
+    };
     switch (keyCode) {
     case Qt::Key_R:
-        QuickStart();
-        return true;
+        return command([this] { StartQuickly(); });
     case Qt::Key_S:
-        m_recorder.StopCommand(m_s.options.ConfirmStopManualRecording);
-        return true;
+        return command([this] { m_recorder.StopCommand(m_s.options.ConfirmStopManualRecording); });
     case Qt::Key_P:
-        m_recorder.PauseCommand(QStringLiteral("P"));
-        return true;
+        return command([this] { m_recorder.PauseCommand(QStringLiteral("P")); });
     case Qt::Key_U:
-        m_recorder.PauseCommand(QStringLiteral("R"));
-        return true;
+        return command([this] { m_recorder.PauseCommand(QStringLiteral("R")); });
     case Qt::Key_T:
-        m_recorder.PauseCommand(QStringLiteral("T"));
-        return true;
+        return command([this] { m_recorder.PauseCommand(QStringLiteral("T")); });
     default:
         return false;
     }
@@ -103,7 +107,7 @@ void ManualRecordCommands::JoystickButtonPress(int button)
             m_recorder.PauseCommand(QStringLiteral("P"));
             break;
         case 3:
-            QuickStart();
+            StartQuickly();
             break;
         default:
             m_recorder.StopCommand(false);

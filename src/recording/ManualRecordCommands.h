@@ -17,6 +17,7 @@ class ManualRecordCommands : public QObject {
 public:
     ManualRecordCommands(const ManualRecordServices& services, Recorder& recorder, QWidget* owner);
 
+    // The entries: each traps what the command it gives fails with.
     // Shows the dialog and starts what it asked for.
     void ToolbarRecord();
     // Starts a recording at once with the dialog's defaults, the dialog never shown.
@@ -32,6 +33,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // The quick start itself; throws what the start failed with.
+    void StartQuickly();
+
     ManualRecordServices m_s;
     Recorder& m_recorder;
     QWidget* m_owner;

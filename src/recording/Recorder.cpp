@@ -107,7 +107,7 @@ void Recorder::StartManualRecording()
 {
     const double now = m_clock.Now();
     m_status.ProgramId = -1;
-    m_control.StartRecording(-1, now, now + m_manual.DurationSeconds / 86400.0,
+    m_control.BeginRecording(-1, now, now + m_manual.DurationSeconds / 86400.0,
                              m_manual.Description);
 }
 

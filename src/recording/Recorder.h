@@ -33,8 +33,9 @@ public:
     void Start();
     void Stop();
 
-    // The user's commands. A manual recording takes its length, description, format and
-    // file name from the manual request (the one the context holds) and starts now.
+    // The user's commands, which throw for the trap of the entry that gave them. A manual
+    // recording takes its length, description, format and file name from the manual request
+    // (the one the context holds) and starts now.
     void StartManualRecording();
     void StopCommand(bool confirm) { m_control.HandleStopRecordingRequest(confirm); }
     void PauseCommand(const QString& command) { m_control.ToolbarPauseResume(command); }

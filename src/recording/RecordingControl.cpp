@@ -21,6 +21,7 @@
 #include "sideactions/LaunchCommands.h"
 #include "sideactions/MixerProfiles.h"
 #include "store/AppDatabase.h"
+#include "store/EachStep.h"
 #include "store/Options.h"
 #include "store/ProgramRow.h"
 #include "store/RecordingRow.h"
@@ -56,6 +57,15 @@ qint64 DueMsecs(const Clock& clock, double start)
     const bool wholeSeconds = std::abs(nowSeconds - std::round(nowSeconds)) < 0.001;
     const qint64 base = wholeSeconds ? real / 1000 * 1000 : real;
     return base + qint64(std::llround((start - now) * 86400000.0));
+}
+
+// A step of the start that the rest goes on after, as its rules say: its failure, marked
+// with the start's name, is kept for the end of the start. False when it failed.
+template <typename Body> bool StartStep(QList<std::exception_ptr>& failed, Body&& body)
+{
+    const QList<std::exception_ptr> failure = EachStep([&] { InRoutine("StartRecording", body); });
+    failed += failure;
+    return failure.isEmpty();
 }
 
 } // namespace
@@ -141,35 +151,42 @@ void RecordingControl::RequestStop()
 void RecordingControl::StartRecording(qint32 ProgramId, double StartTime, double EndTime,
                                       const QString& Description)
 {
+    Trap(m_s.log, "StartRecording",
+         [&] { BeginRecording(ProgramId, StartTime, EndTime, Description); });
+}
+
+void RecordingControl::BeginRecording(qint32 ProgramId, double StartTime, double EndTime,
+                                      const QString& Description)
+{
     if (m_s.appStatus.Suspended())
         return;
     // First of all: the steps below let events run, and the heartbeat must see a recording.
     m_s.appStatus.SetRecording(true);
     m_status.StopRequested = false;
     m_status.WriteFailed = false;
+    QList<std::exception_ptr> failed;
     std::optional<PlannedRecording> planned;
-    if (!Trap(m_s.log, "StartRecording",
-              [&] { planned = PlanStart(ProgramId, StartTime, EndTime, Description); })) {
-        PassOverFailedStart(ProgramId, EndTime);
-        return;
-    }
-    if (const auto* refusal = std::get_if<RecordingRefusal>(&*planned))
-        Refuse(*refusal);
+    if (!StartStep(failed,
+                   [&] { planned = PlanStart(ProgramId, StartTime, EndTime, Description); }))
+        PassOverFailedStart(failed, ProgramId, EndTime);
+    else if (const auto* refusal = std::get_if<RecordingRefusal>(&*planned))
+        Refuse(failed, *refusal);
     else
-        CarryOut(std::get<RecordingPlan>(*planned), StartTime);
+        CarryOut(failed, std::get<RecordingPlan>(*planned), StartTime);
+    ThrowFailures(failed);
 }
 
-void RecordingControl::PassOverFailedStart(qint32 ProgramId, double EndTime)
+void RecordingControl::PassOverFailedStart(QList<std::exception_ptr>& failed, qint32 ProgramId,
+                                           double EndTime)
 {
     // Nothing was captured and nothing runs (a program whose format can't be read ends here):
     // the occurrence is passed over as at the end of a recording, and the next one sought,
     // also when the program's row can't be marked.
-    TrapEach(
-        m_s.log, "StartRecording", [&] { m_s.scheduler.CancelRecording(ProgramId, EndTime); },
-        [&] {
-            ExitAndClear();
-            m_s.scheduler.ScheduleNextRecording();
-        });
+    StartStep(failed, [&] { m_s.scheduler.CancelRecording(ProgramId, EndTime); });
+    StartStep(failed, [&] {
+        ExitAndClear();
+        m_s.scheduler.ScheduleNextRecording();
+    });
 }
 
 RecordingRequest RecordingControl::Request(qint32 ProgramId, double StartTime, double EndTime,
@@ -215,26 +232,23 @@ RecordingSettings RecordingControl::Settings(bool manual) const
     return settings;
 }
 
-void RecordingControl::Refuse(const RecordingRefusal& refusal)
+void RecordingControl::Refuse(QList<std::exception_ptr>& failed, const RecordingRefusal& refusal)
 {
     const bool passOver = refusal.Why == RecordingRefusal::Reason::NotEnoughSpace;
     // The recording is given up whatever fails on the way.
-    TrapEach(
-        m_s.log, "StartRecording",
-        [&] {
-            if (!refusal.Title.isEmpty())
-                m_s.messageBox.Show(refusal.Title, refusal.Text, MsgIcon::Exclamation,
-                                    MsgButtons::Ok);
-        },
-        [&] {
-            if (passOver)
-                m_s.scheduler.CancelRecording(-1, m_status.EndTime);
-        },
-        [&] {
-            if (passOver)
-                m_s.scheduler.ScheduleNextRecording();
-            ExitAndClear();
-        });
+    StartStep(failed, [&] {
+        if (!refusal.Title.isEmpty())
+            m_s.messageBox.Show(refusal.Title, refusal.Text, MsgIcon::Exclamation, MsgButtons::Ok);
+    });
+    StartStep(failed, [&] {
+        if (passOver)
+            m_s.scheduler.CancelRecording(-1, m_status.EndTime);
+    });
+    StartStep(failed, [&] {
+        if (passOver)
+            m_s.scheduler.ScheduleNextRecording();
+        ExitAndClear();
+    });
 }
 
 PlannedRecording RecordingControl::PlanStart(qint32 ProgramId, double StartTime, double EndTime,
@@ -248,13 +262,14 @@ PlannedRecording RecordingControl::PlanStart(qint32 ProgramId, double StartTime,
                          [](const QString& path) { return QFileInfo::exists(path); });
 }
 
-void RecordingControl::CarryOut(const RecordingPlan& plan, double StartTime)
+void RecordingControl::CarryOut(QList<std::exception_ptr>& failed, const RecordingPlan& plan,
+                                double StartTime)
 {
     // Each step needs the one before. A failure leaves Recording set on purpose: the clock
     // or the keep-alive ends it, with this recording's status. Only the mixer profile may
     // fail without holding up the start.
-    const auto step = [this](auto&& body) {
-        return Trap(m_s.log, "StartRecording", body);
+    const auto step = [&failed](auto&& body) {
+        return StartStep(failed, body);
     };
     bool taskUp = false;
     if (!step([&] { taskUp = StartTask(plan, StartTime); }))
@@ -284,7 +299,7 @@ bool RecordingControl::StartTask(const RecordingPlan& plan, double StartTime)
                             "and is kept. The recording \"%2\" is saved as \"%3\".")
                              .arg(plan.WantedFileName, plan.Status.Description,
                                   QFileInfo(plan.Status.FinalFile).fileName()));
-    // The flags that a stop or a task report may have set since StartRecording stay.
+    // The flags that a stop or a task report may have set since BeginRecording stay.
     const bool stopRequested = m_status.StopRequested;
     m_status = plan.Status;
     m_status.StopRequested = stopRequested;
@@ -327,7 +342,7 @@ qint32 RecordingControl::StartCapture()
 
 void RecordingControl::HandleStopRecordingRequest(bool Confirm)
 {
-    Trap(m_s.log, "HandleStopRecordingRequest", [&] {
+    InRoutine("HandleStopRecordingRequest", [&] {
         const clsRecordingStatus& status = m_status;
         if (m_s.appStatus.Recording()) {
             // A scheduled recording is never stopped without a question.
@@ -366,7 +381,7 @@ void RecordingControl::HandleStopRecordingRequest(bool Confirm)
 
 void RecordingControl::ToolbarPauseResume(const QString& Command)
 {
-    Trap(m_s.log, "ToolbarPauseResume", [&] {
+    InRoutine("ToolbarPauseResume", [&] {
         const bool wasPaused = m_s.appStatus.Paused();
         const QString command = Command.toUpper();
         if (command == QStringLiteral("P"))

@@ -8,8 +8,10 @@
 #include "recording/clsManualRecord.h"
 #include "sideactions/StreamingPlayer.h"
 
+#include <QList>
 #include <QObject>
 #include <QString>
+#include <exception>
 #include <memory>
 
 class ConversionQueue;
@@ -30,14 +32,21 @@ public:
 
     // ProgramId is a row of Programs, or -1 for a manual recording; StartTime is the moment
     // of the call, EndTime the scheduled end. Description is read for a manual recording only.
+    // Its steps go on after a failure as their rules say; what failed is thrown at the end,
+    // marked with the start's name.
+    void BeginRecording(qint32 ProgramId, double StartTime, double EndTime,
+                        const QString& Description);
+    // The heartbeat's timed start: traps what BeginRecording throws.
     void StartRecording(qint32 ProgramId, double StartTime, double EndTime,
                         const QString& Description);
     // The stop request of the clock, the user and the disk guard: posts the stop to the task
     // once per recording and arms the watchdog; the task's answer or the watchdog ends it.
     void RequestStop();
-    // The user's stop: of the recording, or else of the running MP3 conversion.
+    // The user's stop: of the recording, or else of the running MP3 conversion. Throws,
+    // marked with its name, for the trap of the tool bar, the key, the joystick or the bus.
     void HandleStopRecordingRequest(bool Confirm);
-    // "P" pauses, "R" resumes, anything else toggles; in any case of letters.
+    // "P" pauses, "R" resumes, anything else toggles; in any case of letters. Throws as the
+    // stop does.
     void ToolbarPauseResume(const QString& Command);
     // Finishes every recording however it ended; harmless when none is running.
     void StopRecording();
@@ -67,14 +76,15 @@ signals:
 private:
     PlannedRecording PlanStart(qint32 ProgramId, double StartTime, double EndTime,
                                const QString& Description);
-    // A start that failed before it had a plan: nothing runs for it.
-    void PassOverFailedStart(qint32 ProgramId, double EndTime);
+    // A start that failed before it had a plan: nothing runs for it. This and the steps
+    // below add what failed to the start's failures.
+    void PassOverFailedStart(QList<std::exception_ptr>& failed, qint32 ProgramId, double EndTime);
     RecordingRequest Request(qint32 ProgramId, double StartTime, double EndTime,
                              const QString& Description) const;
     RecordingSettings Settings(bool manual) const;
-    void Refuse(const RecordingRefusal& refusal);
+    void Refuse(QList<std::exception_ptr>& failed, const RecordingRefusal& refusal);
     // Makes the plan the recording in progress and carries it out, step by step.
-    void CarryOut(const RecordingPlan& plan, double StartTime);
+    void CarryOut(QList<std::exception_ptr>& failed, const RecordingPlan& plan, double StartTime);
     // Writes the parameters and starts the task; false when the task did not come up.
     bool StartTask(const RecordingPlan& plan, double StartTime);
     // Tells the task to capture: the task's error number (1 and up) when it refused.

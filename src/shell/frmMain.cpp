@@ -148,10 +148,9 @@ void frmMain::ConnectTray()
     connect(tray.mnuRestore, &QAction::triggered, this, &frmMain::RestoreFromTray);
     connect(tray.mnuSystrayAbout, &QAction::triggered, this,
             [this] { frmAbout(m_ctx, this).exec(); });
-    connect(tray.mnuSystrayStopRecording, &QAction::triggered, this,
-            [this] { m_ctx.recorder.StopCommand(m_ctx.options.ConfirmStopManualRecording); });
+    connect(tray.mnuSystrayStopRecording, &QAction::triggered, this, &frmMain::StopCommand);
     connect(tray.mnuSystrayPauseRecording, &QAction::triggered, this,
-            [this] { m_ctx.recorder.PauseCommand(QStringLiteral("T")); });
+            [this] { PauseCommand(QStringLiteral("T")); });
     connect(tray.mnuSystraySuspend, &QAction::triggered, this, [this] {
         m_ctx.appStatus.HandleSuspendMenuClickEvent(m_ctx.messageBox);
         UpdateModeDisplay();
@@ -334,14 +333,25 @@ void frmMain::ConnectRecorder()
     connect(&recorder, &Recorder::MinimizeToTray, this, &frmMain::HideToTray);
     for (const char* name : {"ToolbarMain.Stop", "mnuStopCurrentRecording"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
-                [this] { m_ctx.recorder.StopCommand(m_ctx.options.ConfirmStopManualRecording); });
+                &frmMain::StopCommand);
     for (const char* name : {"ToolbarMain.Pause", "mnuPauseRecording"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
-                [this] { m_ctx.recorder.PauseCommand(QStringLiteral("T")); });
+                [this] { PauseCommand(QStringLiteral("T")); });
     connect(ui.Action(QStringLiteral("mnuPauseOnly")), &QAction::triggered, this,
-            [this] { m_ctx.recorder.PauseCommand(QStringLiteral("P")); });
+            [this] { PauseCommand(QStringLiteral("P")); });
     connect(ui.Action(QStringLiteral("mnuResume")), &QAction::triggered, this,
-            [this] { m_ctx.recorder.PauseCommand(QStringLiteral("R")); });
+            [this] { PauseCommand(QStringLiteral("R")); });
+}
+
+void frmMain::StopCommand()
+{
+    Trap(m_ctx.log, "StopCommand",
+         [this] { m_ctx.recorder.StopCommand(m_ctx.options.ConfirmStopManualRecording); });
+}
+
+void frmMain::PauseCommand(const QString& command)
+{
+    Trap(m_ctx.log, "PauseCommand", [&] { m_ctx.recorder.PauseCommand(command); });
 }
 
 void frmMain::showEvent(QShowEvent* event)

@@ -67,6 +67,9 @@ private:
     void ConnectCommands();
     void ConnectRecordingCommands();
     void ConnectRecorder();
+    // The stop and the pause of the tool bar, the menus and the tray, each under its trap.
+    void StopCommand();
+    void PauseCommand(const QString& command);
     void ConnectMixer();
     void ConnectDiskStatus();
     void ConnectOptions();
