@@ -232,7 +232,7 @@ qint64 ControlService::RunProgramCommand(qint64 bookmark, const QVariantMap& cha
 {
     ProgramRequestView view({m_s.log, m_s.database, m_s.clock, m_s.options, m_s.messageBox},
                             bookmark, changes);
-    ProgramListCommands commands({m_s.log, m_s.database, m_s.scheduler, m_s.messageBox, m_s.clock,
+    ProgramListCommands commands({m_s.database, m_s.scheduler, m_s.messageBox, m_s.clock,
                                   m_s.defaultFormat, m_s.mixerFolder},
                                  view);
     command(commands);

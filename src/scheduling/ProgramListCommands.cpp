@@ -2,7 +2,7 @@
 
 #include "common/Clock.h"
 #include "common/MessageBox.h"
-#include "diagnostics/Trap.h"
+#include "common/RuntimeError.h"
 #include "scheduling/Scheduler.h"
 #include "store/AppDatabase.h"
 
@@ -48,7 +48,7 @@ void ProgramListCommands::RemoveAllSelBookmarks()
 
 void ProgramListCommands::AddNewProgram()
 {
-    Trap(m_services.log, "AddNewProgram", [&] {
+    InRoutine("AddNewProgram", [&] {
         ProgramFormValues initial = ProgramEditor::NewProgramValues(m_services.clock.Now());
         initial.FormFormat.CopyFrom(m_services.defaultFormat);
         initial.FormCompressionMethod = initial.FormFormat.TextCompressionMethod;
@@ -66,7 +66,7 @@ void ProgramListCommands::AddNewProgram()
 
 void ProgramListCommands::CopyProgram()
 {
-    Trap(m_services.log, "CopyProgram", [&] {
+    InRoutine("CopyProgram", [&] {
         if (!FindRowToWorkOn())
             return;
         const ProgramFormValues initial = ReadCurrentRow();
@@ -85,7 +85,7 @@ void ProgramListCommands::CopyProgram()
 
 void ProgramListCommands::EditProgram()
 {
-    Trap(m_services.log, "EditProgram", [&] {
+    InRoutine("EditProgram", [&] {
         if (!FindRowToWorkOn())
             return;
         Recordset& rs = m_services.database.DataPrograms.recordset();
@@ -106,7 +106,7 @@ void ProgramListCommands::EditProgram()
 
 void ProgramListCommands::RemovePrograms()
 {
-    Trap(m_services.log, "RemovePrograms", [&] {
+    InRoutine("RemovePrograms", [&] {
         Recordset& rs = m_services.database.DataPrograms.recordset();
         // The row under the cursor always counts, selected or not.
         if (HasCurrentRow())
@@ -136,7 +136,7 @@ void ProgramListCommands::RemovePrograms()
 
 void ProgramListCommands::ToggleProgramEnables()
 {
-    Trap(m_services.log, "ToggleProgramEnables", [&] {
+    InRoutine("ToggleProgramEnables", [&] {
         Recordset& rs = m_services.database.DataPrograms.recordset();
         const qint64 current = m_view.CurrentBookmark();
         if (current != -1)
@@ -185,7 +185,7 @@ void ProgramListCommands::ToggleProgramEnables()
 
 void ProgramListCommands::SelectAll()
 {
-    Trap(m_services.log, "mnuProgramsSelectAll_Click", [&] {
+    InRoutine("mnuProgramsSelectAll_Click", [&] {
         Recordset rs = m_services.database.DataPrograms.recordset().Clone();
         if (rs.RecordCount() < 1)
             return;
@@ -196,7 +196,6 @@ void ProgramListCommands::SelectAll()
 
 void ProgramListCommands::DblClick(bool onRow)
 {
-    // The editor's own routine traps what fails: nothing else here can.
     if (onRow)
         EditProgram();
 }

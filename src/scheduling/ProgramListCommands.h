@@ -8,13 +8,11 @@
 
 class AppDatabase;
 class Clock;
-class EventLog;
 class MessageBoxPresenter;
 class Scheduler;
 
 // What the program commands work with.
 struct ProgramListServices {
-    EventLog& log;
     AppDatabase& database;
     Scheduler& scheduler;
     MessageBoxPresenter& messageBox;
@@ -48,8 +46,9 @@ public:
 };
 
 // The five commands on the program list and the ways of selecting in it. Each works through
-// the list's recordset, traps its failures under its own name, and has the next recording
-// worked out again after a change.
+// the list's recordset, throws its failures marked with its own name for the trap of the
+// menu, the tool bar or the bus call that gave it, and has the next recording worked out
+// again after a change.
 class ProgramListCommands {
 public:
     ProgramListCommands(const ProgramListServices& services, ProgramListView& view);

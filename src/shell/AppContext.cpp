@@ -69,7 +69,7 @@ double AppContext::Now() const
 
 ProgramListServices AppContext::ForProgramList()
 {
-    return {log, database, scheduler, messageBox, clock, WfxDefault, mixerProfiles.Folder()};
+    return {database, scheduler, messageBox, clock, WfxDefault, mixerProfiles.Folder()};
 }
 
 ProgramFormServices AppContext::ForProgramForm()

@@ -25,7 +25,7 @@ ProgramListGrid::ProgramListGrid(AppContext& ctx, frmMain& form)
 {
     const auto on = [this](const char* name, void (ProgramListCommands::*command)()) {
         connect(m_form.ui.Action(QString::fromLatin1(name)), &QAction::triggered, this,
-                [this, command] { (m_commands.*command)(); });
+                [this, name, command] { Run(name, [&] { (m_commands.*command)(); }); });
     };
     on("mnuAddNew", &ProgramListCommands::AddNewProgram);
     on("ToolbarPrograms.Add", &ProgramListCommands::AddNewProgram);
@@ -40,13 +40,21 @@ ProgramListGrid::ProgramListGrid(AppContext& ctx, frmMain& form)
     on("mnuProgramsSelectAll", &ProgramListCommands::SelectAll);
 
     // The view only reports double clicks on a cell, which is where they edit.
-    connect(m_grid, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& index) { m_commands.DblClick(index.isValid()); });
+    connect(m_grid, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
+        Run("DBGridPrograms_DblClick", [&] { m_commands.DblClick(index.isValid()); });
+    });
     connect(m_grid, &QWidget::customContextMenuRequested, this,
             &ProgramListGrid::DBGridPrograms_MouseDown);
     GridSelection::MakeCornerToggle(m_grid);
     connect(Model(), &RecordsetModel::RowsChanged, this, &ProgramListGrid::KeepACurrentRow);
     m_grid->viewport()->installEventFilter(this);
+}
+
+void ProgramListGrid::Run(const char* entry, const std::function<void()>& command)
+{
+    // A command that failed has not refreshed the buttons for what it left.
+    if (!Trap(m_ctx.log, entry, command))
+        UpdateProgramsButtonsAndMenus();
 }
 
 bool ProgramListGrid::eventFilter(QObject* watched, QEvent* event)

@@ -3,6 +3,7 @@
 #include "scheduling/ProgramListCommands.h"
 
 #include <QObject>
+#include <functional>
 
 class AppContext;
 class QPoint;
@@ -34,6 +35,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // Runs a command under the trap of the entry that gave it.
+    void Run(const char* entry, const std::function<void()>& command);
     RecordsetModel* Model() const;
     void DBGridPrograms_MouseDown(const QPoint& pos);
     void KeepACurrentRow();
