@@ -1,6 +1,7 @@
-#include "MemoryLog.h"
-#include "OpenedContext.h"
+#include "StoreParts.h"
+#include "common/RuntimeError.h"
 #include "common/UnattendedPath.h"
+#include "diagnostics/UnattendedMessageBox.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -39,16 +40,16 @@ private slots:
 
     void anEntryHoldsWhatWasLogged()
     {
-        OpenedContext tc;
-        QCOMPARE(tc.ctx->database.RowCount(), 0);
-        tc.ctx->log.LogEvent(EventInformation, "First", "");
-        tc.ctx->log.LogRuntimeError("Timer1_Timer", RuntimeError(3021, "No current record."));
+        StoreParts s;
+        QCOMPARE(s.database.RowCount(), 0);
+        s.log.LogEvent(EventInformation, "First", "");
+        s.log.LogRuntimeError("Timer1_Timer", RuntimeError(3021, "No current record."));
         // The count the log fills by is the table's.
-        QCOMPARE(tc.ctx->database.RowCount(), 2);
-        Recordset& rs = tc.ctx->database.ElogRecordset();
+        QCOMPARE(s.database.RowCount(), 2);
+        Recordset& rs = s.database.ElogRecordset();
         rs.MoveLast();
         QCOMPARE(rs.Value("Type").toInt(), 2);
-        QCOMPARE(rs.Value("DateAndTime").toDouble(), tc.clock.Now());
+        QCOMPARE(rs.Value("DateAndTime").toDouble(), s.clock.Now());
         QCOMPARE(rs.Value("Message").toString(), QStringLiteral("Nightreel 2000 Runtime Error"));
         QCOMPARE(rs.Value("Details").toString(),
                  QStringLiteral("Module: Timer1_Timer\r\nError:  3021, No current record."));
@@ -69,13 +70,13 @@ private slots:
 
     void loggingWithoutADatabaseDoesNotFail()
     {
-        TestContext tc;
-        tc.ctx->log.LogEvent(EventError, "No database open", "");
-        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
+        StoreParts s(false);
+        s.log.LogEvent(EventError, "No database open", "");
+        QCOMPARE(s.error.NumUnviewedElogErrors(), 0);
         // Once the file is open the log works.
-        tc.OpenDatabase();
-        tc.ctx->log.LogEvent(EventError, "Now it is", "");
-        QCOMPARE(tc.CountRows("EventLog"), 1);
+        QVERIFY(s.Open().isEmpty());
+        s.log.LogEvent(EventError, "Now it is", "");
+        QCOMPARE(s.CountRows("EventLog"), 1);
     }
 
     void theIndicationFollowsTheState_data()
@@ -154,11 +155,13 @@ private slots:
         QFETCH(int, buttons);
         QFETCH(int, icon);
         QFETCH(int, loggedType);
-        OpenedContext tc;
-        tc.messageBox.answers << MsgResult::Yes;
+        MemoryLog bare;
+        ScriptedMessageBox messageBox;
+        UnattendedMessageBox boxes(messageBox, bare.log);
+        messageBox.answers << MsgResult::Yes;
         MsgResult result = MsgResult::Ok;
         const auto ask = [&] {
-            result = tc.ctx->messageBox.Show("Title", "Text", MsgIcon(icon), MsgButtons(buttons));
+            result = boxes.Show("Title", "Text", MsgIcon(icon), MsgButtons(buttons));
         };
         std::optional<UnattendedPath> unattended;
         if (!path.isEmpty())
@@ -170,10 +173,10 @@ private slots:
             ask();
         }
         QTEST(int(result), "answer");
-        QCOMPARE(tc.messageBox.asked.size(), 1);
-        QCOMPARE(tc.messageBox.asked[0].text, QString("Text"));
-        QCOMPARE(tc.messageBox.asked[0].waited, loggedType < 0);
-        const QList<LogEntry> entries = tc.LogEntries();
+        QCOMPARE(messageBox.asked.size(), 1);
+        QCOMPARE(messageBox.asked[0].text, QString("Text"));
+        QCOMPARE(messageBox.asked[0].waited, loggedType < 0);
+        const QList<LogEntry>& entries = bare.entries;
         QCOMPARE(entries.size(), loggedType < 0 ? 0 : 1);
         if (loggedType >= 0) {
             QCOMPARE(entries[0].type, loggedType);

@@ -2,8 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSettings>
-#include <QSqlQuery>
 
 namespace {
 
@@ -24,8 +22,7 @@ TestContext::TestContext(DesktopNotifications* notifications)
 {
     m_notifications = notifications ? notifications : &noNotifications;
     QFile(WakeAlarmFile()).open(QIODevice::WriteOnly);
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_dir.path() + "/config");
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_dir.path() + "/config");
+    KeepSettingsUnder(m_dir.path());
     AppFolders::Under(m_dir.path()).InstallDatabaseOnFirstRun();
     QDir().mkpath(JoystickFolder());
     joystick.Watch(JoystickFolder());
@@ -48,7 +45,7 @@ void TestContext::Restart()
 
 QString TestContext::SettingsFile() const
 {
-    return m_dir.path() + "/config/Larkmoor Systems/Nightreel.conf";
+    return SettingsFileUnder(m_dir.path());
 }
 
 void TestContext::OpenDatabase()
@@ -58,27 +55,15 @@ void TestContext::OpenDatabase()
 
 qint64 TestContext::AddProgram(const QVariantHash& columns)
 {
-    Recordset rs = ctx->database.DataPrograms.recordset();
-    rs.AddNew();
-    for (auto it = columns.cbegin(); it != columns.cend(); ++it)
-        rs.SetValue(it.key(), it.value());
-    rs.Update();
-    return rs.LastModified();
+    return ::AddProgram(ctx->database, columns);
 }
 
 QList<LogEntry> TestContext::LogEntries() const
 {
-    QList<LogEntry> entries;
-    QSqlQuery q(ctx->database.db.Connection());
-    q.exec("SELECT Type, Message, Details FROM EventLog ORDER BY ID");
-    while (q.next())
-        entries.append({q.value(0).toInt(), q.value(1).toString(), q.value(2).toString()});
-    return entries;
+    return ::LogEntries(ctx->database);
 }
 
 int TestContext::CountRows(const QString& table) const
 {
-    QSqlQuery q(ctx->database.db.Connection());
-    q.exec("SELECT count(*) FROM [" + table + "]");
-    return q.next() ? q.value(0).toInt() : -1;
+    return ::CountRows(ctx->database, table);
 }

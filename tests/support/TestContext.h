@@ -3,6 +3,7 @@
 #include "MemoryLog.h"
 #include "RecordingLauncher.h"
 #include "ScriptedMessageBox.h"
+#include "StoreParts.h"
 #include "TestClock.h"
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
