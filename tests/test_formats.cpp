@@ -1,8 +1,7 @@
 #include "formats/CodecCatalogue.h"
 #include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
-#include "support/OpenedContext.h"
-#include "support/ScriptedMessageBox.h"
+#include "support/StoreParts.h"
 
 #include <QSqlQuery>
 #include <QtTest>
@@ -22,16 +21,21 @@ void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
     format.CalcRemainingVarsFromMwfx();
 }
 
+// The default format's store over a fresh database and settings file.
+struct DefaultFormats : StoreParts {
+    DefaultFormatStore store{log, registry, options, database.DataInfo};
+};
+
 // Replaces the Info row by one with the given columns, straight in the file.
-void PutInfoRow(TestContext& tc, int cbSize, const QByteArray& extra)
+void PutInfoRow(StoreParts& s, int cbSize, const QByteArray& extra)
 {
-    QSqlQuery q(tc.ctx->database.db.Connection());
+    QSqlQuery q(s.database.db.Connection());
     QVERIFY(q.exec("DELETE FROM Info"));
     QVERIFY(q.prepare("INSERT INTO Info VALUES (1, 0, 0, 85, 2, 44100, 16000, 1, 0, ?, ?)"));
     q.addBindValue(cbSize);
     q.addBindValue(extra);
     QVERIFY(q.exec());
-    tc.ctx->database.DataInfo.Requery();
+    s.database.DataInfo.Requery();
 }
 
 } // namespace
@@ -190,19 +194,19 @@ private slots:
     {
         QFETCH(QByteArray, record);
         QFETCH(int, flags);
-        OpenedContext tc;
+        StoreParts s;
         clsRecordingFormat format;
         SetFromRecord(format, record);
         format.SaveMP3FileExtension = flags & 1;
         format.ConvertToMP3 = flags & 2;
-        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        Recordset& rs = s.database.DataPrograms.recordset();
         rs.AddNew();
         rs.SetValue("Description", "Show");
         WriteFormat(format, rs);
         rs.Update();
         rs.SetBookmark(rs.LastModified());
 
-        QSqlQuery q(tc.ctx->database.db.Connection());
+        QSqlQuery q(s.database.db.Connection());
         QVERIFY(q.exec("SELECT wfxExtra, Flags FROM Programs"));
         QVERIFY(q.next());
         QCOMPARE(q.value(0).toByteArray(), Mp3Extra(record) + QByteArray(1, '\0'));
@@ -213,21 +217,21 @@ private slots:
         QCOMPARE(read.Record(), record);
         QCOMPARE(read.SaveMP3FileExtension, bool(flags & 1));
         QCOMPARE(read.ConvertToMP3, bool(flags & 2));
-        QCOMPARE(tc.CountRows("EventLog"), 0);
+        QCOMPARE(s.CountRows("EventLog"), 0);
     }
 
     void aRowFromBeforeTheFlagsHasNeitherFlag()
     {
-        OpenedContext tc;
-        tc.AddProgram({{"Description", "Old"},
-                       {"wfx_wFormatTag", 1},
-                       {"wfx_nChannels", 1},
-                       {"wfx_nSamplesPerSec", 8000},
-                       {"wfx_nAvgBytesPerSec", 8000},
-                       {"wfx_nBlockAlign", 1},
-                       {"wfx_nBitsPerSample", 8},
-                       {"wfx_cbSize", 0}});
-        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        StoreParts s;
+        s.AddProgram({{"Description", "Old"},
+                      {"wfx_wFormatTag", 1},
+                      {"wfx_nChannels", 1},
+                      {"wfx_nSamplesPerSec", 8000},
+                      {"wfx_nAvgBytesPerSec", 8000},
+                      {"wfx_nBlockAlign", 1},
+                      {"wfx_nBitsPerSample", 8},
+                      {"wfx_cbSize", 0}});
+        Recordset& rs = s.database.DataPrograms.recordset();
         rs.MoveFirst();
         clsRecordingFormat format;
         format.ConvertToMP3 = format.SaveMP3FileExtension = true;
@@ -254,20 +258,20 @@ private slots:
         QFETCH(QByteArray, record);
         QFETCH(QString, convert);
         QFETCH(QString, extension);
-        OpenedContext tc;
-        tc.ctx->registry.SaveSetting(kSection, "SaveMP3FileExtension", "False");
-        tc.ctx->registry.SaveSetting(kSection, "ConvertToMP3", "True");
+        DefaultFormats s;
+        s.registry.SaveSetting(kSection, "SaveMP3FileExtension", "False");
+        s.registry.SaveSetting(kSection, "ConvertToMP3", "True");
         clsRecordingFormat format;
         format.ConvertToMP3 = true;
         format.SaveMP3FileExtension = false;
         SetFromRecord(format, record);
-        tc.ctx->defaultFormats.SaveDefaultFormatInfo(format);
-        QCOMPARE(tc.CountRows("Info"), 1);
-        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "ConvertToMP3", {}), convert);
-        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "SaveMP3FileExtension", {}), extension);
+        s.store.SaveDefaultFormatInfo(format);
+        QCOMPARE(s.CountRows("Info"), 1);
+        QCOMPARE(s.registry.GetSetting(kSection, "ConvertToMP3", {}), convert);
+        QCOMPARE(s.registry.GetSetting(kSection, "SaveMP3FileExtension", {}), extension);
 
-        tc.ctx->defaultFormats.GetWfxDefault(tc.ctx->WfxDefault);
-        clsRecordingFormat& dflt = tc.ctx->WfxDefault;
+        clsRecordingFormat dflt;
+        s.store.GetWfxDefault(dflt);
         QCOMPARE(dflt.Record(), format.Record());
         QCOMPARE(dflt.ConvertToMP3, convert == "True");
         QCOMPARE(dflt.SaveMP3FileExtension, extension == "True");
@@ -285,21 +289,21 @@ private slots:
     {
         QFETCH(int, cbSize);
         QFETCH(bool, deleteRow);
-        OpenedContext tc;
-        PutInfoRow(tc, cbSize, QByteArray(cbSize + 1, 'x'));
+        DefaultFormats s;
+        PutInfoRow(s, cbSize, QByteArray(cbSize + 1, 'x'));
         if (deleteRow) {
-            QSqlQuery q(tc.ctx->database.db.Connection());
+            QSqlQuery q(s.database.db.Connection());
             QVERIFY(q.exec("DELETE FROM Info"));
-            tc.ctx->database.DataInfo.Requery();
+            s.database.DataInfo.Requery();
         }
-        tc.ctx->defaultFormats.GetWfxDefault(tc.ctx->WfxDefault);
-        const clsRecordingFormat& dflt = tc.ctx->WfxDefault;
+        clsRecordingFormat dflt;
+        s.store.GetWfxDefault(dflt);
         QCOMPARE(dflt.Record(), CodecCatalogue::PcmRecord(1, 11025, 8));
         QCOMPARE(dflt.TextCompressionMethod, QStringLiteral("PCM 11.025 kHz, 8 Bit, Mono"));
 
         // The row is rewritten: one row, phone quality, read back by the next start.
-        QCOMPARE(tc.CountRows("Info"), 1);
-        QSqlQuery q(tc.ctx->database.db.Connection());
+        QCOMPARE(s.CountRows("Info"), 1);
+        QSqlQuery q(s.database.db.Connection());
         QVERIFY(q.exec("SELECT wfxdflt_wFormatTag, wfxdflt_nSamplesPerSec, wfxdflt_cbSize, "
                        "wfxdfltExtra FROM Info"));
         QVERIFY(q.next());
@@ -308,7 +312,7 @@ private slots:
         QCOMPARE(q.value(2).toInt(), 0);
         QCOMPARE(q.value(3).toByteArray(), QByteArray(1, '\0'));
         clsRecordingFormat next;
-        tc.ctx->defaultFormats.ReadDefaultFormatInfo(next);
+        s.store.ReadDefaultFormatInfo(next);
         QCOMPARE(next.nSamplesPerSec(), 11025u);
     }
 

@@ -1,5 +1,4 @@
 // How a program written by a caller on the bus is read into the editor's values.
-#include "TestContext.h"
 #include "control/ProgramRequest.h"
 
 #include <QTest>
@@ -58,7 +57,6 @@ private slots:
         QFETCH(QVariantMap, request);
         QFETCH(QVariantMap, expected);
         QFETCH(QString, error);
-        TestContext tc;
         ProgramFormValues values;
         const auto refused = ProgramRequest::Apply(request, values);
         QCOMPARE(refused.value_or(QString()), error);
