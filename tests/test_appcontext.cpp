@@ -1,8 +1,10 @@
 // What the context adds to its parts: the settings' and the database's reports upward become
 // log entries and error flags.
 #include "LogCapture.h"
+#include "TaskWaveSource.h"
 #include "TestContext.h"
 #include "TestFiles.h"
+#include "recording/RecorderParts.h"
 
 #include <QDir>
 #include <QTest>
@@ -50,6 +52,19 @@ private slots:
         tc.ctx->database.CheckDatabaseMissing();
         QVERIFY(!tc.ctx->error.DatabaseMissing());
         QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
+    }
+
+    // The recordings list leaves out the file that the recorder writes.
+    void theRecordersFileIsNotListed()
+    {
+        TestContext tc;
+        tc.OpenDatabase();
+        const QString file = tc.Root() + "/now.wav";
+        QVERIFY(TaskWaveSource::Write(QFile::encodeName(file).toStdString(), 1, 8000,
+                                      std::string(8000, char(0x80)), 0, 8));
+        RecorderParts::Status(tc.ctx->recorder).FinalFile = file;
+        tc.ctx->recordingsList.AddFileToRecordingsList(file);
+        QCOMPARE(tc.CountRows("Recordings"), 0);
     }
 };
 

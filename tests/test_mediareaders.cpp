@@ -5,10 +5,11 @@
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
 #include "store/Options.h"
-#include "support/OpenedContext.h"
+#include "support/StoreParts.h"
 #include "support/TestFiles.h"
 
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QtEndian>
 #include <QtTest>
@@ -135,11 +136,11 @@ private slots:
         QFETCH(int, bitrate);
         QFETCH(QString, mode);
         QFETCH(QString, title);
-        TestContext tc;
+        StoreParts s;
         const int seconds = 10;
-        const QString wav = MakeWav(tc.Root(), "tone.wav", rate, channels, 16, seconds);
+        const QString wav = MakeWav(s.Root(), "tone.wav", rate, channels, 16, seconds);
         QVERIFY(!wav.isEmpty());
-        const QString mp3 = tc.Root() + "/tone.mp3";
+        const QString mp3 = s.Root() + "/tone.mp3";
         QVERIFY(Run("lame", QStringList{"--quiet", "--resample", QString::number(rate / 1000.0)} +
                                 lameArguments + QStringList{wav, mp3}));
 
@@ -165,10 +166,9 @@ private slots:
         // Without a tag the genre reads 255; lame leaves it unset (255) in its tags too.
         QCOMPARE(int(info.Genre), 255);
 
-        tc.OpenDatabase();
         ModuleFileTime::SetFileDateTime(mp3, FileDate());
-        AddMp3ToList(tc.ctx->database, mp3);
-        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+        AddMp3ToList(s.database, mp3);
+        Recordset& rs = s.database.DataRecordings.recordset();
         QCOMPARE(rs.RecordCount(), 1);
         QCOMPARE(rs.Value("Title").toString(),
                  title.isEmpty() ? QStringLiteral("tone.mp3") : title);
@@ -182,9 +182,9 @@ private slots:
 
     void theTagWrittenOverTheEndIsReadBack()
     {
-        TestContext tc;
-        const QString wav = MakeWav(tc.Root(), "tone.wav", 44100, 1, 16, 3);
-        const QString mp3 = tc.Root() + "/tone.mp3";
+        QTemporaryDir dir;
+        const QString wav = MakeWav(dir.path(), "tone.wav", 44100, 1, 16, 3);
+        const QString mp3 = dir.path() + "/tone.mp3";
         QVERIFY(Run("lame", {"--quiet", "-b", "64", wav, mp3}));
         const qint64 size = QFileInfo(mp3).size();
         Mp3File::WriteId3Tag(mp3, "A description far longer than thirty characters", "", "", "",
@@ -215,8 +215,8 @@ private slots:
         QFETCH(int, channels);
         QFETCH(int, bits);
         QFETCH(QString, format);
-        OpenedContext tc;
-        const QString path = MakeWav(tc.Root(), "tone.wav", rate, channels, bits, 20);
+        QTemporaryDir dir;
+        const QString path = MakeWav(dir.path(), "tone.wav", rate, channels, bits, 20);
         QVERIFY(!path.isEmpty());
         ModuleFileTime::SetFileDateTime(path, FileDate());
         RecordingRow row;
@@ -245,11 +245,12 @@ private slots:
     {
         QFETCH(int, createdMinutesAfterStart);
         QFETCH(int, shiftMinutes);
-        TestContext tc;
+        QTemporaryDir dir;
         // The file holds 10 seconds (and its headers, a few ms more).
         const double start = FileDate() - Seconds(10);
-        const QString path = WriteFile(
-            tc.Root(), "show.wav", NightreelWave(start + Seconds(60.0 * createdMinutesAfterStart)));
+        const QString path =
+            WriteFile(dir.path(), "show.wav",
+                      NightreelWave(start + Seconds(60.0 * createdMinutesAfterStart)));
         RecordingRow row;
         QVERIFY(MediaReaders::ReadNightreelWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("Morning show"));
@@ -271,12 +272,12 @@ private slots:
     {
         QFETCH(QByteArray, fact);
         QFETCH(int, seconds);
-        TestContext tc;
+        QTemporaryDir dir;
         const QByteArray wave =
             Riff("WAVE", Chunk("ISFT", Text("Nightreel 2000 1.0 ")) + Chunk("INAM", Text("News ")) +
                              Chunk("fmt ", CodecCatalogue::Mp3Record(2, 44100, 128)) +
                              Chunk("fact", fact) + Chunk("data", QByteArray(4000, '\x55')));
-        const QString path = WriteFile(tc.Root(), "news.wav", wave);
+        const QString path = WriteFile(dir.path(), "news.wav", wave);
         RecordingRow row;
         QVERIFY(!MediaReaders::ReadNightreelWave(path, row));
         QVERIFY(MediaReaders::ReadNightreelCompressedWave(path, row));
@@ -330,31 +331,31 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, content);
         QFETCH(bool, listed);
-        OpenedContext tc;
-        const QString path = WriteFile(tc.Root(), name, content);
+        StoreParts s;
+        const QString path = WriteFile(s.Root(), name, content);
         if (name.endsWith(".mp3")) {
-            AddMp3ToList(tc.ctx->database, path);
+            AddMp3ToList(s.database, path);
         } else {
             bool found = true;
-            AddNightreelWaveToList(tc.ctx->database, path, found);
+            AddNightreelWaveToList(s.database, path, found);
             QVERIFY(!found);
-            AddNightreelCompressedWaveToList(tc.ctx->database, path, found);
+            AddNightreelCompressedWaveToList(s.database, path, found);
             QVERIFY(!found);
-            AddOtherWaveToList(tc.ctx->database, path);
+            AddOtherWaveToList(s.database, path);
         }
-        QCOMPARE(tc.CountRows("Recordings"), listed ? 1 : 0);
+        QCOMPARE(s.CountRows("Recordings"), listed ? 1 : 0);
         if (listed) {
-            Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+            Recordset& rs = s.database.DataRecordings.recordset();
             QTEST(rs.Value("CompressionMethod").toString(), "format");
             QTEST(rs.Value("Title").toString(), "title");
         }
-        QCOMPARE(tc.CountRows("EventLog"), 0);
+        QCOMPARE(s.CountRows("EventLog"), 0);
     }
 
     void inspectPrintsTheRowOrNothing()
     {
-        OpenedContext tc;
-        const QString wave = WriteFile(tc.Root(), "show.wav", NightreelWave(FileDate()));
+        QTemporaryDir dir;
+        const QString wave = WriteFile(dir.path(), "show.wav", NightreelWave(FileDate()));
         QString text;
         QTextStream out(&text);
         QCOMPARE(InspectFile(wave, out), 0);
@@ -364,12 +365,11 @@ private slots:
         QCOMPARE(lines.value(3), QStringLiteral("End: 2026-06-01 12:00:00"));
         QCOMPARE(lines.value(4), QStringLiteral("Format: PCM 11.025 kHz, 8 Bit, Mono"));
         QVERIFY(lines.value(5).startsWith("Size: 0.105"));
-        QCOMPARE(tc.CountRows("Recordings"), 0);
 
         text.clear();
-        const QString notes = WriteFile(tc.Root(), "notes.txt", "RIFF");
+        const QString notes = WriteFile(dir.path(), "notes.txt", "RIFF");
         QVERIFY(InspectFile(notes, out) != 0);
-        QVERIFY(InspectFile(tc.Root() + "/missing.wav", out) != 0);
+        QVERIFY(InspectFile(dir.path() + "/missing.wav", out) != 0);
         QVERIFY(text.isEmpty());
     }
 };

@@ -1,30 +1,25 @@
 // The tray icon's picture and tip follow the mode flags and the error state, animate with
 // the timer, and reach the platform only when something changed.
 #include "CountingSysTray.h"
-#include "TestContext.h"
+#include "MemoryLog.h"
+#include "ScriptedMessageBox.h"
+#include "common/clsAppStatus.h"
 #include "tray/clsSysTrayMgr.h"
 
 #include <QTest>
 
 namespace {
-// A manager over a fresh context; its icon is the counting stand-in.
+// A manager over fresh mode flags and a log in memory; its icon is the counting stand-in.
 struct Tray {
-    Tray()
-    {
-        tc.OpenDatabase();
-        mgr = std::make_unique<clsSysTrayMgr>(ctx().log, ctx().appStatus, ctx().error,
-                                              std::make_unique<CountingSysTray>(calls));
-    }
-    AppContext& ctx() { return *tc.ctx; }
     void Suspend()
     {
-        tc.messageBox.answers << MsgResult::Yes;
-        ctx().appStatus.HandleSuspendMenuClickEvent(tc.messageBox);
+        messageBox.answers << MsgResult::Yes;
+        appStatus.HandleSuspendMenuClickEvent(messageBox);
     }
     void LogErrors(int n)
     {
         for (int i = 0; i < n; ++i)
-            ctx().log.LogEvent(EventError, "Something failed", "while nobody watched");
+            memory.log.LogEvent(EventError, "Something failed", "while nobody watched");
     }
     // The pictures that the icon was given, from the given call on.
     QList<int> Frames(qsizetype from = 0) const
@@ -37,9 +32,12 @@ struct Tray {
         return frames;
     }
 
-    TestContext tc;
+    MemoryLog memory;
+    clsAppStatus appStatus;
+    ScriptedMessageBox messageBox;
     SysTrayCalls calls;
-    std::unique_ptr<clsSysTrayMgr> mgr;
+    clsSysTrayMgr mgr{memory.log, appStatus, memory.error,
+                      std::make_unique<CountingSysTray>(calls)};
 };
 
 } // namespace
@@ -98,9 +96,9 @@ private slots:
         QFETCH(int, index);
 
         Tray t;
-        clsAppStatus& s = t.ctx().appStatus;
+        clsAppStatus& s = t.appStatus;
         t.LogErrors(unviewed);
-        t.ctx().error.SetDiskLowWarn(flags.contains("warning"));
+        t.memory.error.SetDiskLowWarn(flags.contains("warning"));
         if (flags.contains("suspended"))
             t.Suspend();
         s.SetPlaying(flags.contains("playing"));
@@ -108,10 +106,10 @@ private slots:
         s.SetRecording(flags.contains("recording"));
         s.SetPaused(flags.contains("paused"));
 
-        QCOMPARE(t.mgr->CurrentTip(), "Nightreel 2000 - " + tip);
-        QVERIFY((t.mgr->CurrentIcon() == SysTrayPicture{list, index}));
+        QCOMPARE(t.mgr.CurrentTip(), "Nightreel 2000 - " + tip);
+        QVERIFY((t.mgr.CurrentIcon() == SysTrayPicture{list, index}));
         // What the icon was last given is what the manager holds.
-        QCOMPARE(t.calls.calls.last().tip, t.mgr->CurrentTip());
+        QCOMPARE(t.calls.calls.last().tip, t.mgr.CurrentTip());
     }
 
     // The timer's ticks do nothing before the application is ready. Then each tick shows the
@@ -120,28 +118,28 @@ private slots:
     void recordingGoesRoundSixteenFramesAndPhasesAreNeverReset()
     {
         Tray t;
-        t.ctx().appStatus.SetRecording(true);
-        t.ctx().appStatus.SetReady(false);
-        emit t.mgr->tmrSystray.timeout();
-        QCOMPARE(t.mgr->RecordPhase(), 1);
-        t.ctx().appStatus.SetReady(true);
+        t.appStatus.SetRecording(true);
+        t.appStatus.SetReady(false);
+        emit t.mgr.tmrSystray.timeout();
+        QCOMPARE(t.mgr.RecordPhase(), 1);
+        t.appStatus.SetReady(true);
         const qsizetype before = t.calls.calls.size();
         for (int i = 0; i < 18; ++i)
-            emit t.mgr->tmrSystray.timeout();
+            emit t.mgr.tmrSystray.timeout();
         // Frame 1 is on show since the recording began; the events go on from there.
         QCOMPARE(t.Frames(before),
                  (QList<int>{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 1, 2}));
         QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 0);
-        QCOMPARE(t.mgr->RecordPhase(), 3);
-        QCOMPARE(t.mgr->ConvertPhase(), 18 % 5 + 1);
+        QCOMPARE(t.mgr.RecordPhase(), 3);
+        QCOMPARE(t.mgr.ConvertPhase(), 18 % 5 + 1);
 
-        t.ctx().appStatus.SetConverting(true);
-        t.ctx().appStatus.SetRecording(false);
-        QVERIFY((t.mgr->CurrentIcon() == SysTrayPicture{SysTrayList::Convert, 4}));
-        QCOMPARE(t.mgr->CurrentTip(), QString("Nightreel 2000 - CONVERTING TO MP3"));
+        t.appStatus.SetConverting(true);
+        t.appStatus.SetRecording(false);
+        QVERIFY((t.mgr.CurrentIcon() == SysTrayPicture{SysTrayList::Convert, 4}));
+        QCOMPARE(t.mgr.CurrentTip(), QString("Nightreel 2000 - CONVERTING TO MP3"));
         const qsizetype converting = t.calls.calls.size();
         for (int i = 0; i < 5; ++i)
-            t.mgr->HandleTimerEvent();
+            t.mgr.HandleTimerEvent();
         // Frame 4 is on show already: the first event changes nothing.
         QCOMPARE(t.Frames(converting), (QList<int>{5, 1, 2, 3}));
     }
@@ -153,26 +151,26 @@ private slots:
         Tray t;
         QCOMPARE(t.calls.Count("Activate"), 1);
         for (int i = 0; i < 40; ++i)
-            t.mgr->HandleTimerEvent();
+            t.mgr.HandleTimerEvent();
         QCOMPARE(t.calls.Count(), 1);
 
-        t.ctx().error.SetDiskLowWarn(true);
+        t.memory.error.SetDiskLowWarn(true);
         QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 1);
         // The log entry raises the unviewed count while the warning still decides.
         t.LogErrors(1);
         QCOMPARE(t.calls.Count(), 2);
-        t.ctx().error.SetDiskLowWarn(false);
+        t.memory.error.SetDiskLowWarn(false);
         QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 1);
         QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 1);
-        QCOMPARE(t.calls.calls.last().tip, t.mgr->CurrentTip());
+        QCOMPARE(t.calls.calls.last().tip, t.mgr.CurrentTip());
         t.LogErrors(1);
         QCOMPARE(t.calls.Count("ChangeSystemTrayTip"), 2);
-        QCOMPARE(t.calls.calls.last().tip, t.mgr->CurrentTip());
+        QCOMPARE(t.calls.calls.last().tip, t.mgr.CurrentTip());
         for (int i = 0; i < 40; ++i)
-            t.mgr->HandleTimerEvent();
+            t.mgr.HandleTimerEvent();
         QCOMPARE(t.calls.Count(), 4);
 
-        t.ctx().error.ElogViewed();
+        t.memory.error.ElogViewed();
         QCOMPARE(t.calls.Count("ChangeSystemTrayIcon"), 2);
         QCOMPARE(t.calls.calls.last().tip, QString("Nightreel 2000 - STOPPED"));
     }
