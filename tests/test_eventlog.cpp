@@ -19,18 +19,22 @@ private slots:
         QTest::addColumn<int>("after");
         QTest::addColumn<bool>("full");
         QTest::addColumn<int>("unviewed");
-        QTest::newRow("950th row") << 949 << 2 << 950 << false << 1;
-        QTest::newRow("951st row") << 950 << 1 << 951 << false << 1;
-        QTest::newRow("952nd row") << 951 << 2 << 952 << true << 1;
-        QTest::newRow("1000th row") << 999 << 2 << 1000 << true << 1;
-        QTest::newRow("dropped") << 1000 << 2 << 1000 << true << 0;
-        QTest::newRow("information") << 10 << 0 << 11 << false << 0;
+        QTest::addColumn<bool>("onScreen");
+        QTest::newRow("950th row") << 949 << 2 << 950 << false << 1 << false;
+        QTest::newRow("951st row") << 950 << 1 << 951 << false << 1 << false;
+        QTest::newRow("952nd row") << 951 << 2 << 952 << true << 1 << false;
+        QTest::newRow("1000th row") << 999 << 2 << 1000 << true << 1 << false;
+        QTest::newRow("dropped") << 1000 << 2 << 1000 << true << 0 << false;
+        QTest::newRow("information") << 10 << 0 << 11 << false << 0 << false;
+        QTest::newRow("the log on screen") << 10 << 2 << 11 << false << 0 << true;
     }
     void theLogFillsAt951AndStopsAt1000()
     {
         QFETCH(int, before);
         QFETCH(int, type);
+        QFETCH(bool, onScreen);
         MemoryLog bare;
+        bare.error.SetElogVisible(onScreen);
         bare.entries = QList<LogEntry>(before, LogEntry{2, "old", ""});
         bare.log.LogEvent(qint16(type), "Something happened", "while nobody watched");
         QTEST(int(bare.entries.size()), "after");
@@ -53,19 +57,6 @@ private slots:
         QCOMPARE(rs.Value("Message").toString(), QStringLiteral("Nightreel 2000 Runtime Error"));
         QCOMPARE(rs.Value("Details").toString(),
                  QStringLiteral("Module: Timer1_Timer\r\nError:  3021, No current record."));
-    }
-
-    void nothingCountsWhileTheLogIsOnScreen()
-    {
-        MemoryLog bare;
-        bare.error.SetElogVisible(true);
-        bare.log.LogEvent(EventError, "Seen at once", "");
-        QCOMPARE(bare.error.NumUnviewedElogErrors(), 0);
-        bare.error.SetElogVisible(false);
-        bare.log.LogEvent(EventWarning, "Not seen", "");
-        QCOMPARE(bare.error.NumUnviewedElogErrors(), 1);
-        bare.error.ElogViewed();
-        QCOMPARE(bare.error.NumUnviewedElogErrors(), 0);
     }
 
     void loggingWithoutADatabaseDoesNotFail()

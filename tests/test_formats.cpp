@@ -44,42 +44,39 @@ class TestFormats : public QObject {
     Q_OBJECT
 
 private slots:
-    void secondsFromMbytesRoundTiesToEven_data()
-    {
-        QTest::addColumn<quint32>("rate");
-        QTest::addColumn<float>("mbytes");
-        QTest::addColumn<qint32>("seconds");
-        // 2 Mbytes a second: 5 Mbytes are 2.5 seconds, 7 are 3.5.
-        QTest::newRow("2.5 to 2") << 524288u << 5.0f << 2;
-        QTest::newRow("3.5 to 4") << 524288u << 7.0f << 4;
-        QTest::newRow("no byte rate") << 0u << 100.0f << 0;
-    }
-    void secondsFromMbytesRoundTiesToEven()
-    {
-        QFETCH(quint32, rate);
-        QFETCH(float, mbytes);
-        clsRecordingFormat format;
-        format.SetToPcm(2, rate, 16);
-        QTEST(format.CalcSecondsFromMbytes(mbytes), "seconds");
-    }
-
-    void blockAlignOfOddSampleSizesIsRounded_data()
+    // The block's alignment of odd sample sizes is rounded, and seconds from Mbytes round
+    // ties to even.
+    void pcmFiguresRound_data()
     {
         QTest::addColumn<quint16>("channels");
+        QTest::addColumn<quint32>("rate");
         QTest::addColumn<quint16>("bits");
+        QTest::addColumn<float>("mbytes");
         QTest::addColumn<quint16>("blockAlign");
-        QTest::newRow("1 x 12 bits") << quint16(1) << quint16(12) << quint16(2);
-        QTest::newRow("1 x 4 bits, half to even") << quint16(1) << quint16(4) << quint16(0);
+        QTest::addColumn<qint32>("seconds");
+        const auto row = [](const char* tag, quint16 channels, quint32 rate, quint16 bits,
+                            float mbytes, quint16 blockAlign, qint32 seconds) {
+            QTest::newRow(tag) << channels << rate << bits << mbytes << blockAlign << seconds;
+        };
+        // 2 Mbytes a second: 5 Mbytes are 2.5 seconds, 7 are 3.5.
+        row("2.5 s to 2", 2, 524288, 16, 5.0f, 4, 2);
+        row("3.5 s to 4", 2, 524288, 16, 7.0f, 4, 4);
+        row("no byte rate", 2, 0, 16, 100.0f, 4, 0);
+        row("1 x 12 bits", 1, 8000, 12, 1.0f, 2, 66);
+        row("1 x 4 bits, half to even", 1, 8000, 4, 1.0f, 0, 0);
     }
-    void blockAlignOfOddSampleSizesIsRounded()
+    void pcmFiguresRound()
     {
         QFETCH(quint16, channels);
+        QFETCH(quint32, rate);
         QFETCH(quint16, bits);
+        QFETCH(float, mbytes);
         QFETCH(quint16, blockAlign);
         clsRecordingFormat format;
-        format.SetToPcm(channels, 8000, bits);
+        format.SetToPcm(channels, rate, bits);
+        QTEST(format.CalcSecondsFromMbytes(mbytes), "seconds");
         QCOMPARE(format.nBlockAlign(), blockAlign);
-        QCOMPARE(format.nAvgBytesPerSec(), quint32(blockAlign) * 8000);
+        QCOMPARE(format.nAvgBytesPerSec(), quint32(blockAlign) * rate);
         // The block says the same as the fields.
         const uchar* block = format.mwfx();
         QCOMPARE(quint16(block[12] | block[13] << 8), blockAlign);

@@ -117,10 +117,7 @@ QStringList RecordingRig::Logged(const QString& message) const
 
 QStringList RecordingRig::LoggedMessages() const
 {
-    QStringList messages;
-    for (const LogEntry& e : tc.LogEntries())
-        messages << e.message;
-    return messages;
+    return MessagesOf(tc.LogEntries());
 }
 
 QStringList RecordingRig::Files(const QStringList& filter) const

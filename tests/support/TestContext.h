@@ -5,6 +5,7 @@
 #include "ScriptedMessageBox.h"
 #include "StoreParts.h"
 #include "TestClock.h"
+#include "TestDiskSpace.h"
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
 #include "platform/DesktopNotifications.h"
@@ -12,15 +13,11 @@
 #include "platform/LogindSleepInhibitor.h"
 #include "platform/MixsetMixer.h"
 #include "platform/NetworkManagerConnections.h"
-#include "platform/StorageDiskSpace.h"
 #include "platform/XcbWindowList.h"
 #include "shell/AppContext.h"
 
-#include <QDir>
-#include <QHash>
 #include <QTemporaryDir>
 #include <memory>
-#include <optional>
 
 // A sound system with the capture sources the test says (one unless it says otherwise), all
 // of them silent, or one that fails to answer.
@@ -41,28 +38,6 @@ public:
     }
     QList<CaptureSource> sources{{"fake.monitor", "Monitor of the fake output"}};
     bool fails = false;
-};
-
-// The real file systems, unless the test names the free megabytes it wants seen (of one
-// folder, or of all), or makes the measuring fail.
-class TestDiskSpace : public StorageDiskSpace {
-public:
-    std::optional<double> freeMb;
-    QHash<QString, double> freeMbOf;
-    bool fails = false;
-
-protected:
-    DiskSpaceMb Measure(const QString& folder) override
-    {
-        if (fails)
-            throw RuntimeError(ErrorNumber::PathFileAccess, "the disk did not answer");
-        DiskSpaceMb d = StorageDiskSpace::Measure(folder);
-        if (const auto it = freeMbOf.constFind(QDir::cleanPath(folder)); it != freeMbOf.cend())
-            d.free = *it;
-        else if (freeMb)
-            d.free = *freeMb;
-        return d;
-    }
 };
 
 // A fresh application context over a temporary folder: its own data and runtime folders,
