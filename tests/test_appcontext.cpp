@@ -1,6 +1,6 @@
 // What the context adds to its parts: the settings' and the database's reports upward become
-// log entries and error flags, and the recordings list learns which file the recorder writes.
-#include "LogCapture.h"
+// log entries and error flags (the start-up's are the main window's test), and the recordings
+// list learns which file the recorder writes.
 #include "TaskWaveSource.h"
 #include "TestContext.h"
 #include "TestFiles.h"
@@ -13,16 +13,6 @@ class TestAppContext : public QObject {
     Q_OBJECT
 
 private slots:
-    // Before the file is open the start-up's failures go to the diagnostic output.
-    void aFailedStartUpStepIsLoggedUnderItsRoutine()
-    {
-        TestContext tc;
-        QVERIFY(WriteFile(tc.ctx->database.DatabaseFile(), "Not a database.\n"));
-        LogCapture capture;
-        tc.OpenDatabase();
-        QVERIFY(capture.Contains("Module: InitializeControls"));
-    }
-
     void thePartsOfAnOpenContext()
     {
         TestContext tc;

@@ -115,11 +115,6 @@ QStringList RecordingRig::Logged(const QString& message) const
     return details;
 }
 
-QStringList RecordingRig::LoggedMessages() const
-{
-    return MessagesOf(tc.LogEntries());
-}
-
 QStringList RecordingRig::Files(const QStringList& filter) const
 {
     return QDir(folder).entryList(filter, QDir::Files, QDir::Name);

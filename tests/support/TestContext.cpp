@@ -22,8 +22,6 @@ TestContext::TestContext(DesktopNotifications* notifications)
 {
     m_notifications = notifications ? notifications : &noNotifications;
     QFile(WakeAlarmFile()).open(QIODevice::WriteOnly);
-    KeepSettingsUnder(m_dir.path());
-    AppFolders::Under(m_dir.path()).InstallDatabaseOnFirstRun();
     QDir().mkpath(JoystickFolder());
     joystick.Watch(JoystickFolder());
     MakeContext();
@@ -34,7 +32,8 @@ void TestContext::MakeContext()
     ctx = std::make_unique<AppContext>(Seams{clock, messageBox, launcher, audioDevices, diskSpace,
                                              mixer, windows, network, sleepInhibitor, joystick,
                                              *m_notifications},
-                                       AppFolders::Under(m_dir.path()));
+                                       folders);
+    m_database = &ctx->database;
 }
 
 void TestContext::Restart()
@@ -43,27 +42,7 @@ void TestContext::Restart()
     MakeContext();
 }
 
-QString TestContext::SettingsFile() const
-{
-    return SettingsFileUnder(m_dir.path());
-}
-
 void TestContext::OpenDatabase()
 {
     ctx->InitializeDatabase();
-}
-
-qint64 TestContext::AddProgram(const QVariantHash& columns)
-{
-    return ::AddProgram(ctx->database, columns);
-}
-
-QList<LogEntry> TestContext::LogEntries() const
-{
-    return ::LogEntries(ctx->database);
-}
-
-int TestContext::CountRows(const QString& table) const
-{
-    return ::CountRows(ctx->database, table);
 }
