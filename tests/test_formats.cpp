@@ -180,62 +180,54 @@ private slots:
         QCOMPARE(copy.FormatChanged, qint16(0));
     }
 
+    // A row keeps the format with one more extra byte, and the flags; a row from before the
+    // flags reads as neither.
     void programRowsKeepTheFormatWithOneMoreByte_data()
     {
         QTest::addColumn<QByteArray>("record");
-        QTest::addColumn<int>("flags");
+        QTest::addColumn<int>("flags"); // -1: written by a version without them
         QTest::newRow("cbSize 0 is one zero byte") << CodecCatalogue::PcmRecord(1, 11025, 8) << 1;
         QTest::newRow("MP3 with its 12 bytes") << CodecCatalogue::Mp3Record(2, 44100, 128) << 2;
+        QTest::newRow("from before the flags") << CodecCatalogue::PcmRecord(1, 8000, 8) << -1;
     }
     void programRowsKeepTheFormatWithOneMoreByte()
     {
         QFETCH(QByteArray, record);
         QFETCH(int, flags);
         StoreParts s;
-        clsRecordingFormat format;
-        SetFromRecord(format, record);
-        format.SaveMP3FileExtension = flags & 1;
-        format.ConvertToMP3 = flags & 2;
         Recordset& rs = s.database.DataPrograms.recordset();
-        rs.AddNew();
-        rs.SetValue("Description", "Show");
-        WriteFormat(format, rs);
-        rs.Update();
-        rs.SetBookmark(rs.LastModified());
-
-        QSqlQuery q(s.database.db.Connection());
-        QVERIFY(q.exec("SELECT wfxExtra, Flags FROM Programs"));
-        QVERIFY(q.next());
-        QCOMPARE(q.value(0).toByteArray(), Mp3Extra(record) + QByteArray(1, '\0'));
-        QCOMPARE(q.value(1).toInt(), flags);
-
+        if (flags < 0) {
+            s.AddProgram({{"Description", "Old"},
+                          {"wfx_wFormatTag", 1},
+                          {"wfx_nChannels", 1},
+                          {"wfx_nSamplesPerSec", 8000},
+                          {"wfx_nAvgBytesPerSec", 8000},
+                          {"wfx_nBlockAlign", 1},
+                          {"wfx_nBitsPerSample", 8},
+                          {"wfx_cbSize", 0}});
+        } else {
+            clsRecordingFormat format;
+            SetFromRecord(format, record);
+            format.SaveMP3FileExtension = flags & 1;
+            format.ConvertToMP3 = flags & 2;
+            rs.AddNew();
+            rs.SetValue("Description", "Show");
+            WriteFormat(format, rs);
+            rs.Update();
+            QSqlQuery q(s.database.db.Connection());
+            QVERIFY(q.exec("SELECT wfxExtra, Flags FROM Programs"));
+            QVERIFY(q.next());
+            QCOMPARE(q.value(0).toByteArray(), Mp3Extra(record) + QByteArray(1, '\0'));
+            QCOMPARE(q.value(1).toInt(), flags);
+        }
+        rs.MoveFirst();
         clsRecordingFormat read;
+        read.ConvertToMP3 = read.SaveMP3FileExtension = true;
         ReadFormat(read, rs);
         QCOMPARE(read.Record(), record);
-        QCOMPARE(read.SaveMP3FileExtension, bool(flags & 1));
-        QCOMPARE(read.ConvertToMP3, bool(flags & 2));
+        QCOMPARE(read.SaveMP3FileExtension, flags > 0 && (flags & 1));
+        QCOMPARE(read.ConvertToMP3, flags > 0 && (flags & 2));
         QCOMPARE(s.CountRows("EventLog"), 0);
-    }
-
-    void aRowFromBeforeTheFlagsHasNeitherFlag()
-    {
-        StoreParts s;
-        s.AddProgram({{"Description", "Old"},
-                      {"wfx_wFormatTag", 1},
-                      {"wfx_nChannels", 1},
-                      {"wfx_nSamplesPerSec", 8000},
-                      {"wfx_nAvgBytesPerSec", 8000},
-                      {"wfx_nBlockAlign", 1},
-                      {"wfx_nBitsPerSample", 8},
-                      {"wfx_cbSize", 0}});
-        Recordset& rs = s.database.DataPrograms.recordset();
-        rs.MoveFirst();
-        clsRecordingFormat format;
-        format.ConvertToMP3 = format.SaveMP3FileExtension = true;
-        ReadFormat(format, rs);
-        QVERIFY(!format.ConvertToMP3);
-        QVERIFY(!format.SaveMP3FileExtension);
-        QCOMPARE(format.nSamplesPerSec(), 8000u);
     }
 
     // The MP3 flags go to the settings; a format that is not MP3 writes them as they were

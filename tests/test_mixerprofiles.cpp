@@ -76,21 +76,26 @@ private slots:
     void cleanup() { m_parts.reset(); }
     void cleanupTestCase() { m_pulse.reset(); }
 
-    // A profile that is missing or empty is no error; one the library refuses is logged with
-    // its number; a library that can't be loaded is the routine's run-time error.
-    void activationFailures_data()
+    // A profile that is missing or empty is no error; one the library refuses, or a save
+    // without a server, is logged with the library's number and asks nothing.
+    void failuresAreLogged_data()
     {
+        QTest::addColumn<bool>("save");
         QTest::addColumn<QByteArray>("content"); // empty: a file of no length
         QTest::addColumn<bool>("serverGone");
         QTest::addColumn<QString>("logged"); // a warning's message and details
-        QTest::newRow("empty file") << QByteArray() << false << QString();
-        QTest::newRow("server gone") << QByteArray("nightreel-mixer-profile 1\n") << true
-                                     << "Error activating mixer profile: Error number = 1";
-        QTest::newRow("not a profile") << QByteArray("garbage\n") << false
+        const QByteArray profile = "nightreel-mixer-profile 1\n";
+        QTest::newRow("empty file") << false << QByteArray() << false << QString();
+        QTest::newRow("server gone")
+            << false << profile << true << "Error activating mixer profile: Error number = 1";
+        QTest::newRow("not a profile") << false << QByteArray("garbage\n") << false
                                        << "Error activating mixer profile: Error number = 3";
+        QTest::newRow("saved without a server")
+            << true << profile << true << "Error saving mixer profile: Error number = 1";
     }
-    void activationFailures()
+    void failuresAreLogged()
     {
+        QFETCH(bool, save);
         QFETCH(QByteArray, content);
         QFETCH(bool, serverGone);
         QFETCH(QString, logged);
@@ -101,8 +106,13 @@ private slots:
             std::optional<NoServer> noServer;
             if (serverGone)
                 noServer.emplace();
-            Profiles().ActivateMixerProfile("Broken");
+            if (save)
+                QCOMPARE(Profiles().SaveMixerProfile("Night", m_parts->messageBox),
+                         MixerProfiles::SaveOutcome::Failed);
+            else
+                Profiles().ActivateMixerProfile("Broken");
         }
+        QVERIFY(m_parts->messageBox.asked.isEmpty());
         const QList<LogEntry>& entries = m_parts->log.entries;
         if (logged.isEmpty()) {
             QVERIFY(entries.isEmpty());
@@ -173,19 +183,6 @@ private slots:
         const bool replaced = ReadFile(Profiles().PathOf("Old")) != old;
         QCOMPARE(replaced, outcome == int(MixerProfiles::SaveOutcome::Overwritten));
         QCOMPARE(Profiles().Names(), QStringList{"Old"});
-    }
-
-    void saveWithoutServerIsLogged()
-    {
-        NoServer noServer;
-        QCOMPARE(Profiles().SaveMixerProfile("Night", m_parts->messageBox),
-                 MixerProfiles::SaveOutcome::Failed);
-        const QList<LogEntry>& entries = m_parts->log.entries;
-        QCOMPARE(entries.size(), 1);
-        QCOMPARE(entries[0].type, 1);
-        QCOMPARE(entries[0].message + ": " + entries[0].details,
-                 QString("Error saving mixer profile: Error number = 1"));
-        QVERIFY(m_parts->messageBox.asked.isEmpty());
     }
 
     // The wrapper clamps what it sets and reads to 0..100; without a server it changes nothing

@@ -28,48 +28,38 @@ QStringList ListedFiles(AppDatabase& database)
     return files;
 }
 
-using ListFixture = RecordingsListFixture;
-
 } // namespace
 
 class TestRecordingsList : public QObject {
     Q_OBJECT
 
 private slots:
+    // A file is listed once, and the one being recorded not at all; a folder lists its wave
+    // files first and leaves its sub-folders alone.
     void aFileIsListedOnce()
     {
-        ListFixture f;
-        WriteWave(f.File("a.wav"));
-        WriteWave(f.File("b.wav"));
-        f.list.AddFileToRecordingsList(f.File("a.wav"));
-        f.list.AddFileToRecordingsList(f.File("b.wav"));
-        QCOMPARE(f.database.DataRecordings.recordset().Value("File").toString(),
-                 f.File("b.wav")); // the new row is the current one
-        f.list.AddFileToRecordingsList("  " + f.File("a.wav") + " ");
-        f.list.AddFileToRecordingsList(f.File("notes.txt"));
-        WriteWave(f.File("now.wav")); // the file being recorded is not listed
-        f.busy << f.File("now.wav");
-        f.list.AddFileToRecordingsList(f.File("now.wav"));
-        QCOMPARE(ListedFiles(f.database), QStringList({"a.wav", "b.wav"}));
-        // Names compare trimmed and upper-cased.
-        QVERIFY(IsFileInRecordingsList(f.database, f.File("A.WAV")));
-    }
-
-    void aFolderListsItsWaveFilesFirst()
-    {
-        ListFixture f;
+        RecordingsListFixture f;
         QVERIFY(WriteFile(f.File("a.mp3"), QByteArray(600, 'x')));
-        WriteWave(f.File("b.WAV"));
-        WriteWave(f.File("c.wav"));
+        for (const char* name : {"b.WAV", "c.wav", "now.wav"})
+            WriteWave(f.File(name));
         QDir().mkpath(f.Folder() + "/sub");
         WriteWave(f.Folder() + "/sub/d.wav");
+        f.busy << f.File("now.wav");
+        f.list.AddFileToRecordingsList(f.File("c.wav"));
+        QCOMPARE(f.database.DataRecordings.recordset().Value("File").toString(),
+                 f.File("c.wav")); // the new row is the current one
+        f.list.AddFileToRecordingsList("  " + f.File("c.wav") + " ");
+        f.list.AddFileToRecordingsList(f.File("notes.txt"));
+        f.list.AddFileToRecordingsList(f.File("now.wav"));
         f.list.AddFolderToRecordingsList(f.Folder());
-        QCOMPARE(ListedFiles(f.database), QStringList({"b.WAV", "c.wav", "a.mp3"}));
+        QCOMPARE(ListedFiles(f.database), QStringList({"c.wav", "b.WAV", "a.mp3"}));
+        // Names compare trimmed and upper-cased.
+        QVERIFY(IsFileInRecordingsList(f.database, f.File("C.WAV")));
     }
 
     void aFileThatCantBeDeletedKeepsItsRow()
     {
-        ListFixture f;
+        RecordingsListFixture f;
         WriteWave(f.File("gone.wav"));
         WriteWave(f.File("stuck.wav"));
         f.list.AddFolderToRecordingsList(f.Folder());
@@ -97,7 +87,7 @@ private slots:
     // only from that folder.
     void thePurgeDeletesOldListedRecordingsOnly()
     {
-        ListFixture f;
+        RecordingsListFixture f;
         const QString elsewhere = f.Root() + "/elsewhere";
         QDir().mkpath(elsewhere);
         const QStringList old = {f.File("old.wav"), f.File("old.mp3"), f.File("mine.wav"),
@@ -152,7 +142,7 @@ private slots:
 
     void aSavedListKeepsPathsInTheListsOrder()
     {
-        ListFixture f;
+        RecordingsListFixture f;
         WriteWave(f.File("b.wav"));
         WriteWave(f.File("a.wav"));
         f.list.AddFolderToRecordingsList(f.Folder());
