@@ -33,7 +33,6 @@ struct Run : StoreParts {
     {
         for (const QVariantHash& p : programs)
             AddProgram(p);
-        database.DataPrograms.Requery();
         if (stamp > 0)
             registry.SaveSetting("Settings", "RecorderAliveTime", QString::number(stamp));
     }

@@ -109,11 +109,9 @@ private slots:
         StoreParts s;
         s.clock.Set(At(2026, 6, 1, "12:00:00"));
         s.options.PaddingSeconds = qint16(padding);
-        if (rival) {
+        if (rival)
             s.AddProgram(
                 Programs::OneTime("Rival", At(2026, 6, 1, "00:00:00"), "13:30:00", "14:30:00"));
-            s.database.DataPrograms.Requery();
-        }
         ProgramCheckValues values = NewProgram();
         edit(values);
         const ProgramValidator validator(s.database, s.clock, s.options);

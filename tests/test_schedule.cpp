@@ -19,13 +19,6 @@ std::optional<ProgramOccurrence> Search(Schedule& s, double reference, bool read
     return s.scheduler.DetermineNextProgramToSchedule(readOnly, reference);
 }
 
-QVariant Column(Schedule& s, qint64 id, const QString& column)
-{
-    Recordset rs = s.database.DataPrograms.recordset().Clone();
-    rs.SetBookmark(id);
-    return rs.Value(column);
-}
-
 } // namespace
 
 class TestSchedule : public QObject {
@@ -113,7 +106,8 @@ private slots:
         QTEST(f ? f->endDateTime : 0.0, "end");
         QFETCH(int, stillCancelled);
         if (stillCancelled >= 0)
-            QCOMPARE(Field::ToBool(Column(s, id, "RecordingCancelled")), bool(stillCancelled));
+            QCOMPARE(Field::ToBool(s.ProgramColumn(id, "RecordingCancelled")),
+                     bool(stillCancelled));
     }
 
     // Rows of an older file: NULL in the added columns reads as the documented value,
@@ -147,7 +141,8 @@ private slots:
             QVERIFY(capture.Contains("Module: OfferRemovalOfExpiredPrograms"));
         }
 
-        QVariantHash damaged = Programs::Weekly("Damaged", "10:00:00", "11:00:00", "0100000");
+        // After Old in the list's order.
+        QVariantHash damaged = Programs::Weekly("Worn", "10:00:00", "11:00:00", "0100000");
         damaged["Mon"] = QVariant();
         s.AddProgram(damaged);
         LogCapture capture;

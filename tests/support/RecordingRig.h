@@ -63,7 +63,6 @@ public:
     QStringList Logged(const QString& message) const;
     QStringList LoggedMessages() const { return MessagesOf(Log()); }
     QStringList Files(const QStringList& filter = {}) const;
-    QVariant ProgramColumn(qint64 id, const QString& column) const;
 
     TestContext tc;
     QString folder;

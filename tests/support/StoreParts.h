@@ -25,7 +25,8 @@ public:
     // The file of the organisation and application that RegKeys names.
     QString SettingsFile() const { return Root() + "/config/Larkmoor Systems/Nightreel.conf"; }
 
-    // Adds a row to Programs with the given columns; returns its ID.
+    // Adds a row to Programs with the given columns, in the list the program reads as well;
+    // returns its ID.
     qint64 AddProgram(const QVariantHash& columns)
     {
         Recordset rs = m_database->DataPrograms.recordset();
@@ -33,7 +34,16 @@ public:
         for (auto it = columns.cbegin(); it != columns.cend(); ++it)
             rs.SetValue(it.key(), it.value());
         rs.Update();
-        return rs.LastModified();
+        const qint64 id = rs.LastModified();
+        m_database->DataPrograms.Requery();
+        return id;
+    }
+    // A column of a row of Programs as the file holds it; null without the row.
+    QVariant ProgramColumn(qint64 id, const QString& column) const
+    {
+        QSqlQuery q(m_database->db.Connection());
+        q.exec(QStringLiteral("SELECT [%1] FROM Programs WHERE ID = %2").arg(column).arg(id));
+        return q.next() ? q.value(0) : QVariant();
     }
     // Rows of a table, counted in the file itself.
     int CountRows(const QString& table) const
