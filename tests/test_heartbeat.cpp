@@ -33,13 +33,6 @@ struct Fixture : StoreParts {
         heartbeat.Timer1_Timer();
     }
     NextProgram& next() { return scheduler.next; }
-    QString LastLogged(const QString& column)
-    {
-        Recordset& rs = database.ElogRecordset();
-        rs.MoveLast();
-        return rs.Value(column).toString();
-    }
-
     RecordingLauncher launcher;
     Scheduler scheduler{clock, database, log, messageBox, options};
     clsAppStatus appStatus;
@@ -70,7 +63,7 @@ private slots:
         f.heartbeat.Timer1_Timer();
         QCOMPARE(rounds.size(), 1);
         QCOMPARE(f.heartbeat.Timer1.Interval(), 0);
-        QVERIFY(f.LastLogged("Details").startsWith("Module: Timer1_Timer\r\n"));
+        QVERIFY(f.LogEntries().last().details.startsWith("Module: Timer1_Timer\r\n"));
     }
 
     void aClockJumpSchedulesAnew_data()
@@ -143,7 +136,7 @@ private slots:
         f.TickAt(At("19:59:10"));
         QCOMPARE(f.launcher.started, QStringList{"/opt/missing/player --quiet"});
         QCOMPARE(f.next().NextAppLaunchTime, AutomationDate::Never());
-        QCOMPARE(f.LastLogged("Message"), QStringLiteral("Invalid Launch Application command"));
+        QCOMPARE(f.LogEntries().last().message, QString("Invalid Launch Application command"));
     }
 
     // A program due at 20:00 (a stream opens ten seconds ahead, or its link's delay if

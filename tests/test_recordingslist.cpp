@@ -73,12 +73,9 @@ private slots:
         f.list.DeleteFromDisk(all);
         QCOMPARE(ListedFiles(f.database), QStringList{"stuck.wav"});
         QVERIFY(!QFile::exists(f.File("gone.wav")));
-        QCOMPARE(f.CountRows("EventLog"), 1);
-        Recordset& log = f.database.ElogRecordset();
-        log.MoveLast();
-        QCOMPARE(log.Value("Message").toString(),
-                 QStringLiteral("Recording was not deleted from disk."));
-        QVERIFY(log.Value("Details").toString().endsWith("Filename: " + f.File("stuck.wav")));
+        const QList<LogEntry> log = f.LogEntries();
+        QCOMPARE(MessagesOf(log), QStringList{"Recording was not deleted from disk."});
+        QVERIFY(log[0].details.endsWith("Filename: " + f.File("stuck.wav")));
     }
 
     // The purge deletes old recordings that are listed and in the recording folder, with
