@@ -2,14 +2,12 @@
 // the choice by extension, the desktop's default program through a private handler
 // registry, and recordings that are gone.
 #include "DesktopData.h"
-#include "FakeRecordingsListView.h"
 #include "RecordingsListFixture.h"
 #include "TestFiles.h"
 #include "common/clsAppStatus.h"
 #include "platform/OpenWithDefaultProgram.h"
 #include "player/PlayerChoice.h"
 #include "player/PlayerPanels.h"
-#include "recordingslist/RecordingsListCommands.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -177,43 +175,20 @@ private slots:
         QCOMPARE(f.appStatus.Playing(), panel);
     }
 
-    void goneRecordings_data()
+    // A recent recording of no length counts as gone and goes, and is forgotten. (From the
+    // grid, the list's commands find it gone before a player is chosen.)
+    void aGoneRecentRecordingIsForgotten()
     {
-        QTest::addColumn<bool>("fromGrid");
-        QTest::addColumn<QString>("title");
-        QTest::newRow("grid") << true << "Recording file not found";
-        QTest::newRow("tool bar") << false << "Recent Recording Not Found";
-    }
-
-    // A file of no length counts as gone and goes; the recent one is forgotten as well.
-    void goneRecordings()
-    {
-        QFETCH(bool, fromGrid);
         Fixture f;
         f.options.WavPlayer = kEnhanced;
         const QString path = f.Write("empty.wav", QByteArray());
-        if (fromGrid) {
-            FakeRecordingsListView view;
-            view.play = [&f](const QString& file, const QString& title, double start) {
-                f.choice.PlayExistingFile(file, title, start);
-            };
-            RecordingsListCommands commands(f.database, f.list, f.log, f.messageBox, f.options,
-                                            view);
-            Recordset& rs = f.database.DataRecordings.recordset();
-            rs.AddNew();
-            rs.SetValue("File", path);
-            rs.Update();
-            view.commandRow = rs.LastModified();
-            commands.RecordingsPlay();
-        } else {
-            f.options.SaveRecentRecording(f.registry, path, "Recent", 45000.5);
-            f.choice.ToolbarPlay();
-            QCOMPARE(f.options.RecentRecordingFilename, QString());
-            QCOMPARE(f.Stored("RecentRecordingFilename").trimmed(), QString());
-            QCOMPARE(f.Stored("RecentRecordingDescription").trimmed(), QString());
-        }
+        f.options.SaveRecentRecording(f.registry, path, "Recent", 45000.5);
+        f.choice.ToolbarPlay();
+        QCOMPARE(f.options.RecentRecordingFilename, QString());
+        QCOMPARE(f.Stored("RecentRecordingFilename").trimmed(), QString());
+        QCOMPARE(f.Stored("RecentRecordingDescription").trimmed(), QString());
         QCOMPARE(f.messageBox.asked.size(), 1);
-        QTEST(f.messageBox.asked[0].title, "title");
+        QCOMPARE(f.messageBox.asked[0].title, QString("Recent Recording Not Found"));
         QVERIFY(!QFile::exists(path));
         QVERIFY(f.panels.opened.isEmpty());
     }

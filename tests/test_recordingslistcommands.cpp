@@ -1,6 +1,7 @@
 #include "FakeRecordingsListView.h"
 #include "LogCapture.h"
 #include "RecordingsListFixture.h"
+#include "TestFiles.h"
 #include "recordingslist/RecordingsListCommands.h"
 
 #include <QDir>
@@ -136,9 +137,14 @@ private slots:
         QCOMPARE(f.view.opened, f.Folder());
         QCOMPARE(f.view.clipboard, f.File("here.mp3"));
 
-        f.view.commandRow = moved;
-        f.commands.RecordingsPlay();
-        QCOMPARE(f.messageBox.asked.size(), 1);
+        // A file that is gone, or of no length (which goes too), is not played.
+        QVERIFY(WriteFile(f.File("empty.mp3"), ""));
+        for (const qint64 gone : {moved, f.Listed("empty.mp3", false)}) {
+            f.view.commandRow = gone;
+            f.commands.RecordingsPlay();
+        }
+        QVERIFY(!QFile::exists(f.File("empty.mp3")));
+        QCOMPARE(f.messageBox.asked.size(), 2);
         QCOMPARE(f.messageBox.asked[0].title, QStringLiteral("Recording file not found"));
         QCOMPARE(f.messageBox.asked[0].text,
                  QStringLiteral("This recording was not found on disk.  The disk file may have "
@@ -152,7 +158,7 @@ private slots:
         f.view.commandRow = -1;
         f.view.detailsOf = f.view.opened = f.view.clipboard = QString();
         all();
-        QCOMPARE(f.messageBox.asked.size(), 1);
+        QCOMPARE(f.messageBox.asked.size(), 2);
         QVERIFY(f.view.detailsOf.isEmpty() && f.view.opened.isEmpty());
         QVERIFY(f.view.clipboard.isEmpty());
         QCOMPARE(f.view.buttonUpdates, 0);

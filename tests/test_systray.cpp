@@ -56,33 +56,29 @@ private slots:
         QTest::addColumn<SysTrayList>("list");
         QTest::addColumn<int>("index");
 
+        const auto row = [](const char* tag, const char* flags, int unviewed, const char* tip,
+                            SysTrayList list, int index) {
+            QTest::newRow(tag) << QString(flags) << unviewed << QString(tip) << list << index;
+        };
         using L = SysTrayList;
         // Each row also sets what lower rows look at, to show that the first match wins. The
         // phases are at 1: odd, so a pause shows its second picture.
-        QTest::newRow("suspended")
-            << "suspended,playing,converting,warning" << 2 << "SUSPENDED" << L::General << 4;
-        QTest::newRow("paused") << "recording,paused,converting,warning" << 0 << "RECORDING PAUSED"
-                                << L::Pause << 2;
-        QTest::newRow("paused, playing")
-            << "recording,paused,playing" << 0 << "RECORDING PAUSED" << L::Pause << 4;
-        QTest::newRow("recording, playing") << "recording,playing,converting" << 0
-                                            << "PLAYING and RECORDING" << L::RecordAndPlay << 1;
-        QTest::newRow("recording hides a warning")
-            << "recording,converting,warning" << 1 << "RECORDING" << L::Record << 1;
-        QTest::newRow("converting, playing")
-            << "playing,converting,warning" << 0 << "PLAYING & CONVERTING TO MP3"
-            << L::ConvertAndPlay << 1;
-        QTest::newRow("converting")
-            << "converting,warning" << 0 << "CONVERTING TO MP3" << L::Convert << 1;
-        QTest::newRow("playing hides a warning")
-            << "playing,warning" << 2 << "PLAYING" << L::General << 3;
-        QTest::newRow("warning before the log")
-            << "warning" << 2 << "Errors or warnings are present." << L::General << 2;
-        QTest::newRow("one unviewed entry")
-            << "" << 1 << "Error occurred, check the error log" << L::General << 2;
-        QTest::newRow("two unviewed entries")
-            << "" << 2 << "Errors occurred, check the error log" << L::General << 2;
-        QTest::newRow("nothing") << "" << 0 << "STOPPED" << L::General << 1;
+        row("suspended", "suspended,playing,converting,warning", 2, "SUSPENDED", L::General, 4);
+        row("paused", "recording,paused,converting,warning", 0, "RECORDING PAUSED", L::Pause, 2);
+        row("paused, playing", "recording,paused,playing", 0, "RECORDING PAUSED", L::Pause, 4);
+        row("recording, playing", "recording,playing,converting", 0, "PLAYING and RECORDING",
+            L::RecordAndPlay, 1);
+        row("recording hides a warning", "recording,converting,warning", 1, "RECORDING", L::Record,
+            1);
+        row("converting, playing", "playing,converting,warning", 0, "PLAYING & CONVERTING TO MP3",
+            L::ConvertAndPlay, 1);
+        row("converting", "converting,warning", 0, "CONVERTING TO MP3", L::Convert, 1);
+        row("playing hides a warning", "playing,warning", 2, "PLAYING", L::General, 3);
+        row("warning before the log", "warning", 2, "Errors or warnings are present.", L::General,
+            2);
+        row("one unviewed entry", "", 1, "Error occurred, check the error log", L::General, 2);
+        row("two unviewed entries", "", 2, "Errors occurred, check the error log", L::General, 2);
+        row("nothing", "", 0, "STOPPED", L::General, 1);
     }
 
     // The state is set through the flags and the log as the program sets it; nothing calls

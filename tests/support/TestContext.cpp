@@ -41,8 +41,3 @@ void TestContext::Restart()
     ctx.reset();
     MakeContext();
 }
-
-void TestContext::OpenDatabase()
-{
-    ctx->InitializeDatabase();
-}

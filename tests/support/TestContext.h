@@ -44,7 +44,7 @@ public:
     explicit TestContext(DesktopNotifications* notifications = nullptr);
 
     // Opens the database as the first activation does.
-    void OpenDatabase();
+    void OpenDatabase() { ctx->InitializeDatabase(); }
     // Ends the program and starts it again over the same folders and settings.
     void Restart();
 
