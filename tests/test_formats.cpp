@@ -23,7 +23,7 @@ void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
 
 // The default format's store over a fresh database and settings file.
 struct DefaultFormats : StoreParts {
-    DefaultFormatStore store{log, registry, options, database.DataInfo};
+    DefaultFormatStore store{registry, options, database.DataInfo};
 };
 
 } // namespace

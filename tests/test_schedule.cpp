@@ -1,6 +1,7 @@
 #include "LogCapture.h"
 #include "Programs.h"
 #include "StoreParts.h"
+#include "diagnostics/Trap.h"
 #include "scheduling/Scheduler.h"
 
 #include <QTest>
@@ -136,7 +137,7 @@ private slots:
         {
             LogCapture capture;
             s.scheduler.ScheduleNextRecording();
-            s.scheduler.OfferRemovalOfExpiredPrograms();
+            Trap(s.log, "test", [&] { s.scheduler.OfferRemovalOfExpiredPrograms(); });
             QVERIFY(s.scheduler.next.NextProgramFound);
             QVERIFY(capture.Contains("Module: OfferRemovalOfExpiredPrograms"));
         }

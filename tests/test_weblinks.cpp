@@ -1,7 +1,6 @@
 // Web pages go to the desktop's program for HTML files (a private handler registry here),
 // never to the URL's own handler.
 #include "DesktopData.h"
-#include "MemoryLog.h"
 #include "PulseFixture.h"
 #include "RecordingRig.h"
 #include "TestFiles.h"
@@ -89,13 +88,12 @@ private slots:
         QFETCH(QString, text);
 
         QTemporaryDir folder;
-        MemoryLog log;
         ScriptedMessageBox messageBox;
         RecordingLauncher launcher;
         launcher.handler = handler;
         if (startFails)
             launcher.failing.insert(kUrl);
-        ViewHtmlFile(log.log, messageBox, launcher, folder.path(), kUrl);
+        ViewHtmlFile(messageBox, launcher, folder.path(), kUrl);
 
         // The handler is asked about the page file, not about the URL.
         const QString page = folder.path() + "/temphtm.HTM";

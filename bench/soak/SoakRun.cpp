@@ -521,7 +521,9 @@ qint64 Soak::Outage(qint64 utc)
     if (outage.asleep) {
         emit m_tc.sleepInhibitor.PrepareForSleep(false);
     } else {
+        // As the start-up does: the search, the missed recordings' check, the timers.
         ctx.scheduler.ScheduleNextRecording();
+        ctx.recorder.CheckMissedRecordings();
         ctx.recorder.Start();
         // The harness is the timer.
         RecorderParts::HeartbeatTimer(ctx.recorder).Timer1.SetInterval(0);

@@ -2,7 +2,6 @@
 
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
-#include "diagnostics/Trap.h"
 #include "formats/clsProgramFlags.h"
 #include "formats/clsRecordingFormat.h"
 #include "store/DataControl.h"
@@ -108,10 +107,8 @@ void WriteFormat(const clsRecordingFormat& format, Recordset& rs)
     rs.SetValue(QStringLiteral("wfxExtra"), format.StoredExtraBytes());
 }
 
-DefaultFormatStore::DefaultFormatStore(EventLog& log, RegKeys& registry, Options& options,
-                                       DataControl& dataInfo)
-    : m_log(log)
-    , m_registry(registry)
+DefaultFormatStore::DefaultFormatStore(RegKeys& registry, Options& options, DataControl& dataInfo)
+    : m_registry(registry)
     , m_options(options)
     , m_dataInfo(dataInfo)
 {
@@ -119,7 +116,7 @@ DefaultFormatStore::DefaultFormatStore(EventLog& log, RegKeys& registry, Options
 
 void DefaultFormatStore::SaveDefaultFormatInfo(clsRecordingFormat& format)
 {
-    Trap(m_log, "SaveDefaultFormatInfo", [&] {
+    InRoutine("SaveDefaultFormatInfo", [&] {
         if (format.wFormatTag() != clsRecordingFormat::WAVE_FORMAT_MPEGLAYER3) {
             format.SaveMP3FileExtension = true;
             format.ConvertToMP3 = RunsOnWindows9x;
@@ -158,15 +155,14 @@ void DefaultFormatStore::ReadDefaultFormatInfo(clsRecordingFormat& format)
     const WaveFormatRecord stored =
         ReadRecordColumns(rs, QStringLiteral("wfxdflt_"), QStringLiteral("wfxdfltExtra"));
     const int cb = rs.Value(QStringLiteral("wfxdflt_cbSize")).toInt();
-    if (cb >= 0 && cb <= clsRecordingFormat::nMaxExtraBytes) {
-        format.SetWaveFormatEx(stored);
-    } else {
-        // A row made for compression drivers with larger formats than this machine
-        // has. The format can't hold its extra bytes, so it keeps the cbSize it had
-        // and phone quality replaces the row.
-        format.SetToPcmPhoneQuality();
-        SaveDefaultFormatInfo(format);
-    }
+    // A row made for compression drivers with larger formats than this machine has: the
+    // format can't hold its extra bytes, so it keeps the cbSize it had.
+    if (cb < 0 || cb > clsRecordingFormat::nMaxExtraBytes)
+        throw RuntimeError(ErrorNumber::OperationNotSupported,
+                           QStringLiteral("The default format has more extra bytes than a "
+                                          "format can hold: %1")
+                               .arg(cb));
+    format.SetWaveFormatEx(stored);
     format.CalculateTextCompressionMethodString();
 }
 
@@ -174,9 +170,10 @@ void DefaultFormatStore::GetWfxDefault(clsRecordingFormat& WfxDefault)
 {
     try {
         ReadDefaultFormatInfo(WfxDefault);
+        return;
     } catch (const std::exception&) {
         // Not an error to report: a missing or unreadable row has phone quality as its rule.
-        WfxDefault.SetToPcmPhoneQuality();
-        SaveDefaultFormatInfo(WfxDefault);
     }
+    WfxDefault.SetToPcmPhoneQuality();
+    SaveDefaultFormatInfo(WfxDefault);
 }

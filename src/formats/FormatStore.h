@@ -3,7 +3,6 @@
 #include <QtGlobal>
 
 class DataControl;
-class EventLog;
 class Options;
 class Recordset;
 class RegKeys;
@@ -26,20 +25,20 @@ void WriteFormat(const clsRecordingFormat& format, Recordset& rs);
 // SaveMP3FileExtension and ConvertToMP3, which the options mirror.
 class DefaultFormatStore {
 public:
-    DefaultFormatStore(EventLog& log, RegKeys& registry, Options& options, DataControl& dataInfo);
+    DefaultFormatStore(RegKeys& registry, Options& options, DataControl& dataInfo);
 
     // Replaces the Info row by one of this format and saves the two flags; a format other
-    // than MP3 saves the flags' defaults, into the format as well.
+    // than MP3 saves the flags' defaults, into the format as well. Throws, marked with the
+    // routine's name.
     void SaveDefaultFormatInfo(clsRecordingFormat& format);
-    // Throws when the row or the settings can't be read. A row with more extra bytes than a
-    // format can hold is replaced by phone quality.
+    // Throws when the row or the settings can't be read, or the row holds more extra bytes
+    // than a format can.
     void ReadDefaultFormatInfo(clsRecordingFormat& format);
     // The default format into WfxDefault; a row that can't be read is replaced by phone
-    // quality.
+    // quality, and a failure to save that throws.
     void GetWfxDefault(clsRecordingFormat& WfxDefault);
 
 private:
-    EventLog& m_log;
     RegKeys& m_registry;
     Options& m_options;
     DataControl& m_dataInfo;

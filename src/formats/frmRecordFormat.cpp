@@ -9,6 +9,7 @@
 
 #include <QLocale>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QStyle>
 
 namespace {
@@ -93,11 +94,17 @@ frmRecordFormat::frmRecordFormat(EventLog& log, clsRecordingFormat& format, QWid
 
 void frmRecordFormat::CheckRecordingFormat()
 {
+    Trap(m_log, "CheckRecordingFormat", [&] { ShowFormat(); });
+}
+
+void frmRecordFormat::ShowFormat()
+{
     // Setting a control fires its event, which would come back here.
     if (m_updating)
         return;
     m_updating = true;
-    Trap(m_log, "CheckRecordingFormat", [&] {
+    const auto updated = qScopeGuard([this] { m_updating = false; });
+    InRoutine("CheckRecordingFormat", [&] {
         LabelFormat->setText(m_format.TextCompressionMethod);
         if (m_format.wFormatTag() != clsRecordingFormat::WAVE_FORMAT_PCM) {
             CheckUsePcm->setChecked(false);
@@ -127,7 +134,6 @@ void frmRecordFormat::CheckRecordingFormat()
                 p.preset.samplesPerSec == m_format.nSamplesPerSec())
                 p.button->setChecked(true);
     });
-    m_updating = false;
 }
 
 void frmRecordFormat::UpdateMp3Frame()
@@ -194,7 +200,7 @@ void frmRecordFormat::CommandAdvanced_Click()
             return;
         m_format.CalcRemainingVarsFromMwfx();
         UpdateMp3Frame();
-        CheckRecordingFormat();
+        ShowFormat();
     });
 }
 

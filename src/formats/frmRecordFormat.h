@@ -17,12 +17,14 @@ class frmRecordFormat : public QDialog, private Ui::frmRecordFormat {
 public:
     frmRecordFormat(EventLog& log, clsRecordingFormat& format, QWidget* parent);
 
-    // Brings the controls in line with the format.
+    // Brings the controls in line with the format: the form's load and the format's options
+    // report a failure here, a button's handler lets ShowFormat's pass.
     void CheckRecordingFormat();
 
     void reject() override;
 
 private:
+    void ShowFormat();
     void UpdateMp3Frame();
     void SetPcmControlsEnabled(bool enabled);
     void SetWfxFromPcmForm();

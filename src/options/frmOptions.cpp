@@ -560,7 +560,7 @@ void frmOptions::SetMixerButtonsState()
 
 void frmOptions::SavePlayFwdRevSettings()
 {
-    Trap(m_s.log, "SavePlayFwdRevSettings", [&] {
+    InRoutine("SavePlayFwdRevSettings", [&] {
         for (int i = 0; i < 6; ++i) {
             m_s.options.PlayStepSizes[i] = {comboMinSec[i]->currentText() == tr("Minutes"),
                                             int(Text::RoundHalfEven(Number(txtFwdRev[i])))};
@@ -571,80 +571,95 @@ void frmOptions::SavePlayFwdRevSettings()
 
 void frmOptions::cmdOK_Click()
 {
-    Trap(m_s.log, "Options cmdOK_Click", [&] {
-        Options& o = m_s.options;
-        // First, so that it is kept even when the folder check below fails.
-        o.HiddenWindowStatupMode = optHiddenStartupMode->isChecked();
-        o.SaveStartupMode(m_s.registry);
+    // Each part needs the one before, and a failure leaves the dialog open; but the default
+    // format and the step sizes may each fail to be saved without holding up the rest.
+    const auto step = [this](auto&& body) {
+        return Trap(m_s.log, "Options cmdOK_Click", body);
+    };
+    bool folderValid = false;
+    if (!step([&] { folderValid = TakeFolderAndDiskLimits(); }) || !folderValid)
+        return;
+    if (m_formatChanged)
+        step([&] { m_s.formatStore.SaveDefaultFormatInfo(m_s.defaultFormat); });
+    step([&] { SavePlayFwdRevSettings(); });
+    step([&] { TakeTheRest(); });
+}
 
-        if (m_workingRecordingFolder.isEmpty() || !QDir(m_workingRecordingFolder).exists()) {
-            m_s.messageBox.Show(tr("Invalid option"),
-                                tr("Recordings directory does not exist or could not be created"),
-                                MsgIcon::Exclamation, MsgButtons::Ok);
-            return;
-        }
-        o.DefaultRecordingDirectory = m_workingRecordingFolder;
-        m_s.error.SetInvalidRecordingDirectory(false);
+bool frmOptions::TakeFolderAndDiskLimits()
+{
+    Options& o = m_s.options;
+    // First, so that it is kept even when the folder check below fails.
+    o.HiddenWindowStatupMode = optHiddenStartupMode->isChecked();
+    o.SaveStartupMode(m_s.registry);
 
-        // The two disk limits go together: one out of range drops both.
-        const double warn = Number(txtWarnRecMegsLeft);
-        const double stop = Number(txtStopRecMegsLeft);
-        if (Within(warn, 10, 20000) && Within(stop, 5, 20000)) {
-            o.StopRecMegsLeft = Int16(stop);
-            o.WarnRecMegsLeft = qMax(Int16(warn), o.StopRecMegsLeft);
-        }
+    if (m_workingRecordingFolder.isEmpty() || !QDir(m_workingRecordingFolder).exists()) {
+        m_s.messageBox.Show(tr("Invalid option"),
+                            tr("Recordings directory does not exist or could not be created"),
+                            MsgIcon::Exclamation, MsgButtons::Ok);
+        return false;
+    }
+    o.DefaultRecordingDirectory = m_workingRecordingFolder;
+    m_s.error.SetInvalidRecordingDirectory(false);
 
-        if (m_formatChanged) {
-            m_s.defaultFormat.CopyFrom(m_workingFormat);
-            m_s.formatStore.SaveDefaultFormatInfo(m_s.defaultFormat);
-        }
-        o.ConfirmStopManualRecording = chkConfirmStopManualRecording->isChecked();
-        o.RecordingInput = frameRecordingInput->InputName();
-        SavePlayFwdRevSettings();
+    // The two disk limits go together: one out of range drops both.
+    const double warn = Number(txtWarnRecMegsLeft);
+    const double stop = Number(txtStopRecMegsLeft);
+    if (Within(warn, 10, 20000) && Within(stop, 5, 20000)) {
+        o.StopRecMegsLeft = Int16(stop);
+        o.WarnRecMegsLeft = qMax(Int16(warn), o.StopRecMegsLeft);
+    }
+    if (m_formatChanged)
+        m_s.defaultFormat.CopyFrom(m_workingFormat);
+    o.ConfirmStopManualRecording = chkConfirmStopManualRecording->isChecked();
+    o.RecordingInput = frameRecordingInput->InputName();
+    return true;
+}
 
-        o.ShowActualTimeInPlayer = chkShowActualTimeInPlayer->isChecked();
-        o.ShowSplashScreen = chkShowSplashScreen->isChecked();
-        o.WavPlayer = ComboWavPlayer->currentText();
-        o.Mp3Player = ComboMP3Player->currentText();
-        o.RemoveExpiredPrograms = chkRemoveExpiredPrograms->isChecked();
-        o.ShowRecordingTimeInTaskBar = chkShowRecordingTimeInTaskBar->isChecked();
-        o.KeepAwakeForRecordings = chkKeepAwakeForRecordings->isChecked();
-        o.SilenceAlarm = chkSilenceAlarm->isChecked();
-        o.ShowDesktopNotifications = chkShowDesktopNotifications->isChecked();
-        o.MixerFilePath = m_workingMixerPath;
-        o.AllowJoystickActivation = chkAllowJoystickActivation->isChecked();
-        o.DefaultRecordFileNameFormat =
-            qint16(qMax(0, comboDefaultRecordFileNameFormat->currentIndex()));
-        // Enter may press OK while a duration box still has the focus: the clamp that
-        // leaving the box would have done is done here.
-        ClampDuration(TextDurationHours, 23);
-        ClampDuration(TextDurationMinutes, 59);
-        ClampDuration(TextDurationSeconds, 59);
-        o.DefaultManualRecordingDurationHours = Int16(Number(TextDurationHours));
-        o.DefaultManualRecordingDurationMinutes = Int16(Number(TextDurationMinutes));
-        o.DefaultManualRecordingDurationSeconds = Int16(Number(TextDurationSeconds));
+void frmOptions::TakeTheRest()
+{
+    Options& o = m_s.options;
+    o.ShowActualTimeInPlayer = chkShowActualTimeInPlayer->isChecked();
+    o.ShowSplashScreen = chkShowSplashScreen->isChecked();
+    o.WavPlayer = ComboWavPlayer->currentText();
+    o.Mp3Player = ComboMP3Player->currentText();
+    o.RemoveExpiredPrograms = chkRemoveExpiredPrograms->isChecked();
+    o.ShowRecordingTimeInTaskBar = chkShowRecordingTimeInTaskBar->isChecked();
+    o.KeepAwakeForRecordings = chkKeepAwakeForRecordings->isChecked();
+    o.SilenceAlarm = chkSilenceAlarm->isChecked();
+    o.ShowDesktopNotifications = chkShowDesktopNotifications->isChecked();
+    o.MixerFilePath = m_workingMixerPath;
+    o.AllowJoystickActivation = chkAllowJoystickActivation->isChecked();
+    o.DefaultRecordFileNameFormat =
+        qint16(qMax(0, comboDefaultRecordFileNameFormat->currentIndex()));
+    // Enter may press OK while a duration box still has the focus: the clamp that
+    // leaving the box would have done is done here.
+    ClampDuration(TextDurationHours, 23);
+    ClampDuration(TextDurationMinutes, 59);
+    ClampDuration(TextDurationSeconds, 59);
+    o.DefaultManualRecordingDurationHours = Int16(Number(TextDurationHours));
+    o.DefaultManualRecordingDurationMinutes = Int16(Number(TextDurationMinutes));
+    o.DefaultManualRecordingDurationSeconds = Int16(Number(TextDurationSeconds));
 
-        // A group with a value out of range keeps what it had.
-        const double longHours = Number(txtLongRecordingHours);
-        if (Within(longHours, 1, 23)) {
-            o.LongRecordingHours = Int16(longHours);
-            o.ConfirmLongRecordings = chkConfirmLongRecordings->isChecked();
-        }
-        const double padding = Number(txtPaddingSeconds);
-        if (Within(padding, 0, Options::MaxPaddingSeconds))
-            o.PaddingSeconds = Int16(padding);
-        const double purgeDays = Number(txtPurgeDays);
-        if (Within(purgeDays, 3, 999)) {
-            o.PurgeDays = Int16(purgeDays);
-            o.PurgeRecordings = chkPurgeOldRecordings->isChecked();
-            const QTime t = dtpkrPurgeTime->time();
-            o.PurgeTime = AutomationDate::FromTime(t.hour(), t.minute(), t.second());
-        }
-        o.SaveOptions(m_s.registry);
+    // A group with a value out of range keeps what it had.
+    const double longHours = Number(txtLongRecordingHours);
+    if (Within(longHours, 1, 23)) {
+        o.LongRecordingHours = Int16(longHours);
+        o.ConfirmLongRecordings = chkConfirmLongRecordings->isChecked();
+    }
+    const double padding = Number(txtPaddingSeconds);
+    if (Within(padding, 0, Options::MaxPaddingSeconds))
+        o.PaddingSeconds = Int16(padding);
+    const double purgeDays = Number(txtPurgeDays);
+    if (Within(purgeDays, 3, 999)) {
+        o.PurgeDays = Int16(purgeDays);
+        o.PurgeRecordings = chkPurgeOldRecordings->isChecked();
+        const QTime t = dtpkrPurgeTime->time();
+        o.PurgeTime = AutomationDate::FromTime(t.hour(), t.minute(), t.second());
+    }
+    o.SaveOptions(m_s.registry);
 
-        AutostartEntry::Set(chkStartupFolder->isChecked(), m_s.programFolder);
-        if (m_s.updateStatusBarPlus)
-            m_s.updateStatusBarPlus();
-        accept();
-    });
+    AutostartEntry::Set(chkStartupFolder->isChecked(), m_s.programFolder);
+    if (m_s.updateStatusBarPlus)
+        m_s.updateStatusBarPlus();
+    accept();
 }

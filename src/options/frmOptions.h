@@ -71,7 +71,11 @@ private:
     void btnSelectMixer_Click();
     void btnDefaultMixer_Click();
     void SetMixerButtonsState();
+    // The parts of OK: the folder (false when it is refused) and what else comes before the
+    // format, the step sizes, and everything after them.
+    bool TakeFolderAndDiskLimits();
     void SavePlayFwdRevSettings();
+    void TakeTheRest();
     void ShowRecordingFolder();
 
     OptionsFormServices m_s;

@@ -5,6 +5,7 @@
 #include "player/frmPlayPanelMP.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 
 namespace {
 
@@ -37,9 +38,12 @@ void PlayPanels::OpenEnhanced(const QString& file, const QString& title, double 
         std::make_unique<frmPlayPanelMP>(m_log, m_options, m_appStatus, m_volume, m_mainForm);
     m_enhanced->setWindowTitle(
         QCoreApplication::translate("PlayPanels", "Nightreel 2000 playing - ") + title);
+    // The panel shows also when its load failed; the failure goes on to the play command.
+    const auto shown = qScopeGuard([this] {
+        m_appStatus.SetPlaying(true);
+        m_enhanced->show();
+    });
     m_enhanced->Form_Load(file, startTime);
-    m_appStatus.SetPlaying(true);
-    m_enhanced->show();
 }
 
 void PlayPanels::OpenClassic(const QString& file, const QString& title, double startTime)
@@ -48,7 +52,9 @@ void PlayPanels::OpenClassic(const QString& file, const QString& title, double s
     m_classic = std::make_unique<frmPlayPanel>(m_log, m_options, m_appStatus, m_mixer, m_mainForm);
     m_classic->setWindowTitle(
         QCoreApplication::translate("PlayPanels", "Nightreel 2000 playing - ") + title);
+    const auto shown = qScopeGuard([this] {
+        m_appStatus.SetPlaying(true);
+        m_classic->show();
+    });
     m_classic->Form_Load(file, startTime);
-    m_appStatus.SetPlaying(true);
-    m_classic->show();
 }

@@ -38,7 +38,7 @@ void PlayerChoice::CheckMediaPlayerControl()
 
 void PlayerChoice::GetPlayerSetting()
 {
-    Trap(m_log, "GetPlayerSetting", [&] {
+    InRoutine("GetPlayerSetting", [&] {
         const auto repaired = [&](const QString& name, auto repair) {
             const QString read = m_registry.GetSetting(kSettings, name, QString()).trimmed();
             const QString player = repair(read == FormerDefaultPlayer ? DefaultPlayer : read);

@@ -32,7 +32,8 @@ public:
     // At the first activation, before GetPlayerSetting.
     void CheckMediaPlayerControl();
     bool MediaPlayerAvailable() const { return m_mediaPlayerAvailable; }
-    // Sets Options::WavPlayer and Mp3Player from the settings, repaired and written back.
+    // Sets Options::WavPlayer and Mp3Player from the settings, repaired and written back. A
+    // failure throws, marked with the routine's name.
     void GetPlayerSetting();
 
     // Plays a file known to exist in the player chosen for it.

@@ -107,6 +107,8 @@ void frmPlayPanel::BuildForm()
     VSlider1->setObjectName(QStringLiteral("VSlider1"));
     VSlider1->setRange(0, 100);
     VSlider1->setInvertedAppearance(true);
+    // At the bottom until the master volume is read, also when it can't be.
+    VSlider1->setValue(100);
     VSlider1->setToolTip(tr("Volume"));
 
     auto* times = new QHBoxLayout;
@@ -136,9 +138,9 @@ void frmPlayPanel::BuildForm()
     connect(steps, &PlayStepButtons::Forward, this, &frmPlayPanel::btnForward_Click);
     connect(steps, &PlayStepButtons::Reverse, this, &frmPlayPanel::btnReverse_Click);
     connect(sldTime, &TimeSlider::Jumped, this, &frmPlayPanel::sldTime_MouseDown);
-    // The volume's own routine traps what fails: nothing else here can.
-    connect(VSlider1, &QSlider::valueChanged, this,
-            [this](int value) { Volume::SetVolume(m_log, m_mixer, 100 - value); });
+    connect(VSlider1, &QSlider::valueChanged, this, [this](int value) {
+        Trap(m_log, "VSlider1_Change", [&] { Volume::SetVolume(m_mixer, 100 - value); });
+    });
     WatchKeys();
 }
 
@@ -156,12 +158,16 @@ void frmPlayPanel::Form_Load(const QString& file, double startTime)
 {
     FormPlacement::PlaceAtMainForm(this, m_mainForm, 500);
     m_startTime = startTime;
-    {
-        // Showing the master volume must not set it.
-        const QSignalBlocker quiet(VSlider1);
-        // A failed reading (-1) gives 101, which the slider takes as its bottom.
-        VSlider1->setValue(100 - Volume::GetVolume(m_log, m_mixer));
-    }
+    OpenAndPlay(file);
+    // Last, so that the file plays also when the volume can't be read; that failure goes on
+    // to the play command. Showing the master volume must not set it.
+    const QSignalBlocker quiet(VSlider1);
+    // A reading without a server (-1) gives 101, which the slider takes as its bottom.
+    VSlider1->setValue(100 - Volume::GetVolume(m_mixer));
+}
+
+void frmPlayPanel::OpenAndPlay(const QString& file)
+{
     m_engine.Open(file);
     lblTime->setText(TimeText(0));
     sldTime->setValue(0);

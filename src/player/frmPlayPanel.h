@@ -17,7 +17,8 @@ public:
                  QWidget* mainForm);
 
     // The load: opens the file, waits until its length is known (OpenTimeoutMs at most) and
-    // starts playing. A failure is logged and leaves the panel open and idle.
+    // starts playing. A failure is logged and leaves the panel open and idle. Then the master
+    // volume is shown; a mixer library that can't be loaded throws.
     void Form_Load(const QString& file, double startTime);
 
     void mciWave_PrevClick();
@@ -39,6 +40,7 @@ public:
 
 private:
     void BuildForm();
+    void OpenAndPlay(const QString& file);
     void mciWave_StatusUpdate();
     void SeekAndPlay(qint64 toMs);
     void Step(int index, int direction, const char* procedureName);

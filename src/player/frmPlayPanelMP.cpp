@@ -81,7 +81,7 @@ void frmPlayPanelMP::BuildForm()
 
 void frmPlayPanelMP::Form_Load(const QString& file, double startTime)
 {
-    Trap(m_log, "MP:Form_Load", [&] {
+    InRoutine("MP:Form_Load", [&] {
         FormPlacement::PlaceAtMainForm(this, m_mainForm, 500);
         m_startTime = startTime;
         m_loaded = false;

@@ -54,8 +54,10 @@ ConversionQueue::ConversionQueue(EventLog& log, const Options& options, clsAppSt
 
 void ConversionQueue::Start()
 {
-    Trap(m_log, "Convert MP3 Timer", [&] { LoadSavedQueue(); });
+    // The timer runs also when the saved queue can't be read; that failure goes on to the
+    // start-up, which goes on after it.
     TimerConvert.SetInterval(IdleInterval);
+    InRoutine("Convert MP3 Timer", [&] { LoadSavedQueue(); });
 }
 
 void ConversionQueue::Add(const std::shared_ptr<clsConvertToMP3Request>& request)

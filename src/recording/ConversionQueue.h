@@ -37,7 +37,8 @@ public:
     static constexpr int ConvertingInterval = 1;
 
     // The timer runs from start-up to the unload, whatever else the program does. The
-    // recordings that an earlier run left in the queue go first.
+    // recordings that an earlier run left in the queue go first; a queue that can't be read
+    // throws once the timer runs.
     void Start();
     void Stop() { TimerConvert.SetInterval(0); }
     void TimerConvert_Timer();

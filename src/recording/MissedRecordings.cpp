@@ -57,7 +57,7 @@ MissedRecordings::MissedRecordings(const Clock& clock, EventLog& log, RegKeys& r
 
 void MissedRecordings::CheckAtStart()
 {
-    Trap(m_log, "MissedRecordings CheckAtStart", [&] {
+    InRoutine("MissedRecordings CheckAtStart", [&] {
         const double now = m_clock.Now();
         bool known = false;
         const double lastAlive =

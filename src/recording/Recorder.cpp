@@ -2,6 +2,7 @@
 
 #include "common/Clock.h"
 #include "diagnostics/EventLog.h"
+#include "diagnostics/Trap.h"
 #include "sideactions/ViewHtmlFile.h"
 
 Recorder::Recorder(const RecorderServices& services, QObject* parent)
@@ -83,9 +84,13 @@ void Recorder::ConnectUnattended()
     });
 }
 
-void Recorder::Start()
+void Recorder::CheckMissedRecordings()
 {
     m_missed.CheckAtStart();
+}
+
+void Recorder::Start()
+{
     m_heartbeat.Start();
     m_conversion.Start();
 }
@@ -147,5 +152,6 @@ void Recorder::OpenInternetLink(const QString& link)
                        tr("There is no display to open it on: ") + link);
         return;
     }
-    ViewHtmlFile(m_log, m_messageBox, m_launcher, m_runtimeFolder, link);
+    Trap(m_log, "OpenInternetLink",
+         [&] { ViewHtmlFile(m_messageBox, m_launcher, m_runtimeFolder, link); });
 }

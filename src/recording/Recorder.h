@@ -25,8 +25,11 @@ class Recorder : public QObject {
 public:
     explicit Recorder(const RecorderServices& services, QObject* parent = nullptr);
 
+    // Reports the recordings missed since the last run; the start-up runs it as its own step
+    // right before Start, which goes on after its failure.
+    void CheckMissedRecordings();
     // The heartbeat and the conversion timer start at the end of the first activation and
-    // stop at the unload; the start first reports the recordings missed since the last run.
+    // stop at the unload. A saved conversion queue that can't be read throws once both run.
     void Start();
     void Stop();
 

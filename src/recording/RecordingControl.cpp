@@ -117,19 +117,17 @@ void RecordingControl::OnStreamFormatKept(const QByteArray& record)
 
 void RecordingControl::OnTaskNotResponding()
 {
-    Trap(m_s.log, "tmrKeepAlive_Timer", [&] {
-        if (m_status.Failed)
-            return;
-        m_s.log.LogEvent(
-            EventError, tr("No response from recording task."),
-            tr("Perform a test recording with a PCM recording format. If the error "
-               "does not reoccur, there may have been a problem with the recording "
-               "format.  Otherwise, the recording task may be locked and require a "
-               "system restart. \rThe error occurred during the following recording: ") +
-                m_status.Description);
-        m_status.Failed = true;
-        StopRecording();
-    });
+    if (m_status.Failed)
+        return;
+    m_s.log.LogEvent(EventError, tr("No response from recording task."),
+                     tr("Perform a test recording with a PCM recording format. If the error "
+                        "does not reoccur, there may have been a problem with the recording "
+                        "format.  Otherwise, the recording task may be locked and require a "
+                        "system restart. \rThe error occurred during the following "
+                        "recording: ") +
+                         m_status.Description);
+    m_status.Failed = true;
+    StopRecording();
 }
 
 void RecordingControl::RequestStop()
@@ -149,25 +147,29 @@ void RecordingControl::StartRecording(qint32 ProgramId, double StartTime, double
     m_s.appStatus.SetRecording(true);
     m_status.StopRequested = false;
     m_status.WriteFailed = false;
-    std::optional<RecordingPlan> plan;
-    const bool started = Trap(m_s.log, "StartRecording", [&] {
-        plan = PlanStart(ProgramId, StartTime, EndTime, Description);
-        if (plan)
-            TakePlan(*plan, StartTime);
-    });
-    // A failure once the plan is taken leaves Recording set on purpose: the clock or the
-    // keep-alive ends it, with this recording's status.
-    if (!started && !plan)
+    std::optional<PlannedRecording> planned;
+    if (!Trap(m_s.log, "StartRecording",
+              [&] { planned = PlanStart(ProgramId, StartTime, EndTime, Description); })) {
         PassOverFailedStart(ProgramId, EndTime);
+        return;
+    }
+    if (const auto* refusal = std::get_if<RecordingRefusal>(&*planned))
+        Refuse(*refusal);
+    else
+        CarryOut(std::get<RecordingPlan>(*planned), StartTime);
 }
 
 void RecordingControl::PassOverFailedStart(qint32 ProgramId, double EndTime)
 {
     // Nothing was captured and nothing runs (a program whose format can't be read ends here):
-    // the occurrence is passed over as at the end of a recording, and the next one sought.
-    m_s.scheduler.CancelRecording(ProgramId, EndTime);
-    ExitAndClear();
-    m_s.scheduler.ScheduleNextRecording();
+    // the occurrence is passed over as at the end of a recording, and the next one sought,
+    // also when the program's row can't be marked.
+    TrapEach(
+        m_s.log, "StartRecording", [&] { m_s.scheduler.CancelRecording(ProgramId, EndTime); },
+        [&] {
+            ExitAndClear();
+            m_s.scheduler.ScheduleNextRecording();
+        });
 }
 
 RecordingRequest RecordingControl::Request(qint32 ProgramId, double StartTime, double EndTime,
@@ -215,32 +217,66 @@ RecordingSettings RecordingControl::Settings(bool manual) const
 
 void RecordingControl::Refuse(const RecordingRefusal& refusal)
 {
-    if (!refusal.Title.isEmpty())
-        m_s.messageBox.Show(refusal.Title, refusal.Text, MsgIcon::Exclamation, MsgButtons::Ok);
-    if (refusal.Why == RecordingRefusal::Reason::NotEnoughSpace) {
-        m_s.scheduler.CancelRecording(-1, m_status.EndTime);
-        m_s.scheduler.ScheduleNextRecording();
-    }
-    ExitAndClear();
+    const bool passOver = refusal.Why == RecordingRefusal::Reason::NotEnoughSpace;
+    // The recording is given up whatever fails on the way.
+    TrapEach(
+        m_s.log, "StartRecording",
+        [&] {
+            if (!refusal.Title.isEmpty())
+                m_s.messageBox.Show(refusal.Title, refusal.Text, MsgIcon::Exclamation,
+                                    MsgButtons::Ok);
+        },
+        [&] {
+            if (passOver)
+                m_s.scheduler.CancelRecording(-1, m_status.EndTime);
+        },
+        [&] {
+            if (passOver)
+                m_s.scheduler.ScheduleNextRecording();
+            ExitAndClear();
+        });
 }
 
-std::optional<RecordingPlan> RecordingControl::PlanStart(qint32 ProgramId, double StartTime,
-                                                         double EndTime, const QString& Description)
+PlannedRecording RecordingControl::PlanStart(qint32 ProgramId, double StartTime, double EndTime,
+                                             const QString& Description)
 {
     // The program is the one under way from here on, also when its row fails the plan.
     if (ProgramId != -1)
         m_status.ProgramId = ProgramId;
-    auto planned = PlanRecording(Request(ProgramId, StartTime, EndTime, Description),
-                                 Settings(ProgramId == -1), m_s.clock.Now(),
-                                 [](const QString& path) { return QFileInfo::exists(path); });
-    if (const auto* refusal = std::get_if<RecordingRefusal>(&planned)) {
-        Refuse(*refusal);
-        return std::nullopt;
-    }
-    return std::get<RecordingPlan>(std::move(planned));
+    return PlanRecording(Request(ProgramId, StartTime, EndTime, Description),
+                         Settings(ProgramId == -1), m_s.clock.Now(),
+                         [](const QString& path) { return QFileInfo::exists(path); });
 }
 
-void RecordingControl::TakePlan(const RecordingPlan& plan, double StartTime)
+void RecordingControl::CarryOut(const RecordingPlan& plan, double StartTime)
+{
+    // Each step needs the one before. A failure leaves Recording set on purpose: the clock
+    // or the keep-alive ends it, with this recording's status. Only the mixer profile may
+    // fail without holding up the start.
+    const auto step = [this](auto&& body) {
+        return Trap(m_s.log, "StartRecording", body);
+    };
+    bool taskUp = false;
+    if (!step([&] { taskUp = StartTask(plan, StartTime); }))
+        return;
+    if (!taskUp) {
+        // The activation has logged why.
+        m_status.Failed = true;
+        StopRecording();
+        return;
+    }
+    // The mixer is set once the task is up and right before capture, never earlier.
+    if (!Text::Trim(m_status.MixerProfileBefore).isEmpty())
+        step([&] { m_s.mixerProfiles.ActivateMixerProfile(m_status.MixerProfileBefore); });
+    qint32 refused = 0;
+    if (!step([&] { refused = StartCapture(); }) || refused < 1)
+        return;
+    m_status.Failed = true;
+    StopRecording();
+    ReportRecordingTaskError(m_s.log, refused);
+}
+
+bool RecordingControl::StartTask(const RecordingPlan& plan, double StartTime)
 {
     if (!plan.WantedFileName.isEmpty())
         m_s.log.LogEvent(EventInformation, tr("Recording saved under a new name"),
@@ -257,12 +293,7 @@ void RecordingControl::TakePlan(const RecordingPlan& plan, double StartTime)
     RecParms parms = plan.Parms;
     if (!parms.streamUrl.isEmpty())
         parms.dueStartMsecs = DueMsecs(m_s.clock, StartTime);
-    CarryOut(parms);
-}
 
-void RecordingControl::CarryOut(const RecParms& parms)
-{
-    clsRecordingStatus& status = m_status;
     // The keep-alive runs from before the parameter file is written.
     m_link.StartKeepAlive();
     const QString parameterFile = m_link.ParameterFile();
@@ -270,36 +301,28 @@ void RecordingControl::CarryOut(const RecParms& parms)
     UnattendedPath::LetEventsRun();
     parms.Write(parameterFile);
     UnattendedPath::LetEventsRun();
-
-    if (!m_link.ActivateNightreeltask()) {
-        // The activation has logged why.
-        status.Failed = true;
-        StopRecording();
-        return;
-    }
+    if (!m_link.ActivateNightreeltask())
+        return false;
     m_link.StartKeepAlive();
+    return true;
+}
 
-    // The mixer is set once the task is up and right before capture, never earlier.
-    if (!Text::Trim(status.MixerProfileBefore).isEmpty())
-        m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileBefore);
+qint32 RecordingControl::StartCapture()
+{
     UnattendedPath::LetEventsRun();
-
     const qint32 result = m_link.SendMessage(REC_MSG_START);
-    if (result >= 1) {
-        status.Failed = true;
-        StopRecording();
-        ReportRecordingTaskError(m_s.log, result);
-        return;
-    }
+    if (result >= 1)
+        return result;
 
     emit RecordingStarted();
     m_s.appStatus.SetPaused(false);
     emit UpdateModeDisplay();
     // The player that the link opened is found among the windows that are new by now.
-    if (!status.InternetLink.isEmpty() && status.StreamingPlayerClose.isEmpty())
+    if (!m_status.InternetLink.isEmpty() && m_status.StreamingPlayerClose.isEmpty())
         m_player.SnapshotWindowsAtRecordingStart();
     if (m_s.options.ShowRecordingTimeInTaskBar)
         emit ShowRecordingStatusForm();
+    return result;
 }
 
 void RecordingControl::HandleStopRecordingRequest(bool Confirm)
@@ -365,26 +388,47 @@ void RecordingControl::StopRecording()
     emit UnloadRecordingStatusForm();
     if (!m_s.appStatus.Recording())
         return;
-    // A failure leaves Recording set until the next call.
-    Trap(m_s.log, "StopRecording", [&] { StopRecordingSteps(); });
+    // Each step needs the one before, and a failure leaves Recording set until the next
+    // call; but the file's row, the program's cancel and the mixer profile may each fail
+    // without holding up the rest.
+    const clsRecordingStatus& status = m_status;
+    const auto step = [this](auto&& body) {
+        return Trap(m_s.log, "StopRecording", body);
+    };
+    std::optional<RecordingEndPlan> plan;
+    if (!step([&] { plan = EndCapture(); }))
+        return;
+    if (plan->file == RecordingEndPlan::File::List)
+        step([&] {
+            ListRecording(status.Description, status.FinalFile, status.StartTime,
+                          status.CompressionText, m_format);
+        });
+    if (!step([&] { EndFile(plan->file); }))
+        return;
+    if (plan->cancelProgram)
+        step([&] { m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime); });
+    if (!step([&] { EndPlayerAndConnection(*plan); }))
+        return;
+    if (plan->applyMixerProfileAfter)
+        step([&] { m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileAfter); });
+    step([&] { Finish(); });
 }
 
-void RecordingControl::StopRecordingSteps()
+RecordingEndPlan RecordingControl::EndCapture()
 {
-    clsRecordingStatus& status = m_status;
     m_link.RecordingOver();
     emit UpdateModeDisplay();
     // The task has closed the file; give the file system a moment. No events run here.
     QThread::msleep(250);
 
-    const float size = QFile::exists(status.RecordingFile)
-                           ? ModuleFileTime::GetFileSizeMbytes(status.RecordingFile)
-                           : 0.0f;
-    const RecordingEndPlan plan = PlanRecordingEnd(status, size, m_s.hasDisplay);
-    EndFile(plan.file);
-    EndSideActions(plan);
+    const QString& file = m_status.RecordingFile;
+    const float size = QFile::exists(file) ? ModuleFileTime::GetFileSizeMbytes(file) : 0.0f;
+    return PlanRecordingEnd(m_status, size, m_s.hasDisplay);
+}
 
-    status.FinalFile.clear();
+void RecordingControl::Finish()
+{
+    m_status.FinalFile.clear();
     m_s.appStatus.SetRecording(false);
     m_s.scheduler.ScheduleNextRecording();
     emit UpdateRecordingsButtonsAndMenus();
@@ -404,9 +448,7 @@ void RecordingControl::EndFile(RecordingEndPlan::File file)
         }
         return;
     case RecordingEndPlan::File::List:
-        // A failure here leaves the file on disk without a row; the after-actions go on.
-        DoEndOfRecordingStuff(status.Description, status.FinalFile, status.StartTime,
-                              m_s.clock.Now(), status.CompressionText, m_format);
+        // Listed before: a row that failed leaves the file on disk without one.
         break;
     case RecordingEndPlan::File::NoData:
         m_s.log.LogEvent(EventError, tr("Recording failed"),
@@ -426,11 +468,9 @@ void RecordingControl::EndFile(RecordingEndPlan::File file)
                          status.LaunchAppAfter, status.LaunchAfterOnlyIfOk, status.FinalFile);
 }
 
-void RecordingControl::EndSideActions(const RecordingEndPlan& plan)
+void RecordingControl::EndPlayerAndConnection(const RecordingEndPlan& plan)
 {
     const clsRecordingStatus& status = m_status;
-    if (plan.cancelProgram)
-        m_s.scheduler.CancelRecording(status.ProgramId, status.EndTime);
     switch (plan.player) {
     case RecordingEndPlan::Player::Leave:
         break;
@@ -447,8 +487,6 @@ void RecordingControl::EndSideActions(const RecordingEndPlan& plan)
     }
     if (plan.hangUp)
         HangUpConnections(m_s.network);
-    if (plan.applyMixerProfileAfter)
-        m_s.mixerProfiles.ActivateMixerProfile(status.MixerProfileAfter);
 }
 
 void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString& File,
@@ -458,7 +496,15 @@ void RecordingControl::DoEndOfRecordingStuff(const QString& Title, const QString
 {
     // The row's end is the file's time, not the end the caller saw.
     Q_UNUSED(EndTime);
-    Trap(m_s.log, "DoEndOfRecordingStuff", [&] {
+    Trap(m_s.log, "DoEndOfRecordingStuff",
+         [&] { ListRecording(Title, File, StartTime, CompressionMethod, Format); });
+}
+
+void RecordingControl::ListRecording(const QString& Title, const QString& File, double StartTime,
+                                     const QString& CompressionMethod,
+                                     const clsRecordingFormat& Format)
+{
+    InRoutine("DoEndOfRecordingStuff", [&] {
         // The row describes what the file holds, so pauses and late starts show in its times.
         RecordingRow row;
         row.Title = Title;

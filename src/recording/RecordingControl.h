@@ -41,7 +41,7 @@ public:
     void ToolbarPauseResume(const QString& Command);
     // Finishes every recording however it ended; harmless when none is running.
     void StopRecording();
-    // The row of Recordings for a finished file; its times come from the file itself.
+    // The row of Recordings for a converted file; its times come from the file itself.
     void DoEndOfRecordingStuff(const QString& Title, const QString& File, double StartTime,
                                double EndTime, const QString& CompressionMethod,
                                const clsRecordingFormat& Format);
@@ -65,22 +65,29 @@ signals:
     void RecordingEnded();
 
 private:
-    // The plan of the start, or nothing when it is refused (the refusal is carried out).
-    std::optional<RecordingPlan> PlanStart(qint32 ProgramId, double StartTime, double EndTime,
-                                           const QString& Description);
-    // Makes the plan the recording in progress and carries it out.
-    void TakePlan(const RecordingPlan& plan, double StartTime);
+    PlannedRecording PlanStart(qint32 ProgramId, double StartTime, double EndTime,
+                               const QString& Description);
     // A start that failed before it had a plan: nothing runs for it.
     void PassOverFailedStart(qint32 ProgramId, double EndTime);
     RecordingRequest Request(qint32 ProgramId, double StartTime, double EndTime,
                              const QString& Description) const;
     RecordingSettings Settings(bool manual) const;
     void Refuse(const RecordingRefusal& refusal);
-    // Writes the parameters, starts the task and its capture.
-    void CarryOut(const RecParms& parms);
-    void StopRecordingSteps();
+    // Makes the plan the recording in progress and carries it out, step by step.
+    void CarryOut(const RecordingPlan& plan, double StartTime);
+    // Writes the parameters and starts the task; false when the task did not come up.
+    bool StartTask(const RecordingPlan& plan, double StartTime);
+    // Tells the task to capture: the task's error number (1 and up) when it refused.
+    qint32 StartCapture();
+    // Ends the task's part and decides what becomes of the file.
+    RecordingEndPlan EndCapture();
+    // The row of Recordings; throws, marked with the routine's name.
+    void ListRecording(const QString& Title, const QString& File, double StartTime,
+                       const QString& CompressionMethod, const clsRecordingFormat& Format);
     void EndFile(RecordingEndPlan::File file);
-    void EndSideActions(const RecordingEndPlan& plan);
+    void EndPlayerAndConnection(const RecordingEndPlan& plan);
+    // The recording is over: the next one is sought and the forms follow.
+    void Finish();
     void ExitAndClear();
     void OnTaskError(qint32 code, const QString& detail);
     // A stream's broadcast is kept as it came: the row shows its real format.

@@ -67,11 +67,13 @@ struct RecordingRefusal {
 // of the row is taken, its format included.
 void RequireStartValues(const ProgramRow& row);
 
+// What to record, or why not.
+using PlannedRecording = std::variant<RecordingPlan, RecordingRefusal>;
+
 // Decides a recording's start from the request, the settings and the present time: names,
 // capture format, conversion and space.
-std::variant<RecordingPlan, RecordingRefusal> PlanRecording(const RecordingRequest& request,
-                                                            const RecordingSettings& settings,
-                                                            double now, const FileExists& exists);
+PlannedRecording PlanRecording(const RecordingRequest& request, const RecordingSettings& settings,
+                               double now, const FileExists& exists);
 
 // The recording folder with its closing separator, as the plan names files in it.
 QString RecordingFolder(const QString& folder);

@@ -158,7 +158,12 @@ qint32 frmManualRecord::DurationSecondsOfFields() const
 
 void frmManualRecord::CalcStorage()
 {
-    Trap(m_s.log, "Manual Record CalcStorage", [&] {
+    Trap(m_s.log, "Manual Record CalcStorage", [&] { ShowStorage(); });
+}
+
+void frmManualRecord::ShowStorage()
+{
+    InRoutine("Manual Record CalcStorage", [&] {
         const float mbytes = m_workingFormat.CalcStorageMbytesSng(DurationSecondsOfFields());
         // Below ten Mbytes the Kbytes figure with the digits a single-precision number has.
         LabelDiskSpaceData->setText(
@@ -173,7 +178,7 @@ void frmManualRecord::ChangeComprMethodButton_Click()
         FormatChanged = ChangeFormat(m_s.log, m_workingFormat, this);
         if (FormatChanged) {
             TextCompressionMethod->setText(m_workingFormat.TextCompressionMethod);
-            CalcStorage();
+            ShowStorage();
         }
     });
 }

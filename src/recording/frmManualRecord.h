@@ -42,7 +42,10 @@ public:
     bool FormatChanged = false;
 
     void CommandOk_Click();
+    // The space the recording takes, for the load and the duration's fields; a button's
+    // handler lets ShowStorage's failure pass.
     void CalcStorage();
+    void ShowStorage();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -196,7 +196,7 @@ double NextProgram::RecordingOpenTime() const
 
 void Scheduler::ScheduleNextRecording()
 {
-    Trap(m_log, "ScheduleNextRecording", [&] {
+    InRoutine("ScheduleNextRecording", [&] {
         const std::optional<ProgramOccurrence> found =
             DetermineNextProgramToSchedule(false, m_clock.Now());
         NextProgram& n = next;
@@ -253,7 +253,7 @@ void Scheduler::Pad(const ProgramOccurrence& found, NextProgram& n)
 
 void Scheduler::OfferRemovalOfExpiredPrograms()
 {
-    Trap(m_log, "OfferRemovalOfExpiredPrograms", [&] {
+    InRoutine("OfferRemovalOfExpiredPrograms", [&] {
         if (!m_options.RemoveExpiredPrograms)
             return;
         Recordset rs = m_database.DataPrograms.recordset().Clone();
@@ -286,7 +286,7 @@ void Scheduler::OfferRemovalOfExpiredPrograms()
 
 void Scheduler::CancelRecording(qint32 programId, double recordingEndTime)
 {
-    Trap(m_log, "CancelRecording", [&] {
+    InRoutine("CancelRecording", [&] {
         Recordset rs = m_database.DataPrograms.recordset().Clone();
         rs.FindFirst(QStringLiteral("Id = ") + QString::number(programId));
         if (rs.NoMatch())

@@ -57,11 +57,15 @@ public:
     // occurrence already running beats every later one; of equal starts the earlier row
     // wins. With readOnly false, lapsed cancellations of weekly programs are cleared.
     // Nothing when no program has an occurrence to come. With onlyProgram, the other rows
-    // are passed over.
+    // are passed over. A row that fails to read ends the search with what it found so far;
+    // the failure is logged here, so that every caller goes on with that result.
     std::optional<ProgramOccurrence>
     DetermineNextProgramToSchedule(bool readOnly, double referenceDate,
                                    std::optional<qint32> onlyProgram = std::nullopt);
+    // Takes the occurrence due next into next. Its one failure, a damaged row, is the
+    // search's and reported there, so the caller's steps after it always run.
     void ScheduleNextRecording();
+    // Throws, marked with the routine's name, as does CancelRecording.
     void OfferRemovalOfExpiredPrograms();
     // Marks the program's occurrence that ends at the recording's scheduled end as dealt
     // with, or removes a one-time program when expired programs are to be removed.

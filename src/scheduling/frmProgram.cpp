@@ -372,8 +372,10 @@ void frmProgram::ChangeComprMethodButton_Click()
 
 void frmProgram::btnTestUrl_Click()
 {
-    ViewHtmlFile(m_services.log, m_services.messageBox, m_services.launcher,
-                 m_services.runtimeFolder, Text::Trim(txtLaunchLink->text()));
+    Trap(m_services.log, "Program Form btnTestUrl_Click", [&] {
+        ViewHtmlFile(m_services.messageBox, m_services.launcher, m_services.runtimeFolder,
+                     Text::Trim(txtLaunchLink->text()));
+    });
 }
 
 void frmProgram::btnInfo_Click()

@@ -20,7 +20,7 @@ AppContext::AppContext(const Seams& seams, const AppFolders& appFolders)
     , boxes(seams.messageBox, log)
     , scheduler(clock, database, log, messageBox, options)
     , mixerProfiles(log, mixer, folders.dataFolder + QStringLiteral("/mixer"))
-    , defaultFormats(log, registry, options, database.DataInfo)
+    , defaultFormats(registry, options, database.DataInfo)
     , recorder(RecorderServices{{log, clock, options, registry, appStatus, database, scheduler,
                                  messageBox, launcher, diskSpace, mixerProfiles, windows, network,
                                  seams.hasDisplay},

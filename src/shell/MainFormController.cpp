@@ -45,7 +45,8 @@ void MainFormController::InitializeForFirstActivation(const FolderChooser& choos
         m_ctx.log, "Main Form Load", [&] { m_ctx.InitializeDatabase(); },
         [&] { CheckDefaultRecordingDirectory(chooser); },
         [&] { m_ctx.defaultFormats.GetWfxDefault(m_ctx.WfxDefault); },
-        [&] { m_ctx.scheduler.ScheduleNextRecording(); }, [&] { m_ctx.recorder.Start(); });
+        [&] { m_ctx.scheduler.ScheduleNextRecording(); },
+        [&] { m_ctx.recorder.CheckMissedRecordings(); }, [&] { m_ctx.recorder.Start(); });
 }
 
 void MainFormController::FinishFirstActivation(const std::function<void()>& UpdateStatusBarPlus)
@@ -164,8 +165,13 @@ void MainFormController::mnuRestoreOriginalDb_Click()
     // These run after a refused question too.
     m_ctx.database.CheckDatabaseMissing();
     emit ListsReplaced();
-    // The new Info row holds the format in force, not that of the empty file.
-    m_ctx.defaultFormats.SaveDefaultFormatInfo(m_ctx.WfxDefault);
-    m_ctx.scheduler.ScheduleNextRecording();
-    m_ctx.appStatus.SetMaintenance(false);
+    // The new Info row holds the format in force, not that of the empty file; the program
+    // leaves maintenance also when that row can't be written.
+    TrapEach(
+        m_ctx.log, "mnuRestoreOriginalDb_Click",
+        [&] { m_ctx.defaultFormats.SaveDefaultFormatInfo(m_ctx.WfxDefault); },
+        [&] {
+            m_ctx.scheduler.ScheduleNextRecording();
+            m_ctx.appStatus.SetMaintenance(false);
+        });
 }

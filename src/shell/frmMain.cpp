@@ -203,8 +203,10 @@ void frmMain::ConnectCommands()
     on(QStringLiteral("mnuHelpSearch"), [this] { ShowHelp(QStringLiteral("index")); });
     // The maker's page is a web page: it goes to the browser, as the links of programs do.
     on(QStringLiteral("mnuHelpHomePage"), [this] {
-        ViewHtmlFile(m_ctx.log, m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder,
-                     ManualUrl(QStringLiteral("contact")).toString());
+        Trap(m_ctx.log, "mnuHelpHomePage_Click", [&] {
+            ViewHtmlFile(m_ctx.messageBox, m_ctx.launcher, m_ctx.folders.runtimeFolder,
+                         ManualUrl(QStringLiteral("contact")).toString());
+        });
     });
     on(QStringLiteral("ToolbarMain.Help"), [this] { ShowHelp(QString()); });
     on(QStringLiteral("ToolbarMain.Error"), [this] { ToolbarError_Click(); });
@@ -304,7 +306,8 @@ void frmMain::ConnectPlayers()
         m_ctx.log, m_ctx.registry, m_ctx.options, m_ctx.messageBox, *m_playPanels,
         [this](const QString& file) { return m_ctx.launcher.OpenWithDefaultProgram(file); });
     m_playerChoice->CheckMediaPlayerControl();
-    m_playerChoice->GetPlayerSetting();
+    // A step of the load of its own: the commands below are connected whatever it does.
+    Trap(m_ctx.log, "Main Form Load", [&] { m_playerChoice->GetPlayerSetting(); });
     for (const char* name : {"ToolbarMain.Play", "mnuPlayRecent"})
         connect(ui.Action(QString::fromLatin1(name)), &QAction::triggered, this, [this] {
             m_playerChoice->ToolbarPlay();

@@ -1,8 +1,8 @@
 #include "sideactions/LaunchCommands.h"
 
+#include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
 #include "diagnostics/EventLog.h"
-#include "diagnostics/Trap.h"
 #include "platform/ProcessLauncher.h"
 
 #include <QCoreApplication>
@@ -17,63 +17,47 @@ constexpr int kShortestWithExtension = 5;
 
 } // namespace
 
-QString GetDirectory(EventLog& log, const QString& path)
+QString GetDirectory(const QString& path)
 {
-    QString directory;
-    Trap(log, "GetDirectory", [&] {
-        qsizetype last = path.lastIndexOf(kSeparator);
-        // The search stops at the last character: of two separators that close the text,
-        // the last is not taken.
-        if (last > 0 && last == path.size() - 1 && path.at(last - 1) == kSeparator)
-            --last;
-        if (last >= 0)
-            directory = path.left(last + 1);
-    });
-    return directory;
+    qsizetype last = path.lastIndexOf(kSeparator);
+    // The search stops at the last character: of two separators that close the text, the
+    // last is not taken.
+    if (last > 0 && last == path.size() - 1 && path.at(last - 1) == kSeparator)
+        --last;
+    return last >= 0 ? path.left(last + 1) : QString();
 }
 
 QString GetFilename(EventLog& log, const QString& path)
 {
-    QString name;
-    Trap(log, "GetFilename", [&] {
-        const qsizetype last = path.lastIndexOf(kSeparator);
-        if (last < 0)
-            throw RuntimeError(5, QStringLiteral("Invalid procedure call or argument"));
-        name = path.mid(last + 1);
-    });
-    return name;
+    const qsizetype last = path.lastIndexOf(kSeparator);
+    if (last >= 0)
+        return path.mid(last + 1);
+    // The caller's mistake is reported as the run time's error and the command goes on.
+    log.LogRuntimeError(QStringLiteral("GetFilename"),
+                        RuntimeError(5, QStringLiteral("Invalid procedure call or argument")));
+    return QString();
 }
 
-QString GetFileBase(EventLog& log, const QString& name)
+QString GetFileBase(const QString& name)
 {
-    QString base;
-    Trap(log, "GetFileBase", [&] {
-        const QString trimmed = Text::Trim(name);
-        if (trimmed.size() >= kShortestWithExtension)
-            base = trimmed.left(trimmed.size() - 4);
-    });
-    return base;
+    const QString trimmed = Text::Trim(name);
+    return trimmed.size() >= kShortestWithExtension ? trimmed.left(trimmed.size() - 4) : QString();
 }
 
-QString GetFileExtension(EventLog& log, const QString& name)
+QString GetFileExtension(const QString& name)
 {
-    QString extension;
-    Trap(log, "GetFileExtension", [&] {
-        const QString trimmed = Text::Trim(name);
-        if (trimmed.size() >= kShortestWithExtension)
-            extension = trimmed.right(3);
-    });
-    return extension;
+    const QString trimmed = Text::Trim(name);
+    return trimmed.size() >= kShortestWithExtension ? trimmed.right(3) : QString();
 }
 
 QString InterpretCommand(EventLog& log, const QString& command, const QString& fileName)
 {
-    QString result;
-    Trap(log, "InterpretCommand", [&] {
-        const QString directory = GetDirectory(log, fileName);
+    return InRoutine("InterpretCommand", [&] {
+        const QString directory = GetDirectory(fileName);
         const QString name = GetFilename(log, fileName);
-        const QString base = GetFileBase(log, name);
-        const QString extension = GetFileExtension(log, name);
+        const QString base = GetFileBase(name);
+        const QString extension = GetFileExtension(name);
+        QString result;
         for (qsizetype i = 0; i < command.size(); ++i) {
             const QChar c = command.at(i);
             if (c != u'%' || i + 1 == command.size()) {
@@ -106,8 +90,8 @@ QString InterpretCommand(EventLog& log, const QString& command, const QString& f
             }
             ++i;
         }
+        return result;
     });
-    return result;
 }
 
 void LaunchAfterRecording(EventLog& log, ProcessLauncher& launcher, bool recordingOk,

@@ -6,7 +6,6 @@
 #include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
 #include "diagnostics/EventLog.h"
-#include "diagnostics/Trap.h"
 #include "platform/Mixer.h"
 
 #include <QCoreApplication>
@@ -38,7 +37,7 @@ QStringList MixerProfiles::Names() const
 
 void MixerProfiles::ActivateMixerProfile(const QString& name)
 {
-    Trap(m_log, "Activate Mixer Profile", [&] {
+    InRoutine("Activate Mixer Profile", [&] {
         const QString path = PathOf(name);
         if (!FileExistsOrClear(path))
             return;
@@ -61,7 +60,7 @@ MixerProfiles::SaveOutcome MixerProfiles::SaveMixerProfile(const QString& typed,
                                                            MessageBoxPresenter& messageBox)
 {
     SaveOutcome outcome = SaveOutcome::Kept;
-    Trap(m_log, "Save Mixer profile", [&] {
+    InRoutine("Save Mixer profile", [&] {
         if (!QDir().mkpath(m_folder))
             throw RuntimeError(ErrorNumber::PathFileAccess,
                                tr("Path/File access error: ") + m_folder);

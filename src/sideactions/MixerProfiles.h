@@ -24,7 +24,8 @@ public:
 
     // The one way a profile is applied, by the user and before and after a recording. A
     // profile that is not there (or empty, and then deleted) is no error: a program may name
-    // one that was removed since. The library's refusal is logged; nothing else follows.
+    // one that was removed since. The library's refusal is logged; a library that can't be
+    // loaded throws, marked with the routine's name.
     void ActivateMixerProfile(const QString& name);
 
     // Deletes a profile's file; one that is already gone counts as removed. A file that
@@ -42,7 +43,8 @@ public:
         Failed,
     };
     // Saves the present mixer under the name typed (trimmed), asking before it replaces a
-    // profile; each refusal is told to the user through messageBox.
+    // profile; each refusal is told to the user through messageBox. A folder or file that
+    // can't be written throws, marked with the routine's name.
     SaveOutcome SaveMixerProfile(const QString& typed, MessageBoxPresenter& messageBox);
 
 private:

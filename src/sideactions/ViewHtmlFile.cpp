@@ -2,7 +2,6 @@
 
 #include "common/MessageBox.h"
 #include "common/RuntimeError.h"
-#include "diagnostics/Trap.h"
 #include "platform/ProcessLauncher.h"
 
 #include <QCoreApplication>
@@ -10,11 +9,11 @@
 #include <QFile>
 #include <QScopeGuard>
 
-void ViewHtmlFile(EventLog& log, MessageBoxPresenter& messageBox, ProcessLauncher& launcher,
+void ViewHtmlFile(MessageBoxPresenter& messageBox, ProcessLauncher& launcher,
                   const QString& tempFolder, const QString& url)
 {
     const QString path = QDir(tempFolder).filePath(QStringLiteral("temphtm.HTM"));
-    Trap(log, "ViewHtmlFile", [&] {
+    InRoutine("ViewHtmlFile", [&] {
         const auto removeFile = qScopeGuard([&] { QFile::remove(path); });
         // The content doesn't matter: the file only has to exist for its type to be judged.
         QFile page(path);

@@ -1,27 +1,23 @@
 #include "sideactions/Volume.h"
 
-#include "diagnostics/Trap.h"
+#include "common/RuntimeError.h"
 #include "platform/Mixer.h"
 
 #include <algorithm>
 
 namespace Volume {
 
-int GetVolume(EventLog& log, Mixer& mixer)
+int GetVolume(Mixer& mixer)
 {
-    int percent = -1;
-    Trap(log, "GetVolume", [&] {
+    return InRoutine("GetVolume", [&] {
         const int read = mixer.GetVolume();
-        percent = read < 0 ? -1 : std::min(read, 100);
+        return read < 0 ? -1 : std::min(read, 100);
     });
-    return percent;
 }
 
-bool SetVolume(EventLog& log, Mixer& mixer, int Percent)
+bool SetVolume(Mixer& mixer, int Percent)
 {
-    bool set = false;
-    Trap(log, "SetVolume", [&] { set = mixer.SetVolume(std::clamp(Percent, 0, 100)); });
-    return set;
+    return InRoutine("SetVolume", [&] { return mixer.SetVolume(std::clamp(Percent, 0, 100)); });
 }
 
 } // namespace Volume

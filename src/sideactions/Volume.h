@@ -1,6 +1,5 @@
 #pragma once
 
-class EventLog;
 class Mixer;
 
 // The master volume (the default sink), as the classic player panel reads and sets it. Each
@@ -8,11 +7,12 @@ class Mixer;
 namespace Volume {
 
 // In per cent, 0 to 100: a sink amplified above its normal volume reads as 100, the top of
-// the scale the callers show. -1 on any failure, the server gone among them.
-int GetVolume(EventLog& log, Mixer& mixer);
+// the scale the callers show. -1 without a server or a default sink; a mixer library that
+// can't be loaded throws, marked with the routine's name, as in SetVolume.
+int GetVolume(Mixer& mixer);
 
 // Every channel to Percent, clamped to 0..100 first; true when set, and nothing changed
 // when false.
-bool SetVolume(EventLog& log, Mixer& mixer, int Percent);
+bool SetVolume(Mixer& mixer, int Percent);
 
 } // namespace Volume

@@ -66,7 +66,11 @@ void frmAddMixerProfile::showEvent(QShowEvent* event)
 
 void frmAddMixerProfile::frmSave_Click()
 {
-    switch (m_profiles.SaveMixerProfile(Combo1->currentText(), m_messageBox)) {
+    // A save that failed keeps the form open, as a refused name does.
+    auto outcome = MixerProfiles::SaveOutcome::Kept;
+    Trap(m_log, "Save Mixer profile",
+         [&] { outcome = m_profiles.SaveMixerProfile(Combo1->currentText(), m_messageBox); });
+    switch (outcome) {
     case MixerProfiles::SaveOutcome::Kept:
         return;
     case MixerProfiles::SaveOutcome::Added: {

@@ -82,7 +82,8 @@ void frmMixerProfiles::btnActivate_Click()
                           tr("The sound server's mixer settings will be set according to the "
                              "selected mixer profile. Proceed?"),
                           MsgIcon::Question, MsgButtons::YesNo) == MsgResult::Yes)
-        m_profiles.ActivateMixerProfile(lstMixerProfiles->currentItem()->text());
+        Trap(m_log, "Activate Mixer Profile",
+             [&] { m_profiles.ActivateMixerProfile(lstMixerProfiles->currentItem()->text()); });
 }
 
 void frmMixerProfiles::btnAdd_Click()
