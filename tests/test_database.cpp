@@ -1,10 +1,11 @@
-#include "LogCapture.h"
-#include "OpenedContext.h"
+#include "StoreParts.h"
 #include "TestFiles.h"
+#include "common/RuntimeError.h"
 #include "common/TextHelpers.h"
 
 #include <QDir>
 #include <QFile>
+#include <QSignalSpy>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTest>
@@ -40,23 +41,41 @@ class TestDatabase : public QObject {
     Q_OBJECT
 
 private slots:
+    // A column that can't be added (a view takes none) is reported on its own and the next
+    // is still tried.
+    void anOlderFileGetsTheNewColumnsOnce_data()
+    {
+        QTest::addColumn<QStringList>("programs");
+        QTest::addColumn<int>("failures");
+        QTest::newRow("a table")
+            << QStringList{"CREATE TABLE Programs (ID INTEGER PRIMARY KEY, Enabled INTEGER, "
+                           "Description TEXT, DescriptionText TEXT, StartTime REAL, EndTime REAL, "
+                           "Frequency INTEGER, OneTimeDay REAL, Sun INTEGER, Mon INTEGER, "
+                           "Tue INTEGER, Wed INTEGER, Thu INTEGER, Fri INTEGER, Sat INTEGER, "
+                           "wfx_nAvgBytesPerSec INTEGER, RecordingCancelled INTEGER, "
+                           "RecordingCancelledEndDateAndTime REAL)",
+                           "INSERT INTO Programs (Description, DescriptionText, Enabled) "
+                           "VALUES ('Old show', 'Old show', -1)"}
+            << 0;
+        QTest::newRow("a view")
+            << QStringList{"CREATE TABLE OldPrograms (ID INTEGER PRIMARY KEY, Description TEXT, "
+                           "DescriptionText TEXT)",
+                           "CREATE VIEW Programs AS SELECT * FROM OldPrograms"}
+            << 16;
+    }
     void anOlderFileGetsTheNewColumnsOnce()
     {
-        TestContext tc;
-        const QString file = tc.ctx->database.DatabaseFile();
+        QFETCH(QStringList, programs);
+        QFETCH(int, failures);
+        StoreParts s(false);
+        const QString file = s.database.DatabaseFile();
         QFile::remove(file);
-        RunSql(file, QStringList{
-                         "CREATE TABLE Programs (ID INTEGER PRIMARY KEY, Enabled INTEGER, "
-                         "Description TEXT, DescriptionText TEXT, StartTime REAL, EndTime REAL, "
-                         "Frequency INTEGER, OneTimeDay REAL, Sun INTEGER, Mon INTEGER, "
-                         "Tue INTEGER, Wed INTEGER, Thu INTEGER, Fri INTEGER, Sat INTEGER, "
-                         "wfx_nAvgBytesPerSec INTEGER, RecordingCancelled INTEGER, "
-                         "RecordingCancelledEndDateAndTime REAL)",
-                         "INSERT INTO Programs (Description, DescriptionText, Enabled) "
-                         "VALUES ('Old show', 'Old show', -1)",
-                     } + kOlderTables);
-        tc.OpenDatabase();
-        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        RunSql(file, programs + kOlderTables);
+        QCOMPARE(s.Open().size(), failures);
+        QVERIFY(s.database.DataRecordings.recordset().IsOpen());
+        if (failures)
+            return;
+        Recordset& rs = s.database.DataPrograms.recordset();
         QCOMPARE(rs.FieldNames().size(), 18 + 16);
         for (const char* column :
              {"Flags", "LaunchAfterOnlyIfOk", "StreamingPlayerClose", "StreamUrl", "InputName"}) {
@@ -64,40 +83,17 @@ private slots:
             QVERIFY(rs.IsNull(column));
         }
         QCOMPARE(rs.Value("Description").toString(), QStringLiteral("Old show"));
-        QCOMPARE(tc.CountRows("EventLog"), 0);
 
         // The next start finds everything in place and adds nothing.
-        tc.ctx->database.CloseAll();
-        tc.OpenDatabase();
-        QCOMPARE(tc.ctx->database.DataPrograms.recordset().FieldNames().size(), 18 + 16);
-        QCOMPARE(tc.CountRows("EventLog"), 0);
-    }
-
-    // A column that can't be added is reported on its own and the next is still tried.
-    void eachColumnThatCannotBeAddedIsReported()
-    {
-        TestContext tc;
-        const QString file = tc.ctx->database.DatabaseFile();
-        QFile::remove(file);
-        // Columns can't be added to a view: every one of the sixteen fails.
-        RunSql(file, QStringList{
-                         "CREATE TABLE OldPrograms (ID INTEGER PRIMARY KEY, Description TEXT, "
-                         "DescriptionText TEXT)",
-                         "CREATE VIEW Programs AS SELECT * FROM OldPrograms",
-                     } + kOlderTables);
-        tc.OpenDatabase();
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        QVERIFY(q.exec("SELECT COUNT(*) FROM EventLog WHERE Details LIKE "
-                       "'%Module: InitializeControls%'"));
-        QVERIFY(q.next());
-        QCOMPARE(q.value(0).toInt(), 16);
-        QVERIFY(tc.ctx->database.DataRecordings.recordset().IsOpen());
+        s.database.CloseAll();
+        QVERIFY(s.Open().isEmpty());
+        QCOMPARE(s.database.DataPrograms.recordset().FieldNames().size(), 18 + 16);
     }
 
     void recordsetOperations()
     {
-        OpenedContext tc;
-        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+        StoreParts s;
+        Recordset& rs = s.database.DataRecordings.recordset();
         rs.AddNew();
         rs.SetValue("Title", "First");
         rs.SetValue("File", "/rec/a.wav");
@@ -128,8 +124,8 @@ private slots:
         QCOMPARE(rs.Bookmark(), second);
 
         // Changes were written through to the file.
-        tc.ctx->database.DataRecordings.Requery();
-        QCOMPARE(tc.ctx->database.DataRecordings.recordset().RecordCount(), 1);
+        s.database.DataRecordings.Requery();
+        QCOMPARE(s.database.DataRecordings.recordset().RecordCount(), 1);
         QVERIFY_THROWS_EXCEPTION(RuntimeError, rs.SetValue("Title", "no edit"));
         QVERIFY_THROWS_EXCEPTION(RuntimeError, rs.Value("NoSuchColumn"));
     }
@@ -144,8 +140,8 @@ private slots:
     void anApostropheIsFoundAgain()
     {
         QFETCH(QString, file);
-        OpenedContext tc;
-        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+        StoreParts s;
+        Recordset& rs = s.database.DataRecordings.recordset();
         for (const QString& f : {QStringLiteral("/rec/other.wav"), file}) {
             rs.AddNew();
             rs.SetValue("File", f);
@@ -167,12 +163,12 @@ private slots:
     // is the main window's test, and clones in the grid's order the schedule's.
     void clonesFollowTheGridsSort()
     {
-        OpenedContext tc;
+        StoreParts s;
         for (const char* name : {"bravo", "Alpha", "Charlie"})
-            tc.AddProgram({{"Description", name}, {"DescriptionText", name}});
-        tc.ctx->database.SortDbgrids();
+            s.AddProgram({{"Description", name}, {"DescriptionText", name}});
+        s.database.SortDbgrids();
         QStringList names;
-        Recordset clone = tc.ctx->database.DataPrograms.recordset().Clone();
+        Recordset clone = s.database.DataPrograms.recordset().Clone();
         for (clone.MoveFirst(); !clone.IsEOF(); clone.MoveNext())
             names << clone.Value("Description").toString();
         QCOMPARE(names, QStringList({"Alpha", "bravo", "Charlie"}));
@@ -189,51 +185,53 @@ private slots:
     void compaction()
     {
         QFETCH(bool, tempIsAFolder);
-        OpenedContext tc;
-        tc.AddProgram({{"Description", "Kept"}});
-        const QByteArray before = ReadFile(tc.ctx->database.DatabaseFile());
-        const QString temp = tc.ctx->folders.TempDatabaseFile();
+        StoreParts s;
+        s.AddProgram({{"Description", "Kept"}});
+        const QByteArray before = ReadFile(s.database.DatabaseFile());
+        const QString temp = s.folders.TempDatabaseFile();
         QVERIFY(tempIsAFolder ? QDir().mkpath(temp + "/busy") : WriteFile(temp, "left over"));
 
-        tc.ctx->database.CompactDatabase();
-        QCOMPARE(tc.messageBox.asked.size(), tempIsAFolder ? 1 : 0);
+        s.database.CompactDatabase();
+        QCOMPARE(s.messageBox.asked.size(), tempIsAFolder ? 1 : 0);
         if (tempIsAFolder) {
-            QCOMPARE(tc.messageBox.asked[0].title, QStringLiteral("Nightreel 2000 Error"));
-            QVERIFY(tc.messageBox.asked[0].text.startsWith(
+            QCOMPARE(s.messageBox.asked[0].title, QStringLiteral("Nightreel 2000 Error"));
+            QVERIFY(s.messageBox.asked[0].text.startsWith(
                 "Compact Database failed.  The following error occurred: "));
-            QVERIFY(!tc.ctx->database.rsPrograms.IsOpen());
-            QCOMPARE(ReadFile(tc.ctx->database.DatabaseFile()), before);
+            QVERIFY(!s.database.rsPrograms.IsOpen());
+            QCOMPARE(ReadFile(s.database.DatabaseFile()), before);
             return;
         }
         QVERIFY(!QFile::exists(temp));
-        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
+        Recordset& rs = s.database.DataPrograms.recordset();
         QCOMPARE(rs.RecordCount(), 1);
         QCOMPARE(rs.Value("Description").toString(), QStringLiteral("Kept"));
-        QVERIFY(tc.ctx->database.rsEventLog.IsOpen());
+        QVERIFY(s.database.rsEventLog.IsOpen());
     }
 
-    // The restore over a live file is the main window's test, through its menu.
+    // The restore over a live file is the main window's test, through its menu; what the
+    // context makes of the signals, the context's.
     void restoreGivesTheEmptyOriginal()
     {
-        OpenedContext tc;
-        tc.ctx->log.LogEvent(EventError, "An error", "details");
-        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 1);
-        tc.ctx->database.CloseAll();
-        QVERIFY(QFile::remove(tc.ctx->database.DatabaseFile()));
+        StoreParts s;
+        s.log.LogEvent(EventError, "An error", "details");
+        QSignalSpy viewed(&s.database, &AppDatabase::ElogViewed);
+        QSignalSpy missing(&s.database, &AppDatabase::DatabaseMissingChecked);
+        s.database.CloseAll();
+        QVERIFY(QFile::remove(s.database.DatabaseFile()));
 
-        tc.ctx->database.CheckDatabaseMissing();
-        QVERIFY(tc.ctx->error.DatabaseMissing());
-        tc.ctx->RestoreOriginalDatabase();
-        tc.ctx->database.CheckDatabaseMissing();
-        QVERIFY(!tc.ctx->error.DatabaseMissing());
-        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
+        s.database.CheckDatabaseMissing();
+        QCOMPARE(missing.last(), QVariantList{true});
+        QVERIFY(s.database.RestoreOriginalDatabase().isEmpty());
+        s.database.CheckDatabaseMissing();
+        QCOMPARE(missing.last(), QVariantList{false});
+        QVERIFY(!viewed.isEmpty());
         // The empty original: its tables, no program, and the one Info row.
-        QCOMPARE(tc.ctx->database.DataPrograms.recordset().RecordCount(), 0);
-        QCOMPARE(tc.ctx->database.DataInfo.recordset().RecordCount(), 1);
-        QCOMPARE(tc.CountRows("EventLog"), 0);
+        QCOMPARE(s.database.DataPrograms.recordset().RecordCount(), 0);
+        QCOMPARE(s.database.DataInfo.recordset().RecordCount(), 1);
+        QCOMPARE(s.CountRows("EventLog"), 0);
         // The restored file is writable.
-        tc.AddProgram({{"Description", "New"}});
-        QCOMPARE(tc.ctx->database.DataPrograms.recordset().RecordCount(), 1);
+        s.AddProgram({{"Description", "New"}});
+        QCOMPARE(s.database.DataPrograms.recordset().RecordCount(), 1);
     }
 
     void aBadFileDoesNotStopTheStart_data()
@@ -247,20 +245,15 @@ private slots:
     {
         QFETCH(QByteArray, content);
         QFETCH(bool, present);
-        TestContext tc;
-        const QString file = tc.ctx->database.DatabaseFile();
+        StoreParts s(false);
+        const QString file = s.database.DatabaseFile();
         QFile::remove(file);
         if (present)
             QVERIFY(WriteFile(file, content.repeated(200)));
-        LogCapture capture;
-        tc.OpenDatabase();
-        QVERIFY(capture.Contains("Module: InitializeControls"));
-        QVERIFY(!tc.ctx->database.DataPrograms.recordset().IsOpen());
+        QVERIFY(!s.Open().isEmpty());
+        QVERIFY(!s.database.DataPrograms.recordset().IsOpen());
         QCOMPARE(QFile::exists(file), present);
         QCOMPARE(ReadFile(file), content.repeated(200));
-        // The rest of the system goes on with empty lists.
-        tc.ctx->scheduler.ScheduleNextRecording();
-        QVERIFY(!tc.ctx->scheduler.next.NextProgramFound);
     }
 };
 

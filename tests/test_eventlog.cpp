@@ -1,6 +1,7 @@
-#include "MemoryLog.h"
-#include "OpenedContext.h"
+#include "StoreParts.h"
+#include "common/RuntimeError.h"
 #include "common/UnattendedPath.h"
+#include "diagnostics/UnattendedMessageBox.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -18,18 +19,22 @@ private slots:
         QTest::addColumn<int>("after");
         QTest::addColumn<bool>("full");
         QTest::addColumn<int>("unviewed");
-        QTest::newRow("950th row") << 949 << 2 << 950 << false << 1;
-        QTest::newRow("951st row") << 950 << 1 << 951 << false << 1;
-        QTest::newRow("952nd row") << 951 << 2 << 952 << true << 1;
-        QTest::newRow("1000th row") << 999 << 2 << 1000 << true << 1;
-        QTest::newRow("dropped") << 1000 << 2 << 1000 << true << 0;
-        QTest::newRow("information") << 10 << 0 << 11 << false << 0;
+        QTest::addColumn<bool>("onScreen");
+        QTest::newRow("950th row") << 949 << 2 << 950 << false << 1 << false;
+        QTest::newRow("951st row") << 950 << 1 << 951 << false << 1 << false;
+        QTest::newRow("952nd row") << 951 << 2 << 952 << true << 1 << false;
+        QTest::newRow("1000th row") << 999 << 2 << 1000 << true << 1 << false;
+        QTest::newRow("dropped") << 1000 << 2 << 1000 << true << 0 << false;
+        QTest::newRow("information") << 10 << 0 << 11 << false << 0 << false;
+        QTest::newRow("the log on screen") << 10 << 2 << 11 << false << 0 << true;
     }
     void theLogFillsAt951AndStopsAt1000()
     {
         QFETCH(int, before);
         QFETCH(int, type);
+        QFETCH(bool, onScreen);
         MemoryLog bare;
+        bare.error.SetElogVisible(onScreen);
         bare.entries = QList<LogEntry>(before, LogEntry{2, "old", ""});
         bare.log.LogEvent(qint16(type), "Something happened", "while nobody watched");
         QTEST(int(bare.entries.size()), "after");
@@ -37,45 +42,26 @@ private slots:
         QTEST(bare.error.NumUnviewedElogErrors(), "unviewed");
     }
 
+    // Without a database nothing is written and nothing counts; once it is open, an entry
+    // holds what was logged.
     void anEntryHoldsWhatWasLogged()
     {
-        OpenedContext tc;
-        QCOMPARE(tc.ctx->database.RowCount(), 0);
-        tc.ctx->log.LogEvent(EventInformation, "First", "");
-        tc.ctx->log.LogRuntimeError("Timer1_Timer", RuntimeError(3021, "No current record."));
+        StoreParts s(false);
+        s.log.LogEvent(EventError, "No database open", "");
+        QCOMPARE(s.error.NumUnviewedElogErrors(), 0);
+        QVERIFY(s.Open().isEmpty());
+        QCOMPARE(s.database.RowCount(), 0);
+        s.log.LogEvent(EventInformation, "First", "");
+        s.log.LogRuntimeError("Timer1_Timer", RuntimeError(3021, "No current record."));
         // The count the log fills by is the table's.
-        QCOMPARE(tc.ctx->database.RowCount(), 2);
-        Recordset& rs = tc.ctx->database.ElogRecordset();
+        QCOMPARE(s.database.RowCount(), 2);
+        Recordset& rs = s.database.ElogRecordset();
         rs.MoveLast();
         QCOMPARE(rs.Value("Type").toInt(), 2);
-        QCOMPARE(rs.Value("DateAndTime").toDouble(), tc.clock.Now());
+        QCOMPARE(rs.Value("DateAndTime").toDouble(), s.clock.Now());
         QCOMPARE(rs.Value("Message").toString(), QStringLiteral("Nightreel 2000 Runtime Error"));
         QCOMPARE(rs.Value("Details").toString(),
                  QStringLiteral("Module: Timer1_Timer\r\nError:  3021, No current record."));
-    }
-
-    void nothingCountsWhileTheLogIsOnScreen()
-    {
-        MemoryLog bare;
-        bare.error.SetElogVisible(true);
-        bare.log.LogEvent(EventError, "Seen at once", "");
-        QCOMPARE(bare.error.NumUnviewedElogErrors(), 0);
-        bare.error.SetElogVisible(false);
-        bare.log.LogEvent(EventWarning, "Not seen", "");
-        QCOMPARE(bare.error.NumUnviewedElogErrors(), 1);
-        bare.error.ElogViewed();
-        QCOMPARE(bare.error.NumUnviewedElogErrors(), 0);
-    }
-
-    void loggingWithoutADatabaseDoesNotFail()
-    {
-        TestContext tc;
-        tc.ctx->log.LogEvent(EventError, "No database open", "");
-        QCOMPARE(tc.ctx->error.NumUnviewedElogErrors(), 0);
-        // Once the file is open the log works.
-        tc.OpenDatabase();
-        tc.ctx->log.LogEvent(EventError, "Now it is", "");
-        QCOMPARE(tc.CountRows("EventLog"), 1);
     }
 
     void theIndicationFollowsTheState_data()
@@ -101,12 +87,9 @@ private slots:
             error.NewElogMsgAdded();
         QFETCH(bool, diskLow);
         error.SetDiskLowWarn(diskLow);
-        QFETCH(bool, visible);
-        QCOMPARE(error.Indication().buttonVisible, visible);
-        QFETCH(QString, tip);
-        QCOMPARE(error.Indication().toolTip, tip);
-        QFETCH(bool, menu);
-        QCOMPARE(error.Indication().errorsMenuEnabled, menu);
+        QTEST(error.Indication().buttonVisible, "visible");
+        QTEST(error.Indication().toolTip, "tip");
+        QTEST(error.Indication().errorsMenuEnabled, "menu");
     }
 
     void onlyAChangeUpdatesTheIndication()
@@ -154,11 +137,13 @@ private slots:
         QFETCH(int, buttons);
         QFETCH(int, icon);
         QFETCH(int, loggedType);
-        OpenedContext tc;
-        tc.messageBox.answers << MsgResult::Yes;
+        MemoryLog bare;
+        ScriptedMessageBox messageBox;
+        UnattendedMessageBox boxes(messageBox, bare.log);
+        messageBox.answers << MsgResult::Yes;
         MsgResult result = MsgResult::Ok;
         const auto ask = [&] {
-            result = tc.ctx->messageBox.Show("Title", "Text", MsgIcon(icon), MsgButtons(buttons));
+            result = boxes.Show("Title", "Text", MsgIcon(icon), MsgButtons(buttons));
         };
         std::optional<UnattendedPath> unattended;
         if (!path.isEmpty())
@@ -170,10 +155,10 @@ private slots:
             ask();
         }
         QTEST(int(result), "answer");
-        QCOMPARE(tc.messageBox.asked.size(), 1);
-        QCOMPARE(tc.messageBox.asked[0].text, QString("Text"));
-        QCOMPARE(tc.messageBox.asked[0].waited, loggedType < 0);
-        const QList<LogEntry> entries = tc.LogEntries();
+        QCOMPARE(messageBox.asked.size(), 1);
+        QCOMPARE(messageBox.asked[0].text, QString("Text"));
+        QCOMPARE(messageBox.asked[0].waited, loggedType < 0);
+        const QList<LogEntry>& entries = bare.entries;
         QCOMPARE(entries.size(), loggedType < 0 ? 0 : 1);
         if (loggedType >= 0) {
             QCOMPARE(entries[0].type, loggedType);

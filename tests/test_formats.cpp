@@ -1,8 +1,7 @@
 #include "formats/CodecCatalogue.h"
 #include "formats/FormatStore.h"
 #include "formats/clsRecordingFormat.h"
-#include "support/OpenedContext.h"
-#include "support/ScriptedMessageBox.h"
+#include "support/StoreParts.h"
 
 #include <QSqlQuery>
 #include <QtTest>
@@ -22,17 +21,10 @@ void SetFromRecord(clsRecordingFormat& format, const QByteArray& record)
     format.CalcRemainingVarsFromMwfx();
 }
 
-// Replaces the Info row by one with the given columns, straight in the file.
-void PutInfoRow(TestContext& tc, int cbSize, const QByteArray& extra)
-{
-    QSqlQuery q(tc.ctx->database.db.Connection());
-    QVERIFY(q.exec("DELETE FROM Info"));
-    QVERIFY(q.prepare("INSERT INTO Info VALUES (1, 0, 0, 85, 2, 44100, 16000, 1, 0, ?, ?)"));
-    q.addBindValue(cbSize);
-    q.addBindValue(extra);
-    QVERIFY(q.exec());
-    tc.ctx->database.DataInfo.Requery();
-}
+// The default format's store over a fresh database and settings file.
+struct DefaultFormats : StoreParts {
+    DefaultFormatStore store{registry, options, database.DataInfo};
+};
 
 } // namespace
 
@@ -40,42 +32,39 @@ class TestFormats : public QObject {
     Q_OBJECT
 
 private slots:
-    void secondsFromMbytesRoundTiesToEven_data()
-    {
-        QTest::addColumn<quint32>("rate");
-        QTest::addColumn<float>("mbytes");
-        QTest::addColumn<qint32>("seconds");
-        // 2 Mbytes a second: 5 Mbytes are 2.5 seconds, 7 are 3.5.
-        QTest::newRow("2.5 to 2") << 524288u << 5.0f << 2;
-        QTest::newRow("3.5 to 4") << 524288u << 7.0f << 4;
-        QTest::newRow("no byte rate") << 0u << 100.0f << 0;
-    }
-    void secondsFromMbytesRoundTiesToEven()
-    {
-        QFETCH(quint32, rate);
-        QFETCH(float, mbytes);
-        clsRecordingFormat format;
-        format.SetToPcm(2, rate, 16);
-        QTEST(format.CalcSecondsFromMbytes(mbytes), "seconds");
-    }
-
-    void blockAlignOfOddSampleSizesIsRounded_data()
+    // The block's alignment of odd sample sizes is rounded, and seconds from Mbytes round
+    // ties to even.
+    void pcmFiguresRound_data()
     {
         QTest::addColumn<quint16>("channels");
+        QTest::addColumn<quint32>("rate");
         QTest::addColumn<quint16>("bits");
+        QTest::addColumn<float>("mbytes");
         QTest::addColumn<quint16>("blockAlign");
-        QTest::newRow("1 x 12 bits") << quint16(1) << quint16(12) << quint16(2);
-        QTest::newRow("1 x 4 bits, half to even") << quint16(1) << quint16(4) << quint16(0);
+        QTest::addColumn<qint32>("seconds");
+        const auto row = [](const char* tag, quint16 channels, quint32 rate, quint16 bits,
+                            float mbytes, quint16 blockAlign, qint32 seconds) {
+            QTest::newRow(tag) << channels << rate << bits << mbytes << blockAlign << seconds;
+        };
+        // 2 Mbytes a second: 5 Mbytes are 2.5 seconds, 7 are 3.5.
+        row("2.5 s to 2", 2, 524288, 16, 5.0f, 4, 2);
+        row("3.5 s to 4", 2, 524288, 16, 7.0f, 4, 4);
+        row("no byte rate", 2, 0, 16, 100.0f, 4, 0);
+        row("1 x 12 bits", 1, 8000, 12, 1.0f, 2, 66);
+        row("1 x 4 bits, half to even", 1, 8000, 4, 1.0f, 0, 0);
     }
-    void blockAlignOfOddSampleSizesIsRounded()
+    void pcmFiguresRound()
     {
         QFETCH(quint16, channels);
+        QFETCH(quint32, rate);
         QFETCH(quint16, bits);
+        QFETCH(float, mbytes);
         QFETCH(quint16, blockAlign);
         clsRecordingFormat format;
-        format.SetToPcm(channels, 8000, bits);
+        format.SetToPcm(channels, rate, bits);
+        QTEST(format.CalcSecondsFromMbytes(mbytes), "seconds");
         QCOMPARE(format.nBlockAlign(), blockAlign);
-        QCOMPARE(format.nAvgBytesPerSec(), quint32(blockAlign) * 8000);
+        QCOMPARE(format.nAvgBytesPerSec(), quint32(blockAlign) * rate);
         // The block says the same as the fields.
         const uchar* block = format.mwfx();
         QCOMPARE(quint16(block[12] | block[13] << 8), blockAlign);
@@ -179,62 +168,54 @@ private slots:
         QCOMPARE(copy.FormatChanged, qint16(0));
     }
 
+    // A row keeps the format with one more extra byte, and the flags; a row from before the
+    // flags reads as neither.
     void programRowsKeepTheFormatWithOneMoreByte_data()
     {
         QTest::addColumn<QByteArray>("record");
-        QTest::addColumn<int>("flags");
+        QTest::addColumn<int>("flags"); // -1: written by a version without them
         QTest::newRow("cbSize 0 is one zero byte") << CodecCatalogue::PcmRecord(1, 11025, 8) << 1;
         QTest::newRow("MP3 with its 12 bytes") << CodecCatalogue::Mp3Record(2, 44100, 128) << 2;
+        QTest::newRow("from before the flags") << CodecCatalogue::PcmRecord(1, 8000, 8) << -1;
     }
     void programRowsKeepTheFormatWithOneMoreByte()
     {
         QFETCH(QByteArray, record);
         QFETCH(int, flags);
-        OpenedContext tc;
-        clsRecordingFormat format;
-        SetFromRecord(format, record);
-        format.SaveMP3FileExtension = flags & 1;
-        format.ConvertToMP3 = flags & 2;
-        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
-        rs.AddNew();
-        rs.SetValue("Description", "Show");
-        WriteFormat(format, rs);
-        rs.Update();
-        rs.SetBookmark(rs.LastModified());
-
-        QSqlQuery q(tc.ctx->database.db.Connection());
-        QVERIFY(q.exec("SELECT wfxExtra, Flags FROM Programs"));
-        QVERIFY(q.next());
-        QCOMPARE(q.value(0).toByteArray(), Mp3Extra(record) + QByteArray(1, '\0'));
-        QCOMPARE(q.value(1).toInt(), flags);
-
+        StoreParts s;
+        Recordset& rs = s.database.DataPrograms.recordset();
+        if (flags < 0) {
+            s.AddProgram({{"Description", "Old"},
+                          {"wfx_wFormatTag", 1},
+                          {"wfx_nChannels", 1},
+                          {"wfx_nSamplesPerSec", 8000},
+                          {"wfx_nAvgBytesPerSec", 8000},
+                          {"wfx_nBlockAlign", 1},
+                          {"wfx_nBitsPerSample", 8},
+                          {"wfx_cbSize", 0}});
+        } else {
+            clsRecordingFormat format;
+            SetFromRecord(format, record);
+            format.SaveMP3FileExtension = flags & 1;
+            format.ConvertToMP3 = flags & 2;
+            rs.AddNew();
+            rs.SetValue("Description", "Show");
+            WriteFormat(format, rs);
+            rs.Update();
+            QSqlQuery q(s.database.db.Connection());
+            QVERIFY(q.exec("SELECT wfxExtra, Flags FROM Programs"));
+            QVERIFY(q.next());
+            QCOMPARE(q.value(0).toByteArray(), Mp3Extra(record) + QByteArray(1, '\0'));
+            QCOMPARE(q.value(1).toInt(), flags);
+        }
+        rs.MoveFirst();
         clsRecordingFormat read;
+        read.ConvertToMP3 = read.SaveMP3FileExtension = true;
         ReadFormat(read, rs);
         QCOMPARE(read.Record(), record);
-        QCOMPARE(read.SaveMP3FileExtension, bool(flags & 1));
-        QCOMPARE(read.ConvertToMP3, bool(flags & 2));
-        QCOMPARE(tc.CountRows("EventLog"), 0);
-    }
-
-    void aRowFromBeforeTheFlagsHasNeitherFlag()
-    {
-        OpenedContext tc;
-        tc.AddProgram({{"Description", "Old"},
-                       {"wfx_wFormatTag", 1},
-                       {"wfx_nChannels", 1},
-                       {"wfx_nSamplesPerSec", 8000},
-                       {"wfx_nAvgBytesPerSec", 8000},
-                       {"wfx_nBlockAlign", 1},
-                       {"wfx_nBitsPerSample", 8},
-                       {"wfx_cbSize", 0}});
-        Recordset& rs = tc.ctx->database.DataPrograms.recordset();
-        rs.MoveFirst();
-        clsRecordingFormat format;
-        format.ConvertToMP3 = format.SaveMP3FileExtension = true;
-        ReadFormat(format, rs);
-        QVERIFY(!format.ConvertToMP3);
-        QVERIFY(!format.SaveMP3FileExtension);
-        QCOMPARE(format.nSamplesPerSec(), 8000u);
+        QCOMPARE(read.SaveMP3FileExtension, flags > 0 && (flags & 1));
+        QCOMPARE(read.ConvertToMP3, flags > 0 && (flags & 2));
+        QCOMPARE(s.CountRows("EventLog"), 0);
     }
 
     // The MP3 flags go to the settings; a format that is not MP3 writes them as they were
@@ -254,20 +235,20 @@ private slots:
         QFETCH(QByteArray, record);
         QFETCH(QString, convert);
         QFETCH(QString, extension);
-        OpenedContext tc;
-        tc.ctx->registry.SaveSetting(kSection, "SaveMP3FileExtension", "False");
-        tc.ctx->registry.SaveSetting(kSection, "ConvertToMP3", "True");
+        DefaultFormats s;
+        s.registry.SaveSetting(kSection, "SaveMP3FileExtension", "False");
+        s.registry.SaveSetting(kSection, "ConvertToMP3", "True");
         clsRecordingFormat format;
         format.ConvertToMP3 = true;
         format.SaveMP3FileExtension = false;
         SetFromRecord(format, record);
-        tc.ctx->defaultFormats.SaveDefaultFormatInfo(format);
-        QCOMPARE(tc.CountRows("Info"), 1);
-        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "ConvertToMP3", {}), convert);
-        QCOMPARE(tc.ctx->registry.GetSetting(kSection, "SaveMP3FileExtension", {}), extension);
+        s.store.SaveDefaultFormatInfo(format);
+        QCOMPARE(s.CountRows("Info"), 1);
+        QCOMPARE(s.registry.GetSetting(kSection, "ConvertToMP3", {}), convert);
+        QCOMPARE(s.registry.GetSetting(kSection, "SaveMP3FileExtension", {}), extension);
 
-        tc.ctx->defaultFormats.GetWfxDefault(tc.ctx->WfxDefault);
-        clsRecordingFormat& dflt = tc.ctx->WfxDefault;
+        clsRecordingFormat dflt;
+        s.store.GetWfxDefault(dflt);
         QCOMPARE(dflt.Record(), format.Record());
         QCOMPARE(dflt.ConvertToMP3, convert == "True");
         QCOMPARE(dflt.SaveMP3FileExtension, extension == "True");
@@ -276,30 +257,31 @@ private slots:
 
     void anUnusableDefaultFallsBackToPhoneQuality_data()
     {
-        QTest::addColumn<int>("cbSize");
-        QTest::addColumn<bool>("deleteRow");
-        QTest::newRow("more extra bytes than this machine's formats") << 40 << false;
-        QTest::newRow("no Info row") << 0 << true;
+        QTest::addColumn<int>("cbSize"); // -1: no Info row
+        QTest::newRow("more extra bytes than this machine's formats") << 40;
+        QTest::newRow("no Info row") << -1;
     }
     void anUnusableDefaultFallsBackToPhoneQuality()
     {
         QFETCH(int, cbSize);
-        QFETCH(bool, deleteRow);
-        OpenedContext tc;
-        PutInfoRow(tc, cbSize, QByteArray(cbSize + 1, 'x'));
-        if (deleteRow) {
-            QSqlQuery q(tc.ctx->database.db.Connection());
-            QVERIFY(q.exec("DELETE FROM Info"));
-            tc.ctx->database.DataInfo.Requery();
+        DefaultFormats s;
+        QSqlQuery q(s.database.db.Connection());
+        QVERIFY(q.exec("DELETE FROM Info"));
+        if (cbSize >= 0) {
+            QVERIFY(
+                q.prepare("INSERT INTO Info VALUES (1, 0, 0, 85, 2, 44100, 16000, 1, 0, ?, ?)"));
+            q.addBindValue(cbSize);
+            q.addBindValue(QByteArray(cbSize + 1, 'x'));
+            QVERIFY(q.exec());
         }
-        tc.ctx->defaultFormats.GetWfxDefault(tc.ctx->WfxDefault);
-        const clsRecordingFormat& dflt = tc.ctx->WfxDefault;
+        s.database.DataInfo.Requery();
+        clsRecordingFormat dflt;
+        s.store.GetWfxDefault(dflt);
         QCOMPARE(dflt.Record(), CodecCatalogue::PcmRecord(1, 11025, 8));
         QCOMPARE(dflt.TextCompressionMethod, QStringLiteral("PCM 11.025 kHz, 8 Bit, Mono"));
 
         // The row is rewritten: one row, phone quality, read back by the next start.
-        QCOMPARE(tc.CountRows("Info"), 1);
-        QSqlQuery q(tc.ctx->database.db.Connection());
+        QCOMPARE(s.CountRows("Info"), 1);
         QVERIFY(q.exec("SELECT wfxdflt_wFormatTag, wfxdflt_nSamplesPerSec, wfxdflt_cbSize, "
                        "wfxdfltExtra FROM Info"));
         QVERIFY(q.next());
@@ -308,7 +290,7 @@ private slots:
         QCOMPARE(q.value(2).toInt(), 0);
         QCOMPARE(q.value(3).toByteArray(), QByteArray(1, '\0'));
         clsRecordingFormat next;
-        tc.ctx->defaultFormats.ReadDefaultFormatInfo(next);
+        s.store.ReadDefaultFormatInfo(next);
         QCOMPARE(next.nSamplesPerSec(), 11025u);
     }
 

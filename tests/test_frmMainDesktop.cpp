@@ -174,7 +174,6 @@ private slots:
         m_daemon->Forget();
         m_tc->AddProgram(Programs::Weekly("Late show", "23:00:00", "23:30:00", "0100000"));
         m_tc->AddProgram(Programs::Weekly("Night news", "00:00:00", "00:05:00", "0010000"));
-        ctx().database.DataPrograms.Requery();
         ctx().registry.SaveSetting("Settings", "RecorderAliveTime",
                                    QString::number(Programs::At(2026, 6, 1, "22:00:00")));
         m_tc->clock.Set(Programs::At(2026, 6, 2, "08:00:00"));

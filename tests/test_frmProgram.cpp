@@ -2,6 +2,7 @@
 #include "ModalDialogs.h"
 #include "ProgramListFixture.h"
 #include "Programs.h"
+#include "TestContext.h"
 #include "TestFiles.h"
 #include "scheduling/frmEnableDisablePrograms.h"
 #include "scheduling/frmProgram.h"
@@ -51,12 +52,18 @@ private:
     AppContext& m_ctx;
 };
 
-struct Fixture : ProgramListFixture<EditorView> {
+// The program commands of an open context at noon on Monday 1 June 2026, with a
+// phone-quality default format, through the real editor.
+struct Fixture {
     Fixture()
     {
+        tc.clock.Set(QDateTime(QDate(2026, 6, 1), QTime(12, 0, 0)));
+        tc.OpenDatabase();
+        tc.ctx->WfxDefault.SetToPcm(1, 11025, 8);
         tc.ctx->options.ConfirmLongRecordings = true;
         tc.ctx->options.LongRecordingHours = 3;
     }
+    qint64 Add(const QVariantHash& row) { return tc.AddProgram(AsEdited(row)); }
     // A new program as the Add command opens it, with a description.
     std::unique_ptr<frmProgram> NewForm()
     {
@@ -68,6 +75,10 @@ struct Fixture : ProgramListFixture<EditorView> {
         form->FillProgramForm(v);
         return form;
     }
+
+    TestContext tc;
+    EditorView view{*tc.ctx};
+    ProgramListCommands commands{tc.ctx->ForProgramList(), view};
 };
 
 } // namespace
@@ -217,7 +228,7 @@ private slots:
         f.commands.AddNewProgram();
         QVERIFY(f.tc.messageBox.asked.isEmpty());
         QCOMPARE(f.tc.CountRows("Programs"), 1);
-        QTEST(f.Column(f.view.current, column).toString(), "stored");
+        QTEST(f.tc.ProgramColumn(f.view.current, column).toString(), "stored");
     }
 
     // The form shows the row; OK stores it back without a conflict with itself and clears a
@@ -252,14 +263,14 @@ private slots:
         f.commands.EditProgram();
         QCOMPARE(f.tc.messageBox.asked.size(), 1);
         QCOMPARE(f.tc.messageBox.asked[0].title, QString("Long Recording Confirmation"));
-        QCOMPARE(f.Column(id, "FilenamePrefix").toString(), QString("pre"));
-        QCOMPARE(f.Column(id, "LaunchAppDelay").toInt(), 30);
-        QCOMPARE(f.Column(id, "InternetLinkDelay").toInt(), 15);
-        QCOMPARE(f.Column(id, "StreamingPlayerClose").toString(), QString("Radio"));
-        QVERIFY(Field::ToBool(f.Column(id, "HangupInternetConnection")));
-        QCOMPARE(f.Column(id, "FrequencyText").toString(), QString("Fri,Sat"));
-        QCOMPARE(f.Column(id, "MixerProfileBefore").toString(), QString());
-        QCOMPARE(f.Column(id, "MixerProfileAfter").toString(), QString("Evening"));
+        QCOMPARE(f.tc.ProgramColumn(id, "FilenamePrefix").toString(), QString("pre"));
+        QCOMPARE(f.tc.ProgramColumn(id, "LaunchAppDelay").toInt(), 30);
+        QCOMPARE(f.tc.ProgramColumn(id, "InternetLinkDelay").toInt(), 15);
+        QCOMPARE(f.tc.ProgramColumn(id, "StreamingPlayerClose").toString(), QString("Radio"));
+        QVERIFY(Field::ToBool(f.tc.ProgramColumn(id, "HangupInternetConnection")));
+        QCOMPARE(f.tc.ProgramColumn(id, "FrequencyText").toString(), QString("Fri,Sat"));
+        QCOMPARE(f.tc.ProgramColumn(id, "MixerProfileBefore").toString(), QString());
+        QCOMPARE(f.tc.ProgramColumn(id, "MixerProfileAfter").toString(), QString("Evening"));
 
         f.view.inspect = nullptr;
         f.tc.messageBox.asked.clear();
@@ -276,7 +287,7 @@ private slots:
         f.commands.CopyProgram();
         QCOMPARE(f.tc.messageBox.asked.size(), 1);
         QCOMPARE(f.tc.CountRows("Programs"), 2);
-        QCOMPARE(f.Column(f.view.current, "DescriptionText").toString(),
+        QCOMPARE(f.tc.ProgramColumn(f.view.current, "DescriptionText").toString(),
                  QString("Jazz   **DISABLED** "));
     }
 

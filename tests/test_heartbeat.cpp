@@ -1,7 +1,11 @@
-#include "LogCapture.h"
 #include "Programs.h"
-#include "TestContext.h"
+#include "RecordingLauncher.h"
+#include "StoreParts.h"
+#include "common/RuntimeError.h"
+#include "common/clsAppStatus.h"
 #include "recording/Heartbeat.h"
+#include "recording/clsRecordingStatus.h"
+#include "scheduling/Scheduler.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -15,33 +19,25 @@ double At(const QString& time, int day = 1)
     return Programs::At(2026, 6, day, time);
 }
 
-// A heartbeat on its own over a fresh context's parts, ticked by hand at the times the test
-// sets; what it hands on is read from its signals.
-struct Fixture {
+// A heartbeat on its own over the store's parts and a scheduler, ticked by hand at the times
+// the test sets; what it hands on is read from its signals.
+struct Fixture : StoreParts {
     Fixture()
-        : heartbeat(tc.clock, tc.ctx->log, tc.ctx->options, tc.launcher, tc.ctx->scheduler,
-                    tc.ctx->appStatus, status)
     {
-        tc.OpenDatabase();
-        tc.ctx->appStatus.SetReady(true);
-        tc.clock.Set(At("12:00:00"));
+        appStatus.SetReady(true);
+        clock.Set(At("12:00:00"));
     }
     void TickAt(double date)
     {
-        tc.clock.Set(date);
+        clock.Set(date);
         heartbeat.Timer1_Timer();
     }
-    NextProgram& next() { return tc.ctx->scheduler.next; }
-    QString LastLogged(const QString& column)
-    {
-        Recordset& log = tc.ctx->database.ElogRecordset();
-        log.MoveLast();
-        return log.Value(column).toString();
-    }
-
-    TestContext tc;
+    NextProgram& next() { return scheduler.next; }
+    RecordingLauncher launcher;
+    Scheduler scheduler{clock, database, log, messageBox, options};
+    clsAppStatus appStatus;
     clsRecordingStatus status;
-    Heartbeat heartbeat;
+    Heartbeat heartbeat{clock, log, options, launcher, scheduler, appStatus, status};
 };
 
 } // namespace
@@ -55,19 +51,19 @@ private slots:
     void theTimer()
     {
         Fixture f;
-        f.tc.ctx->appStatus.SetReady(false);
+        f.appStatus.SetReady(false);
         f.heartbeat.Start();
         QSignalSpy rounds(&f.heartbeat, &Heartbeat::UpdateStatusBarPlus);
         f.heartbeat.Timer1_Timer();
         QCOMPARE(rounds.size(), 0);
         QCOMPARE(f.heartbeat.Timer1.Interval(), 250);
-        f.tc.ctx->appStatus.SetReady(true);
+        f.appStatus.SetReady(true);
         connect(&f.heartbeat, &Heartbeat::UpdateStatusBarPlus, this,
                 [] { throw RuntimeError(ErrorNumber::PathFileAccess, "Path/File access error"); });
         f.heartbeat.Timer1_Timer();
         QCOMPARE(rounds.size(), 1);
         QCOMPARE(f.heartbeat.Timer1.Interval(), 0);
-        QVERIFY(f.LastLogged("Details").startsWith("Module: Timer1_Timer\r\n"));
+        QVERIFY(f.LogEntries().last().details.startsWith("Module: Timer1_Timer\r\n"));
     }
 
     void aClockJumpSchedulesAnew_data()
@@ -84,15 +80,13 @@ private slots:
     {
         QFETCH(int, jump);
         QFETCH(bool, recording);
-        QFETCH(bool, scheduled);
         Fixture f;
         f.status.EndTime = At("00:00:00", 2);
-        f.tc.ctx->appStatus.SetRecording(recording);
+        f.appStatus.SetRecording(recording);
         f.TickAt(At("12:00:00")); // the first tick counts no difference
-        f.tc.AddProgram(
-            Programs::Weekly("Added behind its back", "20:00:00", "21:00:00", "1111111"));
+        f.AddProgram(Programs::Weekly("Added behind its back", "20:00:00", "21:00:00", "1111111"));
         f.TickAt(AddSeconds(At("12:00:00"), jump));
-        QCOMPARE(f.next().NextProgramFound, scheduled);
+        QTEST(f.next().NextProgramFound, "scheduled");
     }
 
     // The link opens from its time until 30 seconds later, not within 120 s of the last; the
@@ -138,11 +132,11 @@ private slots:
         Fixture f;
         f.next().NextLaunchAppPrior = "/opt/missing/player --quiet";
         f.next().NextAppLaunchTime = At("19:59:00");
-        f.tc.launcher.failing.insert("/opt/missing/player --quiet");
+        f.launcher.failing.insert("/opt/missing/player --quiet");
         f.TickAt(At("19:59:10"));
-        QCOMPARE(f.tc.launcher.started, QStringList{"/opt/missing/player --quiet"});
+        QCOMPARE(f.launcher.started, QStringList{"/opt/missing/player --quiet"});
         QCOMPARE(f.next().NextAppLaunchTime, AutomationDate::Never());
-        QCOMPARE(f.LastLogged("Message"), QStringLiteral("Invalid Launch Application command"));
+        QCOMPARE(f.LogEntries().last().message, QString("Invalid Launch Application command"));
     }
 
     // A program due at 20:00 (a stream opens ten seconds ahead, or its link's delay if
@@ -181,7 +175,7 @@ private slots:
         const double from = stream.isEmpty() ? At("20:10:00") : At("20:00:00");
         QCOMPARE(start[0], (QVariantList{7, from, At("20:30:00"), "News"}));
 
-        f.tc.ctx->appStatus.SetRecording(true);
+        f.appStatus.SetRecording(true);
         f.status.EndTime = At("20:30:00");
         QSignalSpy stop(&f.heartbeat, &Heartbeat::StopRecordingDue);
         f.TickAt(At("20:28:30"));
@@ -215,14 +209,13 @@ private slots:
     {
         QFETCH(QString, purgeTime);
         QFETCH(QStringList, ticks);
-        QFETCH(int, purges);
         Fixture f;
-        f.tc.ctx->options.PurgeRecordings = true;
-        f.tc.ctx->options.PurgeTime = Programs::TimeOfDay(purgeTime);
+        f.options.PurgeRecordings = true;
+        f.options.PurgeTime = Programs::TimeOfDay(purgeTime);
         QSignalSpy purged(&f.heartbeat, &Heartbeat::PurgeDue);
         for (const QString& tick : ticks)
             f.TickAt(At(tick.section(' ', 1), 1 + tick.section(' ', 0, 0).toInt()));
-        QCOMPARE(purged.size(), purges);
+        QTEST(int(purged.size()), "purges");
     }
 };
 

@@ -138,10 +138,7 @@ private slots:
         QCOMPARE(logind.Inhibitors().filter("|delay").size(), 1);
         QVERIFY(logind.EmitPrepareForSleep(true));
         QTRY_COMPARE(logind.Inhibitors().filter("|delay").size(), 0);
-        QStringList logged;
-        for (const LogEntry& e : p.tc.LogEntries())
-            logged << e.message;
-        QCOMPARE(logged, messages);
+        QCOMPARE(MessagesOf(p.tc.LogEntries()), messages);
         if (!messages.isEmpty())
             QVERIFY(p.tc.LogEntries().last().details.contains("Night news"));
         QVERIFY(logind.EmitPrepareForSleep(false));

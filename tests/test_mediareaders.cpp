@@ -5,10 +5,11 @@
 #include "formats/ModuleFileTime.h"
 #include "formats/Mp3Info.h"
 #include "store/Options.h"
-#include "support/OpenedContext.h"
+#include "support/StoreParts.h"
 #include "support/TestFiles.h"
 
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QtEndian>
 #include <QtTest>
@@ -110,17 +111,19 @@ private slots:
         QTest::addColumn<int>("bitrate"); // 0: variable
         QTest::addColumn<QString>("mode");
         QTest::addColumn<QString>("title"); // empty: no tag
+        QTest::addColumn<bool>("ownTag");   // the program's, written over the end
         const auto row = [](const char* tag, int rate, int channels, const QStringList& lame,
-                            int bitrate, const char* mode, const char* title = "") {
+                            int bitrate, const char* mode, const char* title = "",
+                            bool ownTag = false) {
             QTest::newRow(tag) << rate << channels << lame << bitrate << QString(mode)
-                               << QString(title);
+                               << QString(title) << ownTag;
         };
         const QStringList v1 = {"--id3v1-only", "--tt"};
         row("MPEG 1, 128 kbit/s, stereo, tagged", 44100, 2,
             QStringList{"-b", "128", "-m", "s"} + v1 + QStringList{"Evening news"}, 128, "Stereo",
             "Evening news");
-        row("MPEG 1, 192 kbit/s, joint stereo", 48000, 2, {"-b", "192", "-m", "j"}, 192,
-            "Joint Stereo");
+        row("MPEG 1, 192 kbit/s, joint stereo, the program's tag", 48000, 2,
+            {"-b", "192", "-m", "j"}, 192, "Joint Stereo", "A description far longer than", true);
         row("MPEG 2, 32 kbit/s, mono, tagged", 22050, 1,
             QStringList{"-b", "32", "-m", "m"} + v1 + QStringList{"Talk"}, 32, "Single Channel",
             "Talk");
@@ -135,13 +138,19 @@ private slots:
         QFETCH(int, bitrate);
         QFETCH(QString, mode);
         QFETCH(QString, title);
-        TestContext tc;
+        QFETCH(bool, ownTag);
+        StoreParts s;
         const int seconds = 10;
-        const QString wav = MakeWav(tc.Root(), "tone.wav", rate, channels, 16, seconds);
+        const QString wav = MakeWav(s.Root(), "tone.wav", rate, channels, 16, seconds);
         QVERIFY(!wav.isEmpty());
-        const QString mp3 = tc.Root() + "/tone.mp3";
+        const QString mp3 = s.Root() + "/tone.mp3";
         QVERIFY(Run("lame", QStringList{"--quiet", "--resample", QString::number(rate / 1000.0)} +
                                 lameArguments + QStringList{wav, mp3}));
+        const qint64 size = QFileInfo(mp3).size();
+        if (ownTag)
+            Mp3File::WriteId3Tag(mp3, "A description far longer than thirty characters", "", "", "",
+                                 "Nightreel 2000 Recording", 12);
+        QCOMPARE(QFileInfo(mp3).size(), size);
 
         Mp3Info info;
         Mp3File::GetMp3Info(mp3, true, true, info);
@@ -162,13 +171,13 @@ private slots:
                  qPrintable(QString::number(info.Duration)));
         QCOMPARE(info.HasTag, !title.isEmpty());
         QCOMPARE(info.Title, title);
+        QCOMPARE(info.Comment, ownTag ? QString("Nightreel 2000 Recording") : QString());
         // Without a tag the genre reads 255; lame leaves it unset (255) in its tags too.
-        QCOMPARE(int(info.Genre), 255);
+        QCOMPARE(int(info.Genre), ownTag ? 12 : 255);
 
-        tc.OpenDatabase();
         ModuleFileTime::SetFileDateTime(mp3, FileDate());
-        AddMp3ToList(tc.ctx->database, mp3);
-        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+        AddMp3ToList(s.database, mp3);
+        Recordset& rs = s.database.DataRecordings.recordset();
         QCOMPARE(rs.RecordCount(), 1);
         QCOMPARE(rs.Value("Title").toString(),
                  title.isEmpty() ? QStringLiteral("tone.mp3") : title);
@@ -178,25 +187,6 @@ private slots:
         QCOMPARE(rs.Value("EndTime").toDouble(), FileDate());
         QCOMPARE(AutomationDate::SecondsBetween(rs.Value("StartTime").toDouble(), FileDate()),
                  qint64(info.Duration));
-    }
-
-    void theTagWrittenOverTheEndIsReadBack()
-    {
-        TestContext tc;
-        const QString wav = MakeWav(tc.Root(), "tone.wav", 44100, 1, 16, 3);
-        const QString mp3 = tc.Root() + "/tone.mp3";
-        QVERIFY(Run("lame", {"--quiet", "-b", "64", wav, mp3}));
-        const qint64 size = QFileInfo(mp3).size();
-        Mp3File::WriteId3Tag(mp3, "A description far longer than thirty characters", "", "", "",
-                             "Nightreel 2000 Recording", 12);
-        QCOMPARE(QFileInfo(mp3).size(), size);
-        Mp3Info info;
-        Mp3File::GetMp3Info(mp3, true, true, info);
-        QVERIFY(info.HasTag);
-        QCOMPARE(info.Title, QStringLiteral("A description far longer than"));
-        QCOMPARE(info.Comment, QStringLiteral("Nightreel 2000 Recording"));
-        QCOMPARE(int(info.Genre), 12);
-        QCOMPARE(int(info.Bitrate), 64);
     }
 
     void pcmWaveFilesOfSoxAreRead_data()
@@ -214,9 +204,8 @@ private slots:
         QFETCH(int, rate);
         QFETCH(int, channels);
         QFETCH(int, bits);
-        QFETCH(QString, format);
-        OpenedContext tc;
-        const QString path = MakeWav(tc.Root(), "tone.wav", rate, channels, bits, 20);
+        QTemporaryDir dir;
+        const QString path = MakeWav(dir.path(), "tone.wav", rate, channels, bits, 20);
         QVERIFY(!path.isEmpty());
         ModuleFileTime::SetFileDateTime(path, FileDate());
         RecordingRow row;
@@ -224,7 +213,7 @@ private slots:
         QVERIFY(!MediaReaders::ReadNightreelCompressedWave(path, row));
         QVERIFY(MediaReaders::ReadOtherWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("tone.wav"));
-        QCOMPARE(row.CompressionMethod, format);
+        QTEST(row.CompressionMethod, "format");
         QCOMPARE(row.EndTime, FileDate());
         QCOMPARE(AutomationDate::SecondsBetween(row.StartTime, row.EndTime), qint64(20));
         QCOMPARE(row.Size, float(QFileInfo(path).size()) / 1024.0f / 1024.0f);
@@ -245,11 +234,12 @@ private slots:
     {
         QFETCH(int, createdMinutesAfterStart);
         QFETCH(int, shiftMinutes);
-        TestContext tc;
+        QTemporaryDir dir;
         // The file holds 10 seconds (and its headers, a few ms more).
         const double start = FileDate() - Seconds(10);
-        const QString path = WriteFile(
-            tc.Root(), "show.wav", NightreelWave(start + Seconds(60.0 * createdMinutesAfterStart)));
+        const QString path =
+            WriteFile(dir.path(), "show.wav",
+                      NightreelWave(start + Seconds(60.0 * createdMinutesAfterStart)));
         RecordingRow row;
         QVERIFY(MediaReaders::ReadNightreelWave(path, row));
         QCOMPARE(row.Title, QStringLiteral("Morning show"));
@@ -271,12 +261,12 @@ private slots:
     {
         QFETCH(QByteArray, fact);
         QFETCH(int, seconds);
-        TestContext tc;
+        QTemporaryDir dir;
         const QByteArray wave =
             Riff("WAVE", Chunk("ISFT", Text("Nightreel 2000 1.0 ")) + Chunk("INAM", Text("News ")) +
                              Chunk("fmt ", CodecCatalogue::Mp3Record(2, 44100, 128)) +
                              Chunk("fact", fact) + Chunk("data", QByteArray(4000, '\x55')));
-        const QString path = WriteFile(tc.Root(), "news.wav", wave);
+        const QString path = WriteFile(dir.path(), "news.wav", wave);
         RecordingRow row;
         QVERIFY(!MediaReaders::ReadNightreelWave(path, row));
         QVERIFY(MediaReaders::ReadNightreelCompressedWave(path, row));
@@ -330,31 +320,31 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, content);
         QFETCH(bool, listed);
-        OpenedContext tc;
-        const QString path = WriteFile(tc.Root(), name, content);
+        StoreParts s;
+        const QString path = WriteFile(s.Root(), name, content);
         if (name.endsWith(".mp3")) {
-            AddMp3ToList(tc.ctx->database, path);
+            AddMp3ToList(s.database, path);
         } else {
             bool found = true;
-            AddNightreelWaveToList(tc.ctx->database, path, found);
+            AddNightreelWaveToList(s.database, path, found);
             QVERIFY(!found);
-            AddNightreelCompressedWaveToList(tc.ctx->database, path, found);
+            AddNightreelCompressedWaveToList(s.database, path, found);
             QVERIFY(!found);
-            AddOtherWaveToList(tc.ctx->database, path);
+            AddOtherWaveToList(s.database, path);
         }
-        QCOMPARE(tc.CountRows("Recordings"), listed ? 1 : 0);
+        QCOMPARE(s.CountRows("Recordings"), listed ? 1 : 0);
         if (listed) {
-            Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+            Recordset& rs = s.database.DataRecordings.recordset();
             QTEST(rs.Value("CompressionMethod").toString(), "format");
             QTEST(rs.Value("Title").toString(), "title");
         }
-        QCOMPARE(tc.CountRows("EventLog"), 0);
+        QCOMPARE(s.CountRows("EventLog"), 0);
     }
 
     void inspectPrintsTheRowOrNothing()
     {
-        OpenedContext tc;
-        const QString wave = WriteFile(tc.Root(), "show.wav", NightreelWave(FileDate()));
+        QTemporaryDir dir;
+        const QString wave = WriteFile(dir.path(), "show.wav", NightreelWave(FileDate()));
         QString text;
         QTextStream out(&text);
         QCOMPARE(InspectFile(wave, out), 0);
@@ -364,12 +354,11 @@ private slots:
         QCOMPARE(lines.value(3), QStringLiteral("End: 2026-06-01 12:00:00"));
         QCOMPARE(lines.value(4), QStringLiteral("Format: PCM 11.025 kHz, 8 Bit, Mono"));
         QVERIFY(lines.value(5).startsWith("Size: 0.105"));
-        QCOMPARE(tc.CountRows("Recordings"), 0);
 
         text.clear();
-        const QString notes = WriteFile(tc.Root(), "notes.txt", "RIFF");
+        const QString notes = WriteFile(dir.path(), "notes.txt", "RIFF");
         QVERIFY(InspectFile(notes, out) != 0);
-        QVERIFY(InspectFile(tc.Root() + "/missing.wav", out) != 0);
+        QVERIFY(InspectFile(dir.path() + "/missing.wav", out) != 0);
         QVERIFY(text.isEmpty());
     }
 };

@@ -1,8 +1,12 @@
 // Recordings missed while the recorder was not running or the computer slept: what the log
 // says at the next start and after a resume, over a real database and settings file.
 #include "Programs.h"
-#include "TestContext.h"
-#include "recording/RecorderParts.h"
+#include "StoreParts.h"
+#include "common/clsAppStatus.h"
+#include "platform/LogindSleepInhibitor.h"
+#include "recording/MissedRecordings.h"
+#include "recording/clsRecordingStatus.h"
+#include "scheduling/Scheduler.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -22,27 +26,23 @@ QString Due(const QString& description, double start)
            Options::TimeText(AutomationDate::TimePart(start));
 }
 
-// The recorder's check over a context whose last run left its alive stamp (0: none).
-struct Run {
+// The check over a database and settings file whose last run left its alive stamp (0: none),
+// on a machine without logind.
+struct Run : StoreParts {
     Run(const QList<QVariantHash>& programs, double stamp)
-        : missed(RecorderParts::Missed(tc.ctx->recorder))
     {
-        tc.OpenDatabase();
         for (const QVariantHash& p : programs)
-            tc.AddProgram(p);
-        tc.ctx->database.DataPrograms.Requery();
+            AddProgram(p);
         if (stamp > 0)
-            tc.ctx->registry.SaveSetting("Settings", "RecorderAliveTime", QString::number(stamp));
+            registry.SaveSetting("Settings", "RecorderAliveTime", QString::number(stamp));
     }
-    QStringList Messages() const
-    {
-        QStringList messages;
-        for (const LogEntry& e : tc.LogEntries())
-            messages << e.message;
-        return messages;
-    }
-    TestContext tc;
-    MissedRecordings& missed;
+    QStringList Messages() { return MessagesOf(LogEntries()); }
+
+    Scheduler scheduler{clock, database, log, messageBox, options};
+    clsAppStatus appStatus;
+    clsRecordingStatus status;
+    LogindSleepInhibitor sleep{QDBusConnection(QString()), Root() + "/wakealarm"};
+    MissedRecordings missed{clock, log, registry, scheduler, database, appStatus, status, sleep};
 };
 
 } // namespace
@@ -102,8 +102,8 @@ private slots:
         QFETCH(int, count);
         QFETCH(QString, first);
         Run r(programs, stamp);
-        QSignalSpy notified(&r.tc.ctx->recorder, &Recorder::RecordingsMissed);
-        r.tc.clock.Set(now);
+        QSignalSpy notified(&r.missed, &MissedRecordings::RecordingsMissed);
+        r.clock.Set(now);
         r.missed.CheckAtStart();
         const QStringList messages = r.Messages();
         QCOMPARE(messages.size(), count);
@@ -111,7 +111,7 @@ private slots:
         if (count > 0)
             QCOMPARE(messages.first(), first);
         // Once each: the next start looks back only as far as this one.
-        r.tc.clock.AdvanceSeconds(600);
+        r.clock.AdvanceSeconds(600);
         r.missed.CheckAtStart();
         QCOMPARE(r.Messages().size(), count);
     }
@@ -121,15 +121,14 @@ private slots:
         Run r({Programs::Weekly("Late show", "23:00:00", "01:00:00", "0100000"),
                Programs::Weekly("Night news", "00:00:00", "00:05:00", "0010000")},
               Jun(1, "22:00:00"));
-        r.tc.clock.Set(Jun(1, "22:00:00"));
+        r.clock.Set(Jun(1, "22:00:00"));
         r.missed.CheckAtStart();
-        SleepInhibitor& sleep = r.tc.sleepInhibitor;
-        r.tc.clock.Set(Jun(1, "22:30:00"));
-        emit sleep.PrepareForSleep(true);
+        r.clock.Set(Jun(1, "22:30:00"));
+        emit r.sleep.PrepareForSleep(true);
         // A heartbeat that comes before the word after waking does not hide the sleep.
-        r.tc.clock.Set(Jun(2, "00:30:00"));
+        r.clock.Set(Jun(2, "00:30:00"));
         r.missed.NoteAlive();
-        emit sleep.PrepareForSleep(false);
+        emit r.sleep.PrepareForSleep(false);
         const QString asleep = " (the computer was asleep)";
         QCOMPARE(
             r.Messages(),

@@ -1,17 +1,20 @@
 // The mixer profiles, the master volume and the mixer application as the program uses them,
 // with the real mixer library against a PulseAudio server of the test's own.
+#include "MemoryLog.h"
 #include "Pactl.h"
 #include "PulseFixture.h"
-#include "TestContext.h"
+#include "ScriptedMessageBox.h"
 #include "TestFiles.h"
 #include "diagnostics/Trap.h"
 #include "platform/DetachedProcessLauncher.h"
-#include "platform/ProcessLauncher.h"
+#include "platform/MixsetMixer.h"
 #include "sideactions/LaunchMixer.h"
+#include "sideactions/MixerProfiles.h"
 #include "sideactions/Volume.h"
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 
@@ -33,15 +36,25 @@ private:
     QByteArray m_saved;
 };
 
+// The profiles in a folder of their own, over the real mixer library of this build, logging
+// into memory.
+struct Parts {
+    QTemporaryDir dir;
+    MemoryLog log;
+    ScriptedMessageBox messageBox;
+    MixsetMixer mixer{QStringLiteral(NIGHTREEL_MIXSET_DIR)};
+    MixerProfiles profiles{log.log, mixer, dir.path() + "/mixer"};
+};
+
 } // namespace
 
 class TestMixerProfiles : public QObject {
     Q_OBJECT
 
     std::unique_ptr<PulseFixture> m_pulse;
-    std::unique_ptr<TestContext> m_tc;
+    std::unique_ptr<Parts> m_parts;
 
-    MixerProfiles& Profiles() { return m_tc->ctx->mixerProfiles; }
+    MixerProfiles& Profiles() { return m_parts->profiles; }
 
 private slots:
     void initTestCase()
@@ -50,11 +63,10 @@ private slots:
         QVERIFY2(m_pulse->Running(), "the test's own PulseAudio server did not start");
     }
 
-    // A fresh context and the server as the fixture starts it.
+    // Fresh parts and the server as the fixture starts it.
     void init()
     {
-        m_tc = std::make_unique<TestContext>();
-        m_tc->OpenDatabase();
+        m_parts = std::make_unique<Parts>();
         QVERIFY(Run({"set-sink-volume", "recsink", "100%"}));
         QVERIFY(Run({"set-source-volume", "recmic", "100%"}));
         QVERIFY(Run({"set-source-mute", "recmic", "0"}));
@@ -62,24 +74,29 @@ private slots:
         QVERIFY(Run({"set-default-source", "recmic"}));
     }
 
-    void cleanup() { m_tc.reset(); }
+    void cleanup() { m_parts.reset(); }
     void cleanupTestCase() { m_pulse.reset(); }
 
-    // A profile that is missing or empty is no error; one the library refuses is logged with
-    // its number; a library that can't be loaded is the routine's run-time error.
-    void activationFailures_data()
+    // A profile that is missing or empty is no error; one the library refuses, or a save
+    // without a server, is logged with the library's number and asks nothing.
+    void failuresAreLogged_data()
     {
+        QTest::addColumn<bool>("save");
         QTest::addColumn<QByteArray>("content"); // empty: a file of no length
         QTest::addColumn<bool>("serverGone");
         QTest::addColumn<QString>("logged"); // a warning's message and details
-        QTest::newRow("empty file") << QByteArray() << false << QString();
-        QTest::newRow("server gone") << QByteArray("nightreel-mixer-profile 1\n") << true
-                                     << "Error activating mixer profile: Error number = 1";
-        QTest::newRow("not a profile") << QByteArray("garbage\n") << false
+        const QByteArray profile = "nightreel-mixer-profile 1\n";
+        QTest::newRow("empty file") << false << QByteArray() << false << QString();
+        QTest::newRow("server gone")
+            << false << profile << true << "Error activating mixer profile: Error number = 1";
+        QTest::newRow("not a profile") << false << QByteArray("garbage\n") << false
                                        << "Error activating mixer profile: Error number = 3";
+        QTest::newRow("saved without a server")
+            << true << profile << true << "Error saving mixer profile: Error number = 1";
     }
-    void activationFailures()
+    void failuresAreLogged()
     {
+        QFETCH(bool, save);
         QFETCH(QByteArray, content);
         QFETCH(bool, serverGone);
         QFETCH(QString, logged);
@@ -90,9 +107,14 @@ private slots:
             std::optional<NoServer> noServer;
             if (serverGone)
                 noServer.emplace();
-            Profiles().ActivateMixerProfile("Broken");
+            if (save)
+                QCOMPARE(Profiles().SaveMixerProfile("Night", m_parts->messageBox),
+                         MixerProfiles::SaveOutcome::Failed);
+            else
+                Profiles().ActivateMixerProfile("Broken");
         }
-        const QList<LogEntry> entries = m_tc->LogEntries();
+        QVERIFY(m_parts->messageBox.asked.isEmpty());
+        const QList<LogEntry>& entries = m_parts->log.entries;
         if (logged.isEmpty()) {
             QVERIFY(entries.isEmpty());
             QVERIFY(!QFile::exists(Profiles().PathOf("Broken")));
@@ -106,14 +128,14 @@ private slots:
 
     void missingLibraryIsTrapped()
     {
-        MixsetMixer absent(m_tc->Root() + "/no library here");
-        MixerProfiles profiles(m_tc->ctx->log, absent, Profiles().Folder());
+        MixsetMixer absent(m_parts->dir.path() + "/no library here");
+        MixerProfiles profiles(m_parts->log.log, absent, Profiles().Folder());
         QDir().mkpath(profiles.Folder());
         QVERIFY(WriteFile(profiles.PathOf("Any"), "nightreel-mixer-profile 1\n"));
-        Trap(m_tc->ctx->log, "test", [&] { profiles.ActivateMixerProfile("Any"); });
-        Trap(m_tc->ctx->log, "test", [&] { Volume::GetVolume(absent); });
-        Trap(m_tc->ctx->log, "test", [&] { Volume::SetVolume(absent, 50); });
-        const QList<LogEntry> entries = m_tc->LogEntries();
+        Trap(m_parts->log.log, "test", [&] { profiles.ActivateMixerProfile("Any"); });
+        Trap(m_parts->log.log, "test", [&] { Volume::GetVolume(absent); });
+        Trap(m_parts->log.log, "test", [&] { Volume::SetVolume(absent, 50); });
+        const QList<LogEntry>& entries = m_parts->log.entries;
         QCOMPARE(entries.size(), 3);
         const QStringList routines{"Activate Mixer Profile", "GetVolume", "SetVolume"};
         for (int i = 0; i < 3; ++i) {
@@ -153,28 +175,15 @@ private slots:
         QDir().mkpath(Profiles().Folder());
         const QByteArray old = "nightreel-mixer-profile 1\n";
         QVERIFY(WriteFile(Profiles().PathOf("Old"), old));
-        m_tc->messageBox.answers = answers;
+        m_parts->messageBox.answers = answers;
 
-        QCOMPARE(int(Profiles().SaveMixerProfile(typed, m_tc->messageBox)), outcome);
-        QCOMPARE(m_tc->messageBox.asked.size(), 1);
-        QVERIFY2(m_tc->messageBox.asked[0].text.contains(asked),
-                 qPrintable(m_tc->messageBox.asked[0].text));
+        QCOMPARE(int(Profiles().SaveMixerProfile(typed, m_parts->messageBox)), outcome);
+        QCOMPARE(m_parts->messageBox.asked.size(), 1);
+        QVERIFY2(m_parts->messageBox.asked[0].text.contains(asked),
+                 qPrintable(m_parts->messageBox.asked[0].text));
         const bool replaced = ReadFile(Profiles().PathOf("Old")) != old;
         QCOMPARE(replaced, outcome == int(MixerProfiles::SaveOutcome::Overwritten));
         QCOMPARE(Profiles().Names(), QStringList{"Old"});
-    }
-
-    void saveWithoutServerIsLogged()
-    {
-        NoServer noServer;
-        QCOMPARE(Profiles().SaveMixerProfile("Night", m_tc->messageBox),
-                 MixerProfiles::SaveOutcome::Failed);
-        const QList<LogEntry> entries = m_tc->LogEntries();
-        QCOMPARE(entries.size(), 1);
-        QCOMPARE(entries[0].type, 1);
-        QCOMPARE(entries[0].message + ": " + entries[0].details,
-                 QString("Error saving mixer profile: Error number = 1"));
-        QVERIFY(m_tc->messageBox.asked.isEmpty());
     }
 
     // The wrapper clamps what it sets and reads to 0..100; without a server it changes nothing
@@ -205,15 +214,15 @@ private slots:
             std::optional<NoServer> noServer;
             if (!server)
                 noServer.emplace();
-            QTEST(Volume::GetVolume(m_tc->mixer), "read");
-            QCOMPARE(Volume::SetVolume(m_tc->mixer, set), server);
+            QTEST(Volume::GetVolume(m_parts->mixer), "read");
+            QCOMPARE(Volume::SetVolume(m_parts->mixer, set), server);
         }
         const Volumes volumes = VolumesOf("sink", "recsink");
         QCOMPARE(volumes.size(), 2);
         for (uint channel : volumes)
             QVERIFY2(std::abs(double(channel) - after * 65536 / 100.0) <= 1.0,
                      qPrintable(QString::number(channel)));
-        QVERIFY(m_tc->LogEntries().isEmpty());
+        QVERIFY(m_parts->log.entries.isEmpty());
     }
 
     // The mixer path is one program, blanks and quotes included; one that can't be started
@@ -232,20 +241,20 @@ private slots:
     {
         QFETCH(QString, name);
         QFETCH(bool, executable);
-        const QString folder = m_tc->Root() + "/mixer app";
+        const QString folder = m_parts->dir.path() + "/mixer app";
         QDir().mkpath(folder);
         const QString program = folder + "/" + (name.isEmpty() ? "vanished" : name);
-        const QString ran = m_tc->Root() + "/ran";
+        const QString ran = m_parts->dir.path() + "/ran";
         if (!name.isEmpty()) {
             QVERIFY(WriteFile(program, ("#!/bin/sh\necho \"$#\" > '" + ran + "'\n").toUtf8()));
             if (executable)
                 QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
         }
         DetachedProcessLauncher launcher;
-        LaunchMixer(m_tc->ctx->log, launcher, program);
+        LaunchMixer(m_parts->log.log, launcher, program);
 
-        const QList<LogEntry> entries = m_tc->LogEntries();
-        QVERIFY(m_tc->messageBox.asked.isEmpty());
+        const QList<LogEntry>& entries = m_parts->log.entries;
+        QVERIFY(m_parts->messageBox.asked.isEmpty());
         if (executable) {
             QVERIFY(entries.isEmpty());
             // The script writes how many arguments it was given: none.

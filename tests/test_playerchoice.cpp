@@ -2,13 +2,12 @@
 // the choice by extension, the desktop's default program through a private handler
 // registry, and recordings that are gone.
 #include "DesktopData.h"
-#include "FakeRecordingsListView.h"
 #include "RecordingsListFixture.h"
 #include "TestFiles.h"
+#include "common/clsAppStatus.h"
 #include "platform/OpenWithDefaultProgram.h"
 #include "player/PlayerChoice.h"
 #include "player/PlayerPanels.h"
-#include "recordingslist/RecordingsListCommands.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -54,21 +53,21 @@ struct FakePanels : PlayerPanels {
 
 struct Fixture : RecordingsListFixture {
     explicit Fixture(bool available = true)
-        : choice(ctx.log, ctx.registry, ctx.options, tc.messageBox, panels, &OpenWithDefaultProgram,
+        : choice(log, registry, options, messageBox, panels, &OpenWithDefaultProgram,
                  [available] { return available; })
     {
         choice.CheckMediaPlayerControl();
     }
     QString Stored(const QString& name) const
     {
-        return ctx.registry.GetSetting("Settings", name, "<none>");
+        return registry.GetSetting("Settings", name, "<none>");
     }
     QString Write(const QString& name, const QByteArray& content) const
     {
         return WriteFile(File(name), content) ? File(name) : QString();
     }
-    AppContext& ctx = *tc.ctx;
-    FakePanels panels{ctx.appStatus};
+    clsAppStatus appStatus;
+    FakePanels panels{appStatus};
     PlayerChoice choice;
 };
 
@@ -118,11 +117,11 @@ private slots:
         QFETCH(QString, wav);
         QFETCH(QString, mp3);
         Fixture f(available);
-        f.ctx.registry.SaveSetting("Settings", "WavPlayer", wav);
-        f.ctx.registry.SaveSetting("Settings", "Mp3Player", mp3);
+        f.registry.SaveSetting("Settings", "WavPlayer", wav);
+        f.registry.SaveSetting("Settings", "Mp3Player", mp3);
         f.choice.GetPlayerSetting();
-        QTEST(f.ctx.options.WavPlayer, "wavAfter");
-        QTEST(f.ctx.options.Mp3Player, "mp3After");
+        QTEST(f.options.WavPlayer, "wavAfter");
+        QTEST(f.options.Mp3Player, "mp3After");
         // Only a change is written: a name read right but for blanks stays as it was.
         QTEST(f.Stored("WavPlayer").trimmed(), "wavAfter");
         QTEST(f.Stored("Mp3Player").trimmed(), "mp3After");
@@ -150,8 +149,8 @@ private slots:
         QFile::remove(Opened());
         QFETCH(QString, wav);
         QFETCH(QString, mp3);
-        f.ctx.options.WavPlayer = wav;
-        f.ctx.options.Mp3Player = mp3;
+        f.options.WavPlayer = wav;
+        f.options.Mp3Player = mp3;
         const QString path = f.Write(file, "RIFF");
         f.choice.PlayExistingFile(path, "Title", 0.0);
 
@@ -159,60 +158,37 @@ private slots:
             QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Opened()), 10000);
             QCOMPARE(QString::fromUtf8(ReadFile(Opened())), path);
         } else if (opened == "message") {
-            QCOMPARE(f.tc.messageBox.asked.size(), 1);
-            QCOMPARE(f.tc.messageBox.asked[0].text,
+            QCOMPARE(f.messageBox.asked.size(), 1);
+            QCOMPARE(f.messageBox.asked[0].text,
                      "Error Launching default desktop MP3 player. Error Code=31\nPerhaps there "
                      "is no desktop application associated with MP3 files.");
-            QCOMPARE(f.tc.messageBox.asked[0].icon, MsgIcon::Exclamation);
+            QCOMPARE(f.messageBox.asked[0].icon, MsgIcon::Exclamation);
         } else {
             QCOMPARE(f.panels.opened, opened);
         }
         if (opened != "message")
-            QVERIFY(f.tc.messageBox.asked.isEmpty());
+            QVERIFY(f.messageBox.asked.isEmpty());
         // Nobody knows when the default program stops: no panel opens, and the application
         // isn't playing.
         const bool panel = opened.startsWith("enhanced") || opened.startsWith("classic");
         QCOMPARE(f.panels.opened.isEmpty(), !panel);
-        QCOMPARE(f.ctx.appStatus.Playing(), panel);
+        QCOMPARE(f.appStatus.Playing(), panel);
     }
 
-    void goneRecordings_data()
+    // A recent recording of no length counts as gone and goes, and is forgotten. (From the
+    // grid, the list's commands find it gone before a player is chosen.)
+    void aGoneRecentRecordingIsForgotten()
     {
-        QTest::addColumn<bool>("fromGrid");
-        QTest::addColumn<QString>("title");
-        QTest::newRow("grid") << true << "Recording file not found";
-        QTest::newRow("tool bar") << false << "Recent Recording Not Found";
-    }
-
-    // A file of no length counts as gone and goes; the recent one is forgotten as well.
-    void goneRecordings()
-    {
-        QFETCH(bool, fromGrid);
         Fixture f;
-        f.ctx.options.WavPlayer = kEnhanced;
+        f.options.WavPlayer = kEnhanced;
         const QString path = f.Write("empty.wav", QByteArray());
-        if (fromGrid) {
-            FakeRecordingsListView view;
-            view.play = [&f](const QString& file, const QString& title, double start) {
-                f.choice.PlayExistingFile(file, title, start);
-            };
-            RecordingsListCommands commands(f.ctx.database, f.list, f.ctx.log, f.tc.messageBox,
-                                            f.ctx.options, view);
-            Recordset& rs = f.ctx.database.DataRecordings.recordset();
-            rs.AddNew();
-            rs.SetValue("File", path);
-            rs.Update();
-            view.commandRow = rs.LastModified();
-            commands.RecordingsPlay();
-        } else {
-            f.ctx.options.SaveRecentRecording(f.ctx.registry, path, "Recent", 45000.5);
-            f.choice.ToolbarPlay();
-            QCOMPARE(f.ctx.options.RecentRecordingFilename, QString());
-            QCOMPARE(f.Stored("RecentRecordingFilename").trimmed(), QString());
-            QCOMPARE(f.Stored("RecentRecordingDescription").trimmed(), QString());
-        }
-        QCOMPARE(f.tc.messageBox.asked.size(), 1);
-        QTEST(f.tc.messageBox.asked[0].title, "title");
+        f.options.SaveRecentRecording(f.registry, path, "Recent", 45000.5);
+        f.choice.ToolbarPlay();
+        QCOMPARE(f.options.RecentRecordingFilename, QString());
+        QCOMPARE(f.Stored("RecentRecordingFilename").trimmed(), QString());
+        QCOMPARE(f.Stored("RecentRecordingDescription").trimmed(), QString());
+        QCOMPARE(f.messageBox.asked.size(), 1);
+        QCOMPARE(f.messageBox.asked[0].title, QString("Recent Recording Not Found"));
         QVERIFY(!QFile::exists(path));
         QVERIFY(f.panels.opened.isEmpty());
     }

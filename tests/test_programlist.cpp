@@ -6,8 +6,6 @@
 
 namespace {
 
-using ListFixture = ProgramListFixture<>;
-
 QVariantHash Disabled(QVariantHash row)
 {
     row["Enabled"] = 0;
@@ -37,46 +35,46 @@ private slots:
         QFETCH(int, answer);
         QFETCH(int, rowsLeft);
         QFETCH(int, selectedLeft);
-        ListFixture f;
+        ProgramListFixture f;
         QList<qint64> ids;
         for (int i = 0; i < 6; ++i)
             ids << f.Add(
                 Programs::Weekly("P" + QString::number(i), "10:00:00", "11:00:00", "0100000"));
         f.view.selected = {ids[0], ids[2], ids[4]};
         f.view.current = ids[5];
-        f.tc.messageBox.answers = {MsgResult(answer)};
+        f.messageBox.answers = {MsgResult(answer)};
 
         f.commands.RemovePrograms();
 
-        QCOMPARE(f.tc.messageBox.asked.size(), 1);
-        QCOMPARE(f.tc.messageBox.asked[0].title, QString("Remove Programs"));
-        QCOMPARE(f.tc.messageBox.asked[0].text,
+        QCOMPARE(f.messageBox.asked.size(), 1);
+        QCOMPARE(f.messageBox.asked[0].title, QString("Remove Programs"));
+        QCOMPARE(f.messageBox.asked[0].text,
                  QString("Are you sure you want to remove the selected programs."));
-        QCOMPARE(f.tc.messageBox.asked[0].buttons, MsgButtons::YesNo);
-        QCOMPARE(f.tc.CountRows("Programs"), rowsLeft);
-        QVERIFY(f.Column(ids[1], "ID").isValid());
-        QVERIFY(f.Column(ids[3], "ID").isValid());
+        QCOMPARE(f.messageBox.asked[0].buttons, MsgButtons::YesNo);
+        QCOMPARE(f.CountRows("Programs"), rowsLeft);
+        QVERIFY(f.ProgramColumn(ids[1], "ID").isValid());
+        QVERIFY(f.ProgramColumn(ids[3], "ID").isValid());
         QCOMPARE(f.view.selected.size(), selectedLeft);
     }
 
     void removingTheLastRowLeavesNothingScheduled()
     {
-        ListFixture f;
+        ProgramListFixture f;
         const qint64 only = f.Add(Programs::Weekly("Only", "10:00:00", "11:00:00", "1111111"));
-        f.tc.ctx->scheduler.ScheduleNextRecording();
-        QVERIFY(f.tc.ctx->scheduler.next.NextProgramFound);
+        f.scheduler.ScheduleNextRecording();
+        QVERIFY(f.scheduler.next.NextProgramFound);
         // Launch times left from before must go too.
-        f.tc.ctx->scheduler.next.NextLinkLaunchTime = 0;
-        f.tc.ctx->scheduler.next.NextAppLaunchTime = 0;
+        f.scheduler.next.NextLinkLaunchTime = 0;
+        f.scheduler.next.NextAppLaunchTime = 0;
         f.view.current = only;
-        f.tc.messageBox.answers = {MsgResult::Yes};
+        f.messageBox.answers = {MsgResult::Yes};
 
         f.commands.RemovePrograms();
 
-        QCOMPARE(f.tc.CountRows("Programs"), 0);
-        QVERIFY(!f.tc.ctx->scheduler.next.NextProgramFound);
-        QCOMPARE(f.tc.ctx->scheduler.next.NextLinkLaunchTime, AutomationDate::Never());
-        QCOMPARE(f.tc.ctx->scheduler.next.NextAppLaunchTime, AutomationDate::Never());
+        QCOMPARE(f.CountRows("Programs"), 0);
+        QVERIFY(!f.scheduler.next.NextProgramFound);
+        QCOMPARE(f.scheduler.next.NextLinkLaunchTime, AutomationDate::Never());
+        QCOMPARE(f.scheduler.next.NextAppLaunchTime, AutomationDate::Never());
         QVERIFY(f.view.buttonUpdates > 0);
     }
 
@@ -112,7 +110,7 @@ private slots:
         QFETCH(QString, question);
         QFETCH(bool, firstEnabledAfter);
         QFETCH(bool, secondEnabledAfter);
-        ListFixture f;
+        ProgramListFixture f;
         const QString longName = "An evening concert from the hall downtown";
         const QList<qint64> ids{
             f.Add(Programs::Weekly(longName, "10:00:00", "11:00:00", "0100000")),
@@ -122,21 +120,21 @@ private slots:
         if (cursor >= 0)
             f.view.current = ids[cursor];
         f.view.enableDisableChoice = answer;
-        f.tc.messageBox.answers = {MsgResult(answer)};
+        f.messageBox.answers = {MsgResult(answer)};
 
         f.commands.ToggleProgramEnables();
 
         QCOMPARE(f.view.enableDisableShown, question.isEmpty() ? 1 : 0);
-        QCOMPARE(f.tc.messageBox.asked.size(), question.isEmpty() ? 0 : 1);
+        QCOMPARE(f.messageBox.asked.size(), question.isEmpty() ? 0 : 1);
         if (!question.isEmpty()) {
-            QCOMPARE(f.tc.messageBox.asked[0].text, question);
+            QCOMPARE(f.messageBox.asked[0].text, question);
             QCOMPARE(f.view.current, ids[cursor]);
         }
-        QCOMPARE(Field::ToBool(f.Column(ids[0], "Enabled")), firstEnabledAfter);
-        QCOMPARE(Field::ToBool(f.Column(ids[1], "Enabled")), secondEnabledAfter);
-        QCOMPARE(f.Column(ids[0], "DescriptionText").toString(),
+        QCOMPARE(Field::ToBool(f.ProgramColumn(ids[0], "Enabled")), firstEnabledAfter);
+        QCOMPARE(Field::ToBool(f.ProgramColumn(ids[1], "Enabled")), secondEnabledAfter);
+        QCOMPARE(f.ProgramColumn(ids[0], "DescriptionText").toString(),
                  ProgramEditor::DescriptionText(longName, firstEnabledAfter));
-        QCOMPARE(f.Column(ids[1], "DescriptionText").toString(),
+        QCOMPARE(f.ProgramColumn(ids[1], "DescriptionText").toString(),
                  secondEnabledAfter ? QString("Night talk")
                                     : QString("Night talk   **DISABLED** "));
     }
@@ -145,7 +143,7 @@ private slots:
     // add does not, and both bring the buttons up to date.
     void editAndCloneFindTheirRow()
     {
-        ListFixture f;
+        ProgramListFixture f;
         f.commands.EditProgram(); // empty list: nothing at all
         QCOMPARE(f.view.formsShown, 0);
 
@@ -165,14 +163,14 @@ private slots:
         QVERIFY(!f.view.shownEditing);
         QCOMPARE(f.view.shownWith.FormDescription, QString("B"));
         QVERIFY(f.view.selected.isEmpty());
-        QCOMPARE(f.tc.CountRows("Programs"), 2);
+        QCOMPARE(f.CountRows("Programs"), 2);
         QCOMPARE(f.view.buttonUpdates, updates + 2);
     }
 
     void aNewProgramStartsAtTheNextWholeHourAndIsScheduledWhenSaved()
     {
-        ListFixture f;
-        f.tc.clock.Set(QDateTime(QDate(2026, 6, 1), QTime(23, 20, 15)));
+        ProgramListFixture f;
+        f.clock.Set(QDateTime(QDate(2026, 6, 1), QTime(23, 20, 15)));
         f.view.answerForm = [](ProgramFormValues& v) {
             v.FormDescription = "Late show";
         };
@@ -185,10 +183,10 @@ private slots:
         QCOMPARE(AutomationDate::ToDateTime(shown.FormOneTimeDay).date(), QDate(2026, 6, 2));
         QVERIFY(shown.FormEnabled);
         QCOMPARE(shown.FormFrequency, qint16(0));
-        QCOMPARE(shown.FormCompressionMethod, f.tc.ctx->WfxDefault.TextCompressionMethod);
+        QCOMPARE(shown.FormCompressionMethod, f.defaultFormat.TextCompressionMethod);
 
-        QCOMPARE(f.tc.CountRows("Programs"), 1);
-        const NextProgram& next = f.tc.ctx->scheduler.next;
+        QCOMPARE(f.CountRows("Programs"), 1);
+        const NextProgram& next = f.scheduler.next;
         QVERIFY(next.NextProgramFound);
         QCOMPARE(next.NextProgramDescription, QString("Late show"));
         QCOMPARE(next.NextProgramStart, Programs::At(2026, 6, 2, "00:00:00"));
@@ -222,7 +220,7 @@ private slots:
         QFETCH(QString, days);
         QFETCH(QString, descriptionText);
         QFETCH(QString, frequencyText);
-        ListFixture f;
+        ProgramListFixture f;
         QVariantHash row =
             Programs::Weekly("123456789012345678901234567890", "10:00:00", "11:00:00", days);
         row["RecordingCancelled"] = -1;
@@ -234,25 +232,24 @@ private slots:
 
         f.commands.EditProgram();
 
-        QCOMPARE(f.tc.CountRows("Programs"), 1);
-        QCOMPARE(f.Column(id, "DescriptionText").toString(), descriptionText);
-        QCOMPARE(f.Column(id, "FrequencyText").toString(), frequencyText);
-        QVERIFY(!Field::ToBool(f.Column(id, "RecordingCancelled")));
+        QCOMPARE(f.CountRows("Programs"), 1);
+        QCOMPARE(f.ProgramColumn(id, "DescriptionText").toString(), descriptionText);
+        QCOMPARE(f.ProgramColumn(id, "FrequencyText").toString(), frequencyText);
+        QVERIFY(!Field::ToBool(f.ProgramColumn(id, "RecordingCancelled")));
     }
 
     void oldRowsReadWithTheirNullRules()
     {
-        ListFixture f;
+        ProgramListFixture f;
         QVariantHash row = Programs::Weekly("Old", "10:00:00", "11:00:00", "0100000");
         row.remove("StreamingPlayerClose");
         row.remove("LaunchAppDelay");
         row.remove("InternetLinkDelay");
         row["LaunchAppPrior"] = "  player --start  ";
         const qint64 id = f.Add(row);
-        Recordset& rs = f.tc.ctx->database.DataPrograms.recordset();
+        Recordset& rs = f.database.DataPrograms.recordset();
         rs.SetBookmark(id);
-        const ProgramFormValues v =
-            ProgramEditor::ReadProgramRow(f.tc.ctx->mixerProfiles.Folder(), rs);
+        const ProgramFormValues v = ProgramEditor::ReadProgramRow(f.Root() + "/mixer", rs);
         QCOMPARE(v.FormStreamingPlayerClose, ProgramEditor::DoNotClose);
         QCOMPARE(v.FormLaunchAppPrior, QString("player --start"));
         QCOMPARE(v.FormLaunchAppDelay, qint16(0));
@@ -307,7 +304,7 @@ private slots:
         QFETCH(QString, days);
         QFETCH(bool, conflict);
         QFETCH(int, padding);
-        ListFixture f;
+        ProgramListFixture f;
         f.Add(other);
         ProgramEditor::ConflictQuery q;
         q.paddingSeconds = qint16(padding);
@@ -319,7 +316,7 @@ private slots:
         for (int d = 0; d < 7 && !days.isEmpty(); ++d)
             q.days[d] = days.at(d) == u'1';
         QString description;
-        QCOMPARE(ProgramEditor::ProgramingConflict(f.tc.ctx->database, q, description), conflict);
+        QCOMPARE(ProgramEditor::ProgramingConflict(f.database, q, description), conflict);
         QCOMPARE(description, conflict ? QString("Other") : QString());
     }
 };

@@ -1,5 +1,4 @@
 // How a program written by a caller on the bus is read into the editor's values.
-#include "TestContext.h"
 #include "control/ProgramRequest.h"
 
 #include <QTest>
@@ -57,11 +56,9 @@ private slots:
     {
         QFETCH(QVariantMap, request);
         QFETCH(QVariantMap, expected);
-        QFETCH(QString, error);
-        TestContext tc;
         ProgramFormValues values;
         const auto refused = ProgramRequest::Apply(request, values);
-        QCOMPARE(refused.value_or(QString()), error);
+        QTEST(refused.value_or(QString()), "error");
         const QVariantMap written = ProgramRequest::ToMap(1, values);
         for (auto it = expected.cbegin(); it != expected.cend(); ++it)
             QCOMPARE(written.value(it.key()), it.value());

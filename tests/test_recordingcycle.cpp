@@ -485,8 +485,8 @@ private slots:
         QCOMPARE(r.Log().size(), 1);
         if (how == "pause")
             return;
-        QCOMPARE(r.ProgramColumn(id, "RecordingCancelled").toInt(), -1);
-        QCOMPARE(r.ProgramColumn(id, "RecordingCancelledEndDateAndTime").toDouble(),
+        QCOMPARE(r.tc.ProgramColumn(id, "RecordingCancelled").toInt(), -1);
+        QCOMPARE(r.tc.ProgramColumn(id, "RecordingCancelledEndDateAndTime").toDouble(),
                  At("10:00:05"));
         for (int i = 0; i < 10; ++i) {
             r.tc.clock.AdvanceSeconds(0.25);

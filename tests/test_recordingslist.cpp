@@ -3,7 +3,6 @@
 #include "TaskWaveSource.h"
 #include "TestFiles.h"
 #include "formats/MediaReaders.h"
-#include "recording/RecorderParts.h"
 #include "recordingslist/ListFile.h"
 #include "recordingslist/SavedLists.h"
 
@@ -20,16 +19,14 @@ void WriteWave(const QString& path)
                                   std::string(8000, char(0x80)), 0, 8));
 }
 
-QStringList ListedFiles(AppContext& ctx)
+QStringList ListedFiles(AppDatabase& database)
 {
     QStringList files;
-    Recordset rs = ctx.database.DataRecordings.recordset().Clone();
+    Recordset rs = database.DataRecordings.recordset().Clone();
     for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext())
         files << QFileInfo(rs.Value("File").toString()).fileName();
     return files;
 }
-
-using ListFixture = RecordingsListFixture;
 
 } // namespace
 
@@ -37,59 +34,48 @@ class TestRecordingsList : public QObject {
     Q_OBJECT
 
 private slots:
+    // A file is listed once, and the one being recorded not at all; a folder lists its wave
+    // files first and leaves its sub-folders alone.
     void aFileIsListedOnce()
     {
-        ListFixture f;
-        WriteWave(f.File("a.wav"));
-        WriteWave(f.File("b.wav"));
-        f.list.AddFileToRecordingsList(f.File("a.wav"));
-        f.list.AddFileToRecordingsList(f.File("b.wav"));
-        QCOMPARE(f.tc.ctx->database.DataRecordings.recordset().Value("File").toString(),
-                 f.File("b.wav")); // the new row is the current one
-        f.list.AddFileToRecordingsList("  " + f.File("a.wav") + " ");
-        f.list.AddFileToRecordingsList(f.File("notes.txt"));
-        WriteWave(f.File("now.wav")); // the file being recorded is not listed
-        RecorderParts::Status(f.tc.ctx->recorder).FinalFile = f.File("now.wav");
-        f.list.AddFileToRecordingsList(f.File("now.wav"));
-        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList({"a.wav", "b.wav"}));
-        // Names compare trimmed and upper-cased.
-        QVERIFY(IsFileInRecordingsList(f.tc.ctx->database, f.File("A.WAV")));
-    }
-
-    void aFolderListsItsWaveFilesFirst()
-    {
-        ListFixture f;
+        RecordingsListFixture f;
         QVERIFY(WriteFile(f.File("a.mp3"), QByteArray(600, 'x')));
-        WriteWave(f.File("b.WAV"));
-        WriteWave(f.File("c.wav"));
+        for (const char* name : {"b.WAV", "c.wav", "now.wav"})
+            WriteWave(f.File(name));
         QDir().mkpath(f.Folder() + "/sub");
         WriteWave(f.Folder() + "/sub/d.wav");
+        f.busy << f.File("now.wav");
+        f.list.AddFileToRecordingsList(f.File("c.wav"));
+        QCOMPARE(f.database.DataRecordings.recordset().Value("File").toString(),
+                 f.File("c.wav")); // the new row is the current one
+        f.list.AddFileToRecordingsList("  " + f.File("c.wav") + " ");
+        f.list.AddFileToRecordingsList(f.File("notes.txt"));
+        f.list.AddFileToRecordingsList(f.File("now.wav"));
         f.list.AddFolderToRecordingsList(f.Folder());
-        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList({"b.WAV", "c.wav", "a.mp3"}));
+        QCOMPARE(ListedFiles(f.database), QStringList({"c.wav", "b.WAV", "a.mp3"}));
+        // Names compare trimmed and upper-cased.
+        QVERIFY(IsFileInRecordingsList(f.database, f.File("C.WAV")));
     }
 
     void aFileThatCantBeDeletedKeepsItsRow()
     {
-        ListFixture f;
+        RecordingsListFixture f;
         WriteWave(f.File("gone.wav"));
         WriteWave(f.File("stuck.wav"));
         f.list.AddFolderToRecordingsList(f.Folder());
         // A folder of that name can't be removed as a file, whoever asks.
         QFile::remove(f.File("stuck.wav"));
         QVERIFY(QDir().mkpath(f.File("stuck.wav") + "/inside"));
-        Recordset rs = f.tc.ctx->database.DataRecordings.recordset().Clone();
+        Recordset rs = f.database.DataRecordings.recordset().Clone();
         QList<qint64> all;
         for (rs.MoveFirst(); !rs.IsEOF(); rs.MoveNext())
             all << rs.Bookmark();
         f.list.DeleteFromDisk(all);
-        QCOMPARE(ListedFiles(*f.tc.ctx), QStringList{"stuck.wav"});
+        QCOMPARE(ListedFiles(f.database), QStringList{"stuck.wav"});
         QVERIFY(!QFile::exists(f.File("gone.wav")));
-        QCOMPARE(f.tc.CountRows("EventLog"), 1);
-        Recordset& log = f.tc.ctx->database.ElogRecordset();
-        log.MoveLast();
-        QCOMPARE(log.Value("Message").toString(),
-                 QStringLiteral("Recording was not deleted from disk."));
-        QVERIFY(log.Value("Details").toString().endsWith("Filename: " + f.File("stuck.wav")));
+        const QList<LogEntry> log = f.LogEntries();
+        QCOMPARE(MessagesOf(log), QStringList{"Recording was not deleted from disk."});
+        QVERIFY(log[0].details.endsWith("Filename: " + f.File("stuck.wav")));
     }
 
     // The purge deletes old recordings that are listed and in the recording folder, with
@@ -98,8 +84,8 @@ private slots:
     // only from that folder.
     void thePurgeDeletesOldListedRecordingsOnly()
     {
-        ListFixture f;
-        const QString elsewhere = f.tc.Root() + "/elsewhere";
+        RecordingsListFixture f;
+        const QString elsewhere = f.Root() + "/elsewhere";
         QDir().mkpath(elsewhere);
         const QStringList old = {f.File("old.wav"), f.File("old.mp3"), f.File("mine.wav"),
                                  f.File("mine.mp3"), elsewhere + "/old.wav"};
@@ -115,19 +101,19 @@ private slots:
             f.list.AddFileToRecordingsList(gone);
             QVERIFY(QFile::remove(gone));
         }
-        f.tc.clock.Set(QDateTime::currentDateTime());
+        f.clock.Set(QDateTime::currentDateTime());
         const QDateTime longAgo = QDateTime::currentDateTime().addDays(-40);
         for (const QString& path : old) {
             QFile file(path);
             QVERIFY(file.open(QIODevice::ReadWrite));
             QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
         }
-        f.tc.ctx->options.PurgeDays = 30;
+        f.options.PurgeDays = 30;
         f.list.Purge();
         QCOMPARE(QDir(f.Folder()).entryList(QDir::Files),
                  QStringList({"mine.cue", "mine.mp3", "mine.wav", "new.wav"}));
         QVERIFY(QFile::exists(elsewhere + "/old.wav"));
-        QStringList listed = ListedFiles(*f.tc.ctx);
+        QStringList listed = ListedFiles(f.database);
         listed.sort();
         QCOMPARE(listed, QStringList({"gone.wav", "new.wav", "old.wav"}));
         QCOMPARE(f.list.PurgeOldRecordings(), 0);
@@ -153,11 +139,11 @@ private slots:
 
     void aSavedListKeepsPathsInTheListsOrder()
     {
-        ListFixture f;
+        RecordingsListFixture f;
         WriteWave(f.File("b.wav"));
         WriteWave(f.File("a.wav"));
         f.list.AddFolderToRecordingsList(f.Folder());
-        SavedLists& lists = f.tc.ctx->savedLists;
+        SavedLists lists(f.database, f.list, f.folders.dataFolder);
         QDir().mkpath(lists.Folder());
         lists.Save("Disk one");
         QCOMPARE(ReadFile(lists.PathOf("Disk one")),
@@ -168,7 +154,7 @@ private slots:
         f.list.ClearRecordingsList();
         f.list.AddFileToRecordingsList(f.File("a.wav"));
         lists.LoadList("Disk one", true);
-        QStringList merged = ListedFiles(*f.tc.ctx);
+        QStringList merged = ListedFiles(f.database);
         merged.sort();
         QCOMPARE(merged, QStringList({"a.wav", "b.wav"}));
 
@@ -176,8 +162,8 @@ private slots:
         QFile::remove(f.File("a.wav"));
         QFile::remove(f.File("b.wav"));
         lists.LoadList("Disk one", false);
-        QVERIFY(ListedFiles(*f.tc.ctx).isEmpty());
-        QCOMPARE(f.tc.CountRows("EventLog"), 0);
+        QVERIFY(ListedFiles(f.database).isEmpty());
+        QCOMPARE(f.CountRows("EventLog"), 0);
     }
 
     void listFilesAreReadItemByItem_data()
@@ -195,8 +181,7 @@ private slots:
     void listFilesAreReadItemByItem()
     {
         QFETCH(QByteArray, content);
-        QFETCH(QStringList, items);
-        QCOMPARE(ListFile::ReadItems(content), items);
+        QTEST(ListFile::ReadItems(content), "items");
     }
 };
 

@@ -1,6 +1,7 @@
 #include "FakeRecordingsListView.h"
 #include "LogCapture.h"
 #include "RecordingsListFixture.h"
+#include "TestFiles.h"
 #include "recordingslist/RecordingsListCommands.h"
 
 #include <QDir>
@@ -26,7 +27,7 @@ struct Fixture : RecordingsListFixture {
     {
         if (onDisk)
             OnDisk(name);
-        Recordset& rs = tc.ctx->database.DataRecordings.recordset();
+        Recordset& rs = database.DataRecordings.recordset();
         rs.AddNew();
         rs.SetValue("File", File(name));
         rs.Update();
@@ -34,8 +35,7 @@ struct Fixture : RecordingsListFixture {
     }
 
     FakeRecordingsListView view;
-    RecordingsListCommands commands{tc.ctx->database, list, tc.ctx->log, tc.messageBox,
-                                    tc.ctx->options,  view};
+    RecordingsListCommands commands{database, list, log, messageBox, options, view};
 };
 
 } // namespace
@@ -94,20 +94,20 @@ private slots:
         const qint64 c = f.Listed("c.mp3");
         if (selected)
             f.view.selected = {a, c};
-        f.tc.messageBox.answers = {answer};
+        f.messageBox.answers = {answer};
 
         (f.commands.*command)();
 
         if (title.isEmpty()) {
-            QVERIFY(f.tc.messageBox.asked.isEmpty());
+            QVERIFY(f.messageBox.asked.isEmpty());
         } else {
-            QCOMPARE(f.tc.messageBox.asked.size(), 1);
-            QCOMPARE(f.tc.messageBox.asked[0].title, title);
-            QCOMPARE(f.tc.messageBox.asked[0].text, text);
-            QCOMPARE(f.tc.messageBox.asked[0].icon, icon);
-            QCOMPARE(f.tc.messageBox.asked[0].buttons, MsgButtons::YesNo);
+            QCOMPARE(f.messageBox.asked.size(), 1);
+            QCOMPARE(f.messageBox.asked[0].title, title);
+            QCOMPARE(f.messageBox.asked[0].text, text);
+            QCOMPARE(f.messageBox.asked[0].icon, icon);
+            QCOMPARE(f.messageBox.asked[0].buttons, MsgButtons::YesNo);
         }
-        QCOMPARE(f.tc.CountRows("Recordings"), rowsLeft);
+        QCOMPARE(f.CountRows("Recordings"), rowsLeft);
         QCOMPARE(QDir(f.Folder()).entryList(QDir::Files).size(), filesLeft);
         // What went leaves nothing selected, a refusal keeps the selection; the window
         // follows every time, the mode display after files went.
@@ -132,28 +132,33 @@ private slots:
 
         f.view.commandRow = here;
         all();
-        QVERIFY(f.tc.messageBox.asked.isEmpty());
+        QVERIFY(f.messageBox.asked.isEmpty());
         QCOMPARE(f.view.detailsOf, f.File("here.mp3"));
         QCOMPARE(f.view.opened, f.Folder());
         QCOMPARE(f.view.clipboard, f.File("here.mp3"));
 
-        f.view.commandRow = moved;
-        f.commands.RecordingsPlay();
-        QCOMPARE(f.tc.messageBox.asked.size(), 1);
-        QCOMPARE(f.tc.messageBox.asked[0].title, QStringLiteral("Recording file not found"));
-        QCOMPARE(f.tc.messageBox.asked[0].text,
+        // A file that is gone, or of no length (which goes too), is not played.
+        QVERIFY(WriteFile(f.File("empty.mp3"), ""));
+        for (const qint64 gone : {moved, f.Listed("empty.mp3", false)}) {
+            f.view.commandRow = gone;
+            f.commands.RecordingsPlay();
+        }
+        QVERIFY(!QFile::exists(f.File("empty.mp3")));
+        QCOMPARE(f.messageBox.asked.size(), 2);
+        QCOMPARE(f.messageBox.asked[0].title, QStringLiteral("Recording file not found"));
+        QCOMPARE(f.messageBox.asked[0].text,
                  QStringLiteral("This recording was not found on disk.  The disk file may have "
                                 "deleted or moved.  If this file was on removable media verify "
                                 "that the recording is on the media. It is also possible that "
                                 "the disk drive letters may have been changed by the operating "
                                 "system after system reboot."));
-        QCOMPARE(f.tc.messageBox.asked[0].icon, MsgIcon::Exclamation);
+        QCOMPARE(f.messageBox.asked[0].icon, MsgIcon::Exclamation);
 
         // Without a row nothing happens, and none of them counts as a change.
         f.view.commandRow = -1;
         f.view.detailsOf = f.view.opened = f.view.clipboard = QString();
         all();
-        QCOMPARE(f.tc.messageBox.asked.size(), 1);
+        QCOMPARE(f.messageBox.asked.size(), 2);
         QVERIFY(f.view.detailsOf.isEmpty() && f.view.opened.isEmpty());
         QVERIFY(f.view.clipboard.isEmpty());
         QCOMPARE(f.view.buttonUpdates, 0);
@@ -175,17 +180,16 @@ private slots:
     {
         QFETCH(Command, command);
         QFETCH(QString, answer);
-        QFETCH(int, listed);
         Fixture f;
         f.OnDisk("a.mp3");
         f.OnDisk("b.mp3");
-        f.tc.ctx->options.DefaultRecordingDirectory = "/start/here";
+        f.options.DefaultRecordingDirectory = "/start/here";
         if (!answer.isEmpty())
-            f.view.answer = f.tc.Root() + answer;
+            f.view.answer = f.Root() + answer;
 
         (f.commands.*command)();
 
-        QCOMPARE(f.tc.CountRows("Recordings"), listed);
+        QTEST(f.CountRows("Recordings"), "listed");
         if (command == &RecordingsListCommands::AddFileToList)
             QCOMPARE(f.view.askedFilter,
                      QStringLiteral("WAV and MP3 files (*.wav *.mp3 *.WAV *.MP3);;WAV files "
@@ -223,8 +227,8 @@ private slots:
         QFETCH(bool, windowFollows);
         Fixture f;
         f.view.fail = true;
-        f.tc.messageBox.answers = {MsgResult::Yes};
-        f.tc.ctx->database.CloseAll();
+        f.messageBox.answers = {MsgResult::Yes};
+        f.database.CloseAll();
         LogCapture capture;
 
         (f.commands.*command)();

@@ -1,10 +1,32 @@
-// The live figures of the status bar, through the recorder that runs them on every tick.
+// The live figures of the status bar and the guard of the disk, as every tick runs them.
+#include "MemoryLog.h"
 #include "Programs.h"
-#include "TestContext.h"
-#include "platform/StorageDiskSpace.h"
-#include "recording/RecorderParts.h"
+#include "RecordingLauncher.h"
+#include "TestDiskSpace.h"
+#include "common/clsAppStatus.h"
+#include "recording/ConversionQueue.h"
+#include "recording/StatusBarPlus.h"
+#include "recording/clsRecordingStatus.h"
+#include "store/Options.h"
 
 #include <QTest>
+
+namespace {
+
+// The figures over a log in memory and the disk the test says; no conversion runs.
+struct Bar {
+    MemoryLog memory;
+    Options options;
+    clsAppStatus appStatus;
+    clsRecordingStatus status;
+    RecordingLauncher launcher;
+    TestDiskSpace diskSpace;
+    ConversionQueue conversion{memory.log, options, appStatus, launcher, status, diskSpace, {}};
+    StatusBarPlus bar{memory.clock, memory.log, options,    appStatus,
+                      memory.error, status,     conversion, diskSpace};
+};
+
+} // namespace
 
 class TestStatusBar : public QObject {
     Q_OBJECT
@@ -23,19 +45,14 @@ private slots:
     void diskFigures()
     {
         QFETCH(double, freeMb);
-        QFETCH(bool, warn);
-        QFETCH(bool, stop);
-        TestContext tc;
-        tc.ctx->options.WarnRecMegsLeft = 50;
-        tc.ctx->options.StopRecMegsLeft = 25;
-        tc.ctx->options.DefaultRecordingDirectory = tc.Root();
-        tc.diskSpace.freeMb = freeMb;
-        StatusBarPlus::Update u;
-        QObject::connect(&tc.ctx->recorder, &Recorder::StatusBarUpdated,
-                         [&u](const StatusBarPlus::Update& update) { u = update; });
-        tc.ctx->recorder.UpdateStatusBarPlus();
-        QCOMPARE(tc.ctx->error.DiskLowWarn(), warn);
-        QCOMPARE(tc.ctx->error.DiskLowStopRecording(), stop);
+        Bar b;
+        b.options.WarnRecMegsLeft = 50;
+        b.options.StopRecMegsLeft = 25;
+        b.options.DefaultRecordingDirectory = QDir::tempPath();
+        b.diskSpace.freeMb = freeMb;
+        const StatusBarPlus::Update u = b.bar.Run(QString(), nullptr);
+        QTEST(b.memory.error.DiskLowWarn(), "warn");
+        QTEST(b.memory.error.DiskLowStopRecording(), "stop");
         QVERIFY(u.diskToolTip.endsWith(QString::number(freeMb, 'f', 1) + " Megabytes remaining"));
     }
 
@@ -48,17 +65,15 @@ private slots:
 
     void elapsedTexts()
     {
-        TestContext tc;
-        clsRecordingStatus& status = RecorderParts::Status(tc.ctx->recorder);
-        status.StartTime = Programs::At(2026, 6, 1, "20:00:00");
-        status.EndTime = Programs::At(2026, 6, 1, "21:00:00");
-        const StatusBarPlus& bar = RecorderParts::StatusBar(tc.ctx->recorder);
-        tc.clock.Set(Programs::At(2026, 6, 1, "20:01:59"));
-        QCOMPARE(bar.ElapsedRemainingText(),
+        Bar b;
+        b.status.StartTime = Programs::At(2026, 6, 1, "20:00:00");
+        b.status.EndTime = Programs::At(2026, 6, 1, "21:00:00");
+        b.memory.clock.Set(Programs::At(2026, 6, 1, "20:01:59"));
+        QCOMPARE(b.bar.ElapsedRemainingText(),
                  QStringLiteral("119 seconds elapsed, 59 minutes remaining"));
-        tc.clock.Set(Programs::At(2026, 6, 1, "21:00:30"));
-        QCOMPARE(bar.ElapsedText(), QStringLiteral("01:00:30"));
-        QCOMPARE(bar.ElapsedRemainingText(),
+        b.memory.clock.Set(Programs::At(2026, 6, 1, "21:00:30"));
+        QCOMPARE(b.bar.ElapsedText(), QStringLiteral("01:00:30"));
+        QCOMPARE(b.bar.ElapsedRemainingText(),
                  QStringLiteral("60 minutes elapsed, 0 seconds remaining"));
     }
 };

@@ -15,6 +15,15 @@ struct LogEntry {
     QString details;
 };
 
+// The messages of log entries, in order.
+inline QStringList MessagesOf(const QList<LogEntry>& entries)
+{
+    QStringList messages;
+    for (const LogEntry& e : entries)
+        messages << e.message;
+    return messages;
+}
+
 // The event log over a table in memory, for a unit that needs the log and nothing else of
 // the program.
 struct MemoryLog : EventLogTable {
@@ -23,13 +32,7 @@ struct MemoryLog : EventLogTable {
     {
         entries.append({type, message, details});
     }
-    QStringList Messages() const
-    {
-        QStringList messages;
-        for (const LogEntry& e : entries)
-            messages << e.message;
-        return messages;
-    }
+    QStringList Messages() const { return MessagesOf(entries); }
 
     QList<LogEntry> entries;
     TestClock clock;

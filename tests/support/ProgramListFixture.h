@@ -1,18 +1,16 @@
 #pragma once
 
 #include "Programs.h"
-#include "TestContext.h"
+#include "StoreParts.h"
+#include "formats/clsRecordingFormat.h"
 #include "scheduling/ProgramListCommands.h"
+#include "scheduling/Scheduler.h"
 
 #include <functional>
 
 // The programs grid and its dialogs as the program commands see them, answered by script.
 class FakeProgramListView : public ProgramListView {
 public:
-    FakeProgramListView() = default;
-    // Views that show real forms need the context; this one takes it to stand in for them.
-    explicit FakeProgramListView(AppContext&) {}
-
     QList<qint64> SelBookmarks() const override { return selected; }
     void AddSelBookmark(qint64 bookmark) override
     {
@@ -55,30 +53,25 @@ public:
     qint32 shownId = 0;
 };
 
-// An open database of programs with the commands on it.
-template <typename View = FakeProgramListView> struct ProgramListFixture {
+// A row as the editor writes it, in the default format of the fixtures (phone quality).
+inline QVariantHash AsEdited(const QVariantHash& row)
+{
+    return Programs::WithPcmFormat(row, 11025, 8, "PCM 11.025 kHz, 8 Bit, Mono");
+}
+
+// The program commands over the store's parts at noon on Monday 1 June 2026, with a
+// phone-quality default format.
+struct ProgramListFixture : StoreParts {
     ProgramListFixture()
     {
-        tc.clock.Set(QDateTime(QDate(2026, 6, 1), QTime(12, 0, 0)));
-        tc.OpenDatabase();
-        tc.ctx->WfxDefault.SetToPcm(1, 11025, 8);
+        clock.Set(QDateTime(QDate(2026, 6, 1), QTime(12, 0, 0)));
+        defaultFormat.SetToPcm(1, 11025, 8);
     }
-    // Rows get the format that every row written by the editor has.
-    qint64 Add(const QVariantHash& row)
-    {
-        const qint64 id =
-            tc.AddProgram(Programs::WithPcmFormat(row, 11025, 8, "PCM 11.025 kHz, 8 Bit, Mono"));
-        tc.ctx->database.DataPrograms.Requery();
-        return id;
-    }
-    QVariant Column(qint64 id, const QString& column)
-    {
-        Recordset rs = tc.ctx->database.DataPrograms.recordset().Clone();
-        rs.FindFirst("Id = " + QString::number(id));
-        return rs.NoMatch() ? QVariant() : rs.Value(column);
-    }
+    qint64 Add(const QVariantHash& row) { return AddProgram(AsEdited(row)); }
 
-    TestContext tc;
-    View view{*tc.ctx};
-    ProgramListCommands commands{tc.ctx->ForProgramList(), view};
+    Scheduler scheduler{clock, database, log, messageBox, options};
+    clsRecordingFormat defaultFormat;
+    FakeProgramListView view;
+    ProgramListCommands commands{
+        {log, database, scheduler, messageBox, clock, defaultFormat, Root() + "/mixer"}, view};
 };

@@ -45,9 +45,7 @@ qint64 RecordingRig::AddProgram(const QVariantHash& row)
     for (const char* profile : {"MixerProfileBefore", "MixerProfileAfter"})
         if (!full.contains(profile))
             full.insert(profile, "");
-    const qint64 id = tc.AddProgram(full);
-    ctx().database.DataPrograms.Requery();
-    return id;
+    return tc.AddProgram(full);
 }
 
 qint64 RecordingRig::AddProgramAt10(const QVariantHash& sideActions)
@@ -115,22 +113,7 @@ QStringList RecordingRig::Logged(const QString& message) const
     return details;
 }
 
-QStringList RecordingRig::LoggedMessages() const
-{
-    QStringList messages;
-    for (const LogEntry& e : tc.LogEntries())
-        messages << e.message;
-    return messages;
-}
-
 QStringList RecordingRig::Files(const QStringList& filter) const
 {
     return QDir(folder).entryList(filter, QDir::Files, QDir::Name);
-}
-
-QVariant RecordingRig::ProgramColumn(qint64 id, const QString& column) const
-{
-    QSqlQuery q(tc.ctx->database.db.Connection());
-    q.exec(QStringLiteral("SELECT [%1] FROM Programs WHERE ID = %2").arg(column).arg(id));
-    return q.next() ? q.value(0) : QVariant();
 }

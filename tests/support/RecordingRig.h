@@ -61,9 +61,8 @@ public:
     QList<LogEntry> Log() const { return tc.LogEntries(); }
     // The details of the log's entries with that message, oldest first.
     QStringList Logged(const QString& message) const;
-    QStringList LoggedMessages() const;
+    QStringList LoggedMessages() const { return MessagesOf(Log()); }
     QStringList Files(const QStringList& filter = {}) const;
-    QVariant ProgramColumn(qint64 id, const QString& column) const;
 
     TestContext tc;
     QString folder;

@@ -1,21 +1,23 @@
 #pragma once
 
-#include "TestContext.h"
+#include "StoreParts.h"
 #include "recordingslist/RecordingsList.h"
 
 #include <QDir>
 
-// An open database whose recording folder exists, with the recordings list on it.
-struct RecordingsListFixture {
+// An open database whose recording folder exists, with the recordings list on it; the files
+// in `busy` count as being written.
+struct RecordingsListFixture : StoreParts {
     RecordingsListFixture()
     {
-        tc.OpenDatabase();
         QDir().mkpath(Folder());
-        tc.ctx->options.DefaultRecordingDirectory = Folder();
+        options.DefaultRecordingDirectory = Folder();
     }
-    QString Folder() const { return tc.Root() + "/rec"; }
+    QString Folder() const { return Root() + "/rec"; }
     QString File(const QString& name) const { return Folder() + "/" + name; }
 
-    TestContext tc;
-    RecordingsList& list = tc.ctx->recordingsList;
+    QStringList busy;
+    RecordingsList list{database, log, options, clock, [this] {
+                            return busy;
+                        }};
 };

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "MemoryLog.h"
 #include "RecordingLauncher.h"
-#include "ScriptedMessageBox.h"
-#include "TestClock.h"
+#include "StoreParts.h"
+#include "TestDiskSpace.h"
 #include "common/RuntimeError.h"
 #include "platform/AudioDevices.h"
 #include "platform/DesktopNotifications.h"
@@ -11,15 +10,10 @@
 #include "platform/LogindSleepInhibitor.h"
 #include "platform/MixsetMixer.h"
 #include "platform/NetworkManagerConnections.h"
-#include "platform/StorageDiskSpace.h"
 #include "platform/XcbWindowList.h"
 #include "shell/AppContext.h"
 
-#include <QDir>
-#include <QHash>
-#include <QTemporaryDir>
 #include <memory>
-#include <optional>
 
 // A sound system with the capture sources the test says (one unless it says otherwise), all
 // of them silent, or one that fails to answer.
@@ -42,51 +36,18 @@ public:
     bool fails = false;
 };
 
-// The real file systems, unless the test names the free megabytes it wants seen (of one
-// folder, or of all), or makes the measuring fail.
-class TestDiskSpace : public StorageDiskSpace {
-public:
-    std::optional<double> freeMb;
-    QHash<QString, double> freeMbOf;
-    bool fails = false;
-
-protected:
-    DiskSpaceMb Measure(const QString& folder) override
-    {
-        if (fails)
-            throw RuntimeError(ErrorNumber::PathFileAccess, "the disk did not answer");
-        DiskSpaceMb d = StorageDiskSpace::Measure(folder);
-        if (const auto it = freeMbOf.constFind(QDir::cleanPath(folder)); it != freeMbOf.cend())
-            d.free = *it;
-        else if (freeMb)
-            d.free = *freeMb;
-        return d;
-    }
-};
-
 // A fresh application context over a temporary folder: its own data and runtime folders,
 // its own settings file, the empty database in place, and the test seams.
-class TestContext {
+class TestContext : public TestFolder {
 public:
     // The desktop's notifications go nowhere unless the test gives its own.
     explicit TestContext(DesktopNotifications* notifications = nullptr);
 
     // Opens the database as the first activation does.
-    void OpenDatabase();
+    void OpenDatabase() { ctx->InitializeDatabase(); }
     // Ends the program and starts it again over the same folders and settings.
     void Restart();
-    // Adds a row to Programs with the given columns; returns its ID.
-    qint64 AddProgram(const QVariantHash& columns);
-    // Rows of a table, counted in the file itself.
-    int CountRows(const QString& table) const;
-    // The rows of the event log, oldest first.
-    QList<LogEntry> LogEntries() const;
-    QString Root() const { return m_dir.path(); }
-    QString SettingsFile() const;
 
-    QTemporaryDir m_dir;
-    TestClock clock;
-    ScriptedMessageBox messageBox;
     RecordingLauncher launcher;
     FakeAudioDevices audioDevices;
     TestDiskSpace diskSpace;
@@ -97,12 +58,12 @@ public:
     NetworkManagerConnections network;
     // logind on the test's own system bus when it has one (DBUS_SYSTEM_BUS_ADDRESS), else
     // none; the wake alarm is the empty file WakeAlarmFile().
-    QString WakeAlarmFile() const { return m_dir.path() + "/wakealarm"; }
+    QString WakeAlarmFile() const { return Root() + "/wakealarm"; }
     LogindSleepInhibitor sleepInhibitor;
     // The real reader, over the folder JoystickFolder(): a test puts a pipe named js0 there
     // and writes the driver's events into it.
     LinuxJoystick joystick;
-    QString JoystickFolder() const { return m_dir.path() + "/input"; }
+    QString JoystickFolder() const { return Root() + "/input"; }
     NoDesktopNotifications noNotifications;
     std::unique_ptr<AppContext> ctx;
 
