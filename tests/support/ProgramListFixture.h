@@ -73,5 +73,5 @@ struct ProgramListFixture : StoreParts {
     clsRecordingFormat defaultFormat;
     FakeProgramListView view;
     ProgramListCommands commands{
-        {log, database, scheduler, messageBox, clock, defaultFormat, Root() + "/mixer"}, view};
+        {database, scheduler, messageBox, clock, defaultFormat, Root() + "/mixer"}, view};
 };
