@@ -1,5 +1,7 @@
 #include "CueSheet.h"
 
+#include "taskcontract/CueSheetPath.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <cmath>
@@ -33,12 +35,6 @@ CueSheet::CueSheet(const QString& recordingPath, const QString& showTitle)
 {
 }
 
-QString CueSheet::PathFor(const QString& recordingPath)
-{
-    const QFileInfo info(recordingPath);
-    return info.path() + u'/' + info.completeBaseName() + QStringLiteral(".cue");
-}
-
 void CueSheet::Add(const QString& title, double seconds)
 {
     const QString trimmed = title.trimmed();
@@ -62,7 +58,7 @@ void CueSheet::Write() const
         text += QStringLiteral("  TRACK %1 AUDIO\r\n    TITLE %2\r\n    INDEX 01 %3\r\n")
                     .arg(i + 1, 2, 10, QLatin1Char('0'))
                     .arg(Quoted(m_tracks[i].title), Index(m_tracks[i].seconds));
-    QFile file(PathFor(m_recordingPath));
+    QFile file(CueSheetPath(m_recordingPath));
     // A sheet that can't be written costs the titles, never the recording.
     if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         file.write(text.toUtf8());

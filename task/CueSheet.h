@@ -3,15 +3,13 @@
 #include <QList>
 #include <QString>
 
-// The titles a station sent during a recording, as a CUE sheet beside the recording (same
-// base name, .cue), so that a song can be found in a long show. The sheet is written anew
+// The titles a station sent during a recording, as a CUE sheet beside the recording
+// (CueSheetPath), so that a song can be found in a long show. The sheet is written anew
 // with each title, so a task that is killed leaves the titles up to then.
 class CueSheet {
 public:
     // recordingPath is the recording as the user will find it.
     CueSheet(const QString& recordingPath, const QString& showTitle);
-
-    static QString PathFor(const QString& recordingPath);
 
     // A title from this many seconds into the recording on; a repeat of the title under way
     // changes nothing.

@@ -466,6 +466,8 @@ private slots:
                 r.recorder().PauseCommand("p");
             } else if (how == "lost") {
                 QTest::qWait(1000);
+                // A stream's titles up to then: they go with the recording.
+                QVERIFY(WriteFile(r.folder + "/060126_100001.cue", "TITLE"));
                 m_pulse->Stop();
             }
         }));

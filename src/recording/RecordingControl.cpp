@@ -25,6 +25,7 @@
 #include "store/Options.h"
 #include "store/ProgramRow.h"
 #include "store/RecordingRow.h"
+#include "taskcontract/CueSheetPath.h"
 #include "taskcontract/RecParms.h"
 #include "taskcontract/TaskErrors.h"
 
@@ -477,6 +478,7 @@ void RecordingControl::EndFile(RecordingEndPlan::File file)
         [[fallthrough]];
     case RecordingEndPlan::File::Discard:
         QFile::remove(status.RecordingFile);
+        QFile::remove(CueSheetPath(status.FinalFile));
         break;
     }
     LaunchAfterRecording(m_s.log, m_s.launcher, file == RecordingEndPlan::File::List,

@@ -8,6 +8,7 @@
 #include "formats/MediaReaders.h"
 #include "store/AppDatabase.h"
 #include "store/Options.h"
+#include "taskcontract/CueSheetPath.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -146,8 +147,7 @@ int RecordingsList::PurgeOldRecordings()
             (suffix != QLatin1String("WAV") && suffix != QLatin1String("MP3")) || !file.exists() ||
             file.lastModified() >= limit || !QFile::remove(file.filePath()))
             continue;
-        for (const QString& cue : {QStringLiteral(".cue"), QStringLiteral(".CUE")})
-            QFile::remove(file.path() + u'/' + file.completeBaseName() + cue);
+        QFile::remove(CueSheetPath(file.filePath()));
         rs.Delete();
         ++deleted;
     }
