@@ -377,7 +377,9 @@ private slots:
         QCOMPARE(chunks.value(1).data, QByteArray("Second") + '\0');
         f.VerifyTone(chunks.value(4).data);
 
-        QVERIFY2(ticksWhileConverting >= 3, qPrintable(QString::number(ticksWhileConverting)));
+        // Two ticks give one gap to measure; a conversion that held the event loop would leave
+        // none. How many more depends on the machine's speed.
+        QVERIFY2(ticksWhileConverting >= 2, qPrintable(QString::number(ticksWhileConverting)));
         // The heartbeat's 250 ms, late by at most a tick on a busy machine: a conversion that
         // held the event loop would stop it for seconds.
         QVERIFY2(longestGap <= 2 * Heartbeat::TickInterval,
