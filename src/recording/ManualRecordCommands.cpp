@@ -4,6 +4,7 @@
 #include "common/clsAppStatus.h"
 #include "diagnostics/Trap.h"
 #include "recording/Recorder.h"
+#include "store/EachStep.h"
 #include "store/Options.h"
 
 #include <QKeyEvent>
@@ -38,14 +39,17 @@ void ManualRecordCommands::StartQuickly()
 {
     if (m_s.appStatus.Recording())
         return;
-    {
-        frmManualRecord form(m_s, true, m_owner);
-        form.CommandOk_Click();
-    }
     // Intended: a request whose checks failed (a size limit reached) still starts, with what
-    // the last request left behind.
-    if (!m_s.appStatus.Recording())
-        m_recorder.StartManualRecording();
+    // the last request left behind. The entry's trap reports both failures, in turn.
+    ThrowFailures(EachStep(
+        [this] {
+            frmManualRecord form(m_s, true, m_owner);
+            form.TakeRequest();
+        },
+        [this] {
+            if (!m_s.appStatus.Recording())
+                m_recorder.StartManualRecording();
+        }));
 }
 
 bool ManualRecordCommands::HandleCommandKey(int keyCode, Qt::KeyboardModifiers shift)

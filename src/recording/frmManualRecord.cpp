@@ -185,7 +185,12 @@ void frmManualRecord::ChangeComprMethodButton_Click()
 
 void frmManualRecord::CommandOk_Click()
 {
-    Trap(m_s.log, "Manual Record CommandOk_Click", [&] {
+    Trap(m_s.log, "Manual Record CommandOk_Click", [this] { TakeRequest(); });
+}
+
+void frmManualRecord::TakeRequest()
+{
+    InRoutine("Manual Record CommandOk_Click", [&] {
         clsManualRecord& request = m_s.request;
         MessageBoxPresenter& box = m_s.messageBox;
         const auto warn = [&box](const QString& title, const QString& text) {

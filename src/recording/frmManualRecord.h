@@ -42,6 +42,8 @@ public:
     bool FormatChanged = false;
 
     void CommandOk_Click();
+    // OK's checks and the request they write; the quick start runs it as a step of its own.
+    void TakeRequest();
     // The space the recording takes, for the load and the duration's fields; a button's
     // handler lets ShowStorage's failure pass.
     void CalcStorage();

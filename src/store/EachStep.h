@@ -4,7 +4,7 @@
 #include <exception>
 
 // Runs every step, whatever the ones before did, and gives back what failed, in order, for
-// the caller to report: for the routines of the database that must get as far as they can.
+// the caller to report: for a routine that must get as far as it can.
 template <typename... Steps> QList<std::exception_ptr> EachStep(Steps&&... steps)
 {
     QList<std::exception_ptr> failures;
