@@ -254,6 +254,25 @@ private slots:
         QVERIFY(!r.ctx().appStatus.Recording());
     }
 
+    // A recording whose row can't be written stays on disk, the failure is logged, and the
+    // end goes on to clear Recording.
+    void aRowThatCannotBeWrittenKeepsTheRecording()
+    {
+        RecordingRig r;
+        r.AddProgram(Programs::Weekly("Unlisted", "10:00:01", "10:00:03", "0100000"));
+        QVERIFY(QSqlQuery(r.ctx().database.db.Connection())
+                    .exec("CREATE TRIGGER locked BEFORE INSERT ON Recordings "
+                          "BEGIN SELECT RAISE(ABORT, 'locked'); END"));
+        QVERIFY(r.Run(At("10:00:00")));
+        QCOMPARE(r.Files(), QStringList{"060126_100001.WAV"});
+        QVERIFY(r.Recordings().isEmpty());
+        const QList<LogEntry> log = r.Log();
+        QCOMPARE(log.size(), 1);
+        QVERIFY2(log[0].details.contains("Module: DoEndOfRecordingStuff"),
+                 qPrintable(log[0].details));
+        QVERIFY(!r.ctx().appStatus.Recording());
+    }
+
     // A stop asked while the task still starts reaches it: no watchdog, and the task leaves.
     void aStopAskedWhileTheTaskStartsReachesIt()
     {

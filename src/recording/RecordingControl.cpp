@@ -60,13 +60,20 @@ qint64 DueMsecs(const Clock& clock, double start)
     return base + qint64(std::llround((start - now) * 86400000.0));
 }
 
-// A step of the start that the rest goes on after, as its rules say: its failure, marked
-// with the start's name, is kept for the end of the start. False when it failed.
-template <typename Body> bool StartStep(QList<std::exception_ptr>& failed, Body&& body)
+// A step of the start or the end of a recording that the rest goes on after, as their rules
+// say: its failure, marked with the routine's name, is kept for the caller to report. False
+// when it failed.
+template <typename Body>
+bool KeptStep(QList<std::exception_ptr>& failed, const char* routine, Body&& body)
 {
-    const QList<std::exception_ptr> failure = EachStep([&] { InRoutine("StartRecording", body); });
+    const QList<std::exception_ptr> failure = EachStep([&] { InRoutine(routine, body); });
     failed += failure;
     return failure.isEmpty();
+}
+
+template <typename Body> bool StartStep(QList<std::exception_ptr>& failed, Body&& body)
+{
+    return KeptStep(failed, "StartRecording", body);
 }
 
 } // namespace
@@ -278,7 +285,7 @@ void RecordingControl::CarryOut(QList<std::exception_ptr>& failed, const Recordi
     if (!taskUp) {
         // The activation has logged why.
         m_status.Failed = true;
-        StopRecording();
+        EndRecording(failed);
         return;
     }
     // The mixer is set once the task is up and right before capture, never earlier.
@@ -288,7 +295,7 @@ void RecordingControl::CarryOut(QList<std::exception_ptr>& failed, const Recordi
     if (!step([&] { refused = StartCapture(); }) || refused < 1)
         return;
     m_status.Failed = true;
-    StopRecording();
+    EndRecording(failed);
     ReportRecordingTaskError(m_s.log, refused);
 }
 
@@ -401,6 +408,13 @@ void RecordingControl::ToolbarPauseResume(const QString& Command)
 
 void RecordingControl::StopRecording()
 {
+    QList<std::exception_ptr> failed;
+    EndRecording(failed);
+    ReportEach(m_s.log, "StopRecording", failed);
+}
+
+void RecordingControl::EndRecording(QList<std::exception_ptr>& failed)
+{
     emit UnloadRecordingStatusForm();
     if (!m_s.appStatus.Recording())
         return;
@@ -408,8 +422,8 @@ void RecordingControl::StopRecording()
     // call; but the file's row, the program's cancel and the mixer profile may each fail
     // without holding up the rest.
     const clsRecordingStatus& status = m_status;
-    const auto step = [this](auto&& body) {
-        return Trap(m_s.log, "StopRecording", body);
+    const auto step = [&failed](auto&& body) {
+        return KeptStep(failed, "StopRecording", body);
     };
     std::optional<RecordingEndPlan> plan;
     if (!step([&] { plan = EndCapture(); }))

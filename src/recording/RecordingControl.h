@@ -48,7 +48,8 @@ public:
     // "P" pauses, "R" resumes, anything else toggles; in any case of letters. Throws as the
     // stop does.
     void ToolbarPauseResume(const QString& Command);
-    // Finishes every recording however it ended; harmless when none is running.
+    // Finishes every recording however it ended; harmless when none is running. Reports
+    // what failed on the way.
     void StopRecording();
     // The row of Recordings for a converted file; its times come from the file itself.
     void DoEndOfRecordingStuff(const QString& Title, const QString& File, double StartTime,
@@ -94,6 +95,9 @@ private:
     // The row of Recordings; throws, marked with the routine's name.
     void ListRecording(const QString& Title, const QString& File, double StartTime,
                        const QString& CompressionMethod, const clsRecordingFormat& Format);
+    // StopRecording's steps, their failures kept for the caller: the start that fails
+    // after its task came up reports them with its own.
+    void EndRecording(QList<std::exception_ptr>& failed);
     void EndFile(RecordingEndPlan::File file);
     void EndPlayerAndConnection(const RecordingEndPlan& plan);
     // The recording is over: the next one is sought and the forms follow.
