@@ -174,6 +174,8 @@ void TestFrmManualRecord::recordingKeys()
     QTEST(ctx.appStatus.Paused(), "pausedAfter");
     QTEST(ctx.recorder.Status().StopRequested, "stopped");
     QVERIFY(w.tc.messageBox.asked.isEmpty());
+    // The menu shows no key that does nothing.
+    QCOMPARE(w.form->ui.Action("mnuStopCurrentRecording")->shortcut().isEmpty(), disabled);
     ctx.appStatus.SetRecording(false);
 }
 

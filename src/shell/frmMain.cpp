@@ -270,6 +270,7 @@ void frmMain::ConnectOptions()
                                            QCoreApplication::applicationDirPath(),
                                            m_ctx.audioDevices};
         frmOptions(services, MediaPlayerAvailable(), this).exec();
+        UpdateModeDisplay();
     });
 }
 
@@ -403,6 +404,7 @@ void frmMain::UpdateModeDisplay()
     extra.recentRecordingExists = !m_ctx.options.RecentRecordingFilename.isEmpty() &&
                                   QFileInfo(m_ctx.options.RecentRecordingFilename).isFile();
     const ModeDisplay d = m_ctx.recorder.Mode(extra);
+    ui.ShowRecordingKeys(!m_ctx.options.DisableKeyboardActivatedRecording);
     const auto action = [this](const QString& name) {
         return ui.Action(name);
     };

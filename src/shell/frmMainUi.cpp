@@ -14,6 +14,21 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+namespace {
+
+struct RecordingKey {
+    const char* action;
+    QKeyCombination key;
+};
+
+constexpr RecordingKey kRecordingKeys[] = {{"mnuQuickStart", Qt::CTRL | Qt::Key_R},
+                                           {"mnuStopCurrentRecording", Qt::CTRL | Qt::Key_S},
+                                           {"mnuPauseRecording", Qt::CTRL | Qt::Key_T},
+                                           {"mnuPauseOnly", Qt::CTRL | Qt::Key_P},
+                                           {"mnuResume", Qt::CTRL | Qt::Key_U}};
+
+} // namespace
+
 void frmMainUi::Setup(QMainWindow* window)
 {
     window->setObjectName(QStringLiteral("frmMain"));
@@ -61,6 +76,13 @@ QAction* frmMainUi::AddButton(QToolBar* bar, const QString& key, const QString& 
     action->setObjectName(bar->objectName() + u'.' + key);
     actions.insert(action->objectName(), action);
     return action;
+}
+
+void frmMainUi::ShowRecordingKeys(bool shown)
+{
+    for (const RecordingKey& key : kRecordingKeys)
+        Action(QString::fromLatin1(key.action))
+            ->setShortcut(shown ? QKeySequence(key.key) : QKeySequence());
 }
 
 void frmMainUi::SetupMenus(QMainWindow* window)
@@ -111,19 +133,18 @@ void frmMainUi::SetupMenus(QMainWindow* window)
     AddAction(mnuRecordings, "mnuRecordingsSelectAll", tr("&Select All"));
 
     // The recording keys work in the window's lists and tabs (and can be turned off in the
-    // options); the menu shows them, and they act here only while the menu is open.
+    // options); the menu shows them while they are on, and they act here only while the menu
+    // is open.
     mnuRecording = menu("mnuRecording", tr("Rec&ording"));
     AddAction(mnuRecording, "mnuManualRecording", tr("&Start Manual Recording"));
-    const auto keyed = [this](const char* name, const QString& caption, QKeyCombination key) {
-        QAction* action = AddAction(mnuRecording, name, caption);
-        action->setShortcut(key);
-        action->setShortcutContext(Qt::WidgetShortcut);
-    };
-    keyed("mnuQuickStart", tr("&Quick Start"), Qt::CTRL | Qt::Key_R);
-    keyed("mnuStopCurrentRecording", tr("S&top Current Recording"), Qt::CTRL | Qt::Key_S);
-    keyed("mnuPauseRecording", tr("Pa&use Recording"), Qt::CTRL | Qt::Key_T);
-    keyed("mnuPauseOnly", tr("&Pause"), Qt::CTRL | Qt::Key_P);
-    keyed("mnuResume", tr("&Resume"), Qt::CTRL | Qt::Key_U);
+    AddAction(mnuRecording, "mnuQuickStart", tr("&Quick Start"));
+    AddAction(mnuRecording, "mnuStopCurrentRecording", tr("S&top Current Recording"));
+    AddAction(mnuRecording, "mnuPauseRecording", tr("Pa&use Recording"));
+    AddAction(mnuRecording, "mnuPauseOnly", tr("&Pause"));
+    AddAction(mnuRecording, "mnuResume", tr("&Resume"));
+    for (const RecordingKey& key : kRecordingKeys)
+        Action(QString::fromLatin1(key.action))->setShortcutContext(Qt::WidgetShortcut);
+    ShowRecordingKeys(true);
 
     mnuTools = menu("mnuTools", tr("&Tools"));
     AddAction(mnuTools, "mnuToolsMixer", tr("&Mixer"));

@@ -22,6 +22,8 @@ struct frmMainUi {
     // Menu entries and toolbar buttons by the names the system gives them: "mnuFileExit",
     // and "ToolbarMain.Stop" for the button keyed "Stop" of ToolbarMain.
     QAction* Action(const QString& name) const;
+    // The recording keys beside their menu entries, or none while the keys are turned off.
+    void ShowRecordingKeys(bool shown);
 
     QHash<QString, QAction*> actions;
     QMenu* mnuFile = nullptr;
