@@ -209,8 +209,8 @@ void TestFrmManualRecord::longRecordingQuestion_data()
     QTest::newRow("quick start of 5:00:00") << true << "05:00:00" << false;
 }
 
-// With LongRecordingHours at 2 the dialog asks about whole minutes beyond two hours; No
-// keeps it open with nothing requested. The quick start never asks.
+// With LongRecordingHours at 2 the dialog that Record opens asks about whole minutes beyond
+// two hours; No keeps it open with nothing requested. The quick start never asks.
 void TestFrmManualRecord::longRecordingQuestion()
 {
     QFETCH(bool, quickStart);
@@ -221,17 +221,22 @@ void TestFrmManualRecord::longRecordingQuestion()
     w.ctx().options.ConfirmLongRecordings = true;
     const QStringList parts = duration.split(':');
     w.SetDefaultDuration(parts[0].toInt(), parts[1].toInt(), parts[2].toInt());
+    // No task behind it: what counts is what was asked before the start.
+    w.ctx().recorder.SetTaskProgram(w.tc.Root() + "/no-such-task");
+    RecorderParts::Link(w.ctx().recorder).SetActivationTimeout(200);
+    bool keptOpen = false;
     if (quickStart) {
-        // No task behind it: what counts is what was asked before the start.
-        w.ctx().recorder.SetTaskProgram(w.tc.Root() + "/no-such-task");
-        RecorderParts::Link(w.ctx().recorder).SetActivationTimeout(200);
         QTest::keyClick(w.form->ui.DBGridPrograms, Qt::Key_R, Qt::ControlModifier);
     } else {
-        frmManualRecord form(w.Services(), false, nullptr);
-        form.show();
-        form.CommandOk->click();
-        QCOMPARE(form.isVisible(), asked);
+        WhenModalOpens([&keptOpen](QDialog* dialog) {
+            Control<QPushButton>(dialog, "CommandOk")->click();
+            keptOpen = dialog->isVisible();
+            if (keptOpen)
+                Control<QPushButton>(dialog, "CommandCancel")->click();
+        });
+        w.form->ui.Action("ToolbarMain.Record")->trigger();
     }
+    QCOMPARE(keptOpen, asked);
     if (asked) {
         QCOMPARE(w.tc.messageBox.asked.size(), 1);
         QCOMPARE(w.tc.messageBox.asked[0].title, QString("Long Recording Confirmation"));

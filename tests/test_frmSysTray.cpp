@@ -120,7 +120,7 @@ private slots:
         QVERIFY(m_form->isVisible());
     }
 
-    void doubleClickRestoresSingleClickDoesNothing()
+    void doubleClickOrMenuRestoresSingleClickDoesNothing()
     {
         m_form->HideToTray();
         QVERIFY(!m_form->isVisible());
@@ -134,6 +134,10 @@ private slots:
         ClickIcon({"--repeat", "2", "--delay", "80", "1"});
         QTRY_VERIFY_WITH_TIMEOUT(m_form->isVisible(), 5000);
         QVERIFY(!tray().mnuRestore->isEnabled());
+
+        m_form->HideToTray();
+        tray().mnuRestore->trigger();
+        QVERIFY(m_form->isVisible());
     }
 
     void rightClickOpensTheMenu()

@@ -282,6 +282,8 @@ private slots:
         row("one time across midnight into the other's morning",
             once(monday.addDays(1), "01:00:00", "03:00:00"), monday, "22:00:00", "02:00:00", "",
             true);
+        row("one time of equal times has no length", once(monday, "12:00:00", "13:00:00"), monday,
+            "10:00:00", "10:00:00", "", false);
         row("one time against weekly of its weekday", mondays, QDate(2030, 1, 7), "10:30:00",
             "11:30:00", "", true);
         row("disabled other", Disabled(mondays), QDate(), "10:00:00", "11:00:00", "0100000", false);
