@@ -76,6 +76,16 @@ class TestHeadless : public QObject {
                 QString::fromUtf8(ctl.readAllStandardError())};
     }
 
+    // A one-time program of so many seconds from `start`; an end past midnight lies on the
+    // next day.
+    Run AddOnce(const QDateTime& start, int seconds, const QStringList& more)
+    {
+        return Ctl(QStringList{"add", "--once", start.date().toString(Qt::ISODate), "--start",
+                               start.time().toString("HH:mm:ss"), "--end",
+                               start.addSecs(seconds).time().toString("HH:mm:ss")} +
+                   more);
+    }
+
     // The row of the recordings list with this description, once the recorder has written it.
     QJsonObject WaitForRecording(const QString& description, int seconds)
     {
@@ -134,6 +144,14 @@ private slots:
         QCOMPARE(Ctl({"status"}).exitCode, 0);
     }
 
+    // Each function sees the bus signals of its own requests.
+    void init()
+    {
+        m_signals.started.clear();
+        m_signals.ended.clear();
+        m_signals.modes.clear();
+    }
+
     void cleanupTestCase()
     {
         m_recorder.terminate();
@@ -187,6 +205,19 @@ private slots:
         QVERIFY2(run.err.contains(message), qPrintable(run.err));
     }
 
+    // A recording that fails ends on the bus with the error that the log holds.
+    void aFailedRecordingSaysWhyOnTheBus()
+    {
+        const QString url = "http://127.0.0.1:9/gone.mp3";
+        const QDateTime start = QDateTime::currentDateTime().addSecs(2);
+        QCOMPARE(AddOnce(start, 3, {"--desc", "gone", "--stream", url}).exitCode, 0);
+        QTRY_COMPARE_WITH_TIMEOUT(m_signals.ended.size(), 1, 30000);
+        QCOMPARE(m_signals.ended[0][1].toBool(), false);
+        const QString reason = m_signals.ended[0][2].toString();
+        QVERIFY2(reason.startsWith("Internet stream could not be reached.: " + url),
+                 qPrintable(reason));
+    }
+
     void withoutARecorderTheExitStatusIs3()
     {
         QProcessEnvironment env = Environment();
@@ -220,12 +251,11 @@ private slots:
         const QDateTime start = QDateTime::currentDateTime().addSecs(10);
         if (start.date() != start.addSecs(5).date())
             QSKIP("Too close to midnight");
-        const Run add = Ctl({"add", "--once", start.date().toString(Qt::ISODate), "--start",
-                             start.time().toString("HH:mm:ss"), "--end",
-                             start.addSecs(4).time().toString("HH:mm:ss"), "--desc", "ahead"});
+        const Run add = AddOnce(start, 4, {"--desc", "ahead"});
         QCOMPARE(add.exitCode, 0);
         QVERIFY2(Ctl({"programs"}).out.contains("ahead"), qPrintable(add.err));
         QVERIFY(Ctl({"next", "1"}).out.contains("ahead"));
+        QVERIFY(Ctl({"status"}).out.contains("Next: ahead at "));
         const QJsonObject row = WaitForRecording("ahead", 40);
         QVERIFY2(!row.isEmpty(), qPrintable(Ctl({"log", "5"}).out));
         VerifyTone(row["file"].toString(), 4);

@@ -23,7 +23,9 @@
 #include <QDBusMetaType>
 #include <QDebug>
 #include <QRegularExpression>
+#include <QTimer>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -146,13 +148,17 @@ void ControlService::OnModeMaybeChanged()
 void ControlService::OnRecordingEnded()
 {
     const bool ok = !m_s.recorder.Status().Failed;
-    emit RecordingEnded(m_recordingFile, ok, ok ? QString() : FailureReason());
-    m_recordingFile.clear();
+    const double since = m_s.recorder.Status().StartTime;
+    const QString file = std::exchange(m_recordingFile, QString());
+    // A task that reports a failure has its recording stopped first and the report logged
+    // right after: the reason is read once that is done.
+    QTimer::singleShot(0, this, [this, file, ok, since] {
+        emit RecordingEnded(file, ok, ok ? QString() : FailureReason(since));
+    });
 }
 
-QString ControlService::FailureReason() const
+QString ControlService::FailureReason(double since) const
 {
-    const double since = m_s.recorder.Status().StartTime;
     Recordset rs = m_s.database.ElogRecordset().Clone();
     QString reason;
     qint64 newest = -1;

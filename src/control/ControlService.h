@@ -89,8 +89,8 @@ private:
     QString CurrentMode();
     void OnModeMaybeChanged();
     void OnRecordingEnded();
-    // The last error entry of the log since the recording began, for RecordingEnded.
-    QString FailureReason() const;
+    // The last error entry of the log since `since`, for RecordingEnded.
+    QString FailureReason(double since) const;
 
     ControlServices m_s;
     QString m_mode;
