@@ -305,7 +305,12 @@ private slots:
         frmPlayPanelMP& panel = f.Enhanced();
         panel.HSliderRate->setValue(200);
         panel.btnPlay->click();
+        // While it plays, Play is off and Pause and Stop are on; at the end, the other way.
+        QTRY_VERIFY(!panel.btnPlay->isEnabled() && panel.btnPause->isEnabled() &&
+                    panel.btnStop->isEnabled());
         QVERIFY(f.ListenToTheEnd(panel.Engine()));
+        QTRY_VERIFY(panel.btnPlay->isEnabled() && !panel.btnPause->isEnabled() &&
+                    !panel.btnStop->isEnabled());
         QVERIFY(Near(f.monitor.SoundingSeconds(), 5.0, 0.3));
         QVERIFY(Near(f.monitor.Frequency(), 1000, 10));
 
