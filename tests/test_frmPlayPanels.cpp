@@ -304,10 +304,12 @@ private slots:
         Fixture f;
         frmPlayPanelMP& panel = f.Enhanced();
         panel.HSliderRate->setValue(200);
+        QVERIFY(!panel.btnBeginning->isEnabled());
         panel.btnPlay->click();
-        // While it plays, Play is off and Pause and Stop are on; at the end, the other way.
+        // While it plays, Play is off and Pause, Stop and back to the beginning are on; at the
+        // end, Play is on and Pause and Stop are off.
         QTRY_VERIFY(!panel.btnPlay->isEnabled() && panel.btnPause->isEnabled() &&
-                    panel.btnStop->isEnabled());
+                    panel.btnStop->isEnabled() && panel.btnBeginning->isEnabled());
         QVERIFY(f.ListenToTheEnd(panel.Engine()));
         QTRY_VERIFY(panel.btnPlay->isEnabled() && !panel.btnPause->isEnabled() &&
                     !panel.btnStop->isEnabled());

@@ -364,16 +364,21 @@ private slots:
         QTableView* grid = main.ui.DBGridPrograms;
         QCOMPARE(f.tc.ctx->scheduler.next.NextProgramDescription, QString("Beta"));
 
-        // A double click on a row opens that row.
+        // A double click on a row opens that row, and Clone on the tool bar a copy of it.
         f.Add(Programs::Weekly("Alpha", "20:00:00", "21:00:00", "0100000"));
-        QString opened;
-        WhenModalOpens([&opened](QDialog* dialog) {
-            opened = Control<QLineEdit>(dialog, "TextProgramDescription")->text();
-            dialog->reject();
-        });
+        const auto opened = [](const std::function<void()>& trigger) {
+            QString description;
+            WhenModalOpens([&description](QDialog* dialog) {
+                description = Control<QLineEdit>(dialog, "TextProgramDescription")->text();
+                dialog->reject();
+            });
+            trigger();
+            return description;
+        };
+        const QString second = grid->model()->index(1, 0).data().toString();
         grid->setCurrentIndex(grid->model()->index(1, 0)); // the press of the double click
-        emit grid->doubleClicked(grid->model()->index(1, 0));
-        QCOMPARE(opened, grid->model()->index(1, 0).data().toString());
+        QCOMPARE(opened([&] { emit grid->doubleClicked(grid->model()->index(1, 0)); }), second);
+        QCOMPARE(opened([&] { main.ui.Action("ToolbarPrograms.Clone")->trigger(); }), second);
     }
 };
 

@@ -166,6 +166,8 @@ private slots:
                                        << false << int(MIXSET_ERR_FILE_MALFORMED);
         QTest::newRow("unescaped tab") << good + "default-sink rec\tsink\n"
                                        << false << int(MIXSET_ERR_FILE_MALFORMED);
+        QTest::newRow("an unknown keyword") << good + "default-mic recmic\n"
+                                            << false << int(MIXSET_ERR_FILE_MALFORMED);
     }
 
     void badFileChangesNothing()

@@ -121,6 +121,7 @@ private slots:
             f.view.current = ids[cursor];
         f.view.enableDisableChoice = answer;
         f.messageBox.answers = {MsgResult(answer)};
+        f.scheduler.ScheduleNextRecording();
 
         f.commands.ToggleProgramEnables();
 
@@ -132,6 +133,7 @@ private slots:
         }
         QCOMPARE(Field::ToBool(f.ProgramColumn(ids[0], "Enabled")), firstEnabledAfter);
         QCOMPARE(Field::ToBool(f.ProgramColumn(ids[1], "Enabled")), secondEnabledAfter);
+        QCOMPARE(f.scheduler.next.NextProgramFound, firstEnabledAfter || secondEnabledAfter);
         QCOMPARE(f.ProgramColumn(ids[0], "DescriptionText").toString(),
                  ProgramEditor::DescriptionText(longName, firstEnabledAfter));
         QCOMPARE(f.ProgramColumn(ids[1], "DescriptionText").toString(),
