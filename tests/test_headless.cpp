@@ -249,8 +249,6 @@ private slots:
     void aProgramAddedTenSecondsAheadIsRecorded()
     {
         const QDateTime start = QDateTime::currentDateTime().addSecs(10);
-        if (start.date() != start.addSecs(5).date())
-            QSKIP("Too close to midnight");
         const Run add = AddOnce(start, 4, {"--desc", "ahead"});
         QCOMPARE(add.exitCode, 0);
         QVERIFY2(Ctl({"programs"}).out.contains("ahead"), qPrintable(add.err));
